@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+
+#include <tbb/concurrent_hash_map.h>
+#include <tbb/concurrent_vector.h>
+
+#include "VSparseMatrix.h"
+
+/// Collects the cells of a large sparse matrix, from several threads at once and in any order, and turns them into compressed rows.
+///
+/// Two phases that don't overlap: filling (OpenCell), then reading (ToCsr, on one thread). Opening a cell locks that cell alone. The
+/// table of rows grows without a lock, so one thread must have opened every row once before a parallel phase begins.
+class VSparseFactory
+{
+public:
+    /// One row: column to value.
+    using Row = tbb::concurrent_hash_map<std::int32_t, float>;
+    /// Write access to one cell, locked while this holds it; `->second` is the value. Declared empty, filled by OpenCell.
+    using CellAccessor = Row::accessor;
+
+    /// `symmetricMatrix`: only the upper triangle with the diagonal is going to be stored; handed on, not checked.
+    explicit VSparseFactory(bool symmetricMatrix);
+    ~VSparseFactory();
+    VSparseFactory(const VSparseFactory &) = delete;
+    VSparseFactory &operator=(const VSparseFactory &) = delete;
+
+    /// Opens the cell for writing, and makes it with the value 0.0 if it is missing. Releases first what `cell` still holds. All
+    /// access goes through the pointer `cellAccess`.
+    void OpenCell(int row, int column, CellAccessor &cell);
+
+    /// Compressed rows of all cells that were ever opened, those of value 0.0 too. Releases what `target` held. Throws VException
+    /// "Not enough memory", with what was allocated so far left to `target`.
+    void ToCsr(VSparseMatrix &target) const;
+
+    bool symmetric;
+    std::int32_t rowCount = 0;    ///< Highest row opened so far, plus one.
+    std::int32_t columnCount = 0; ///< Handed on as it stands.
+    std::int32_t rowCapacity = 8; ///< Rows that `rows` holds; only doubles.
+    tbb::concurrent_vector<Row> rows;
+    void (VSparseFactory::*cellAccess)(int row, int column, CellAccessor &cell) = &VSparseFactory::OpenCell;
+};

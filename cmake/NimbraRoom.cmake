@@ -1,0 +1,49 @@
+# A room is one folder, one static library and one include path. Its PUBLIC rooms draw the arrows: what a room does not name,
+# and what none of its rooms names, it cannot include.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g -fno-omit-frame-pointer -DNDEBUG")
+
+# What every target of ours is built with: warnings are errors, no contraction (results are the same on every machine), and no
+# folder of the build machine in any text of the product.
+add_library(nimbra_options INTERFACE)
+target_compile_options(nimbra_options INTERFACE
+    -Wall -Wextra -Wconversion -Wshadow -Werror
+    -ffp-contract=off
+    "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.." "-ffile-prefix-map=${CMAKE_BINARY_DIR}=../build")
+target_compile_definitions(nimbra_options INTERFACE QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS)
+if(NIMBRA_SANITIZE)
+    add_compile_options(-fsanitize=${NIMBRA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${NIMBRA_SANITIZE})
+endif()
+
+# nimbra_room(<name> SOURCES <file>... [PUBLIC <target>...] [PRIVATE <target>...])
+function(nimbra_room name)
+    cmake_parse_arguments(ROOM "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    add_library(${name} STATIC ${ROOM_SOURCES})
+    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC ${ROOM_PUBLIC} PRIVATE nimbra_options ${ROOM_PRIVATE})
+endfunction()
+
+# nimbra_test(<name> SOURCES <file>... LINK <target>... [LABELS <label>...] [ENVIRONMENT <VAR=value>...])
+# One GoogleTest program, mirrored in tests/<room>/. The label "threads" makes ThreadSanitizer run it too.
+function(nimbra_test name)
+    cmake_parse_arguments(TEST "" "" "SOURCES;LINK;LABELS;ENVIRONMENT" ${ARGN})
+    add_executable(${name} ${TEST_SOURCES})
+    target_link_libraries(${name} PRIVATE nimbra_options ${TEST_LINK} GTest::gmock_main)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES LABELS "${TEST_LABELS}" TIMEOUT 600 ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=use_tls=0;${TEST_ENVIRONMENT}")
+    if(NIMBRA_SANITIZE STREQUAL "thread")
+        set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT
+            "TSAN_OPTIONS=ignore_noninstrumented_modules=1" "OMP_TOOL_LIBRARIES=/usr/lib/llvm-14/lib/libarcher.so")
+    endif()
+endfunction()
