@@ -1,0 +1,48 @@
+#include "RemoveHaze.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <memory>
+
+#include "HazeState.h"
+#include "VImage.h"
+
+namespace {
+
+/// Width of the copy of about 100,000 pixels. The product is formed in 32 bits and wraps around; a negative one has no square root,
+/// which stands for the smallest integer.
+int reducedWidth(int width, int height)
+{
+    const auto product = static_cast<std::int32_t>(static_cast<std::uint32_t>(width) * 100000u);
+    const double root = std::sqrt(static_cast<double>(product) / static_cast<double>(height));
+    constexpr double kIntegers = 2147483648.0;
+    return root < kIntegers ? static_cast<int>(root) : std::numeric_limits<std::int32_t>::min();
+}
+
+/// (height * reduced width) / width, the product and the quotient wrapping in 32 bits.
+int reducedHeight(int width, int height, int lowWidth)
+{
+    const auto product = static_cast<std::int32_t>(static_cast<std::uint32_t>(height) * static_cast<std::uint32_t>(lowWidth));
+    return static_cast<int>(std::int64_t{product} / width);
+}
+
+} // namespace
+
+void RemoveHaze(VImage &image, HazeState &state)
+{
+    if (state.strength == 0)
+        return;
+    if (!state.transmission) {
+        const int lowWidth = reducedWidth(image.Width(), image.Height());
+        const int lowHeight = reducedHeight(image.Width(), image.Height(), lowWidth);
+        VImage low;
+        image.Resample(low, lowWidth, lowHeight);
+        const std::unique_ptr<float[]> darkMap(low.HazeDarkChannel(state.airlight));
+        if (!darkMap || !low.HazeMatting(darkMap.get()))
+            return;
+        state.transmission = image.HazeUpsample(darkMap.get(), &low);
+    }
+    const float fraction = static_cast<float>(state.strength) / 100.0f;
+    image.HazeRecover(state.transmission, state.airlight, fraction);
+}
