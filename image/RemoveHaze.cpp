@@ -20,9 +20,11 @@ int reducedWidth(int width, int height)
     return root < kIntegers ? static_cast<int>(root) : std::numeric_limits<std::int32_t>::min();
 }
 
-/// (height * reduced width) / width, the product and the quotient wrapping in 32 bits.
+/// (height * reduced width) / width, the product wrapping around in 32 bits. An image without columns has a copy without rows.
 int reducedHeight(int width, int height, int lowWidth)
 {
+    if (width == 0)
+        return 0;
     const auto product = static_cast<std::int32_t>(static_cast<std::uint32_t>(height) * static_cast<std::uint32_t>(lowWidth));
     return static_cast<int>(std::int64_t{product} / width);
 }
