@@ -1,0 +1,77 @@
+#include "VTempManager.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include "VException.h"
+#include "kernel32.h"
+
+VTempManager *tempManager = nullptr;
+
+qint64 freeDiskSpace(QString path)
+{
+    constexpr std::size_t kLongest = 511;
+    wchar_t wide[kLongest + 1] = {}; // stays empty, which no volume has, if the text can't be converted
+    if (std::mbstowcs(wide, path.toLocal8Bit().constData(), kLongest) == static_cast<std::size_t>(-1))
+        wide[0] = L'\0';
+    std::uint64_t freeForCaller = 0;
+    std::uint64_t total = 0;
+    std::uint64_t totalFree = 0;
+    if (!GetDiskFreeSpaceExW(wide, &freeForCaller, &total, &totalFree))
+        return -1;
+    return static_cast<qint64>(totalFree);
+}
+
+void checkFileWritable(QString filePath, qint64 neededBytes, QString location)
+{
+    const QFileInfo info(filePath);
+    const qint64 freeBytes = freeDiskSpace(info.absolutePath());
+    if (freeBytes != -1 && freeBytes < neededBytes)
+        throw VException(QCoreApplication::translate("VException", "Not enough free space on \"%1\" to finish operation")
+                             .arg(info.absolutePath()),
+                         location);
+    // For reading too: writing alone would cut an existing file.
+    QFile file(info.absoluteFilePath());
+    if (!file.open(QIODevice::ReadWrite))
+        throw VException(QCoreApplication::translate("VException", "Cannot write into file \"%1\"").arg(info.absoluteFilePath()),
+                         location);
+}
+
+VTempManager::VTempManager() : folderName(QStringLiteral("OMBRE")), roots(QDir::tempPath()) {}
+
+VTempManager::~VTempManager()
+{
+    for (VTempFolder *folder : folders)
+        delete folder;
+}
+
+void initTempManager(VTempManager *shared)
+{
+    if (shared)
+        tempManager = shared;
+    else if (!tempManager)
+        tempManager = new VTempManager;
+}
+
+void releaseTempManager()
+{
+    if (!tempManager)
+        return;
+    const QDir currentFolder{QString()};
+    const auto &folders = tempManager->folders;
+    // The two bounds differ only while another thread adds an entry: they are read anew each time.
+    for (std::size_t i = 0; i < std::min(folders.size(), folders.capacity()); ++i) {
+        if (!folders[i])
+            continue;
+        const QString path = folders[i]->path;
+        if (QDir(path).entryList({QStringLiteral("*")}, QDir::Files, QDir::NoSort).isEmpty())
+            currentFolder.rmdir(path);
+    }
+    delete tempManager;
+    tempManager = nullptr;
+}

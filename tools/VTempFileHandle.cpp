@@ -1,0 +1,13 @@
+#include "VTempFileHandle.h"
+
+#include <QFile>
+
+#include "VTempManager.h"
+
+VTempFileHandle::~VTempFileHandle()
+{
+    if (path.isEmpty())
+        return;
+    initTempManager(nullptr);
+    QFile::remove(path);
+}
