@@ -1,0 +1,211 @@
+#include "VImage.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+
+#include "VException.h"
+#include "gflCallbacks.h"
+
+#ifndef NIMBRA_IMAGE_RECORD_ONLY
+#    include <memory>
+
+#    include "VImageSettings.h"
+#    include "VTempManager.h"
+#    include "gfl.h"
+#    include "ipp.h"
+#    include "threadCount.h"
+#    include "throwGflError.h"
+#endif
+
+namespace {
+
+constexpr std::size_t kPaletteBytes = 1024;
+constexpr unsigned short kPaletteType = 0x0004;
+
+/// `site` names the allocation for a heap that cares. A size of 0 gets a block as well: a null says that there is no memory.
+void *allocate(std::size_t bytes, const char *site)
+{
+    return gflAllocCallback(std::max<std::size_t>(bytes, 1), const_cast<char *>(site));
+}
+#define V_SITE (__FILE__ ":" V_TEXT_OF(__LINE__))
+
+int componentsOf(unsigned short type)
+{
+    return (type & 0x0007) ? 1 : (type & 0x1050) ? 3 : (type & 0x27A0) ? 4 : 0;
+}
+
+/// Bytes of a row of an owned image, or -1 if they are no positive 31-bit number.
+int alignedStride(int width, int bytesPerPixel)
+{
+    const std::int64_t stride = (std::int64_t{width} * bytesPerPixel + 3) / 4 * 4;
+    return width < 0 || bytesPerPixel < 0 || stride > std::numeric_limits<int>::max() ? -1 : static_cast<int>(stride);
+}
+
+std::size_t pixelBytes(const GflBitmap &bitmap)
+{
+    return static_cast<std::size_t>(std::max(bitmap.height, 0)) * bitmap.bytesPerLine;
+}
+
+} // namespace
+
+VImage::VImage(int width, int height, unsigned short type, int bitsPerComponent, bool clear, void *data, int bytesPerLine)
+    : VImage()
+{
+    Create(width, height, type, bitsPerComponent, clear, data, bytesPerLine);
+}
+
+VImage::~VImage()
+{
+    Free();
+}
+
+void VImage::Create(int width, int height, unsigned short type, int bitsPerComponent, bool clear, void *data, int bytesPerLine)
+{
+    if (bitmap && !data && bitmap->width == width && bitmap->height == height && bitmap->type == type &&
+        bitmap->bitsPerComponent == bitsPerComponent) {
+        if (clear)
+            std::memset(bitmap->data, 0, pixelBytes(*bitmap));
+        return;
+    }
+    Free();
+    const int components = componentsOf(type);
+    if (components == 0)
+        throw VException("Invalid Parameter", V_LOCATION);
+    const int bytesPerPixel = (bitsPerComponent >> 3) * components;
+
+    bitmap = static_cast<GflBitmap *>(allocate(sizeof(GflBitmap), V_SITE));
+    if (!bitmap)
+        throw VException("Not enough memory", V_LOCATION);
+    *bitmap = {};
+    if (!data) {
+        const int stride = alignedStride(width, bytesPerPixel);
+        if (stride >= 0 && height >= 0)
+            bitmap->data = allocate(static_cast<std::size_t>(height) * static_cast<std::size_t>(stride), V_SITE);
+        if (!bitmap->data)
+            throw VException("Not enough memory", V_LOCATION);
+        bitmap->bytesPerLine = static_cast<std::uint32_t>(stride);
+        bitmap->lineAlignment = 4;
+    } else {
+        bitmap->data = data;
+        bitmap->bytesPerLine = static_cast<std::uint32_t>(bytesPerLine);
+        bitmap->lineAlignment = bytesPerLine % 4 == 0 ? 4 : 2;
+        ownsData = false;
+    }
+    bitmap->type = type;
+    bitmap->width = width;
+    bitmap->height = height;
+    bitmap->bitsPerComponent = static_cast<std::uint16_t>(bitsPerComponent);
+    bitmap->componentsPerPixel = static_cast<std::uint16_t>(components);
+    bitmap->bytesPerPixel = static_cast<std::uint16_t>(bytesPerPixel);
+    bitmap->transparentIndex = -1;
+    bitmap->colorUsed = type == Grey || type == kPaletteType ? 256 : 0;
+    if (type == kPaletteType) {
+        bitmap->colorMap = allocate(kPaletteBytes, V_SITE);
+        if (bitmap->colorMap)
+            std::memset(bitmap->colorMap, 0, kPaletteBytes);
+    }
+    if (clear)
+        std::memset(bitmap->data, 0, pixelBytes(*bitmap));
+}
+
+void VImage::Free()
+{
+    if (!bitmap)
+        return;
+    if (!ownsData) {
+        bitmap->data = nullptr;
+        ownsData = true;
+    }
+    gflFreeBitmap(bitmap);
+    bitmap = nullptr;
+}
+
+void VImage::Assign(const VImage &source)
+{
+    Free();
+    if (!source.bitmap)
+        return;
+    userFlag = source.userFlag;
+    bitmap = static_cast<GflBitmap *>(allocate(sizeof(GflBitmap), V_SITE));
+    if (!bitmap)
+        throw VException("Not enough memory", V_LOCATION);
+    // Until each block has its copy the record must not hold the source's: Free would release them.
+    *bitmap = *source.bitmap;
+    bitmap->data = bitmap->colorMap = bitmap->comment = bitmap->metaData = nullptr;
+    bitmap->name = nullptr;
+
+    const std::size_t bytes = pixelBytes(*bitmap);
+    bitmap->data = allocate(bytes, V_SITE);
+    if (!bitmap->data)
+        throw VException("Not enough memory", V_LOCATION);
+    if (source.bitmap->data)
+        std::memcpy(bitmap->data, source.bitmap->data, bytes);
+    if (source.bitmap->colorMap) {
+        bitmap->colorMap = allocate(kPaletteBytes, V_SITE);
+        if (!bitmap->colorMap)
+            throw VException("Not enough memory", V_LOCATION);
+        std::memcpy(bitmap->colorMap, source.bitmap->colorMap, kPaletteBytes);
+    }
+    if (source.bitmap->name) {
+        const std::size_t nameBytes = std::strlen(source.bitmap->name) + 1;
+        bitmap->name = static_cast<char *>(allocate(nameBytes, V_SITE));
+        if (bitmap->name)
+            std::memcpy(bitmap->name, source.bitmap->name, nameBytes);
+    }
+}
+
+#ifndef NIMBRA_IMAGE_RECORD_ONLY // what a host that links the image record alone can do without
+
+namespace {
+
+struct IppsRelease
+{
+    void operator()(void *block) const { ippsFree(block); }
+};
+template<typename T>
+using IppsBlock = std::unique_ptr<T, IppsRelease>;
+
+/// Below this many samples on both sides together a team costs more than it gains.
+constexpr std::int64_t kSamplesForTeam = 1 << 18;
+
+} // namespace
+
+void VImage::Resample(VImage &target, int width, int height) const
+{
+    if (!bitmap)
+        throw VException(QString(), V_LOCATION);
+    if (width == Width() && height == Height())
+        return target.Assign(*this);
+    target.Create(width, height, Type(), BitsPerComponent(), /*clear=*/true);
+
+    const int bits = BitsPerComponent();
+    const bool processed = (Type() == Grey || Type() == Rgb || Type() == Rgba) && (bits == 8 || bits == 16 || bits == 32);
+    if (!processed)
+        return;
+    const IppiSize from{Width(), Height()};
+    const IppiSize to{width, height};
+    const auto method = width > Width() || height > Height() ? IppiInterpolation::Linear : IppiInterpolation::Super;
+    const std::size_t specBytes = ippiResizeGetSize(from, to, method);
+    const IppsBlock<IppiResizeSpec> spec(specBytes ? static_cast<IppiResizeSpec *>(ippsMalloc(specBytes)) : nullptr);
+    if (!spec)
+        return;
+    ippiResizeInit(from, to, method, {bits, bitmap->componentsPerPixel}, spec.get());
+
+    const std::int64_t pixels = std::int64_t{from.width} * from.height + std::int64_t{to.width} * to.height;
+    const int team = pixels * bitmap->componentsPerPixel < kSamplesForTeam ? 1 : std::clamp(threadCount, 1, height);
+    const std::size_t bufferBytes = ippiResizeGetBufferSize(spec.get());
+    const IppsBlock<unsigned char> buffers(
+        static_cast<unsigned char *>(ippsMalloc(bufferBytes * static_cast<std::size_t>(team))));
+    if (!buffers)
+        return;
+#    pragma omp parallel for schedule(static) num_threads(team)
+    for (int part = 0; part < team; ++part) {
+        const auto rowOf = [&](int index) { return static_cast<int>(std::int64_t{height} * index / team); };
+        ippiResize(bitmap->data, BytesPerLine(), target.bitmap->data, target.BytesPerLine(), rowOf(part),
+                   rowOf(part + 1) - rowOf(part), spec.get(), buffers.get() + bufferBytes * static_cast<std::size_t>(part));
+    }
+}
+
+#endif

@@ -27,6 +27,43 @@ struct IppiPoint
 /// Chooses the code paths for this processor. Safe to call again.
 IppStatus ippInit();
 
+/// Form of a raster: unsigned samples of 8 or 16 bits or floats of 32, and 1 (grey), 3 (R, G, B) or 4 channels (R, G, B, A).
+struct IppForm
+{
+    int bits;
+    int channels;
+};
+
+/// A raster of width x height pixels, its rows and its start aligned to 64 bytes; `*stepBytes` gets the bytes from row to row. Null
+/// for an empty size, for a row of 2 GiB or more and when there is no memory. Released with ippiFree.
+void *ippiMalloc(int width, int height, IppForm form, int *stepBytes);
+void ippiFree(void *raster);
+
+/// A block aligned to 64 bytes, or null; released with ippsFree.
+void *ippsMalloc(std::size_t bytes);
+void ippsFree(void *block);
+
+enum class IppiInterpolation { Linear = 2, Super = 8 };
+
+/// A resize from one size to another, prepared by ippiResizeInit in a block of ippiResizeGetSize bytes; holds only numbers.
+struct IppiResizeSpec;
+
+/// Bytes of the specification; 0 if a side is not positive.
+std::size_t ippiResizeGetSize(IppiSize source, IppiSize target, IppiInterpolation method);
+
+/// Linear: pixel centres of both grids are aligned, the border is replicated. Super: each target pixel is the mean of the source
+/// area that it covers, parts of pixels counted by their share. `spec` is such a block, aligned to 8 bytes.
+IppStatus ippiResizeInit(IppiSize source, IppiSize target, IppiInterpolation method, IppForm form, IppiResizeSpec *spec);
+
+/// Bytes of the working buffer that one ippiResize call needs; calls that run at the same time have one each.
+std::size_t ippiResizeGetBufferSize(const IppiResizeSpec *spec);
+
+/// Writes the target rows firstRow .. firstRow + rowCount - 1; `source` and `target` are the first pixels of the whole rasters.
+/// Integers are rounded to the nearest, ties to even. A target row depends on nothing but the source, so that any split into calls
+/// gives the same result. A source sample without share in a target pixel has no say in it, not-a-number and infinity included.
+IppStatus ippiResize(const void *source, int sourceStep, void *target, int targetStep, int firstRow, int rowCount,
+                     const IppiResizeSpec *spec, void *buffer);
+
 /// Inverse of a 3 x 3 matrix stored row by row: the adjugate and the determinant are formed in 64 bits and the quotients rounded
 /// once. ippStsSingularErr leaves `target` as it is: a determinant of zero, or one that is not a finite number.
 IppStatus ippmInvert3x3(const float source[9], float target[9]);

@@ -1,0 +1,3 @@
+#include "VImageSettings.h"
+
+VImageSettings *imageSettings = nullptr;
