@@ -1,10 +1,20 @@
 #include "kernel32.h"
 
+#include <algorithm>
+#include <bitset>
 #include <cerrno>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <cwchar>
+#include <fstream>
 #include <string>
+#include <vector>
 
+#include <sched.h>
 #include <sys/statvfs.h>
+#include <time.h>
+#include <unistd.h>
 
 namespace {
 
@@ -14,6 +24,91 @@ bool fail(int error)
 {
     lastError = static_cast<std::uint32_t>(error);
     return false;
+}
+
+/// A set of the kernel's processor numbers; machines of today have fewer than this.
+using ProcessorSet = std::bitset<8192>;
+
+/// Reads a list such as 0-3,8 into a set; an empty set if there is no such file.
+ProcessorSet processorList(const char *path)
+{
+    ProcessorSet set;
+    std::ifstream file(path);
+    for (std::string range; std::getline(file, range, ',');) {
+        unsigned first = 0;
+        unsigned last = 0;
+        const int numbers = std::sscanf(range.c_str(), "%u-%u", &first, &last);
+        if (numbers < 1)
+            continue;
+        if (numbers == 1)
+            last = first;
+        for (unsigned i = first; i <= last && i < set.size(); ++i)
+            set.set(i);
+    }
+    return set;
+}
+
+/// The kernel's numbers of the processors that are switched on, in rising order: the place in this list is our number.
+std::vector<std::size_t> onlineProcessors()
+{
+    ProcessorSet set = processorList("/sys/devices/system/cpu/online");
+    if (set.none()) // no /sys: the kernel counts them in its own order
+        for (long i = 0; i < sysconf(_SC_NPROCESSORS_ONLN); ++i)
+            set.set(static_cast<std::size_t>(i));
+    std::vector<std::size_t> numbers;
+    for (std::size_t i = 0; i < set.size(); ++i)
+        if (set[i])
+            numbers.push_back(i);
+    return numbers;
+}
+
+/// The kernel's mask in its own width.
+using KernelMask = std::vector<unsigned long>;
+constexpr std::size_t kMaskWords = ProcessorSet().size() / (8 * sizeof(unsigned long));
+
+bool allowedProcessors(pid_t thread, ProcessorSet &set)
+{
+    KernelMask mask(kMaskWords);
+    if (sched_getaffinity(thread, mask.size() * sizeof(unsigned long), reinterpret_cast<cpu_set_t *>(mask.data())) != 0)
+        return fail(errno);
+    for (std::size_t i = 0; i < set.size(); ++i)
+        set[i] = CPU_ISSET_S(i, mask.size() * sizeof(unsigned long), reinterpret_cast<cpu_set_t *>(mask.data()));
+    return true;
+}
+
+bool groupAffinity(pid_t thread, GroupAffinity *affinity)
+{
+    if (affinity->group >= GetActiveProcessorGroupCount())
+        return fail(EINVAL);
+    ProcessorSet allowed;
+    if (!allowedProcessors(thread, allowed))
+        return false;
+    const std::vector<std::size_t> online = onlineProcessors();
+    affinity->mask = 0;
+    for (std::size_t bit = 0, i = affinity->group * kProcessorsPerGroup; bit < kProcessorsPerGroup && i < online.size();
+         ++bit, ++i)
+        if (allowed[online[i]])
+            affinity->mask |= 1u << bit;
+    return true;
+}
+
+bool readNumber(const std::string &path, std::int32_t &number)
+{
+    std::ifstream file(path);
+    return static_cast<bool>(file >> number);
+}
+
+/// Processors' worth of time that one control group grants, or -1 for no limit.
+double quotaOf(const std::string &folder)
+{
+    std::string quota;
+    double period = 0;
+    if (std::ifstream unified(folder + "/cpu.max"); unified >> quota >> period)
+        return quota == "max" || period <= 0 ? -1 : std::strtod(quota.c_str(), nullptr) / period;
+    double share = 0;
+    if (std::ifstream(folder + "/cpu.cfs_quota_us") >> share && std::ifstream(folder + "/cpu.cfs_period_us") >> period)
+        return share <= 0 || period <= 0 ? -1 : share / period;
+    return -1;
 }
 
 } // namespace
@@ -46,4 +141,139 @@ bool GetDiskFreeSpaceExW(const wchar_t *path, std::uint64_t *freeForCaller, std:
     if (totalFree)
         *totalFree = volume.f_bfree * block;
     return true;
+}
+
+bool QueryPerformanceCounter(std::int64_t *ticks)
+{
+    timespec now;
+    if (clock_gettime(CLOCK_MONOTONIC, &now) != 0)
+        return fail(errno);
+    *ticks = std::int64_t(now.tv_sec) * 1000000000 + now.tv_nsec;
+    return true;
+}
+
+bool QueryPerformanceFrequency(std::int64_t *ticksPerSecond)
+{
+    *ticksPerSecond = 1000000000;
+    return true;
+}
+
+bool SwitchToThread()
+{
+    return sched_yield() == 0;
+}
+
+std::uint32_t GetMaximumProcessorCount(std::uint16_t group)
+{
+    const auto all = static_cast<std::uint32_t>(onlineProcessors().size());
+    if (group == kAllProcessorGroups)
+        return all;
+    const std::uint32_t first = group * kProcessorsPerGroup;
+    return first < all ? std::min(all - first, kProcessorsPerGroup) : 0;
+}
+
+void GetSystemInfo(SystemInfo *information)
+{
+    information->numberOfProcessors = GetMaximumProcessorCount(kAllProcessorGroups);
+}
+
+std::uint16_t GetActiveProcessorGroupCount()
+{
+    const std::uint32_t all = GetMaximumProcessorCount(kAllProcessorGroups);
+    return static_cast<std::uint16_t>((all + kProcessorsPerGroup - 1) / kProcessorsPerGroup);
+}
+
+bool GetLogicalProcessorInformationEx(std::int32_t relation, LogicalProcessorInformation *information)
+{
+    const std::vector<std::size_t> online = onlineProcessors();
+    if (online.empty() || online.size() > kMaximumProcessors)
+        return fail(EOVERFLOW);
+    *information = {};
+    information->relation = relation;
+    if (relation == RelationGroup) {
+        information->count = GetActiveProcessorGroupCount();
+        for (std::uint16_t group = 0; group < information->count; ++group) {
+            const std::uint32_t count = GetMaximumProcessorCount(group);
+            information->groups[group] = {count, 0xFFFFFFFFu >> (kProcessorsPerGroup - count)};
+        }
+        return true;
+    }
+    if (relation != RelationProcessorCore)
+        return fail(EINVAL);
+    information->count = static_cast<std::uint32_t>(online.size());
+    for (std::size_t i = 0; i < online.size(); ++i) {
+        const std::string folder = "/sys/devices/system/cpu/cpu" + std::to_string(online[i]) + "/topology/";
+        ProcessorPlace &place = information->places[i];
+        if (!readNumber(folder + "physical_package_id", place.package) || !readNumber(folder + "core_id", place.core))
+            return fail(ENOENT);
+    }
+    return true;
+}
+
+bool GetProcessGroupAffinity(GroupAffinity *affinity)
+{
+    return groupAffinity(getpid(), affinity);
+}
+
+bool GetThreadGroupAffinity(GroupAffinity *affinity)
+{
+    return groupAffinity(0, affinity);
+}
+
+bool SetThreadGroupAffinity(const GroupAffinity &affinity)
+{
+    const std::vector<std::size_t> online = onlineProcessors();
+    KernelMask mask(kMaskWords);
+    const std::size_t bytes = mask.size() * sizeof(unsigned long);
+    for (std::size_t bit = 0, i = affinity.group * kProcessorsPerGroup; bit < kProcessorsPerGroup; ++bit, ++i) {
+        if (!(affinity.mask >> bit & 1u))
+            continue;
+        if (i >= online.size())
+            return fail(EINVAL);
+        CPU_SET_S(online[i], bytes, reinterpret_cast<cpu_set_t *>(mask.data()));
+    }
+    return sched_setaffinity(0, bytes, reinterpret_cast<cpu_set_t *>(mask.data())) == 0 || fail(errno);
+}
+
+bool GetProcessAffinityMask(std::uint32_t *processMask, std::uint32_t *systemMask)
+{
+    GroupAffinity first{0, 0};
+    if (!GetProcessGroupAffinity(&first))
+        return false;
+    *processMask = first.mask;
+    *systemMask = 0xFFFFFFFFu >> (kProcessorsPerGroup - GetMaximumProcessorCount(0));
+    return true;
+}
+
+bool SetThreadAffinityMask(std::uint32_t mask)
+{
+    return SetThreadGroupAffinity({mask, 0});
+}
+
+std::uint32_t GetProcessorQuota()
+{
+    // Every control group from the process's own up to the root may set a limit; the tightest holds. In a container, the own path
+    // is often one of the outside, and only the root is there.
+    double tightest = -1;
+    std::ifstream groups("/proc/self/cgroup");
+    for (std::string line; std::getline(groups, line);) {
+        const std::size_t names = line.find(':');
+        const std::size_t path = line.find(':', names + 1);
+        if (path == std::string::npos)
+            continue;
+        const std::string controllers = line.substr(names + 1, path - names - 1);
+        const bool unified = controllers.empty();
+        if (!unified && ("," + controllers + ",").find(",cpu,") == std::string::npos)
+            continue;
+        for (const char *root : {"/sys/fs/cgroup", "/sys/fs/cgroup/cpu", "/sys/fs/cgroup/cpu,cpuacct"}) {
+            for (std::string folder = line.substr(path + 1);; folder.resize(folder.find_last_of('/'))) {
+                const double quota = quotaOf(root + folder);
+                if (quota > 0 && (tightest < 0 || quota < tightest))
+                    tightest = quota;
+                if (folder.find('/') == std::string::npos)
+                    break;
+            }
+        }
+    }
+    return tightest < 0 ? 0 : static_cast<std::uint32_t>(std::min(std::ceil(tightest), 1e6));
 }

@@ -1,0 +1,14 @@
+#include "VLog.h"
+
+VLog *logInstance = nullptr;
+
+void initLog(VLog *shared)
+{
+    logInstance = shared ? shared : new VLog;
+}
+
+void releaseLog()
+{
+    delete logInstance;
+    logInstance = nullptr;
+}

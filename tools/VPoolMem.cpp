@@ -1,0 +1,33 @@
+#include "VPoolMem.h"
+
+VPoolMem *memoryPool = nullptr;
+
+VPoolMem::VPoolMem()
+{
+    omp_init_lock(&lock);
+}
+
+VPoolMem::~VPoolMem()
+{
+    for (std::int32_t i = 0; i < blockCount; ++i)
+        delete[] blocks[i].memory;
+    delete[] blocks;
+    VPoolMemBloc *dropped = nullptr;
+    while (freeBlocks.try_pop(dropped)) {
+    }
+    omp_destroy_lock(&lock);
+}
+
+void initPool(VPoolMem *shared)
+{
+    if (shared)
+        memoryPool = shared;
+    else if (!memoryPool)
+        memoryPool = new VPoolMem;
+}
+
+void releasePool()
+{
+    delete memoryPool;
+    memoryPool = nullptr;
+}

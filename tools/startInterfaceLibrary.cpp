@@ -1,0 +1,26 @@
+#include "startLibraries.h"
+
+#include <QDir>
+#include <QStringList>
+
+#include "loadOrder.h"
+
+namespace {
+
+bool started = false;
+
+} // namespace
+
+void startInterfaceLibrary(VUIContext *context)
+{
+    if (started)
+        return;
+    if (context) {
+        interfaceContext.flag = context->flag;
+        return;
+    }
+    registerInterfaceResources();
+    interfaceContext.flag = new std::uint8_t(1);
+    QDir::setSearchPaths(QStringLiteral("UI"), QStringList(QStringLiteral(":/UI")));
+    started = true;
+}

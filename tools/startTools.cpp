@@ -1,0 +1,76 @@
+#include "startLibraries.h"
+
+#include <omp.h>
+
+#include "VCpuTopology.h"
+#include "VLog.h"
+#include "VPoolMem.h"
+#include "VTempManager.h"
+#include "kernel32.h"
+#include "loadOrder.h"
+#include "threadCount.h"
+
+VToolsContext toolsContext;
+
+namespace {
+
+bool started = false;
+std::int32_t *sharedValue = nullptr;
+
+void takeShared(const VToolsContext &context)
+{
+    initLog(context.log);
+    initTopology(context.topology);
+    threadCount = *context.threadCount;
+    coreCount = *context.coreCount;
+    initPool(context.pool);
+    initTempManager(context.tempManager);
+    sharedValue = context.sharedValue;
+}
+
+void makeOwn()
+{
+    initLog(nullptr);
+    initTopology(nullptr);
+    kmp_set_blocktime(0);
+    omp_get_max_threads(); // brings the run-time up before the topology is walked
+    omp_set_schedule(omp_sched_guided, /*chunk_size=*/10);
+    threadCount = physicalCores() * threadsPerCore();
+    coreCount = physicalCores();
+    if (const auto quota = static_cast<std::int32_t>(GetProcessorQuota()); quota > 0 && quota < threadCount)
+        threadCount = quota;
+    initPool(nullptr);
+    initTempManager(nullptr);
+    sharedValue = new std::int32_t(0);
+    started = true;
+}
+
+} // namespace
+
+void startTools(VToolsContext *context)
+{
+    if (started)
+        return;
+    registerToolsResources();
+    if (context)
+        takeShared(*context);
+    else
+        makeOwn();
+    // A host may lend neither of these two.
+    initPool(memoryPool);
+    initTempManager(tempManager);
+    toolsContext = {logInstance, &cpuTopology, memoryPool, tempManager, sharedValue, &threadCount, &coreCount};
+}
+
+void stopTools()
+{
+    if (!started)
+        return;
+    releasePool();
+    releaseTempManager();
+    releaseTopology();
+    releaseLog();
+    delete sharedValue;
+    sharedValue = nullptr;
+    started = false;
+}
