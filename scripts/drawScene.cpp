@@ -129,7 +129,8 @@ constexpr float kLakeLevel = 6;
 float lakeShape(float x, float z)
 {
     const float u = (x - 190) / 330, v = (z - 830) / 135;
-    return u * u + v * v + 0.5f * (fractal(x, z, 120, 10, 3, 77) - 0.5f);
+    const float away = u * u + v * v;
+    return away > 2 ? away : away + 0.5f * (fractal(x, z, 120, 10, 3, 77) - 0.5f);
 }
 
 float hump(float x, float z, float atX, float atZ, float wideX, float wideZ)
@@ -141,16 +142,17 @@ float hump(float x, float z, float atX, float atZ, float wideX, float wideZ)
 float groundHeight(float x, float z, float smallest)
 {
     float height =
-        62 * std::exp(-z * z / (190.0f * 190.0f)) - 0.03f * std::min(std::fabs(x), 60.0f) + 5 * fractal(x, z, 70, smallest, 4, 5);
+        58 * std::exp(-z * z / (140.0f * 140.0f)) - 0.03f * std::min(std::fabs(x), 60.0f) + 5 * fractal(x, z, 70, smallest, 4, 5);
     height += 22 * (fractal(x, z, 520, smallest, 5, 11) - 0.35f) * smoothstep(60, 500, z);
-    const float rough = fractal(x, z, 420, smallest, 7, 21);
-    height += 210 * hump(x, z, -760, 1500, 420, 520) * (0.65f + 0.7f * rough);
-    height += 330 * hump(x, z, 1250, 2500, 640, 620) * (0.65f + 0.7f * rough);
-    height += 420 * hump(x, z, -900, 4000, 1500, 900) * (0.55f + 0.9f * rough);
-    height += smoothstep(2600, 6000, z) * 640 * fractal(x, z, 2300, smallest, 8, 31);
+    const float hills = 210 * hump(x, z, -760, 1500, 420, 520) + 330 * hump(x, z, 1250, 2500, 640, 620) +
+                        260 * hump(x, z, -1200, 4000, 1500, 900);
+    if (hills > 0.05f)
+        height += hills * (0.60f + 0.8f * fractal(x, z, 420, smallest, 7, 21));
+    if (z > 2600)
+        height += smoothstep(2600, 6000, z) * 470 * fractal(x, z, 2300, smallest, 8, 31);
     const float range = smoothstep(5200, 9800, z + 0.3f * x) * (1 - 0.6f * smoothstep(13000, 20000, z));
     if (range > 0)
-        height += range * 2050 * (0.25f + 0.75f * hump(x, z, -2300, 10500, 3600, 5000)) *
+        height += range * 3500 * (0.35f + 0.65f * hump(x, z, 900, 10800, 4200, 4500)) *
                   fractal(x, z, 4600, smallest, 10, 41, /*ridged=*/true);
     const float lake = lakeShape(x, z);
     if (lake < 1.35f)
@@ -164,6 +166,7 @@ float woodiness(float x, float z)
     wood +=
         0.35f * hump(x, z, -760, 1500, 420, 520) + 0.6f * hump(x, z, -150, 150, 85, 60) + 0.55f * hump(x, z, 175, 190, 90, 45);
     wood -= 0.8f * hump(x, z, 20, 450, 190, 130);
+    wood += 0.6f * hump(x, z, -62, 92, 26, 26) + 0.6f * hump(x, z, 78, 104, 24, 30) - 0.9f * hump(x, z, 0, 90, 38, 90);
     return wood;
 }
 
@@ -189,7 +192,7 @@ Tree treeAt(float x, float z)
         return {};
     const float middleX = kCell * (0.83f * middleU + 0.56f * middleV), middleZ = kCell * (0.83f * middleV - 0.56f * middleU);
     const float chance = cellValue(cellX, cellZ, 64);
-    const bool lone = chance > 0.985f && middleZ > 90 && std::hypot(middleX - 20, middleZ - 450) > 70;
+    const bool lone = chance > 0.985f - 0.10f * hump(middleX, middleZ, 25, 455, 130, 100) && middleZ > 90;
     if ((chance > 4.5f * (woodiness(middleX, middleZ) - 0.50f) && !lone) || middleZ < 62 || lakeShape(middleX, middleZ) < 1.3f)
         return {};
     for (const House &house : kVillage)
@@ -201,7 +204,7 @@ Tree treeAt(float x, float z)
     tree.height = tree.conifer ? mix(11, 21, tree.shade) : mix(7, 13, tree.shade);
     away = std::min(1.0f, away * (0.80f + 0.4f * noise(1.9f * x, 1.9f * z, 67)));
     tree.above = tree.height * (tree.conifer ? 1 - away : std::sqrt(1 - away * away * 0.9f));
-    tree.above *= 0.84f + 0.16f * noise(2.6f * x, 2.6f * z, 68);
+    tree.above *= 0.70f + 0.34f * fractal(x, z, 1.3f, 0.05f, 3, 68);
     return tree;
 }
 
@@ -242,7 +245,7 @@ Place placeAt(float x, float z, float smallest)
     }
     float above = 0;
     place.house = houseAt(x, z, above);
-    if (!place.house && z < 9000) {
+    if (!place.house && place.ground < 760 + 190 * noise(x / 130, z / 130, 69)) { // the tree line
         place.tree = treeAt(x, z);
         above = place.tree.above;
     }
@@ -250,13 +253,13 @@ Place placeAt(float x, float z, float smallest)
     return place;
 }
 
-const Vector kSun = normalised({-0.62f, 0.50f, -0.35f});
+const Vector kSun = normalised({-0.74f, 0.44f, -0.16f});
 
 // How much of the sun reaches a point: steps towards it that grow with the way.
 float sunlight(float x, float y, float z, float smallest)
 {
-    float light = 1, way = 2.5f + smallest;
-    for (int i = 0; i < 9; ++i, way *= 1.75f) {
+    float light = 1, way = 1.5f + smallest;
+    for (int i = 0; i < 12 && light > 0; ++i, way *= 1.5f) {
         const float sunX = x + kSun.x * way, sunZ = z + kSun.z * way;
         const float over = placeAt(sunX, sunZ, std::max(smallest, 0.3f * way)).height - (y + kSun.y * way);
         light = std::min(light, 1 - smoothstep(-0.03f * way, 0.06f * way + 0.3f, over));
@@ -293,8 +296,8 @@ Vector surfaceColour(float x, float y, float z, float smallest, const Place &pla
             const float side = along == u ? (v > 0 ? 1.0f : -1.0f) : (u > 0 ? 1.0f : -1.0f);
             normal = along == u ? Vector{-std::sin(house.turn) * side, 0.1f, std::cos(house.turn) * side}
                                 : Vector{std::cos(house.turn) * side, 0.1f, std::sin(house.turn) * side};
-            const float column = along / 2.6f - std::floor(along / 2.6f), row = up / 3.0f - std::floor(up / 3.0f);
-            const bool window = column > 0.3f && column < 0.68f && row > 0.32f && row < 0.78f;
+            const float column = along / 3.2f - std::floor(along / 3.2f), row = up / 3.0f - std::floor(up / 3.0f);
+            const bool window = column > 0.34f && column < 0.64f && row > 0.34f && row < 0.76f && (!house.tower || row < 0.6f);
             colour = window ? Vector{0.05f, 0.06f, 0.08f} : house.wallColour * (0.9f + 0.1f * fine);
         } else {
             normal = {-std::sin(house.turn) * (v > 0 ? 1.0f : -1.0f), 1.0f, std::cos(house.turn) * (v > 0 ? 1.0f : -1.0f)};
@@ -304,21 +307,23 @@ Vector surfaceColour(float x, float y, float z, float smallest, const Place &pla
         }
         normal = normalised(normal);
     } else {
-        const float left = groundHeight(x - step, z, smallest), right = groundHeight(x + step, z, smallest);
-        const float front = groundHeight(x, z - step, smallest), back = groundHeight(x, z + step, smallest);
-        normal = normalised({left - right, 2 * step, front - back});
+        const float here = groundHeight(x, z, smallest);
+        normal = normalised({here - groundHeight(x + step, z, smallest), step, here - groundHeight(x, z + step, smallest)});
         const float steep = 1 - normal.y;
         const Vector grass = mix(Vector{0.14f, 0.22f, 0.055f}, Vector{0.33f, 0.36f, 0.13f}, fractal(x, z, 45, smallest, 5, 93));
-        colour = mix(grass, fieldColour(x, z), smoothstep(230, 330, z) * (1 - smoothstep(1500, 2100, z)));
-        if (z < 300) { // flowers and tufts, as far as they can be made out
-            const float tuft = noise(x * 2.2f, z * 1.1f, 95);
-            colour = colour * (0.55f + 0.8f * tuft * (0.6f + 0.8f * fine));
-            const float flower = cellValue(static_cast<int>(std::floor(x * 4)), static_cast<int>(std::floor(z * 2.5f)), 96);
-            if (flower > 0.985f && fractal(x, z, 18, 1, 3, 97) > 0.5f)
-                colour = flower > 0.993f ? Vector{0.85f, 0.80f, 0.66f} : Vector{0.80f, 0.62f, 0.10f};
+        colour = mix(grass, fieldColour(x, z),
+                     smoothstep(230, 330, z) * (1 - smoothstep(1500, 2100, z)) *
+                         (1 - smoothstep(0.35f, 0.45f, hump(x, z, 25, 455, 150, 100))));
+        if (z < 300) { // blades and flowers, as far as they can be made out
+            const float blade = fractal(3 * x, z, 0.45f, smallest, 3, 95);
+            colour = colour * (0.30f + 1.15f * blade * (0.55f + 0.9f * fine));
+            const float flower = cellValue(static_cast<int>(std::floor(x * 11)), static_cast<int>(std::floor(z * 4)), 96);
+            const float patch = fractal(x, z, 18, 1, 3, 97);
+            if (flower > 1.0f - 0.022f * smoothstep(0.40f, 0.75f, patch))
+                colour = patch > 0.55f ? Vector{0.80f, 0.76f, 0.62f} : Vector{0.75f, 0.55f, 0.06f};
         }
         const float road = std::fabs(x - 20 - 26 * std::sin(z / 90) - 0.06f * (z - 300));
-        if (z > 40 && z < 700)
+        if (z > 150 && z < 700)
             colour = mix(Vector{0.58f, 0.52f, 0.42f} * (0.8f + 0.3f * fine), colour, smoothstep(1.6f, 2.6f, road + fine));
         const float height = place.ground;
         const Vector rock = mix(Vector{0.22f, 0.20f, 0.18f}, Vector{0.44f, 0.41f, 0.37f}, fractal(x, z, 160, smallest, 6, 98));
@@ -331,10 +336,10 @@ Vector surfaceColour(float x, float y, float z, float smallest, const Place &pla
     float occlusion = 1;
     if (place.tree.height > 0) {
         const Tree &tree = place.tree;
-        const float leaf = fractal(x + 0.7f * y, z - 0.7f * y, 1.6f, smallest, 3, 101);
+        const float leaf = fractal(x + 0.7f * y, z - 0.7f * y, 1.1f, smallest, 4, 101);
         const Vector needles = mix(Vector{0.035f, 0.085f, 0.035f}, Vector{0.075f, 0.14f, 0.05f}, tree.shade);
         const Vector leaves = mix(Vector{0.09f, 0.17f, 0.03f}, Vector{0.27f, 0.30f, 0.05f}, tree.shade);
-        colour = (tree.conifer ? needles : leaves) * (0.45f + 1.1f * leaf);
+        colour = (tree.conifer ? needles : leaves) * (0.05f + 1.9f * leaf);
         // A round crown for the light, whatever rough surface the eye sees.
         const float reach = 0.8f;
         const float across = treeAt(x - reach, z).above - treeAt(x + reach, z).above;
@@ -368,7 +373,7 @@ float encoded(float linear)
     return toned <= 0.0031308f ? 12.92f * toned : 1.055f * std::pow(toned, 1 / 2.4f) - 0.055f;
 }
 
-constexpr float kBeta = 1 / 3800.0f;
+constexpr float kBeta = 1 / 3200.0f;
 constexpr Vector kAirlight{0.86f, 0.85f, 0.83f};
 
 Vector finished(Vector linear, float transmission)
@@ -389,7 +394,7 @@ QImage drawScene(int width, int height, bool haze)
     const float focal = 0.92f * static_cast<float>(std::max(width, height)) * kSamples;
     const float horizon = 0.43f * static_cast<float>(rows);
     const float eye = groundHeight(0, 0, 0.1f) + 11;
-    const float growth = std::max(0.0009f, 1.1f / focal);
+    const float growth = std::max(0.0012f, 1.1f / focal);
 
     QImage image(width, height, QImage::Format_RGB32);
     image.bits(); // detaches before the threads write

@@ -22,7 +22,7 @@ int main(int argc, char **argv)
             words << word;
     }
     bool sizeIsGood = words.size() == 1 || words.size() == 3;
-    int width = 1800, height = 1200;
+    int width = 1200, height = 800;
     if (words.size() == 3) {
         width = words.at(1).toInt();
         height = words.at(2).toInt();
