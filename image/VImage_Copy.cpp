@@ -1,0 +1,226 @@
+#include "VImage.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <memory>
+
+#include <QImage>
+
+#include "VException.h"
+#include "ipp.h"
+#include "threadCount.h"
+
+namespace {
+
+constexpr int kDepths[] = {8, 16, 32};
+constexpr int kChannels[] = {1, 3, 4};
+constexpr int kForms = 9;
+
+/// Number of a form: depths rank first, then channels.
+constexpr int formIndex(IppForm form)
+{
+    return form.bits / 16 * 3 + form.channels / 2;
+}
+constexpr IppForm formOf(int index)
+{
+    return {kDepths[index / 3], kChannels[index % 3]};
+}
+
+constexpr std::uint8_t kOpaque8 = 255;
+constexpr std::uint16_t kOpaque16 = 65535;
+constexpr float kOpaque32 = 1.0f;
+constexpr std::uint16_t kOpaque8In16 = 255;
+
+/// How one form becomes another: at most one depth step and one channel step.
+struct Plan
+{
+    bool scales;
+    bool changesChannels;
+    bool scalesFirst; ///< Where both steps are needed; the other one reads the form `between`.
+    IppForm between;
+    const void *alpha; ///< What the alpha of the target is set to, or null: it is copied, or there is none, or it stays.
+};
+
+/// The rule. Falling channels are mixed at the wider depth, so that nothing is lost before the grey is rounded; rising channels
+/// are spread last, since fewer samples are to be scaled then.
+constexpr Plan planOf(IppForm from, IppForm to)
+{
+    Plan plan{};
+    plan.scales = from.bits != to.bits;
+    plan.changesChannels = from.channels != to.channels;
+    plan.scalesFirst = from.channels < to.channels || from.bits < to.bits;
+    plan.between = plan.scalesFirst ? IppForm{to.bits, from.channels} : IppForm{from.bits, to.channels};
+    if (to.channels == 4 && from.channels != 4) {
+        plan.alpha = to.bits == 8    ? static_cast<const void *>(&kOpaque8)
+                     : to.bits == 16 ? static_cast<const void *>(&kOpaque16)
+                                     : static_cast<const void *>(&kOpaque32);
+        // Three pairs stand apart, as the hosts know them: 16-bit grey leaves alpha as the target held it, and float grey gives
+        // 16-bit alpha the full scale of 8 bits.
+        if (from.channels == 1 && from.bits == 16 && to.bits != 8)
+            plan.alpha = nullptr;
+        if (from.channels == 1 && from.bits == 32 && to.bits == 16)
+            plan.alpha = &kOpaque8In16;
+    }
+    return plan;
+}
+
+constexpr auto makePlans()
+{
+    std::array<std::array<Plan, kForms>, kForms> plans{};
+    for (int from = 0; from < kForms; ++from)
+        for (int to = 0; to < kForms; ++to)
+            plans[static_cast<std::size_t>(from)][static_cast<std::size_t>(to)] = planOf(formOf(from), formOf(to));
+    return plans;
+}
+constexpr auto kPlans = makePlans();
+static_assert(formIndex(formOf(0)) == 0 && formIndex(formOf(5)) == 5 && formIndex(formOf(8)) == 8);
+
+/// A rectangle's first pixel, its rows and its form.
+struct Raster
+{
+    unsigned char *data;
+    int step;
+    IppForm form;
+
+    unsigned char *at(int x, int y) const
+    {
+        return data + std::ptrdiff_t{step} * y + std::ptrdiff_t{x} * (form.bits / 8 * form.channels);
+    }
+};
+
+Raster rasterOf(const VImage &image, int x, int y)
+{
+    return {image.PixelAddress(x, y), image.BytesPerLine(), {image.BitsPerComponent(), image.Bitmap()->componentsPerPixel}};
+}
+
+void scale(const Raster &from, const Raster &to, IppiSize size)
+{
+    ippiScale(from.data, from.step, from.form.bits, to.data, to.step, to.form.bits, to.form.channels, size);
+}
+
+void changeChannels(const Raster &from, const Raster &to, IppiSize size, const void *alpha)
+{
+    if (to.form.channels == 1)
+        ippiRGBToGray(from.data, from.step, from.form.channels, to.data, to.step, to.form.bits, size);
+    else
+        ippiCopy(from.data, from.step, from.form.channels, to.data, to.step, to.form.channels, to.form.bits, size, alpha);
+}
+
+void convert(const Plan &plan, const Raster &from, const Raster &to, const Raster &between, IppiSize size)
+{
+    if (!plan.changesChannels) {
+        scale(from, to, size);
+    } else if (!plan.scales) {
+        changeChannels(from, to, size, plan.alpha);
+    } else if (plan.scalesFirst) {
+        scale(from, between, size);
+        changeChannels(between, to, size, plan.alpha);
+    } else {
+        changeChannels(from, between, size, nullptr);
+        scale(between, to, size);
+    }
+}
+
+struct IppiRelease
+{
+    void operator()(unsigned char *raster) const { ippiFree(raster); }
+};
+
+/// Both steps run over one tile while it is in the first cache: at most 16 KB of working buffer.
+constexpr int kTilePixels = 1024;
+/// Below this many pixels a team costs more than it gains.
+constexpr std::int64_t kPixelsForTeam = 1 << 17;
+
+bool isProcessed(unsigned short type)
+{
+    return type == VImage::Grey || type == VImage::Rgb || type == VImage::Rgba;
+}
+bool isProcessedDepth(int bits)
+{
+    return bits == 8 || bits == 16 || bits == 32;
+}
+
+} // namespace
+
+void VImage::CopyRect(int x, int y, int width, int height, VImage &target, int targetX, int targetY) const
+{
+    if (&target == this)
+        throw VException("Invalid Parameter", V_LOCATION);
+    if (!bitmap)
+        throw VException("Invalid Bitmap", V_LOCATION);
+    if (!isProcessedDepth(BitsPerComponent()))
+        throw VException("Invalid Bitmap", V_LOCATION);
+    if (!isProcessed(Type()))
+        throw VException("Invalid Bitmap", V_LOCATION);
+    if (!target.bitmap)
+        throw VException("Invalid Parameter", V_LOCATION);
+    if (!isProcessed(target.Type()))
+        throw VException("Invalid Parameter", V_LOCATION);
+    if (!isProcessedDepth(target.BitsPerComponent()))
+        throw VException("Invalid Parameter", V_LOCATION);
+    // No wider on purpose: a rectangle that runs past a far edge is the caller's affair.
+    if (targetX < 0 && targetX < target.Width())
+        throw VException("Invalid Parameter", V_LOCATION);
+    if (targetY < 0 && targetY < target.Height())
+        throw VException("Invalid Parameter", V_LOCATION);
+    if (x < 0 && x < Width() && std::int64_t{x} + width <= Width())
+        throw VException("Invalid Parameter", V_LOCATION);
+    if (y < 0 && y < Height() && std::int64_t{y} + height <= Height())
+        throw VException("Invalid Parameter", V_LOCATION);
+    if (width <= 0 || height <= 0)
+        return;
+
+    const Raster from = rasterOf(*this, x, y);
+    const Raster to = rasterOf(target, targetX, targetY);
+    const Plan &plan = kPlans[static_cast<std::size_t>(formIndex(from.form))][static_cast<std::size_t>(formIndex(to.form))];
+
+    const int tileWidth = std::min(width, kTilePixels);
+    const int tileHeight = std::min(height, kTilePixels / tileWidth);
+    const int bands = (height - 1) / tileHeight + 1;
+    const int team = std::int64_t{width} * height < kPixelsForTeam ? 1 : std::clamp(threadCount, 1, bands);
+
+    Raster buffer{nullptr, 0, plan.between};
+    std::unique_ptr<unsigned char, IppiRelease> buffers;
+    if (plan.scales && plan.changesChannels) {
+        buffers.reset(static_cast<unsigned char *>(ippiMalloc(tileWidth, tileHeight * team, plan.between, &buffer.step)));
+        if (!buffers)
+            throw VException("Not enough memory", V_LOCATION);
+        buffer.data = buffers.get();
+    }
+#pragma omp parallel for schedule(static) num_threads(team)
+    for (int part = 0; part < team; ++part) {
+        const auto bandOf = [&](int index) { return static_cast<int>(std::int64_t{bands} * index / team); };
+        Raster between = buffer;
+        if (between.data)
+            between.data = buffer.at(0, tileHeight * part);
+        for (int band = bandOf(part); band < bandOf(part + 1); ++band) {
+            const int top = band * tileHeight;
+            for (int left = 0; left < width; left += tileWidth) {
+                const IppiSize size{std::min(tileWidth, width - left), std::min(tileHeight, height - top)};
+                convert(plan, {from.at(left, top), from.step, from.form}, {to.at(left, top), to.step, to.form}, between, size);
+            }
+        }
+    }
+}
+
+void VImage::ConvertTo(VImage &target, unsigned short type, int bitsPerComponent) const
+{
+    if (!bitmap)
+        throw VException("Invalid Bitmap", V_LOCATION);
+    if (!isProcessed(Type()))
+        throw VException("Invalid Bitmap", V_LOCATION);
+    target.Create(Width(), Height(), type, bitsPerComponent);
+    CopyRect(0, 0, Width(), Height(), target, 0, 0);
+}
+
+void VImage::ToQImage(QImage &image) const
+{
+    image = QImage(Width(), Height(), QImage::Format_ARGB32);
+    if (image.isNull())
+        return;
+    VImage view(Width(), Height(), Rgba, 8, /*clear=*/false, image.bits(), static_cast<int>(image.bytesPerLine()));
+    ConvertTo(view, Rgba, 8);
+    constexpr int kRgbaToBgra[4] = {2, 1, 0, 3}; // QImage keeps a pixel's bytes in the order B, G, R, A
+    ippiSwapChannels(view.PixelAddress(0, 0), view.BytesPerLine(), {Width(), Height()}, kRgbaToBgra);
+}

@@ -1,0 +1,238 @@
+#include "ipp.h"
+
+#include <cstring>
+#include <type_traits>
+
+#include "ippVersions.h"
+
+namespace {
+
+template<typename Sample>
+constexpr float kFullScale = std::is_same_v<Sample, std::uint8_t> ? 255.0f : 65535.0f;
+
+template<typename From, typename To>
+IPP_INLINE To scaled(From sample)
+{
+    if constexpr (std::is_same_v<From, To>) {
+        return sample;
+    } else if constexpr (std::is_same_v<To, float>) {
+        if constexpr (std::is_same_v<From, std::uint8_t>)
+            return static_cast<float>(sample) / 255.0f;
+        else
+            return static_cast<float>(sample) * (1.0f / 65535.0f); // 65535 becomes exactly 1
+    } else if constexpr (std::is_same_v<From, float>) {
+        // Written so that not-a-number fails the first test. Adding 2^23 and taking it away rounds to the nearest, ties to even.
+        constexpr float kToInteger = 8388608.0f;
+        const float product = sample * kFullScale<To>;
+        const float positive = product > 0.0f ? product : 0.0f;
+        const float limited = positive < kFullScale<To> ? positive : kFullScale<To>;
+        return static_cast<To>(static_cast<std::int32_t>((limited + kToInteger) - kToInteger));
+    } else if constexpr (std::is_same_v<To, std::uint16_t>) {
+        return static_cast<std::uint16_t>(sample * 257);
+    } else {
+        // x / 257 to the nearest, exact for all 65536 values
+        return static_cast<std::uint8_t>((std::uint32_t{sample} * 255u + 32895u) >> 16);
+    }
+}
+
+template<typename From, typename To>
+IPP_INLINE void scaleRow(const void *source, void *target, std::size_t samples)
+{
+    const auto *__restrict from = static_cast<const From *>(source);
+    auto *__restrict to = static_cast<To *>(target);
+    for (std::size_t i = 0; i < samples; ++i)
+        to[i] = scaled<From, To>(from[i]);
+}
+
+template<typename From>
+IPP_INLINE void scaleRowTo(int targetBits, const void *source, void *target, std::size_t samples)
+{
+    switch (targetBits) {
+    case 8:
+        return scaleRow<From, std::uint8_t>(source, target, samples);
+    case 16:
+        return scaleRow<From, std::uint16_t>(source, target, samples);
+    default:
+        return scaleRow<From, float>(source, target, samples);
+    }
+}
+
+IPP_VERSIONS void scaleAnyRow(int sourceBits, int targetBits, const void *source, void *target, std::size_t samples)
+{
+    switch (sourceBits) {
+    case 8:
+        return scaleRowTo<std::uint8_t>(targetBits, source, target, samples);
+    case 16:
+        return scaleRowTo<std::uint16_t>(targetBits, source, target, samples);
+    default:
+        return scaleRowTo<float>(targetBits, source, target, samples);
+    }
+}
+
+/// Colours from 1, 3 or 4 channels into 3 or 4; a fourth channel is set to *alpha if there is one and otherwise left alone.
+template<typename Sample, int From, int To>
+IPP_INLINE void copyRow(const void *source, void *target, std::size_t pixels, const void *alpha)
+{
+    const auto *__restrict from = static_cast<const Sample *>(source);
+    auto *__restrict to = static_cast<Sample *>(target);
+    const auto colours = [&](std::size_t i) {
+        to[i * To] = from[i * From];
+        to[i * To + 1] = from[i * From + (From > 1 ? 1 : 0)];
+        to[i * To + 2] = from[i * From + (From > 1 ? 2 : 0)];
+    };
+    if (To == 4 && alpha) {
+        const Sample opaque = *static_cast<const Sample *>(alpha);
+        for (std::size_t i = 0; i < pixels; ++i) {
+            colours(i);
+            to[i * To + To - 1] = opaque;
+        }
+    } else {
+        for (std::size_t i = 0; i < pixels; ++i)
+            colours(i);
+    }
+}
+
+template<typename Sample>
+IPP_INLINE void copyRowOf(int sourceChannels, int targetChannels, const void *source, void *target, std::size_t pixels,
+                          const void *alpha)
+{
+    if (sourceChannels == 4)
+        return copyRow<Sample, 4, 3>(source, target, pixels, alpha);
+    if (sourceChannels == 3)
+        return copyRow<Sample, 3, 4>(source, target, pixels, alpha);
+    if (targetChannels == 3)
+        return copyRow<Sample, 1, 3>(source, target, pixels, alpha);
+    return copyRow<Sample, 1, 4>(source, target, pixels, alpha);
+}
+
+IPP_VERSIONS void copyAnyRow(int bits, int sourceChannels, int targetChannels, const void *source, void *target,
+                             std::size_t pixels, const void *alpha)
+{
+    switch (bits) {
+    case 8:
+        return copyRowOf<std::uint8_t>(sourceChannels, targetChannels, source, target, pixels, alpha);
+    case 16:
+        return copyRowOf<std::uint16_t>(sourceChannels, targetChannels, source, target, pixels, alpha);
+    default:
+        return copyRowOf<float>(sourceChannels, targetChannels, source, target, pixels, alpha);
+    }
+}
+
+template<typename Sample, int Channels>
+IPP_INLINE void greyRow(const void *source, void *target, std::size_t pixels)
+{
+    const auto *__restrict from = static_cast<const Sample *>(source);
+    auto *__restrict to = static_cast<Sample *>(target);
+    for (std::size_t i = 0; i < pixels; ++i) {
+        const Sample *pixel = from + i * Channels;
+        if constexpr (std::is_same_v<Sample, float>)
+            to[i] = 0.299f * pixel[0] + 0.587f * pixel[1] + 0.114f * pixel[2];
+        else
+            to[i] = static_cast<Sample>((299u * pixel[0] + 587u * pixel[1] + 114u * pixel[2] + 500u) / 1000u);
+    }
+}
+
+template<typename Sample>
+IPP_INLINE void greyRowOf(int channels, const void *source, void *target, std::size_t pixels)
+{
+    if (channels == 3)
+        return greyRow<Sample, 3>(source, target, pixels);
+    return greyRow<Sample, 4>(source, target, pixels);
+}
+
+IPP_VERSIONS void greyAnyRow(int bits, int channels, const void *source, void *target, std::size_t pixels)
+{
+    switch (bits) {
+    case 8:
+        return greyRowOf<std::uint8_t>(channels, source, target, pixels);
+    case 16:
+        return greyRowOf<std::uint16_t>(channels, source, target, pixels);
+    default:
+        return greyRowOf<float>(channels, source, target, pixels);
+    }
+}
+
+IPP_VERSIONS void swapRow(void *raster, std::size_t pixels, const int order[4])
+{
+    const int shift0 = 8 * order[0], shift1 = 8 * order[1], shift2 = 8 * order[2], shift3 = 8 * order[3];
+    auto *bytes = static_cast<unsigned char *>(raster);
+    for (std::size_t i = 0; i < pixels; ++i, bytes += 4) {
+        std::uint32_t pixel; // channel 0 in the low byte: the machine is little-endian
+        std::memcpy(&pixel, bytes, sizeof(pixel));
+        pixel = (pixel >> shift0 & 255u) | (pixel >> shift1 & 255u) << 8 | (pixel >> shift2 & 255u) << 16 |
+                (pixel >> shift3 & 255u) << 24;
+        std::memcpy(bytes, &pixel, sizeof(pixel));
+    }
+}
+
+bool isDepth(int bits)
+{
+    return bits == 8 || bits == 16 || bits == 32;
+}
+
+/// Runs row(source row, target row) over all rows, after the tests that all operations share.
+template<typename Row>
+IppStatus overRows(const void *source, int sourceStep, void *target, int targetStep, IppiSize size, const Row &row)
+{
+    if (!source || !target)
+        return ippStsNullPtrErr;
+    if (size.width <= 0 || size.height <= 0)
+        return ippStsSizeErr;
+    const auto *from = static_cast<const unsigned char *>(source);
+    auto *to = static_cast<unsigned char *>(target);
+    for (int y = 0; y < size.height; ++y, from += sourceStep, to += targetStep)
+        row(from, to);
+    return ippStsNoErr;
+}
+
+} // namespace
+
+IppStatus ippiScale(const void *source, int sourceStep, int sourceBits, void *target, int targetStep, int targetBits,
+                    int channels, IppiSize size)
+{
+    if (!isDepth(sourceBits) || !isDepth(targetBits) || channels < 1 || channels > 4)
+        return ippStsSizeErr;
+    const std::size_t samples = static_cast<std::size_t>(size.width) * static_cast<std::size_t>(channels);
+    return overRows(source, sourceStep, target, targetStep, size, [&](const unsigned char *from, unsigned char *to) {
+        if (sourceBits == targetBits)
+            std::memcpy(to, from, samples * static_cast<std::size_t>(sourceBits / 8));
+        else
+            scaleAnyRow(sourceBits, targetBits, from, to, samples);
+    });
+}
+
+IppStatus ippiCopy(const void *source, int sourceStep, int sourceChannels, void *target, int targetStep, int targetChannels,
+                   int bits, IppiSize size, const void *alpha)
+{
+    if (sourceChannels == targetChannels)
+        return ippiScale(source, sourceStep, bits, target, targetStep, bits, sourceChannels, size);
+    const bool drops = sourceChannels == 4 && targetChannels == 3;
+    const bool adds = (sourceChannels == 1 || sourceChannels == 3) && (targetChannels == 3 || targetChannels == 4);
+    if (!isDepth(bits) || !(drops || adds))
+        return ippStsSizeErr;
+    return overRows(source, sourceStep, target, targetStep, size, [&](const unsigned char *from, unsigned char *to) {
+        copyAnyRow(bits, sourceChannels, targetChannels, from, to, static_cast<std::size_t>(size.width), alpha);
+    });
+}
+
+IppStatus ippiRGBToGray(const void *source, int sourceStep, int sourceChannels, void *target, int targetStep, int bits,
+                        IppiSize size)
+{
+    if (!isDepth(bits) || (sourceChannels != 3 && sourceChannels != 4))
+        return ippStsSizeErr;
+    return overRows(source, sourceStep, target, targetStep, size, [&](const unsigned char *from, unsigned char *to) {
+        greyAnyRow(bits, sourceChannels, from, to, static_cast<std::size_t>(size.width));
+    });
+}
+
+IppStatus ippiSwapChannels(void *raster, int step, IppiSize size, const int order[4])
+{
+    if (!order)
+        return ippStsNullPtrErr;
+    for (int channel = 0; channel < 4; ++channel)
+        if (order[channel] < 0 || order[channel] > 3)
+            return ippStsSizeErr;
+    return overRows(raster, step, raster, step, size, [&](const unsigned char *, unsigned char *pixels) {
+        swapRow(pixels, static_cast<std::size_t>(size.width), order);
+    });
+}
