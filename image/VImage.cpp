@@ -170,6 +170,69 @@ using IppsBlock = std::unique_ptr<T, IppsRelease>;
 /// Below this many samples on both sides together a team costs more than it gains.
 constexpr std::int64_t kSamplesForTeam = 1 << 18;
 
+struct BitmapRelease
+{
+    void operator()(GflBitmap *bitmap) const { gflFreeBitmap(bitmap); }
+};
+struct ExifRelease
+{
+    void operator()(GflExif *exif) const { gflFreeEXIF2(exif); }
+};
+
+/// The codec layer's name of a format that is given in any case or by one of three short forms.
+QString formatName(const QString &format)
+{
+    const QString name = format.toLower();
+    return name == "jpg" ? "jpeg" : name == "tif" ? "tiff" : name == "hdr" ? "hdri" : name;
+}
+
+/// -1 leaves the layer's defaults. "jpeg" has a scale of 0 to 12, which becomes 4 to 100; for the others it is a compression.
+void ApplySaveQuality(QString format, int quality, GflSaveParams &params)
+{
+    if (quality == -1)
+        return;
+    if (format == "jpeg")
+        params.quality = static_cast<std::int16_t>(quality * 8 + 4);
+    else if (format == "png" || format == "hdri" || format == "psd")
+        params.compression = static_cast<std::int16_t>(quality);
+    else if (format == "tiff")
+        params.compression = quality == 2 ? 2 : quality == 3 ? 4 : 0;
+    else if (format == "exr")
+        params.compression = quality >= 1 && quality <= 8 ? static_cast<std::int16_t>(quality - 1) : 4;
+}
+
+/// Asks for all metadata, and for camera raw to be developed by the image library's settings, so that such a file is read at all.
+void InitLoadParameters(GflLoadParams &params)
+{
+    gflGetDefaultLoadParams(&params);
+    const VImageSettings defaults;
+    const VImageSettings &settings = imageSettings ? *imageSettings : defaults;
+    params.rawUseAutomaticBalance = settings.rawUseAutomaticBalance;
+    params.rawUseCameraBalance = settings.rawUseCameraBalance;
+    params.rawHighlight = static_cast<std::uint8_t>(settings.rawHighlight);
+    params.rawAutoBright = settings.rawAutoBright;
+    params.rawGamma = settings.rawGamma;
+    params.rawBrightness = settings.rawBrightness;
+    params.rawRedScaling = settings.rawRedScaling;
+    params.rawBlueScaling = settings.rawBlueScaling;
+    params.flags |= GFL_LOAD_METADATA;
+}
+
+/// Colour profile, IPTC and EXIF of a file, each if it has it.
+void copyMetadata(const GflBitmap *source, GflBitmap *target, GflSaveParams &params)
+{
+    if (gflBitmapHasICCProfile(source)) {
+        gflBitmapCopyICCProfile(source, target);
+        params.flags |= GFL_SAVE_ICC_PROFILE;
+    }
+    if (gflBitmapHasIPTC(source))
+        gflBitmapSetIPTC(target, gflBitmapGetIPTC(source));
+    if (gflBitmapHasEXIF(source)) {
+        const std::unique_ptr<GflExif, ExifRelease> exif(gflBitmapGetEXIF2(source));
+        gflBitmapSetEXIF2(target, exif.get());
+    }
+}
+
 } // namespace
 
 void VImage::Resample(VImage &target, int width, int height) const
@@ -206,6 +269,44 @@ void VImage::Resample(VImage &target, int width, int height) const
         ippiResize(bitmap->data, BytesPerLine(), target.bitmap->data, target.BytesPerLine(), rowOf(part),
                    rowOf(part + 1) - rowOf(part), spec.get(), buffers.get() + bufferBytes * static_cast<std::size_t>(part));
     }
+}
+
+void VImage::Save(QString fileName, QString format, int quality, QString metadataSource)
+{
+    if (!bitmap)
+        throw VException("Invalid Bitmap", V_LOCATION);
+    if (BitsPerComponent() != 8 && BitsPerComponent() != 16 && BitsPerComponent() != 32)
+        throw VException("Invalid Bitmap", V_LOCATION);
+    if (fileName.isEmpty())
+        throw VException("Invalid Parameter", V_LOCATION);
+    if (format.isEmpty())
+        throw VException("Invalid Parameter", V_LOCATION);
+
+    format = formatName(format);
+    GflSaveParams saveParams;
+    gflGetDefaultSaveParams(&saveParams);
+    ApplySaveQuality(format, quality, saveParams);
+    if (!metadataSource.isEmpty()) { // before the file is written, so that an unreadable source ends the save early
+        GflLoadParams loadParams;
+        InitLoadParameters(loadParams);
+        GflBitmap *read = nullptr;
+        GflFileInformation information;
+        throwGflError(gflLoadBitmapUTF8(metadataSource.toUtf8().constData(), &read, &loadParams, &information), metadataSource,
+                      V_LOCATION);
+        const std::unique_ptr<GflBitmap, BitmapRelease> source(read);
+        copyMetadata(source.get(), bitmap, saveParams);
+        gflFreeFileInformation(&information);
+    }
+    saveParams.formatIndex = gflGetFormatIndexByName(format.toLocal8Bit().constData());
+
+    const auto result = static_cast<std::int16_t>(gflSaveBitmapUTF8(fileName.toUtf8().constData(), bitmap, &saveParams));
+    if (result != 0) {
+        // A full disk or a locked file is a clearer sentence than the code. The count wraps around in 32 bits on purpose.
+        const auto bytes = static_cast<std::int32_t>(static_cast<std::uint32_t>(Width()) * static_cast<std::uint32_t>(Height()) *
+                                                     bitmap->bytesPerPixel);
+        checkFileWritable(fileName, bytes, V_LOCATION);
+    }
+    throwGflError(result, fileName, V_LOCATION);
 }
 
 #endif
