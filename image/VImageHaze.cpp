@@ -1,0 +1,351 @@
+#include "VImage.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <new>
+#include <vector>
+
+#include "HazeJointRows.h"
+#include "HazeMattingRows.h"
+#include "VException.h"
+#include "VSparseFactory.h"
+#include "ipp.h"
+#include "ippVersions.h"
+#include "threadCount.h"
+
+namespace {
+
+constexpr int kChannels = 4; ///< R, G, B, A.
+
+QString invalidBitmap()
+{
+    return QStringLiteral("Invalid Bitmap");
+}
+
+int teamSize()
+{
+    return std::max(1, static_cast<int>(threadCount));
+}
+
+/// First of the `rows` rows that part `part` of `parts` takes: one contiguous block each.
+int firstRowOf(int part, int parts, int rows)
+{
+    return static_cast<int>(std::int64_t{rows} * part / parts);
+}
+
+const float *rowOf(const VImage &image, int y)
+{
+    return reinterpret_cast<const float *>(image.PixelAddress(0, y));
+}
+
+std::size_t pixelCount(const VImage &image)
+{
+    return static_cast<std::size_t>(image.Width()) * static_cast<std::size_t>(image.Height());
+}
+
+struct IppiRelease
+{
+    void operator()(float *raster) const { ippiFree(raster); }
+};
+
+/// Per-channel minimum of an image over a square window.
+struct ErodedImage
+{
+    explicit ErodedImage(const VImage &image)
+        : raster(static_cast<float *>(ippiMalloc(image.Width(), image.Height(), {32, kChannels}, &stepBytes)))
+    {
+        if (!raster)
+            throw std::bad_alloc();
+        const int k = std::max(image.Width(), image.Height()) / 100;
+        const IppiSize region{image.Width(), image.Height()};
+        const IppiSize mask{2 * k + 3, 2 * k + 3};
+        const std::unique_ptr<unsigned char[]> buffer(new unsigned char[ippiFilterMinGetBufferSize(region, mask)]);
+        ippiFilterMinBorder(rowOf(image, 0), image.BytesPerLine(), raster.get(), stepBytes, region, mask, {k + 1, k + 1},
+                            buffer.get());
+    }
+    const float *row(int y) const
+    {
+        return raster.get() + static_cast<std::ptrdiff_t>(stepBytes) / static_cast<std::ptrdiff_t>(sizeof(float)) * y;
+    }
+
+    int stepBytes = 0;
+    std::unique_ptr<float, IppiRelease> raster;
+};
+
+/// A pixel that may stand for the densest haze.
+struct Candidate
+{
+    float darkValue;
+    const float *pixel; ///< In the source. Pixels are visited by rising address, so that of two candidates this tells the newer.
+};
+
+/// Whether `a` is behind `b` in walking order: by rising dark value, and among equal ones the newest first.
+bool walksBehind(const Candidate &a, const Candidate &b)
+{
+    return a.darkValue != b.darkValue ? a.darkValue > b.darkValue : std::less<>()(a.pixel, b.pixel);
+}
+
+/// The brightest pixels of the dark channel: as many as the seed rows hold, in walking order.
+std::vector<Candidate> brightestCandidates(const VImage &image, const ErodedImage &eroded)
+{
+    const int width = image.Width();
+    const int height = image.Height();
+    const int seedRows = height < 1001 ? 1 : height / 1000;
+    std::vector<Candidate> heap; // the first to be removed is on top
+    heap.reserve(static_cast<std::size_t>(seedRows) * static_cast<std::size_t>(width));
+    float threshold = -std::numeric_limits<float>::infinity();
+    for (int y = 0; y < height; ++y) {
+        const float *pixel = rowOf(image, y);
+        const float *minima = eroded.row(y);
+        const bool seed = y < seedRows;
+        for (int x = 0; x < width; ++x, pixel += kChannels, minima += kChannels) {
+            const float darkValue = std::fmin(std::fmin(minima[0], minima[1]), minima[2]);
+            if (seed) {
+                // Not-a-number has no place in an order: it ranks with the lowest.
+                heap.push_back({std::isnan(darkValue) ? threshold : darkValue, pixel});
+            } else if (threshold < darkValue) {
+                std::pop_heap(heap.begin(), heap.end(), walksBehind);
+                heap.back() = {darkValue, pixel};
+                std::push_heap(heap.begin(), heap.end(), walksBehind);
+                threshold = heap.front().darkValue;
+            }
+        }
+        if (y == seedRows - 1) {
+            std::make_heap(heap.begin(), heap.end(), walksBehind);
+            threshold = heap.front().darkValue;
+        }
+    }
+    std::sort(heap.begin(), heap.end(), [](const Candidate &a, const Candidate &b) { return walksBehind(b, a); });
+    return heap;
+}
+
+/// The source pixel of the highest luminance, the first in walking order among equals; null if none is above -1.0.
+const float *brightestPixel(const std::vector<Candidate> &candidates)
+{
+    float best = -1.0f;
+    const float *chosen = nullptr;
+    for (const Candidate &candidate : candidates) {
+        const float *const p = candidate.pixel;
+        const auto luminance = static_cast<float>(0.3 * static_cast<double>(p[0]) + 0.59 * static_cast<double>(p[1]) +
+                                                  0.11 * static_cast<double>(p[2]));
+        if (luminance > best) {
+            best = luminance;
+            chosen = p;
+        }
+    }
+    return chosen;
+}
+
+/// The comparisons say what happens to not-a-number: a quotient that is none gives way to the one it is compared with.
+IPP_VERSIONS void normaliseRow(const float *minima, float *darkMap, int width, const float *airlight)
+{
+    const float airR = airlight[0];
+    const float airG = airlight[1];
+    const float airB = airlight[2];
+    for (int x = 0; x < width; ++x, minima += kChannels) {
+        const float r = minima[0] / airR;
+        const float g = minima[1] / airG;
+        const float b = minima[2] / airB;
+        const float bg = b <= g ? b : g;
+        darkMap[x] = bg <= r ? bg : r;
+    }
+}
+
+IPP_VERSIONS void recoverRow(float *pixel, const float *transmission, int width, const float *airlight, float strength)
+{
+    const float airR = airlight[0];
+    const float airG = airlight[1];
+    const float airB = airlight[2];
+    for (int x = 0; x < width; ++x, pixel += kChannels) {
+        const float r = pixel[0];
+        const float g = pixel[1];
+        const float b = pixel[2];
+        const bool keep = pixel[3] == 0.0f;
+        float t = 1.0f - transmission[x] * strength;
+        // No float lies between the double 0.1 and the float 0.1, so that this is the comparison with the former.
+        t = t < 0.1f ? 0.1f : t;
+        const float newR = airR + (r - airR) / t;
+        const float newG = airG + (g - airG) / t;
+        const float newB = airB + (b - airB) / t;
+        pixel[0] = keep ? r : newR > 0.0f ? newR : 0.0f;
+        pixel[1] = keep ? g : newG > 0.0f ? newG : 0.0f;
+        pixel[2] = keep ? b : newB > 0.0f ? newB : 0.0f;
+    }
+}
+
+constexpr double kLambda = 0.001;
+constexpr float kLambdaCell = 0.001f;
+
+/// Adds the matting Laplacian to the factory, whose rows exist already.
+void addMattingLaplacian(const VImage &image, VSparseFactory &factory)
+{
+    const int width = image.Width();
+    const int height = image.Height();
+    if (width < HazeMattingRows::kWindow || height < HazeMattingRows::kWindow)
+        return;
+    const int parts = std::min(teamSize(), height);
+    const auto rowStep = static_cast<std::ptrdiff_t>(image.BytesPerLine()) / static_cast<std::ptrdiff_t>(sizeof(float));
+    std::vector<HazeMattingRows> blocks(static_cast<std::size_t>(parts),
+                                        HazeMattingRows(rowOf(image, 0), rowStep, width, height));
+    bool outOfMemory = false;
+#pragma omp parallel for schedule(static) num_threads(parts)
+    for (int part = 0; part < parts; ++part) {
+        try {
+            HazeMattingRows &block = blocks[static_cast<std::size_t>(part)];
+            const int end = firstRowOf(part + 1, parts, height);
+            int row = firstRowOf(part, parts, height);
+            block.start(row, kLambdaCell);
+            for (; row < end; ++row) {
+                const float *cells = block.next();
+                for (int x = 0; x < width; ++x, cells += HazeMattingRows::kCells) {
+                    const int p = row * width + x;
+                    for (int index = 0; index < HazeMattingRows::kCells; ++index) {
+                        const HazeMattingRows::Offset offset = HazeMattingRows::offsetOf(index);
+                        const int column = x + offset.column;
+                        if (row + offset.row >= height || column < 0 || column >= width)
+                            continue;
+                        VSparseFactory::CellAccessor cell;
+                        (factory.*factory.cellAccess)(p, p + offset.row * width + offset.column, cell);
+                        cell->second = cells[index];
+                    }
+                }
+            }
+        } catch (...) { // nothing but memory for a cell can fail here
+#pragma omp atomic write
+            outOfMemory = true;
+        }
+    }
+    if (outOfMemory)
+        throw std::bad_alloc();
+}
+
+} // namespace
+
+float *VImage::HazeDarkChannel(float airlight[3])
+{
+    if (Type() != Rgba)
+        throw VException(invalidBitmap(), V_LOCATION);
+    if (BitsPerComponent() != 32)
+        throw VException(invalidBitmap(), V_LOCATION);
+    const int width = Width();
+    const int height = Height();
+    if (width <= 0 || height <= 0)
+        return nullptr;
+    const ErodedImage eroded(*this);
+    const float *const brightest = brightestPixel(brightestCandidates(*this, eroded));
+    if (!brightest)
+        return nullptr;
+    std::unique_ptr<float[]> darkMap(new float[pixelCount(*this)]);
+    std::copy_n(brightest, 3, airlight);
+
+    float *const first = darkMap.get();
+    const int team = teamSize();
+#pragma omp parallel for schedule(static) num_threads(team)
+    for (int y = 0; y < height; ++y)
+        normaliseRow(eroded.row(y), first + static_cast<std::size_t>(y) * static_cast<std::size_t>(width), width, airlight);
+    return darkMap.release();
+}
+
+bool VImage::HazeMatting(float *darkMap)
+{
+    if (Type() != Rgba)
+        throw VException(invalidBitmap(), V_LOCATION);
+    if (BitsPerComponent() != 32)
+        throw VException(invalidBitmap(), V_LOCATION);
+    const std::size_t unknowns = pixelCount(*this);
+    const std::unique_ptr<float[]> x(new float[unknowns]);
+    VSparseFactory factory(/*symmetricMatrix=*/true);
+    // The rows of the factory grow here, on one thread; in parallel they must not.
+    for (std::size_t i = 0; i < unknowns; ++i) {
+        darkMap[i] = static_cast<float>(static_cast<double>(darkMap[i]) * kLambda);
+        const int p = static_cast<int>(i);
+        VSparseFactory::CellAccessor cell;
+        (factory.*factory.cellAccess)(p, p, cell);
+        cell->second = kLambdaCell;
+    }
+    addMattingLaplacian(*this, factory);
+    try {
+        VSparseMatrix matrix;
+        factory.ToCsr(matrix);
+        matrix.Solve(darkMap, x.get());
+        std::copy_n(x.get(), unknowns, darkMap);
+    } catch (...) {
+        return false; // by contract nothing is said of why
+    }
+    return true;
+}
+
+float *VImage::HazeUpsample(float *lowMap, VImage *lowImage)
+{
+    if (Type() != Rgba)
+        throw VException(invalidBitmap(), V_LOCATION);
+    if (BitsPerComponent() != 32)
+        throw VException(invalidBitmap(), V_LOCATION);
+    if (lowImage->Type() != Rgba)
+        throw VException(invalidBitmap(), V_LOCATION);
+    if (lowImage->BitsPerComponent() != 32)
+        throw VException(invalidBitmap(), V_LOCATION);
+
+    int levels = 1;
+    if (lowImage->Width() > 0) {
+        for (float ratio = static_cast<float>(Width()) / static_cast<float>(lowImage->Width()); ratio > 2.0f; ratio *= 0.5f)
+            ++levels;
+    }
+    // Guides of the levels between; each is reduced from the next finer one and dropped after its last use.
+    std::vector<std::unique_ptr<VImage>> made(static_cast<std::size_t>(levels));
+    std::vector<VImage *> guides(static_cast<std::size_t>(levels) + 1, lowImage);
+    guides.back() = this;
+    for (std::size_t i = made.size() - 1; i > 0; --i) {
+        made[i] = std::make_unique<VImage>();
+        guides[i] = made[i].get();
+        guides[i + 1]->Resample(*guides[i], lowImage->Width() << i, lowImage->Height() << i);
+    }
+    std::unique_ptr<float[]> map;
+    for (std::size_t i = 0; i < made.size(); ++i) {
+        map.reset(guides[i + 1]->HazeJointUpsample(map ? map.get() : lowMap, guides[i]));
+        made[i].reset();
+    }
+    return map.release();
+}
+
+float *VImage::HazeJointUpsample(float *lowMap, VImage *lowImage)
+{
+    if (Type() != Rgba)
+        throw VException(invalidBitmap(), V_LOCATION);
+    if (BitsPerComponent() != 32)
+        throw VException(invalidBitmap(), V_LOCATION);
+    if (lowImage->Type() != Rgba)
+        throw VException(invalidBitmap(), V_LOCATION);
+    if (lowImage->BitsPerComponent() != 32)
+        throw VException(invalidBitmap(), V_LOCATION);
+
+    std::unique_ptr<float[]> map(new float[pixelCount(*this)]);
+    const HazeJointRows rows(*this, *lowImage, lowMap);
+    const int height = Height();
+    const int parts = std::max(1, std::min(teamSize(), height));
+    std::vector<HazeJointRows::Scratch> scratch(static_cast<std::size_t>(parts));
+    float *const first = map.get();
+#pragma omp parallel for schedule(static) num_threads(parts)
+    for (int part = 0; part < parts; ++part)
+        rows.write(first, firstRowOf(part, parts, height), firstRowOf(part + 1, parts, height),
+                   scratch[static_cast<std::size_t>(part)]);
+    return map.release();
+}
+
+void VImage::HazeRecover(const float *transmission, const float airlight[3], float strength)
+{
+    if (Type() != Rgba)
+        throw VException(invalidBitmap(), V_LOCATION);
+    if (BitsPerComponent() != 32)
+        throw VException(invalidBitmap(), V_LOCATION);
+    const int width = Width();
+    const int height = Height();
+    const int team = teamSize();
+#pragma omp parallel for schedule(static) num_threads(team)
+    for (int y = 0; y < height; ++y)
+        recoverRow(reinterpret_cast<float *>(PixelAddress(0, y)),
+                   transmission + static_cast<std::size_t>(y) * static_cast<std::size_t>(width), width, airlight, strength);
+}

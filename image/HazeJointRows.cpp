@@ -1,0 +1,131 @@
+#include "HazeJointRows.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "HazeWeights.h"
+#include "VImage.h"
+#include "ippVersions.h"
+
+namespace {
+
+constexpr int kChannels = 4; ///< R, G, B, A.
+constexpr int kRadius = 1;
+using Neighbours = HazeJointRows::Neighbours;
+using Scratch = HazeJointRows::Scratch;
+
+/// Place on the coarse grid of a fine row or column: the product in 32 bits, its half step in 64.
+int centreOf(int place, float scale)
+{
+    return static_cast<int>(static_cast<double>(static_cast<float>(place) * scale) + 0.5);
+}
+
+const float *rowOf(const VImage &image, int y)
+{
+    return reinterpret_cast<const float *>(image.PixelAddress(0, y));
+}
+
+/// Adds the neighbours at one offset to the sums of a tile.
+IPP_INLINE void addNeighbours(const Neighbours &neighbours, double spatial, int columns, Scratch &scratch)
+{
+    constexpr auto kNone = static_cast<float>(kRangeEntries);
+    for (int c = 0; c < 3; ++c) {
+        const float *const here = scratch.colour[c];
+        const float *const there = neighbours.colour[c];
+        std::int32_t *const entry = scratch.entries[c];
+        for (int x = 0; x < columns; ++x) {
+            const float difference = (here[x] - there[x]) * 1000.0f;
+            const float magnitude = difference < 0.0f ? -difference : difference;
+            entry[x] = static_cast<std::int32_t>(magnitude < kNone ? magnitude : kNone); // not-a-number and infinity, too
+        }
+    }
+    const double *const weights = kHazeRangeWeights.data();
+    for (int x = 0; x < columns; ++x)
+        scratch.ranges[x] = weights[scratch.entries[0][x]] * weights[scratch.entries[1][x]] * weights[scratch.entries[2][x]];
+    for (int x = 0; x < columns; ++x) {
+        const auto weight = static_cast<float>(scratch.ranges[x] * spatial);
+        scratch.sumWeights[x] += weight;
+        scratch.sumValues[x] += neighbours.map[x] * weight;
+    }
+}
+
+/// One row of a tile; `rows` are its kSide or fewer coarse rows, the first at row offset `firstOffset`.
+IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, const Neighbours *const *rows, int rowCount,
+                               int firstOffset, Scratch &scratch)
+{
+    for (int x = 0; x < columns; ++x) {
+        for (int c = 0; c < 3; ++c)
+            scratch.colour[c][x] = pixel[x * kChannels + c];
+    }
+    std::fill_n(scratch.sumWeights, columns, 0.0f);
+    std::fill_n(scratch.sumValues, columns, 0.0f);
+    for (int i = 0; i < rowCount; ++i) {
+        for (int dx = -kRadius; dx <= kRadius; ++dx) {
+            const double spatial =
+                kHazeSpatialWeights[static_cast<std::size_t>(firstOffset + i + 2)][static_cast<std::size_t>(dx + 2)];
+            addNeighbours(rows[i][dx + kRadius], spatial, columns, scratch);
+        }
+    }
+    for (int x = 0; x < columns; ++x) {
+        const float sumWeights = scratch.sumWeights[x];
+        const float mean = scratch.sumValues[x] / sumWeights;
+        map[x] = pixel[x * kChannels + 3] == 0.0f || sumWeights == 0.0f ? 0.0f : mean;
+    }
+}
+
+} // namespace
+
+HazeJointRows::HazeJointRows(const VImage &fineImage, const VImage &coarseImage, const float *map)
+    : fine(fineImage), coarse(coarseImage), coarseMap(map),
+      rowScale(static_cast<float>(coarseImage.Height()) / static_cast<float>(fineImage.Height())),
+      centres(static_cast<std::size_t>(std::max(0, fineImage.Width())))
+{
+    const float columnScale = static_cast<float>(coarse.Width()) / static_cast<float>(fine.Width());
+    for (std::size_t x = 0; x < centres.size(); ++x)
+        centres[x] = centreOf(static_cast<int>(x), columnScale);
+}
+
+void HazeJointRows::spread(int coarseRow, int firstColumn, int columns, Neighbours neighbours[kSide]) const
+{
+    const float *const pixels = rowOf(coarse, coarseRow);
+    const float *const values = coarseMap + static_cast<std::size_t>(coarseRow) * static_cast<std::size_t>(coarse.Width());
+    const int *const centre = centres.data() + firstColumn;
+    const auto coarseWidth = static_cast<unsigned>(coarse.Width());
+    for (int dx = -kRadius; dx <= kRadius; ++dx) {
+        Neighbours &target = neighbours[dx + kRadius];
+        for (int x = 0; x < columns; ++x) {
+            const int column = centre[x] + dx;
+            const float *const pixel = pixels + static_cast<std::ptrdiff_t>(column) * kChannels;
+            const bool counts = static_cast<unsigned>(column) < coarseWidth && pixel[3] != 0.0f;
+            for (int c = 0; c < 3; ++c)
+                target.colour[c][x] = counts ? pixel[c] : std::numeric_limits<float>::quiet_NaN();
+            target.map[x] = counts ? values[column] : 0.0f;
+        }
+    }
+}
+
+void HazeJointRows::write(float *map, int firstRow, int lastRow, Scratch &scratch) const
+{
+    const int width = fine.Width();
+    for (int firstColumn = 0; firstColumn < width; firstColumn += kTile) {
+        const int columns = std::min(kTile, width - firstColumn);
+        int held[kSide] = {-1, -1, -1}; // coarse rows that the scratch memory holds for this tile
+        for (int y = firstRow; y < lastRow; ++y) {
+            const int centre = centreOf(y, rowScale);
+            const int first = std::max(centre - kRadius, 0);
+            const int last = std::min(centre + kRadius, coarse.Height() - 1);
+            const Neighbours *rows[kSide];
+            for (int row = first; row <= last; ++row) {
+                const int slot = row % kSide;
+                if (held[slot] != row) {
+                    spread(row, firstColumn, columns, scratch.rows[slot]);
+                    held[slot] = row;
+                }
+                rows[row - first] = scratch.rows[slot];
+            }
+            writeTileRow(rowOf(fine, y) + static_cast<std::ptrdiff_t>(firstColumn) * kChannels,
+                         map + static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + firstColumn, columns, rows,
+                         std::max(0, last - first + 1), first - centre, scratch);
+        }
+    }
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+class VImage;
+
+/// The joint bilateral step from a coarse map to a fine one, for any block of fine rows.
+///
+/// A fine pixel's neighbours are the 3 x 3 coarse pixels around its place on the coarse grid, as far as they lie on it and have
+/// an alpha other than 0.0. Work goes by tiles of columns: the neighbours of a tile are laid out as planes at the fine width once
+/// a coarse row, so that all else runs over consecutive memory, without a test. Source: J. Kopf, M. Cohen, D. Lischinski, M.
+/// Uyttendaele, Joint Bilateral Upsampling, SIGGRAPH 2007, equation 4.
+class HazeJointRows
+{
+public:
+    static constexpr int kTile = 128;
+    static constexpr int kSide = 3; ///< Neighbours in each direction.
+
+    /// One column offset of one coarse row, at the fine width. A neighbour without a say has the colour not-a-number, whose
+    /// weight is 0.0, and the map value 0.0.
+    struct Neighbours
+    {
+        float colour[3][kTile];
+        float map[kTile];
+    };
+    /// Working memory of one thread; its contents don't matter.
+    struct Scratch
+    {
+        Neighbours rows[kSide][kSide]; ///< Coarse row r at r modulo kSide; then by column offset.
+        float colour[3][kTile];        ///< Of the fine pixels.
+        std::int32_t entries[3][kTile];
+        double ranges[kTile];
+        float sumWeights[kTile];
+        float sumValues[kTile];
+    };
+
+    /// Both images must be Rgba with 32-bit samples; `coarseMap` has one float a pixel of `coarse`. All three outlive this.
+    HazeJointRows(const VImage &fine, const VImage &coarse, const float *coarseMap);
+
+    /// Writes the rows firstRow ... lastRow - 1 of `map`, which has one float a pixel of the fine image.
+    void write(float *map, int firstRow, int lastRow, Scratch &scratch) const;
+
+private:
+    void spread(int coarseRow, int firstColumn, int columns, Neighbours neighbours[kSide]) const;
+
+    const VImage &fine;
+    const VImage &coarse;
+    const float *coarseMap;
+    float rowScale;
+    std::vector<int> centres; ///< Coarse column of each fine column.
+};
