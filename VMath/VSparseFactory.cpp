@@ -1,0 +1,109 @@
+#include "VSparseFactory.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+#include <utility>
+#include <vector>
+
+#include <omp.h>
+
+#include "VException.h"
+#include "mkl.h"
+#include "threadCount.h"
+
+namespace {
+
+constexpr int kAlignment = 128;
+// Below this many rows a team costs more than it saves.
+constexpr std::int32_t kRowsWorthATeam = 4096;
+
+std::int32_t *allocateIndices(std::int32_t count)
+{
+    return static_cast<std::int32_t *>(mklMalloc(std::size_t(count) * sizeof(std::int32_t), kAlignment));
+}
+
+} // namespace
+
+VSparseFactory::VSparseFactory(bool symmetricMatrix) : symmetric(symmetricMatrix), rows(SparseAllocator<Row>(arena))
+{
+    rows.grow_to_at_least(std::size_t(rowCapacity), Row(arena));
+}
+
+VSparseFactory::~VSparseFactory()
+{
+    rows.clear();
+    symmetric = false;
+    rowCount = 0;
+    columnCount = 0;
+    rowCapacity = 0;
+}
+
+void VSparseFactory::OpenCell(int row, int column, CellAccessor &cell)
+{
+    if (row >= rowCount) {
+        if (row >= rowCapacity) {
+            // In 64 bits: the last doubling that an int holds may not exceed the row.
+            std::int64_t capacity = rowCapacity;
+            while (capacity <= row)
+                capacity *= 2;
+            rows.grow_to_at_least(std::size_t(capacity), Row(arena));
+            rowCapacity = std::int32_t(std::min<std::int64_t>(capacity, std::numeric_limits<std::int32_t>::max()));
+        }
+        rowCount = row + 1;
+    }
+    cell.release();
+    rows[std::size_t(row)].insert(cell, column);
+}
+
+void VSparseFactory::ToCsr(VSparseMatrix &target) const
+{
+    target.Reset();
+    target.rowCount = rowCount;
+    target.columnCount = columnCount;
+    target.symmetric = symmetric ? 1 : 0;
+    target.rowStartCount = rowCount + 1;
+
+    target.rowStarts = allocateIndices(target.rowStartCount);
+    if (target.rowStarts == nullptr)
+        throw VException(QStringLiteral("Not enough memory"), V_LOCATION);
+
+    std::int64_t cells = 0;
+    std::size_t longest = 0;
+    for (std::int32_t row = 0; row < rowCount; ++row) {
+        const std::size_t size = rows[std::size_t(row)].size();
+        target.rowStarts[row] = std::int32_t(cells + 1);
+        cells += std::int64_t(size);
+        longest = std::max(longest, size);
+        // One-based indices end where an int does.
+        if (cells >= std::numeric_limits<std::int32_t>::max())
+            throw VException(QStringLiteral("Not enough memory"), V_LOCATION);
+    }
+    target.rowStarts[rowCount] = std::int32_t(cells + 1);
+    target.nonZeroCount = std::int32_t(cells);
+
+    target.columnIndices = allocateIndices(target.nonZeroCount);
+    target.values = static_cast<float *>(mklMalloc(std::size_t(target.nonZeroCount) * sizeof(float), kAlignment));
+    if (target.columnIndices == nullptr)
+        throw VException(QStringLiteral("Not enough memory"), V_LOCATION);
+    if (target.values == nullptr)
+        throw VException(QStringLiteral("Not enough memory"), V_LOCATION);
+
+    // All memory is taken before the team starts: no exception may leave a parallel region.
+    const int team = rowCount < kRowsWorthATeam ? 1 : std::max(1, threadCount);
+    std::vector<std::vector<std::pair<std::int32_t, float>>> sorted(std::size_t(team),
+                                                                    std::vector<std::pair<std::int32_t, float>>(longest));
+#pragma omp parallel for num_threads(team) schedule(static)
+    for (std::int32_t row = 0; row < rowCount; ++row) {
+        auto *const first = sorted[std::size_t(omp_get_thread_num())].data();
+        auto *last = first;
+        for (const auto &cell : rows[std::size_t(row)])
+            *last++ = {cell.first, cell.second};
+        std::sort(first, last, [](const auto &left, const auto &right) { return left.first < right.first; });
+        std::size_t position = std::size_t(target.rowStarts[row]) - 1;
+        for (const auto *cell = first; cell != last; ++cell, ++position) {
+            target.columnIndices[position] = cell->first + 1;
+            target.values[position] = cell->second;
+        }
+    }
+}

@@ -5,17 +5,22 @@
 #include <tbb/concurrent_hash_map.h>
 #include <tbb/concurrent_vector.h>
 
+#include "SparseArena.h"
 #include "VSparseMatrix.h"
 
-/// Collects the cells of a large sparse matrix, from several threads at once and in any order, and turns them into compressed rows.
+/// Collects the cells of a large sparse matrix, from several threads at once and in any order, and turns them into compressed
+/// rows.
 ///
-/// Two phases that don't overlap: filling (OpenCell), then reading (ToCsr, on one thread). Opening a cell locks that cell alone. The
-/// table of rows grows without a lock, so one thread must have opened every row once before a parallel phase begins.
+/// Two phases that don't overlap: filling (OpenCell), then reading (ToCsr, on one thread). Opening a cell locks that cell alone.
+/// The table of rows grows without a lock, so one thread must have opened every row once before a parallel phase begins.
 class VSparseFactory
 {
+    SparseArena arena; // before the rows, which live in it
+
 public:
-    /// One row: column to value.
-    using Row = tbb::concurrent_hash_map<std::int32_t, float>;
+    /// One row: column to value. A row's first growth takes a table of 4 KB, so that the allocator is where the time goes.
+    using Row = tbb::concurrent_hash_map<std::int32_t, float, tbb::tbb_hash_compare<std::int32_t>,
+                                         SparseAllocator<std::pair<const std::int32_t, float>>>;
     /// Write access to one cell, locked while this holds it; `->second` is the value. Declared empty, filled by OpenCell.
     using CellAccessor = Row::accessor;
 
@@ -37,6 +42,6 @@ public:
     std::int32_t rowCount = 0;    ///< Highest row opened so far, plus one.
     std::int32_t columnCount = 0; ///< Handed on as it stands.
     std::int32_t rowCapacity = 8; ///< Rows that `rows` holds; only doubles.
-    tbb::concurrent_vector<Row> rows;
+    tbb::concurrent_vector<Row, SparseAllocator<Row>> rows;
     void (VSparseFactory::*cellAccess)(int row, int column, CellAccessor &cell) = &VSparseFactory::OpenCell;
 };

@@ -1,0 +1,73 @@
+#include <array>
+#include <cstdint>
+
+#include "VException.h"
+#include "VSparseMatrix.h"
+#include "mkl.h"
+
+VSparseMatrix::~VSparseMatrix()
+{
+    Reset();
+}
+
+void VSparseMatrix::Reset()
+{
+    mklFree(values);
+    mklFree(columnIndices);
+    mklFree(rowStarts);
+    busy = false;
+    symmetric = 0;
+    rowCount = 0;
+    columnCount = 0;
+    nonZeroCount = 0;
+    rowStartCount = 0;
+    values = nullptr;
+    columnIndices = nullptr;
+    rowStarts = nullptr;
+}
+
+void VSparseMatrix::Solve(const float *b, float *x) const
+{
+    std::array<void *, 64> pt = {};
+    const std::int32_t maxfct = 1;
+    const std::int32_t mnum = 1;
+    const std::int32_t mtype = symmetric != 0 ? -2 : 11;
+    std::int32_t perm = 0;
+    const std::int32_t nrhs = 1;
+    const std::int32_t msglvl = 0;
+    std::int32_t error = 0;
+    float dummy = 0.0F;
+
+    // The meaning of each setting, by its index, is the solver layer's.
+    std::array<std::int32_t, 64> iparm = {};
+    iparm[0] = 1;
+    iparm[1] = 3;
+    iparm[7] = 2;
+    iparm[9] = symmetric != 0 ? 8 : 13;
+    iparm[10] = symmetric != 0 ? 1 : 0;
+    iparm[12] = symmetric != 0 ? 1 : 0;
+    iparm[17] = -1;
+    iparm[18] = -1;
+    iparm[20] = symmetric != 0 ? 1 : 0;
+    iparm[27] = 1;
+
+    const auto call = [&](std::int32_t phase, const void *matrix, const float *rightHandSide, float *solution) {
+        pardiso(pt.data(), &maxfct, &mnum, &mtype, &phase, &rowCount, matrix, rowStarts, columnIndices, &perm, &nrhs,
+                iparm.data(), &msglvl, rightHandSide, solution, &error);
+    };
+
+    call(/*phase=*/11, values, &dummy, &dummy);
+    if (error != 0)
+        throw VException(QStringLiteral("PARDISO error during symbolic factorization: %1").arg(error), V_LOCATION);
+
+    call(/*phase=*/22, values, &dummy, &dummy);
+    if (error != 0)
+        throw VException(QStringLiteral("PARDISO error during numerical factorization: %1").arg(error), V_LOCATION);
+
+    iparm[7] = 2;
+    call(/*phase=*/33, values, b, x);
+    if (error != 0)
+        throw VException(QStringLiteral("PARDISO error during solution: %1").arg(error), V_LOCATION);
+
+    call(/*phase=*/-1, &dummy, &dummy, &dummy);
+}

@@ -1,0 +1,195 @@
+#include "mkl.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <memory>
+#include <new>
+#include <vector>
+
+#include "MumpsFactors.h"
+#include "SparseRows.h"
+
+void *mklMalloc(std::size_t bytes, int alignment)
+{
+    if (bytes == 0 || alignment <= 0)
+        return nullptr;
+    void *block = nullptr;
+    const std::size_t least = std::max(std::size_t(alignment), sizeof(void *));
+    return posix_memalign(&block, least, bytes) == 0 ? block : nullptr;
+}
+
+void mklFree(void *block)
+{
+    std::free(block);
+}
+
+namespace {
+
+enum Phase : std::int32_t { Analysis = 11, Factorisation = 22, Solution = 33, Release = -1 };
+enum MatrixType : std::int32_t { SymmetricIndefinite = -2, Unsymmetric = 11 };
+
+// A refinement step shrinks the error by about the same factor each time: the first correction relative to the solution shows it.
+// Below 2^-13, the error after that correction is at most 2^-26 of the solution and the next step is lost in rounding to float.
+constexpr double kConverged = 1.0 / 8192;
+// What may be left of the right-hand side when the steps are used up. A system that single precision can factorise at all has
+// lost far more digits of the residual by then; a perturbed singular one keeps about all of it.
+constexpr double kSolved = 1e-3;
+
+/// What `pt` stands for between the phases.
+struct Handle
+{
+    MumpsFactors factors;
+    bool factorised = false;
+};
+
+bool allFinite(const float *values, std::int32_t count)
+{
+    return std::all_of(values, values + count, [](float value) { return std::isfinite(value); });
+}
+
+bool validRows(const SparseRows &matrix)
+{
+    const std::int32_t order = matrix.order;
+    if (matrix.rowStarts[0] != 1)
+        return false;
+    for (std::int32_t row = 0; row < order; ++row) {
+        const std::int32_t first = matrix.rowStarts[row] - 1;
+        const std::int32_t last = matrix.rowStarts[row + 1] - 1;
+        if (last < first)
+            return false;
+        std::int32_t lowest = matrix.symmetric ? row + 1 : 1;
+        for (std::int32_t cell = first; cell < last; ++cell) {
+            if (matrix.columns[cell] < lowest || matrix.columns[cell] > order)
+                return false;
+            lowest = matrix.columns[cell] + 1;
+        }
+    }
+    return true;
+}
+
+double largest(const std::vector<double> &values)
+{
+    double result = 0.0;
+    for (const double value : values)
+        result = std::max(result, std::fabs(value));
+    return result;
+}
+
+/// residual = b - A x
+void formResidual(const SparseRows &matrix, const float *b, const std::vector<double> &x, std::vector<double> &residual)
+{
+    std::copy(b, b + matrix.order, residual.begin());
+    for (std::int32_t row = 0; row < matrix.order; ++row) {
+        double sum = 0.0;
+        const std::int32_t last = matrix.rowStarts[row + 1] - 1;
+        for (std::int32_t cell = matrix.rowStarts[row] - 1; cell < last; ++cell) {
+            const std::int32_t column = matrix.columns[cell] - 1;
+            const double value = matrix.values[cell];
+            sum += value * x[std::size_t(column)];
+            if (matrix.symmetric && column != row)
+                residual[std::size_t(column)] -= value * x[std::size_t(row)];
+        }
+        residual[std::size_t(row)] -= sum;
+    }
+}
+
+std::int32_t solveRefined(Handle &handle, const SparseRows &matrix, std::int32_t mostSteps, const float *b, float *x)
+{
+    const auto order = std::size_t(matrix.order);
+    if (!allFinite(b, matrix.order))
+        return PardisoNotFinite;
+
+    std::vector<float> part(b, b + order);
+    std::vector<double> solution(order, 0.0);
+    std::vector<double> residual(order);
+    const auto addPart = [&]() -> std::int32_t {
+        if (const std::int32_t code = handle.factors.solve(part.data()))
+            return code;
+        if (!allFinite(part.data(), matrix.order))
+            return PardisoNotFinite;
+        for (std::size_t i = 0; i < order; ++i)
+            solution[i] += double(part[i]);
+        return 0;
+    };
+
+    if (const std::int32_t code = addPart())
+        return code;
+    bool converged = mostSteps <= 0;
+    for (std::int32_t step = 0; step < mostSteps && !converged; ++step) {
+        formResidual(matrix, b, solution, residual);
+        std::transform(residual.begin(), residual.end(), part.begin(), [](double value) { return float(value); });
+        if (const std::int32_t code = addPart())
+            return code;
+        const double correction = std::fabs(*std::max_element(
+            part.begin(), part.end(), [](float left, float right) { return std::fabs(left) < std::fabs(right); }));
+        converged = correction <= kConverged * largest(solution);
+    }
+    if (!converged) {
+        formResidual(matrix, b, solution, residual);
+        const double given = std::fabs(
+            *std::max_element(b, b + order, [](float left, float right) { return std::fabs(left) < std::fabs(right); }));
+        if (!(largest(residual) <= kSolved * given))
+            return PardisoSingular;
+    }
+
+    if (!(largest(solution) <= double(std::numeric_limits<float>::max())))
+        return PardisoNotFinite;
+    std::transform(solution.begin(), solution.end(), x, [](double value) { return float(value); });
+    return 0;
+}
+
+} // namespace
+
+void pardiso(void *pt, const std::int32_t *, const std::int32_t *, const std::int32_t *mtype, const std::int32_t *phase,
+             const std::int32_t *n, const void *a, const std::int32_t *ia, const std::int32_t *ja, std::int32_t *,
+             const std::int32_t *nrhs, std::int32_t *iparm, const std::int32_t *, const void *b, void *x, std::int32_t *error)
+{
+    // The first word of `pt` owns the handle; the others stay zero.
+    auto *&word = *static_cast<Handle **>(pt);
+    std::unique_ptr<Handle> handle(word);
+    word = nullptr;
+    *error = 0;
+    if (*phase == Release)
+        return;
+
+    const SparseRows matrix{*mtype == SymmetricIndefinite, *n, static_cast<const float *>(a), ia, ja};
+    const auto run = [&]() -> std::int32_t {
+        if ((*mtype != SymmetricIndefinite && *mtype != Unsymmetric) || *n < 1 || *nrhs != 1 || iparm[27] != 1 || iparm[34] != 0)
+            return PardisoBadInput;
+        switch (*phase) {
+        case Analysis:
+            if (handle || !validRows(matrix))
+                return PardisoBadInput;
+            handle = std::make_unique<Handle>();
+            return handle->factors.analyse(matrix);
+        case Factorisation: {
+            if (!handle)
+                return PardisoBadInput;
+            if (!allFinite(matrix.values, matrix.count()))
+                return PardisoNotFinite;
+            const std::int32_t code = handle->factors.factorise(matrix, std::pow(10.0F, float(-iparm[9])));
+            handle->factorised = code == 0;
+            if (code == 0 && iparm[17] < 0) {
+                constexpr std::int64_t highest = std::numeric_limits<std::int32_t>::max();
+                iparm[17] = std::int32_t(std::min(handle->factors.entryCount(), highest));
+            }
+            return code;
+        }
+        case Solution:
+            if (!handle || !handle->factorised)
+                return PardisoBadInput;
+            return solveRefined(*handle, matrix, iparm[7], static_cast<const float *>(b), static_cast<float *>(x));
+        default:
+            return PardisoBadInput;
+        }
+    };
+    try {
+        *error = run();
+    } catch (const std::bad_alloc &) {
+        *error = PardisoNoMemory;
+    }
+    if (*error == 0)
+        word = handle.release();
+}

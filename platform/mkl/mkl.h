@@ -3,22 +3,43 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The solver layer: a sparse direct solver and aligned memory.
+/// The solver layer: a sparse direct solver and aligned memory. Safe to call from several threads at once, each with its own
+/// arguments.
 
-/// A block of `bytes` bytes at an address that is a multiple of `alignment` (a power of 2); null for 0 bytes and when it can't be had.
+/// A block of `bytes` bytes at an address that is a multiple of `alignment` (a power of 2); null for 0 bytes and when it can't be
+/// had.
 void *mklMalloc(std::size_t bytes, int alignment);
 /// Releases a block of mklMalloc; null is allowed.
 void mklFree(void *block);
 
+/// The codes of `pardiso`, all negative.
+enum PardisoError : std::int32_t {
+    PardisoBadInput = -1,  ///< Parameters, compressed rows that are not as described, or a phase out of its order.
+    PardisoNoMemory = -2,  ///< Not enough memory.
+    PardisoSingular = -4,  ///< A pivot is zero, or the matrix is so near to singular that refinement finds no solution.
+    PardisoInternal = -5,  ///< The solver underneath failed for another reason.
+    PardisoNotFinite = -6, ///< The matrix, the right-hand side or the solution holds a not-a-number or an infinity.
+};
+
 /// Sparse direct solution of A x = b, in phases; every argument by address.
 ///
 /// `pt` holds 64 pointer-sized words, all zero before phase 11; the layer's own until phase -1. `mtype` is -2 (real symmetric
-/// indefinite, upper triangle given) or 11 (real unsymmetric). `phase` is 11 (analysis), 22 (numerical factorisation), 33 (solution
-/// with refinement; one right-hand side) or -1 (release). `n` is the order; `a`, `ia`, `ja` are compressed rows with one-based
-/// indices and rising columns, single precision; `iparm` holds 64 settings (see mkl.cpp for those that count). `b` is read and `x`
-/// written in phase 33, n floats each. `maxfct`, `mnum`, `perm` and `msglvl` are taken for their places alone.
+/// indefinite, upper triangle given) or 11 (real unsymmetric). `phase` is 11 (analysis), 22 (numerical factorisation), 33
+/// (solution with refinement; one right-hand side) or -1 (release); the matrix is the same in the first three. `n` is the order,
+/// at least 1; `a`, `ia`, `ja` are compressed rows with one-based indices and rising columns, single precision. `b` is read and
+/// `x` written in phase 33, n floats each that don't overlap; x is untouched after an error. `maxfct`, `mnum`, `perm` and
+/// `msglvl` are taken for their places alone.
 ///
-/// `*error` is 0, or negative; after an error everything that `pt` stood for is released and `pt` is zero again.
+/// `iparm` holds 64 settings, of which these count:
+///   [7]   most steps of iterative refinement, with residuals formed in double. Phase 33 stops earlier when the next correction
+///         would be lost in the rounding of x.
+///   [9]   pivots are perturbed below 10 to the power of minus this, relative to the scaled matrix.
+///   [17]  if negative: set to the entries of the factors, in phase 22 (what exceeds an int reads as the highest one).
+///   [27]  must be 1, single precision.
+///   [34]  must be 0, one-based indices.
+///
+/// `*error` is 0, or a PardisoError; after an error everything that `pt` stood for is released and `pt` is zero again.
 void pardiso(void *pt, const std::int32_t *maxfct, const std::int32_t *mnum, const std::int32_t *mtype, const std::int32_t *phase,
              const std::int32_t *n, const void *a, const std::int32_t *ia, const std::int32_t *ja, std::int32_t *perm,
-             const std::int32_t *nrhs, std::int32_t *iparm, const std::int32_t *msglvl, const void *b, void *x, std::int32_t *error);
+             const std::int32_t *nrhs, std::int32_t *iparm, const std::int32_t *msglvl, const void *b, void *x,
+             std::int32_t *error);

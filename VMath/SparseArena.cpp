@@ -1,0 +1,88 @@
+#include "SparseArena.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include <sys/mman.h>
+
+namespace {
+
+constexpr std::size_t kHugePage = std::size_t(2) << 20;
+// A region is address space until it is touched, so that it may be large; a piece is what a thread may leave unused.
+constexpr std::size_t kRegionBytes = std::size_t(64) << 20;
+constexpr std::size_t kPieceBytes = std::size_t(256) << 10;
+
+unsigned numberOfThisThread()
+{
+    static std::atomic<unsigned> threads{0};
+    static thread_local const unsigned number = threads.fetch_add(1, std::memory_order_relaxed);
+    return number;
+}
+
+} // namespace
+
+SparseArena::~SparseArena()
+{
+    for (const Region &region : regions)
+        munmap(region.memory, region.bytes);
+}
+
+void *SparseArena::take(Piece &piece, std::size_t bytes, std::size_t alignment)
+{
+    const std::size_t gap = -reinterpret_cast<std::uintptr_t>(piece.next) & (alignment - 1);
+    const auto left = std::size_t(piece.end - piece.next);
+    if (left < gap || left - gap < bytes)
+        return nullptr;
+    char *block = piece.next + gap;
+    piece.next = block + bytes;
+    return block;
+}
+
+void *SparseArena::allocate(std::size_t bytes, std::size_t alignment)
+{
+    Slot &slot = slots[numberOfThisThread() % slots.size()];
+    while (slot.taken.test_and_set(std::memory_order_acquire)) {
+    }
+    struct Opener
+    {
+        std::atomic_flag &flag;
+        ~Opener() { flag.clear(std::memory_order_release); }
+    } opener{slot.taken};
+
+    void *block = take(slot.piece, bytes, alignment);
+    if (block == nullptr) {
+        // A large block leaves the thread its piece.
+        Piece fresh = cut(bytes);
+        block = take(fresh, bytes, alignment);
+        if (fresh.end - fresh.next > slot.piece.end - slot.piece.next)
+            slot.piece = fresh;
+    }
+    return block;
+}
+
+SparseArena::Piece SparseArena::cut(std::size_t bytes)
+{
+    // Pieces start on pages, so that any alignment asked for is met at once.
+    constexpr std::size_t kPage = 4096;
+    if (bytes > std::size_t(-1) / 2)
+        throw std::bad_alloc();
+    const std::size_t wanted = std::max(kPieceBytes, (bytes + kPage - 1) / kPage * kPage);
+
+    const std::lock_guard<std::mutex> guard(lock);
+    if (std::size_t(rest.end - rest.next) < wanted) {
+        // One huge page more than needed, to start on the border of one.
+        const std::size_t usable = std::max(kRegionBytes, wanted);
+        const std::size_t mapped = usable + kHugePage;
+        regions.reserve(regions.size() + 1);
+        void *memory = mmap(nullptr, mapped, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        if (memory == MAP_FAILED)
+            throw std::bad_alloc();
+        regions.push_back({static_cast<char *>(memory), mapped});
+        char *start = static_cast<char *>(memory) + (-reinterpret_cast<std::uintptr_t>(memory) & (kHugePage - 1));
+        madvise(start, usable, MADV_HUGEPAGE); // a wish: without huge pages it is only slower
+        rest = {start, start + usable};
+    }
+    const Piece piece{rest.next, rest.next + wanted};
+    rest.next += wanted;
+    return piece;
+}

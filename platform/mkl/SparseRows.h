@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+
+/// A matrix as the caller of the layer holds it: compressed rows, one-based, columns rising strictly. Owns nothing.
+struct SparseRows
+{
+    bool symmetric; ///< Only the upper triangle with the diagonal is given.
+    std::int32_t order;
+    const float *values;
+    const std::int32_t *rowStarts;
+    const std::int32_t *columns;
+
+    std::int32_t count() const { return rowStarts[order] - 1; }
+};

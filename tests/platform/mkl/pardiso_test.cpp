@@ -1,0 +1,330 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <random>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <omp.h>
+
+#include "MattingSystem.h"
+#include "mkl.h"
+
+namespace {
+
+using Dense = std::vector<std::vector<float>>;
+
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+
+TestRows fromDense(bool symmetric, const Dense &dense)
+{
+    TestRows result;
+    result.order = std::int32_t(dense.size());
+    result.symmetric = symmetric;
+    for (std::size_t row = 0; row < dense.size(); ++row) {
+        for (std::size_t column = symmetric ? row : 0; column < dense.size(); ++column)
+            if (dense[row][column] != 0.0F)
+                result.add(std::int32_t(column), dense[row][column]);
+        result.endRow();
+    }
+    return result;
+}
+
+/// The calls of one solve; public fields are what a test bends.
+struct Calls
+{
+    explicit Calls(const TestRows &rows) : matrix(rows), x(std::size_t(rows.order), -7.0F)
+    {
+        iparm[7] = 2;
+        iparm[9] = rows.symmetric ? 8 : 13;
+        iparm[27] = 1;
+    }
+    ~Calls() { phase(-1); }
+    Calls(const Calls &) = delete;
+    Calls &operator=(const Calls &) = delete;
+
+    std::int32_t phase(std::int32_t number)
+    {
+        const std::int32_t one = 1, zero = 0, type = matrix.symmetric ? -2 : 11;
+        std::int32_t perm = 0, error = 99;
+        pardiso(pt.data(), &one, &one, &type, &number, &matrix.order, matrix.values.data(), matrix.rowStarts.data(),
+                matrix.columns.data(), &perm, &one, iparm.data(), &zero, b.data(), x.data(), &error);
+        return error;
+    }
+    /// The first error of the three phases.
+    std::int32_t solve(const std::vector<float> &rightHandSide)
+    {
+        b = rightHandSide;
+        for (const std::int32_t number : {11, 22, 33})
+            if (const std::int32_t code = phase(number))
+                return code;
+        return 0;
+    }
+    bool released() const
+    {
+        return std::all_of(pt.begin(), pt.end(), [](const void *word) { return word == nullptr; });
+    }
+
+    TestRows matrix;
+    std::array<void *, 64> pt = {};
+    std::array<std::int32_t, 64> iparm = {};
+    std::vector<float> b;
+    std::vector<float> x;
+};
+
+double largestDifference(const std::vector<float> &left, const std::vector<double> &right)
+{
+    double result = 0.0;
+    for (std::size_t i = 0; i < left.size(); ++i)
+        result = std::max(result, std::fabs(double(left[i]) - right[i]));
+    return result;
+}
+
+std::vector<float> waves(std::size_t count)
+{
+    std::vector<float> result(count);
+    for (std::size_t i = 0; i < count; ++i)
+        result[i] = 0.001F * float(0.5 + 0.4 * std::sin(0.05 * double(i)));
+    return result;
+}
+
+TEST(Allocator, GivesAlignedBlocksOrNull)
+{
+    EXPECT_EQ(mklMalloc(0, 128), nullptr);
+    EXPECT_EQ(mklMalloc(std::size_t(-1) / 2, 128), nullptr);
+    mklFree(nullptr);
+    for (const int alignment : {1, 4, 16, 128, 4096}) {
+        void *block = mklMalloc(13, alignment);
+        ASSERT_NE(block, nullptr);
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) % std::uintptr_t(alignment), 0U);
+        mklFree(block);
+    }
+}
+
+TEST(Pardiso, SolvesSmallSystems)
+{
+    const struct
+    {
+        const char *name;
+        bool symmetric;
+        Dense a;
+        std::vector<float> b, x;
+    } systems[] = {
+        {"one_by_one", true, {{0.001F}}, {0.002F}, {2}},
+        {"one_by_one_unsymmetric", false, {{-4}}, {2}, {-0.5F}},
+        {"diagonal", true, {{2, 0, 0}, {0, 0.5F, 0}, {0, 0, 8}}, {2, 1, 4}, {1, 2, 0.5F}},
+        {"definite", true, {{4, 1, 0}, {1, 3, 1}, {0, 1, 2}}, {6, 10, 8}, {1, 2, 3}},
+        {"negative_definite", true, {{-4, 1}, {1, -2}}, {-2, -3}, {1, 2}},
+        {"indefinite_with_zero_diagonal", true, {{0, 1}, {1, 0}}, {2, 3}, {3, 2}},
+        {"indefinite", true, {{1, 2, 0}, {2, 1, 3}, {0, 3, 1}}, {5, 13, 9}, {1, 2, 3}},
+        {"unsymmetric", false, {{1, 2}, {3, 4}}, {5, 11}, {1, 2}},
+        {"unsymmetric_with_zero_diagonal", false, {{0, 2, 0}, {0, 0, 3}, {4, 0, 0}}, {4, 9, 4}, {1, 2, 3}},
+    };
+    for (const auto &system : systems) {
+        SCOPED_TRACE(system.name);
+        Calls calls(fromDense(system.symmetric, system.a));
+        ASSERT_EQ(calls.solve(system.b), 0);
+        for (std::size_t i = 0; i < system.x.size(); ++i)
+            EXPECT_FLOAT_EQ(calls.x[i], system.x[i]);
+        EXPECT_EQ(calls.phase(-1), 0);
+        EXPECT_TRUE(calls.released());
+    }
+}
+
+TEST(Pardiso, ErrorsReleaseEverythingAndLeaveTheSolution)
+{
+    const struct
+    {
+        const char *name;
+        bool symmetric;
+        Dense a;
+        std::vector<float> b;
+        std::int32_t code;
+    } systems[] = {
+        {"zero_row", true, {{1, 0, 0}, {0, 0, 0}, {0, 0, 1}}, {1, 1, 1}, PardisoSingular},
+        {"zero_row_unsymmetric", false, {{1, 2}, {0, 0}}, {1, 1}, PardisoSingular},
+        {"no_cells", true, {{0}}, {1}, PardisoSingular},
+        {"dependent_rows", true, {{1, 1}, {1, 1}}, {1, 0}, PardisoSingular},
+        {"dependent_rows_unsymmetric", false, {{1, 2}, {2, 4}}, {1, 0}, PardisoSingular},
+        {"not_a_number", true, {{1, kNaN}, {kNaN, 1}}, {1, 1}, PardisoNotFinite},
+        {"not_a_number_unsymmetric", false, {{1, kNaN}, {2, 1}}, {1, 1}, PardisoNotFinite},
+        {"infinite", true, {{kInfinity}}, {1}, PardisoNotFinite},
+        {"not_a_number_right", true, {{1, 0}, {0, 1}}, {1, kNaN}, PardisoNotFinite},
+        {"infinite_right", true, {{1, 0}, {0, 1}}, {-kInfinity, 1}, PardisoNotFinite},
+        {"solution_out_of_range", true, {{1e-30F}}, {1e30F}, PardisoNotFinite},
+    };
+    for (const auto &system : systems) {
+        SCOPED_TRACE(system.name);
+        Calls calls(fromDense(system.symmetric, system.a));
+        EXPECT_EQ(calls.solve(system.b), system.code);
+        EXPECT_TRUE(calls.released());
+        EXPECT_THAT(calls.x, testing::Each(-7.0F));
+    }
+}
+
+TEST(Pardiso, RefusesWhatItCannotRead)
+{
+    const TestRows good = fromDense(true, {{2, 1}, {1, 2}});
+    const struct
+    {
+        const char *name;
+        void (*bend)(Calls &calls);
+    } faults[] = {
+        {"no_rows", [](Calls &calls) { calls.matrix.order = 0; }},
+        {"zero_based",
+         [](Calls &calls) {
+             calls.matrix.rowStarts = {0, 2, 3};
+         }},
+        {"falling_row_starts",
+         [](Calls &calls) {
+             calls.matrix.rowStarts = {1, 4, 3};
+         }},
+        {"falling_columns",
+         [](Calls &calls) {
+             calls.matrix.columns = {2, 1, 2};
+         }},
+        {"column_out_of_range",
+         [](Calls &calls) {
+             calls.matrix.columns = {1, 3, 2};
+         }},
+        {"lower_triangle",
+         [](Calls &calls) {
+             calls.matrix.columns = {1, 2, 1};
+         }},
+        {"double_precision", [](Calls &calls) { calls.iparm[27] = 0; }},
+        {"zero_based_setting", [](Calls &calls) { calls.iparm[34] = 1; }},
+    };
+    for (const auto &fault : faults) {
+        SCOPED_TRACE(fault.name);
+        Calls calls(good);
+        fault.bend(calls);
+        EXPECT_EQ(calls.phase(11), PardisoBadInput);
+        EXPECT_TRUE(calls.released());
+    }
+    for (const std::int32_t tooEarly : {22, 33, 12}) {
+        Calls calls(good);
+        EXPECT_EQ(calls.phase(tooEarly), PardisoBadInput) << tooEarly;
+    }
+    Calls calls(good);
+    calls.b = {3, 3};
+    EXPECT_EQ(calls.phase(11), 0);
+    EXPECT_EQ(calls.phase(33), PardisoBadInput) << "a solution before the factors";
+    EXPECT_TRUE(calls.released());
+}
+
+// Diagonals above the sum of their rows make the systems well conditioned, so that one rounding to float is what is left.
+TEST(Pardiso, SolvesRandomPatternsAsGaussInDouble)
+{
+    std::mt19937 random(5);
+    for (const bool symmetric : {true, false}) {
+        for (const std::size_t order : {std::size_t(1), std::size_t(2), std::size_t(17), std::size_t(96), std::size_t(301)}) {
+            for (const bool indefinite : {false, true}) {
+                SCOPED_TRACE(std::to_string(order) + (symmetric ? " symmetric" : " unsymmetric") +
+                             (indefinite ? " indefinite" : ""));
+                Dense dense(order, std::vector<float>(order, 0.0F));
+                for (std::size_t i = 0; i < order; ++i) {
+                    // Nothing joins the two halves: the graph falls apart.
+                    for (int k = 0; k < 4; ++k) {
+                        const std::size_t half = order / 2;
+                        const std::size_t j = i < half ? random() % half : half + random() % (order - half);
+                        const float value = float(random() % 2000) / 1000.0F - 1.0F;
+                        dense[i][j] = value;
+                        if (symmetric)
+                            dense[j][i] = value;
+                    }
+                }
+                for (std::size_t i = 0; i < order; ++i) {
+                    float sum = 1.0F;
+                    for (std::size_t j = 0; j < order; ++j)
+                        sum += std::fabs(dense[i][j]);
+                    dense[i][i] = indefinite && i % 3 == 0 ? -sum : sum;
+                }
+                std::vector<double> expected(order);
+                for (std::size_t i = 0; i < order; ++i)
+                    expected[i] = double(i % 7) - 3.0;
+                // The right-hand side is rounded to float: with a small inverse, so is the solution.
+                std::vector<float> b(order);
+                for (std::size_t i = 0; i < order; ++i) {
+                    double sum = 0.0;
+                    for (std::size_t j = 0; j < order; ++j)
+                        sum += double(dense[i][j]) * expected[j];
+                    b[i] = float(sum);
+                }
+                Calls calls(fromDense(symmetric, dense));
+                ASSERT_EQ(calls.solve(b), 0);
+                EXPECT_LT(largestDifference(calls.x, expected), 1e-5);
+            }
+        }
+    }
+}
+
+TEST(Pardiso, SolvesMattingSystemsToFloatPrecision)
+{
+    const struct
+    {
+        int width, height;
+    } sizes[] = {{1, 1}, {2, 50}, {3, 3}, {3, 400}, {5, 211}, {211, 5}, {33, 31}, {97, 64}};
+    for (const auto &size : sizes) {
+        SCOPED_TRACE(std::to_string(size.width) + " x " + std::to_string(size.height));
+        const TestRows matrix = mattingSystem(size.width, size.height, 3);
+        const std::vector<float> b = waves(std::size_t(matrix.order));
+        Calls calls(matrix);
+        ASSERT_EQ(calls.solve(b), 0);
+        // The solution is about 0.5: this is some two roundings of a float there, and no more.
+        EXPECT_LT(largestDifference(calls.x, conjugateGradients(matrix, b)), 2e-7);
+    }
+}
+
+TEST(Pardiso, OneThreadEqualsSeveral)
+{
+    const TestRows matrix = mattingSystem(120, 90, 9);
+    const std::vector<float> b = waves(std::size_t(matrix.order));
+    const int before = omp_get_max_threads();
+    std::vector<std::vector<float>> solutions;
+    for (const int team : {1, 2, 5}) {
+        omp_set_num_threads(team);
+        Calls calls(matrix);
+        ASSERT_EQ(calls.solve(b), 0);
+        solutions.push_back(calls.x);
+    }
+    omp_set_num_threads(before);
+    EXPECT_EQ(solutions[0], solutions[1]);
+    EXPECT_EQ(solutions[0], solutions[2]);
+}
+
+TEST(Pardiso, SeveralCallersAtOnce)
+{
+    // One of a kind that any solver takes, one that needs pivoting.
+    const TestRows matting = mattingSystem(60, 50, 2);
+    TestRows pivoting = matting;
+    for (std::int32_t row = 0; row < pivoting.order; row += 2)
+        pivoting.values[std::size_t(pivoting.rowStarts[std::size_t(row)] - 1)] *= -1.0F;
+    const std::vector<float> b = waves(std::size_t(matting.order));
+
+    const auto solution = [&b](const TestRows &matrix) {
+        Calls calls(matrix);
+        return calls.solve(b) == 0 ? calls.x : std::vector<float>();
+    };
+    const std::vector<float> expected[] = {solution(matting), solution(pivoting)};
+    ASSERT_FALSE(expected[0].empty());
+    ASSERT_FALSE(expected[1].empty());
+
+    std::vector<std::thread> callers;
+    std::array<int, 4> wrong = {};
+    for (std::size_t caller = 0; caller < wrong.size(); ++caller) {
+        callers.emplace_back([&, caller] {
+            for (int round = 0; round < 5; ++round)
+                wrong[caller] += solution(caller % 2 == 0 ? matting : pivoting) == expected[caller % 2] ? 0 : 1;
+        });
+    }
+    for (std::thread &caller : callers)
+        caller.join();
+    EXPECT_THAT(wrong, testing::Each(0));
+}
+
+} // namespace
