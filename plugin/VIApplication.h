@@ -9,8 +9,8 @@ class ImageDef;
 struct VImageContext;
 struct VUIContext;
 
-/// The host, as a plug-in sees it: its application object answers qt_metacast("VIApplication") with this interface. The plug-in asks
-/// for it at each use and keeps no pointer.
+/// The host, as a plug-in sees it: its application object answers qt_metacast("VIApplication") with this interface. The plug-in
+/// asks for it at each use and keeps no pointer.
 class VIApplication
 {
 public:

@@ -11,9 +11,9 @@
 class VIPluginOne2One : public VIPluginProcess
 {
 public:
-    /// Does the whole job for one image and writes the result beside the source. `*outputPath` is set before any pixel is touched.
-    /// Failures leave as VException. Touches no member of the process: any thread, and several runs at once as far as the host's
-    /// ImageDef objects allow.
+    /// Does the whole job for one image and writes the result beside the source. `*outputPath` is set before any pixel is
+    /// touched. Failures leave as VException. Touches no member of the process: any thread, and several runs at once as far as
+    /// the host's ImageDef objects allow.
     virtual void run(QString inputPath, VISettingsHandle settings, QString *outputPath) = 0;
     /// The images that the page edits, each from the host's stored default. Interface thread only, after wizardPage.
     virtual void setImages(QStringList paths) = 0;

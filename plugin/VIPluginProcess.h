@@ -9,8 +9,8 @@ class QWizardPage;
 /// The settings of a process, as the host sees them: a pointer that it keeps and passes back and never looks behind.
 using VISettingsHandle = struct HazeState *;
 
-/// A process of a plug-in: its identity, its page and its settings. Abstract, without data. The order of the operations is part of
-/// the contract.
+/// A process of a plug-in: its identity, its page and its settings. Abstract, without data. The order of the operations is part
+/// of the contract.
 class VIPluginProcess : public VIAbout
 {
 public:

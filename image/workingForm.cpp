@@ -1,0 +1,26 @@
+#include "workingForm.h"
+
+#include "VImage.h"
+
+namespace {
+
+void fillOpaque(VImage &image)
+{
+    const int width = image.Width();
+    for (int y = 0; y < image.Height(); ++y) {
+        auto *pixel = reinterpret_cast<float *>(image.PixelAddress(0, y));
+        for (int x = 0; x < width; ++x, pixel += 4)
+            pixel[3] = 1.0f;
+    }
+}
+
+} // namespace
+
+void toWorkingForm(const VImage &source, VImage &working)
+{
+    if (source.Bitmap() && source.Type() == VImage::Grey && source.BitsPerComponent() == 16) {
+        working.Create(source.Width(), source.Height(), VImage::Rgba, 32);
+        fillOpaque(working);
+    }
+    source.ConvertTo(working, VImage::Rgba, 32);
+}

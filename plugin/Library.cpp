@@ -1,0 +1,67 @@
+#include "Library.h"
+
+#include "NimbraOne2One.h"
+#include "hostApplication.h"
+#include "pluginIdentity.h"
+#include "startLibraries.h"
+
+Library::Library(QObject *parent) : QObject(parent)
+{
+    setObjectName(QStringLiteral("Nimbra"));
+    VIApplication *const app = hostApplication();
+    if (!app)
+        return;
+    app->loadTranslator(QStringLiteral("%1_%2.qm").arg(QStringLiteral("Nimbra")).arg(app->locale().name()));
+    startImageLibrary(app->imageLibraryContext());
+    startInterfaceLibrary(app->interfaceLibraryContext());
+}
+
+Library::~Library()
+{
+    const auto made = madeProcesses;
+    for (const QPointer<QObject> &process : made)
+        delete process.data();
+    stopImageLibrary();
+}
+
+QList<QPointer<QObject>> Library::processes(int create)
+{
+    if (create != 0)
+        madeProcesses.append(new NimbraOne2One(this));
+    return madeProcesses;
+}
+
+QString Library::name()
+{
+    return QStringLiteral("Nimbra");
+}
+
+QString Library::author()
+{
+    return pluginIdentity::author();
+}
+
+QString Library::company()
+{
+    return pluginIdentity::company();
+}
+
+QString Library::description()
+{
+    return tr("Comment"); // the word itself is the whole description
+}
+
+QString Library::version()
+{
+    return pluginIdentity::version();
+}
+
+QIcon Library::icon()
+{
+    return QIcon(pluginIdentity::iconPath());
+}
+
+QString Library::guid()
+{
+    return QStringLiteral("8E04C3B7-2AF1-4D96-A37C-F1B86C05D24E");
+}

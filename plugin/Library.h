@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+
+#include "VIAbout.h"
+#include "VIPluginLibrary.h"
+
+/// What the host gets when it loads the plug-in file: who the plug-in is, and the maker of its processes. One per loaded file.
+///
+/// Made by qt_plugin_instance on the thread that loads the file. If the application object is a host (VIApplication),
+/// construction has the host load the plug-in's catalogue and starts the image library and the interface library with what the
+/// host lends; otherwise the object works in English with nothing started.
+class Library : public QObject, public VIPluginLibrary, public VIAbout
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "com.ombre.haze")
+    Q_INTERFACES(VIPluginLibrary VIAbout)
+
+public:
+    explicit Library(QObject *parent = nullptr);
+    /// Deletes the processes that still live, then stops the image library.
+    ~Library() override;
+
+    QList<QPointer<QObject>> processes(int create) override;
+
+    QString name() override;
+    QString author() override;
+    QString company() override;
+    QString description() override;
+    QString version() override;
+    QIcon icon() override;
+    QString guid() override;
+
+private:
+    QList<QPointer<QObject>> madeProcesses; ///< Oldest first.
+};

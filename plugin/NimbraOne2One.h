@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QMap>
+#include <QObject>
+#include <QPointer>
+
+#include "VIPluginOne2One.h"
+
+class ImageDef;
+class UIHazePage;
+class VImage;
+
+/// The plug-in's process: takes the haze out of one image, at a strength in per cent that is its only setting ("hazeRemove", in
+/// the settings element and in the host's store under this process's GUID).
+class NimbraOne2One : public QObject, public VIPluginOne2One
+{
+    Q_OBJECT
+    Q_INTERFACES(VIPluginOne2One VIPluginProcess VIAbout)
+
+public:
+    /// Reads the host's stored strength into the default settings; 0 without a host.
+    Q_INVOKABLE explicit NimbraOne2One(QObject *parent = nullptr);
+    /// Waits for a preview that still computes, then frees the records of the list and the default. The page stays: it belongs to
+    /// whoever took it, and stands empty.
+    ~NimbraOne2One() override;
+
+    QString name() override;
+    QString author() override;
+    QString company() override;
+    QString description() override;
+    QString version() override;
+    QIcon icon() override;
+    QString guid() override;
+
+    /// Made anew if the host has deleted the one before.
+    QWizardPage *wizardPage() override;
+    void saveDefaults() override;
+    /// The strength is taken as it stands, also outside 0 to 100. An element without the attribute, or with a text that is no
+    /// number, gives 0 and not the host's stored value.
+    VISettingsHandle createSettings(QDomElement element) override;
+    QDomElement settingsToElement(VISettingsHandle settings) override;
+    void copySettings(VISettingsHandle destination, VISettingsHandle source) override;
+    void destroySettings(VISettingsHandle settings) override;
+    QIcon beforeAfterIcon() override;
+    /// The result stands beside the source as <base name><tag>.<suffix in lower case>, the tag being the translated "_dehazed",
+    /// with the source's channels, depth and metadata. An image that the engine leaves alone, for whatever reason, is written all
+    /// the same. Throws VException; then the full image has not been released, and no result exists unless writing had begun.
+    void run(QString inputPath, VISettingsHandle settings, QString *outputPath) override;
+    /// Waits for a preview that still computes. Without a page the records are made all the same.
+    void setImages(QStringList paths) override;
+    QDomElement settingsFor(QString path) override;
+
+    /// What "Apply to all images" chose becomes the default that saveDefaults writes.
+    virtual void setDefaultSettings(HazeState *settings);
+
+    /// The door into the engine (see RemoveHaze.h), for run and for the preview. Reads no member: any thread.
+    void RemoveHaze(VImage &image, HazeState &state);
+
+private:
+    void destroyRecords();
+
+    QMap<ImageDef *, HazeState *> settingsByImage; ///< The record of each image in the current list. Owned.
+    QPointer<UIHazePage> page;                     ///< Not owned.
+    HazeState *defaultSettings;                    ///< Owned; only its strength is used.
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QLabel>
+#include <QList>
+#include <QPixmap>
+#include <QTimer>
+
+/// A label that shows a list of pictures in turn, at a fixed period, for as long as it lives, hidden or not.
+class QAnimatedLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit QAnimatedLabel(QWidget *parent = nullptr);
+
+    /// Starts anew with these picture files; the first one shows after one period, and its size becomes the label's minimum size.
+    /// A file that can't be read stands for an empty picture. An empty list stops the animation at the picture that it shows.
+    void startAnimation(const QStringList &files, int periodMs);
+
+public Q_SLOTS:
+    /// Shows the next picture; after the last comes the first.
+    void changeImage();
+
+private:
+    QList<QPixmap> frames;
+    int frameIndex = 0; ///< Of the next picture.
+    QTimer timer;
+};

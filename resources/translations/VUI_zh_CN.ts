@@ -1,0 +1,22 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>UIImageDefListWizard</name>
+    <message>
+        <source>Next</source>
+        <translation>下一个 </translation>
+    </message>
+    <message>
+        <source>Prev</source>
+        <translation>上一个 </translation>
+    </message>
+</context>
+<context>
+    <name>UIImageDefListWizardClass</name>
+    <message>
+        <source>Apply to all images</source>
+        <translation>应用到所有图片</translation>
+    </message>
+</context>
+</TS>
