@@ -27,7 +27,7 @@ std::int32_t *allocateIndices(std::int32_t count)
 
 VSparseFactory::VSparseFactory(bool symmetricMatrix) : symmetric(symmetricMatrix), rows(SparseAllocator<Row>(arena))
 {
-    rows.grow_to_at_least(std::size_t(rowCapacity), Row(arena));
+    rows.grow_to_at_least(std::size_t(rowCapacity), Row(Row::allocator_type(arena)));
 }
 
 VSparseFactory::~VSparseFactory()
@@ -47,7 +47,7 @@ void VSparseFactory::OpenCell(int row, int column, CellAccessor &cell)
             std::int64_t capacity = rowCapacity;
             while (capacity <= row)
                 capacity *= 2;
-            rows.grow_to_at_least(std::size_t(capacity), Row(arena));
+            rows.grow_to_at_least(std::size_t(capacity), Row(Row::allocator_type(arena)));
             rowCapacity = std::int32_t(std::min<std::int64_t>(capacity, std::numeric_limits<std::int32_t>::max()));
         }
         rowCount = row + 1;
@@ -91,11 +91,10 @@ void VSparseFactory::ToCsr(VSparseMatrix &target) const
 
     // All memory is taken before the team starts: no exception may leave a parallel region.
     const int team = rowCount < kRowsWorthATeam ? 1 : std::max(1, threadCount);
-    std::vector<std::vector<std::pair<std::int32_t, float>>> sorted(std::size_t(team),
-                                                                    std::vector<std::pair<std::int32_t, float>>(longest));
+    std::vector<std::pair<std::int32_t, float>> scratch(std::size_t(team) * longest);
 #pragma omp parallel for num_threads(team) schedule(static)
     for (std::int32_t row = 0; row < rowCount; ++row) {
-        auto *const first = sorted[std::size_t(omp_get_thread_num())].data();
+        auto *const first = scratch.data() + std::size_t(omp_get_thread_num()) * longest;
         auto *last = first;
         for (const auto &cell : rows[std::size_t(row)])
             *last++ = {cell.first, cell.second};
