@@ -1,32 +1,80 @@
 #include "VCpuTopology.h"
 
+#include <system_error>
+#include <thread>
+
 #include <omp.h>
-struct VCpuTopology
-{
-};
+
+#include "countTopology.h"
+
 VCpuTopology *cpuTopology = nullptr;
+
+namespace {
+
+/// The machine's answers, read on a thread that ends with its bindings; none if that could not be done.
+TopologyRecords readOnOwnThread()
+{
+    TopologyRecords records;
+    try {
+        std::thread walker([&records] {
+            try {
+                records = readTopology();
+            } catch (...) { // out of memory: what was read so far is no answer
+            }
+        });
+        walker.join();
+    } catch (const std::system_error &) { // no thread to be had
+    }
+    return records;
+}
+
+bool ensureEnumeration()
+{
+    if (!cpuTopology)
+        return false;
+    if (!cpuTopology->enumerated)
+        countTopology(readOnOwnThread(), *cpuTopology);
+    return cpuTopology->error == 0;
+}
+
+/// The run-time's own count where there is none of ours; at least 1.
+int orThreads(int counted)
+{
+    if (counted > 0)
+        return counted;
+    const int threads = omp_get_max_threads();
+    return threads > 0 ? threads : 1;
+}
+
+} // namespace
+
 void initTopology(VCpuTopology **shared)
 {
-    cpuTopology = shared ? *shared : new VCpuTopology{};
+    cpuTopology = shared ? *shared : new VCpuTopology;
 }
+
 void releaseTopology()
 {
     delete cpuTopology;
     cpuTopology = nullptr;
 }
+
 int coreCountOfMachine()
 {
-    return 0;
+    return ensureEnumeration() ? static_cast<int>(cpuTopology->coreCount) : 0;
 }
+
 int logicalCountOfMachine()
 {
-    return 0;
+    return ensureEnumeration() ? static_cast<int>(cpuTopology->threadCount) : 0;
 }
+
 int physicalCores()
 {
-    return omp_get_max_threads();
+    return orThreads(coreCountOfMachine());
 }
+
 int threadsPerCore()
 {
-    return 1;
+    return orThreads(logicalCountOfMachine()) / orThreads(coreCountOfMachine());
 }

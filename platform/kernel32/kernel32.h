@@ -25,6 +25,7 @@ bool SwitchToThread();
 // next 32 of them, so that a mask of 32 bits addresses each processor of a group.
 constexpr std::uint32_t kProcessorsPerGroup = 32;
 constexpr std::uint32_t kMaximumProcessors = 128; ///< As many as the group calls address.
+constexpr std::uint32_t kMaximumGroups = 256;     ///< As many as the system may have.
 constexpr std::uint16_t kAllProcessorGroups = 0xFFFF;
 constexpr bool kHasProcessorGroups = true; ///< False on a system without the group calls: the plain masks serve there.
 
@@ -45,7 +46,7 @@ struct LogicalProcessorInformation
 {
     std::int32_t relation; ///< Which of the two below is filled.
     std::uint32_t count;   ///< Entries filled, or the number of logical processors for the place of each.
-    ProcessorGroup groups[kMaximumProcessors / kProcessorsPerGroup];
+    ProcessorGroup groups[kMaximumGroups];
     ProcessorPlace places[kMaximumProcessors];
 };
 struct GroupAffinity
@@ -63,7 +64,7 @@ std::uint32_t GetMaximumProcessorCount(std::uint16_t group);
 void GetSystemInfo(SystemInfo *information);
 /// 0 if the processors can't be counted.
 std::uint16_t GetActiveProcessorGroupCount();
-/// Fails if the system has more than kMaximumProcessors, or does not tell the relation.
+/// Fails if the system does not tell the relation, or has more processors or groups than there is room for.
 bool GetLogicalProcessorInformationEx(std::int32_t relation, LogicalProcessorInformation *information);
 
 /// The processors that the process may use, which is what its first thread may use, out of the group that is named in `affinity`.
@@ -77,6 +78,17 @@ bool SetThreadGroupAffinity(const GroupAffinity &affinity);
 bool GetProcessAffinityMask(std::uint32_t *processMask, std::uint32_t *systemMask);
 /// Binds the calling thread to some of the first 32 processors.
 bool SetThreadAffinityMask(std::uint32_t mask);
+
+struct CpuidRegisters
+{
+    std::uint32_t eax;
+    std::uint32_t ebx;
+    std::uint32_t ecx;
+    std::uint32_t edx;
+};
+/// What the CPUID instruction answers on the processor that the calling thread runs on. False, with nothing changed, on another
+/// family of processors.
+bool ReadCpuid(std::uint32_t leaf, std::uint32_t subleaf, CpuidRegisters *registers);
 
 /// How many processors' worth of time the system grants the process (a container's quota), rounded up; 0 for no limit.
 std::uint32_t GetProcessorQuota();

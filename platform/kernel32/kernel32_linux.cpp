@@ -16,6 +16,11 @@
 #include <time.h>
 #include <unistd.h>
 
+#if defined(__x86_64__) || defined(__i386__)
+#    define KERNEL32_HAS_CPUID
+#    include <cpuid.h>
+#endif
+
 namespace {
 
 thread_local std::uint32_t lastError = 0;
@@ -186,7 +191,8 @@ std::uint16_t GetActiveProcessorGroupCount()
 bool GetLogicalProcessorInformationEx(std::int32_t relation, LogicalProcessorInformation *information)
 {
     const std::vector<std::size_t> online = onlineProcessors();
-    if (online.empty() || online.size() > kMaximumProcessors)
+    const std::size_t room = relation == RelationGroup ? kMaximumGroups * kProcessorsPerGroup : kMaximumProcessors;
+    if (online.empty() || online.size() > room)
         return fail(EOVERFLOW);
     *information = {};
     information->relation = relation;
@@ -248,6 +254,19 @@ bool GetProcessAffinityMask(std::uint32_t *processMask, std::uint32_t *systemMas
 bool SetThreadAffinityMask(std::uint32_t mask)
 {
     return SetThreadGroupAffinity({mask, 0});
+}
+
+bool ReadCpuid(std::uint32_t leaf, std::uint32_t subleaf, CpuidRegisters *registers)
+{
+#ifdef KERNEL32_HAS_CPUID
+    __cpuid_count(leaf, subleaf, registers->eax, registers->ebx, registers->ecx, registers->edx);
+    return true;
+#else
+    (void)leaf;
+    (void)subleaf;
+    (void)registers;
+    return fail(ENOTSUP);
+#endif
 }
 
 std::uint32_t GetProcessorQuota()
