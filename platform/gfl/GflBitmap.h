@@ -35,6 +35,6 @@ using GflAllocCallback = void *(*)(std::size_t bytes, void *tag);
 using GflReallocCallback = void *(*)(void *block, std::size_t bytes, void *tag);
 using GflFreeCallback = void (*)(void *block, void *tag);
 
-/// Releases record, pixels, palette, comment, metadata and name, by the free callback that gflLibraryInitEx was given (free() before
-/// it ran). Null is allowed.
+/// Releases record, pixels, palette, comment, metadata and name, by the free callback that gflLibraryInitEx was given (free()
+/// before it ran). Null is allowed.
 void gflFreeBitmap(GflBitmap *bitmap);

@@ -1,0 +1,209 @@
+#include "gfl.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstring>
+#include <exception>
+#include <iterator>
+#include <new>
+#include <string_view>
+
+#include "gflMetadata.h"
+
+namespace gfl {
+namespace {
+
+using namespace std::string_view_literals;
+
+std::atomic<bool> lzwEnabled{true};
+
+struct Format
+{
+    std::string_view name;
+    BitmapPointer (*read)(const ReadRequest &);
+    void (*write)(const WriteRequest &);
+    std::string_view suffixes[4];
+    std::string_view signatures[4];
+};
+
+// In the order of the format indices.
+constexpr Format kFormats[] = {
+    {"jpeg", readJpeg, writeJpeg, {"jpg", "jpeg", "jpe", "jfif"}, {"\xFF\xD8\xFF"sv}},
+    {"png", readPng, writePng, {"png"}, {"\x89PNG\r\n\x1A\n"sv}},
+    {"tiff", readTiff, writeTiff, {"tif", "tiff"}, {"II*\0"sv, "MM\0*"sv, "II+\0"sv, "MM\0+"sv}},
+    {"hdri", readHdr, writeHdr, {"hdr", "pic", "rgbe", "xyze"}, {"#?RADIANCE"sv, "#?RGBE"sv}},
+    {"exr", readExr, writeExr, {"exr"}, {"\x76\x2F\x31\x01"sv}},
+    {"psd", readPsd, writePsd, {"psd", "psb"}, {"8BPS"sv}},
+};
+
+constexpr std::string_view kRawSuffixes[] = {"3fr", "arw", "cr2", "crw", "dcr", "dng", "erf", "iiq", "kdc", "mef", "mos", "mrw",
+                                             "nef", "nrw", "orf", "pef", "ptx", "raf", "rw2", "rwl", "sr2", "srf", "srw"};
+
+constexpr int kRawFormat = -1; // has no name and no index
+constexpr int kNoFormat = -2;
+
+std::string suffixOf(const std::string &fileName)
+{
+    const std::size_t dot = fileName.find_last_of('.');
+    const std::size_t slash = fileName.find_last_of('/');
+    if (dot == std::string::npos || (slash != std::string::npos && slash > dot))
+        return {};
+    std::string suffix = fileName.substr(dot + 1);
+    std::transform(suffix.begin(), suffix.end(), suffix.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return suffix;
+}
+
+int formatOfSuffix(const std::string &suffix)
+{
+    if (suffix.empty())
+        return kNoFormat;
+    for (std::size_t i = 0; i < std::size(kFormats); ++i)
+        if (std::find(std::begin(kFormats[i].suffixes), std::end(kFormats[i].suffixes), suffix) != std::end(kFormats[i].suffixes))
+            return static_cast<int>(i);
+    return std::find(std::begin(kRawSuffixes), std::end(kRawSuffixes), suffix) != std::end(kRawSuffixes) ? kRawFormat : kNoFormat;
+}
+
+// Compares as many bytes as there are: a file that ends within its signature is a truncated one, not one of another type.
+bool startsLike(const Format &format, std::string_view start)
+{
+    return std::any_of(std::begin(format.signatures), std::end(format.signatures), [&](std::string_view signature) {
+        const std::size_t count = std::min(signature.size(), start.size());
+        return count > 0 && signature.substr(0, count) == start.substr(0, count);
+    });
+}
+
+int formatOf(const InputFile &file)
+{
+    char start[16];
+    const std::string_view content(start, file.readAt(0, start, sizeof start));
+    if (content.empty())
+        throw Failure{GFL_ERROR_FILE_READ};
+    const int bySuffix = formatOfSuffix(suffixOf(file.name()));
+    if (bySuffix == kRawFormat)
+        return bySuffix;
+    for (std::size_t i = 0; i < std::size(kFormats); ++i)
+        if (startsLike(kFormats[i], content) && (bySuffix == kNoFormat || bySuffix == static_cast<int>(i)))
+            return static_cast<int>(i);
+    throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
+}
+
+template<class Work>
+int coded(Work work)
+{
+    try {
+        work();
+        return GFL_NO_ERROR;
+    } catch (const Failure &failure) {
+        return failure.code;
+    } catch (const std::bad_alloc &) {
+        return GFL_ERROR_NO_MEMORY;
+    } catch (const std::length_error &) {
+        return GFL_ERROR_NO_MEMORY;
+    } catch (...) {
+        return GFL_ERROR_FILE_READ;
+    }
+}
+
+bool isWritable(const GflBitmap &bitmap)
+{
+    const int bits = bitmap.bitsPerComponent;
+    const int components = bitmap.componentsPerPixel;
+    const unsigned type = components == 1 ? 0x0002u : components == 3 ? 0x0010u : 0x0020u;
+    return bitmap.data && bitmap.width > 0 && bitmap.height > 0 && (bits == 8 || bits == 16 || bits == 32) &&
+           (components == 1 || components == 3 || components == 4) && bitmap.type == type && bitmap.origin == 0 &&
+           bitmap.bytesPerLine >= std::uint64_t(bitmap.width) * unsigned(components) * unsigned(bits / 8);
+}
+
+} // namespace
+} // namespace gfl
+
+int gflLibraryInitEx(GflAllocCallback alloc, GflReallocCallback realloc, GflFreeCallback free, void *user)
+{
+    // Blocks of two heaps must not meet.
+    const bool all = alloc && realloc && free;
+    if (!all && (alloc || realloc || free))
+        return GFL_ERROR_BAD_PARAMETERS;
+    gfl::setAllocator(alloc, realloc, free, user);
+    return GFL_NO_ERROR;
+}
+
+void gflLibraryExit() {}
+
+void gflEnableLZW(int enable)
+{
+    gfl::lzwEnabled = enable != 0;
+}
+
+int gflGetFormatIndexByName(const char *name)
+{
+    const auto found = std::find_if(std::begin(gfl::kFormats), std::end(gfl::kFormats),
+                                    [&](const gfl::Format &format) { return name && format.name == name; });
+    return found == std::end(gfl::kFormats) ? -1 : static_cast<int>(found - std::begin(gfl::kFormats));
+}
+
+void gflGetDefaultSaveParams(GflSaveParams *params)
+{
+    if (params)
+        *params = {0, 0, GFL_DEFAULT, GFL_DEFAULT};
+}
+
+void gflGetDefaultLoadParams(GflLoadParams *params)
+{
+    if (!params)
+        return;
+    *params = {};
+    params->rawUseCameraBalance = 1;
+    params->rawGamma = 2.2f;
+    params->rawBrightness = 2.5f;
+    params->rawRedScaling = 1.0f;
+    params->rawBlueScaling = 1.0f;
+}
+
+int gflLoadBitmapUTF8(const char *fileName, GflBitmap **bitmap, const GflLoadParams *params, GflFileInformation *information)
+{
+    if (!fileName || !bitmap)
+        return GFL_ERROR_BAD_PARAMETERS;
+    *bitmap = nullptr;
+    return gfl::coded([&] {
+        const gfl::InputFile file(fileName);
+        const int index = gfl::formatOf(file);
+        const std::uint32_t flags = params ? params->flags : 0;
+        const bool only = (flags & GFL_LOAD_METADATA_ONLY) != 0;
+        const gfl::ReadRequest request{file, only || (flags & GFL_LOAD_METADATA) != 0, !only};
+        gfl::BitmapPointer read = index == gfl::kRawFormat ? gfl::readRaw(request) : gfl::kFormats[index].read(request);
+        if (gfl::Metadata *metadata = gfl::metadataOf(read.get()))
+            if (!gfl::profileFits(metadata->icc, read->componentsPerPixel))
+                metadata->icc.clear();
+        if (information)
+            *information = {index, read->width, read->height, read->bitsPerComponent, read->componentsPerPixel};
+        *bitmap = read.release();
+    });
+}
+
+int gflSaveBitmapUTF8(const char *fileName, const GflBitmap *bitmap, const GflSaveParams *params)
+{
+    if (!fileName || !params)
+        return GFL_ERROR_BAD_PARAMETERS;
+    if (!bitmap || !gfl::isWritable(*bitmap))
+        return GFL_ERROR_BAD_BITMAP;
+    if (params->formatIndex < 0 || params->formatIndex >= static_cast<int>(std::size(gfl::kFormats)))
+        return GFL_ERROR_BAD_FORMAT_INDEX;
+    return gfl::coded([&] {
+        static const gfl::Metadata kNone;
+        const gfl::Metadata *attached = gfl::metadataOf(bitmap);
+        const gfl::Metadata &metadata = attached ? *attached : kNone;
+        const bool profile =
+            (params->flags & GFL_SAVE_ICC_PROFILE) != 0 && gfl::profileFits(metadata.icc, bitmap->componentsPerPixel);
+        gfl::OutputFile file(fileName);
+        gfl::kFormats[params->formatIndex].write({file, *bitmap, params->quality, params->compression, gfl::lzwEnabled,
+                                                  profile ? metadata.icc : kNone.icc, metadata.iptc.block, metadata.exif.block});
+        file.commit();
+    });
+}
+
+void gflFreeFileInformation(GflFileInformation *information)
+{
+    if (information)
+        *information = {};
+}

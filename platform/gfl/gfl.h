@@ -10,10 +10,10 @@
 /// Result codes.
 enum GflCode : int {
     GFL_NO_ERROR = 0,
-    GFL_ERROR_FILE_OPEN = 1,      ///< The file can't be opened for reading.
-    GFL_ERROR_FILE_READ = 2,      ///< Empty, truncated or damaged.
-    GFL_ERROR_FILE_CREATE = 3,    ///< The file to write can't be created.
-    GFL_ERROR_FILE_WRITE = 4,     ///< Writing failed: a full disk, for instance.
+    GFL_ERROR_FILE_OPEN = 1,   ///< The file can't be opened for reading.
+    GFL_ERROR_FILE_READ = 2,   ///< Empty, truncated or damaged.
+    GFL_ERROR_FILE_CREATE = 3, ///< The file to write can't be created.
+    GFL_ERROR_FILE_WRITE = 4,  ///< Writing failed: a full disk, for instance.
     GFL_ERROR_NO_MEMORY = 5,
     GFL_ERROR_UNKNOWN_FORMAT = 6, ///< The content is none of the formats, or not the one that the suffix names.
     GFL_ERROR_BAD_BITMAP = 7,     ///< The bitmap holds no pixels, or has a form that no format takes.
@@ -23,7 +23,21 @@ enum GflCode : int {
 
 constexpr std::uint32_t GFL_SAVE_ICC_PROFILE = 0x00000008; ///< Save flag: write the colour profile that is attached.
 constexpr std::uint32_t GFL_LOAD_METADATA = 0x00000400;    ///< Load flag: read colour profile, IPTC and EXIF.
+/// Load flag: the same, and leave the pixels unread. The header is tested as ever, the bitmap has the file's size and form and
+/// null `data`, and the work does not grow with the picture. Damage among the pixels goes unnoticed.
+constexpr std::uint32_t GFL_LOAD_METADATA_ONLY = 0x00000800;
 
+constexpr std::int16_t GFL_DEFAULT = -1; ///< In `compression` and `quality`: what the format does best; see GflSaveParams.
+
+/// Each format looks at one of the two fields, and negative values stand for its default.
+///
+/// | format | field       | values                                                                    | default       |
+/// | jpeg   | quality     | 1..100 (others go to the nearest), always 4:4:4                           | 92            |
+/// | png    | compression | 0 (stored) .. 9 (smallest; so are larger values)                          | 3             |
+/// | tiff   | compression | 0 none, 2 LZW (none unless enabled), 4 deflate; else BAD_PARAMETERS       | 0             |
+/// | hdri   | compression | 0 none, else run lengths                                                  | run lengths   |
+/// | psd    | compression | 0 none, else run lengths                                                  | run lengths   |
+/// | exr    | compression | OpenEXR's own numbers, 0 (none) .. 7 (B44A); else BAD_PARAMETERS          | 3 (zip)       |
 struct GflSaveParams
 {
     std::uint32_t flags;
@@ -69,13 +83,13 @@ int gflGetFormatIndexByName(const char *name);
 void gflGetDefaultSaveParams(GflSaveParams *params);
 void gflGetDefaultLoadParams(GflLoadParams *params);
 
-/// Reads a file into a new bitmap, which the caller releases with gflFreeBitmap; `information` may be null. The bitmap has the form
-/// that is nearest to the file's own (grey, RGB or RGBA; 8, 16 bits or float), its rows aligned to 4 bytes, top to bottom, with no
-/// orientation applied. On an error `*bitmap` is null.
+/// Reads a file into a new bitmap, which the caller releases with gflFreeBitmap; `information` may be null. The bitmap has the
+/// form that is nearest to the file's own (grey, RGB or RGBA; 8, 16 bits or float), its rows aligned to 4 bytes, top to bottom,
+/// with no orientation applied. On an error `*bitmap` is null.
 int gflLoadBitmapUTF8(const char *fileName, GflBitmap **bitmap, const GflLoadParams *params, GflFileInformation *information);
 
-/// Writes a bitmap, by way of a temporary file beside `fileName` that takes its place when it is whole: an error leaves what stood
-/// under the name as it was.
+/// Writes a bitmap, by way of a temporary file beside `fileName` that takes its place when it is whole: an error leaves what
+/// stood under the name as it was.
 int gflSaveBitmapUTF8(const char *fileName, const GflBitmap *bitmap, const GflSaveParams *params);
 
 void gflFreeFileInformation(GflFileInformation *information);

@@ -1,0 +1,246 @@
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "gflCodec.h"
+
+namespace gfl {
+namespace {
+
+constexpr std::size_t kBufferBytes = 64 * 1024;
+
+struct FreeDelete
+{
+    void operator()(char *text) const { std::free(text); }
+};
+
+bool writeAll(int descriptor, const std::uint8_t *bytes, std::size_t count, std::uint64_t offset) noexcept
+{
+    while (count > 0) {
+        const ssize_t written = ::pwrite(descriptor, bytes, count, static_cast<off_t>(offset));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes += written;
+        count -= static_cast<std::size_t>(written);
+        offset += static_cast<std::uint64_t>(written);
+    }
+    return true;
+}
+
+} // namespace
+
+InputFile::InputFile(const char *name) : fileName(name)
+{
+    // Without O_NONBLOCK a pipe would wait for its writer.
+    descriptor = ::open(name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    struct stat status;
+    if (descriptor < 0 || ::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        if (descriptor >= 0)
+            ::close(descriptor);
+        throw Failure{GFL_ERROR_FILE_OPEN};
+    }
+    fileSize = static_cast<std::uint64_t>(status.st_size);
+}
+
+InputFile::~InputFile()
+{
+    ::close(descriptor);
+}
+
+std::size_t InputFile::readAt(std::uint64_t offset, void *target, std::size_t bytes) const noexcept
+{
+    auto *to = static_cast<std::uint8_t *>(target);
+    std::size_t done = 0;
+    while (done < bytes && offset + done < fileSize) {
+        const ssize_t got = ::pread(descriptor, to + done, bytes - done, static_cast<off_t>(offset + done));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            break;
+        done += static_cast<std::size_t>(got);
+    }
+    return done;
+}
+
+Bytes InputFile::bytesAt(std::uint64_t offset, std::uint64_t bytes) const
+{
+    if (offset > fileSize || bytes > fileSize - offset)
+        throw Failure{GFL_ERROR_FILE_READ};
+    Bytes result(static_cast<std::size_t>(bytes));
+    if (readAt(offset, result.data(), result.size()) != result.size())
+        throw Failure{GFL_ERROR_FILE_READ};
+    return result;
+}
+
+InputStream::InputStream(const InputFile &source, std::uint64_t start) : file(source), buffer(kBufferBytes), bufferStart(start) {}
+
+bool InputStream::fill() noexcept
+{
+    bufferStart += filled;
+    position = 0;
+    filled = file.readAt(bufferStart, buffer.data(), buffer.size());
+    return filled > 0;
+}
+
+bool InputStream::tryRead(void *target, std::size_t bytes) noexcept
+{
+    auto *to = static_cast<std::uint8_t *>(target);
+    while (bytes > 0) {
+        if (position == filled && bytes >= buffer.size()) {
+            bufferStart += filled;
+            position = filled = 0;
+            const std::size_t got = file.readAt(bufferStart, to, bytes);
+            bufferStart += got;
+            return got == bytes;
+        }
+        if (position == filled && !fill())
+            return false;
+        const std::size_t part = std::min(bytes, filled - position);
+        std::memcpy(to, buffer.data() + position, part);
+        position += part;
+        to += part;
+        bytes -= part;
+    }
+    return true;
+}
+
+void InputStream::read(void *target, std::size_t bytes)
+{
+    if (!tryRead(target, bytes))
+        throw Failure{GFL_ERROR_FILE_READ};
+}
+
+std::pair<const std::uint8_t *, std::size_t> InputStream::block()
+{
+    if (position == filled)
+        fill();
+    const std::size_t start = position;
+    position = filled;
+    return {buffer.data() + start, filled - start};
+}
+
+void InputStream::seek(std::uint64_t target)
+{
+    if (target >= bufferStart && target <= bufferStart + filled) {
+        position = static_cast<std::size_t>(target - bufferStart);
+    } else {
+        bufferStart = target;
+        position = filled = 0;
+    }
+}
+
+OutputFile::OutputFile(const char *fileName) : buffer(kBufferBytes)
+{
+    if (!fileName || !*fileName)
+        throw Failure{GFL_ERROR_FILE_CREATE};
+    const std::unique_ptr<char, FreeDelete> resolved(::realpath(fileName, nullptr));
+    target = resolved ? resolved.get() : fileName;
+
+    struct stat old;
+    const bool exists = ::stat(target.c_str(), &old) == 0;
+    // Renaming would get past the write protection of the file that it replaces, and put a file in the place of a device.
+    if (exists && (!S_ISREG(old.st_mode) || ::access(target.c_str(), W_OK) != 0))
+        throw Failure{GFL_ERROR_FILE_CREATE};
+
+    // Of a fixed length, so that the longest file name works too.
+    static std::atomic<unsigned> serial{0};
+    const std::string folder = target.substr(0, target.find_last_of('/') + 1);
+    constexpr int kAttempts = 100;
+    for (int attempt = 0; attempt < kAttempts && descriptor < 0; ++attempt) {
+        temporary = folder + ".gfl-" + std::to_string(::getpid()) + "-" + std::to_string(serial++) + ".tmp";
+        descriptor = ::open(temporary.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (descriptor < 0 && errno != EEXIST && errno != EINTR)
+            break;
+    }
+    if (descriptor < 0)
+        throw Failure{GFL_ERROR_FILE_CREATE};
+    if (exists)
+        ::fchmod(descriptor, old.st_mode & 07777); // a file system without modes refuses, which does no harm
+}
+
+OutputFile::~OutputFile()
+{
+    if (descriptor >= 0) {
+        ::close(descriptor);
+        ::unlink(temporary.c_str());
+    }
+}
+
+bool OutputFile::flush() noexcept
+{
+    const bool done = writeAll(descriptor, buffer.data(), used, position);
+    position += used;
+    used = 0;
+    return done;
+}
+
+bool OutputFile::tryWrite(const void *bytes, std::size_t count) noexcept
+{
+    if (count > buffer.size() - used && !flush())
+        return false;
+    if (count >= buffer.size()) {
+        if (!writeAll(descriptor, static_cast<const std::uint8_t *>(bytes), count, position))
+            return false;
+        position += count;
+    } else if (count > 0) {
+        std::memcpy(buffer.data() + used, bytes, count);
+        used += count;
+    }
+    return true;
+}
+
+void OutputFile::write(const void *bytes, std::size_t count)
+{
+    if (!tryWrite(bytes, count))
+        throw Failure{GFL_ERROR_FILE_WRITE};
+}
+
+bool OutputFile::trySeek(std::uint64_t place) noexcept
+{
+    if (place == offset())
+        return true;
+    if (!flush())
+        return false;
+    position = place;
+    return true;
+}
+
+std::uint64_t OutputFile::size() noexcept
+{
+    struct stat status;
+    const std::uint64_t onDisk = ::fstat(descriptor, &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+    return std::max(onDisk, offset());
+}
+
+std::size_t OutputFile::readBack(void *bytes, std::size_t count) noexcept
+{
+    if (!flush())
+        return 0;
+    const ssize_t got = ::pread(descriptor, bytes, count, static_cast<off_t>(position));
+    if (got <= 0)
+        return 0;
+    position += static_cast<std::uint64_t>(got);
+    return static_cast<std::size_t>(got);
+}
+
+void OutputFile::commit()
+{
+    if (!flush())
+        throw Failure{GFL_ERROR_FILE_WRITE};
+    const int closed = ::close(descriptor); // a network file system may report a full disk only here
+    descriptor = -1;
+    if (closed != 0 || ::rename(temporary.c_str(), target.c_str()) != 0) {
+        ::unlink(temporary.c_str());
+        throw Failure{GFL_ERROR_FILE_WRITE};
+    }
+}
+
+} // namespace gfl

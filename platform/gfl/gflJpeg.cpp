@@ -1,0 +1,353 @@
+#include <algorithm>
+#include <csetjmp>
+#include <cstdio>
+#include <cstring>
+
+#include <jpeglib.h>
+
+#include <jerror.h>
+
+#include "gflMetadata.h"
+
+namespace gfl {
+namespace {
+
+constexpr char kExifMark[] = "Exif\0"; // with the terminator, "Exif\0\0"
+constexpr char kPhotoshopMark[] = "Photoshop 3.0";
+constexpr std::size_t kSegmentLimit = 65533;
+constexpr int kIccMarker = JPEG_APP0 + 2;
+constexpr int kBand = 16; // rows a call of the library
+
+struct ErrorState
+{
+    jpeg_error_mgr manager;
+    std::jmp_buf jump;
+    GflCode code = GFL_ERROR_FILE_READ;
+};
+
+[[noreturn]] void onError(j_common_ptr info)
+{
+    auto *state = reinterpret_cast<ErrorState *>(info->err);
+    if (info->err->msg_code == JERR_OUT_OF_MEMORY)
+        state->code = GFL_ERROR_NO_MEMORY;
+    std::longjmp(state->jump, 1);
+}
+
+// The library decodes on after a warning, with grey in the place of what is missing: for us these files are damaged.
+void onMessage(j_common_ptr info, int level)
+{
+    switch (level < 0 ? info->err->msg_code : 0) {
+    case JWRN_JPEG_EOF:
+    case JWRN_HIT_MARKER:
+    case JWRN_HUFF_BAD_CODE:
+    case JWRN_ARITH_BAD_CODE:
+    case JWRN_MUST_RESYNC:
+        onError(info);
+    default:
+        break;
+    }
+}
+
+void onOutput(j_common_ptr) {}
+
+jpeg_error_mgr *prepare(ErrorState &state)
+{
+    jpeg_error_mgr *manager = jpeg_std_error(&state.manager);
+    manager->error_exit = onError;
+    manager->emit_message = onMessage;
+    manager->output_message = onOutput;
+    return manager;
+}
+
+// Runs calls of the library. They may jump out of here, so `call` must not make objects that have a destructor.
+template<class Call>
+void guarded(ErrorState &state, Call call)
+{
+    if (setjmp(state.jump))
+        throw Failure{state.code};
+    call();
+}
+
+struct Source
+{
+    jpeg_source_mgr manager;
+    InputStream *stream;
+};
+
+void noSourceCall(j_decompress_ptr) {}
+
+boolean fillSource(j_decompress_ptr info)
+{
+    auto *source = reinterpret_cast<Source *>(info->src);
+    const auto [bytes, count] = source->stream->block();
+    if (count == 0)
+        ERREXIT(info, JERR_INPUT_EOF);
+    source->manager.next_input_byte = bytes;
+    source->manager.bytes_in_buffer = count;
+    return TRUE;
+}
+
+void skipSource(j_decompress_ptr info, long count)
+{
+    while (count > 0 && static_cast<unsigned long>(count) > info->src->bytes_in_buffer) {
+        count -= static_cast<long>(info->src->bytes_in_buffer);
+        fillSource(info);
+    }
+    if (count > 0) {
+        info->src->next_input_byte += count;
+        info->src->bytes_in_buffer -= static_cast<std::size_t>(count);
+    }
+}
+
+// A file of many empty scans takes the library hours.
+void onProgress(j_common_ptr info)
+{
+    constexpr int kMostScans = 500;
+    if (info->is_decompressor && reinterpret_cast<j_decompress_ptr>(info)->input_scan_number > kMostScans)
+        ERREXIT(info, JERR_CANT_SUSPEND);
+}
+
+struct Reader
+{
+    jpeg_decompress_struct info{};
+    ErrorState error;
+    Source source{};
+    jpeg_progress_mgr progress{};
+    InputStream stream;
+
+    explicit Reader(const InputFile &file) : stream(file)
+    {
+        info.err = prepare(error);
+        source.stream = &stream;
+        source.manager.init_source = noSourceCall;
+        source.manager.fill_input_buffer = fillSource;
+        source.manager.skip_input_data = skipSource;
+        source.manager.resync_to_restart = jpeg_resync_to_restart;
+        source.manager.term_source = noSourceCall;
+        progress.progress_monitor = onProgress;
+    }
+    ~Reader() { jpeg_destroy_decompress(&info); }
+};
+
+void readSegments(Reader &reader, Metadata &metadata)
+{
+    Bytes resources;
+    for (const jpeg_marker_struct *marker = reader.info.marker_list; marker; marker = marker->next) {
+        const std::uint8_t *data = marker->data;
+        const std::size_t count = marker->data_length;
+        if (marker->marker == JPEG_APP0 + 1 && metadata.exif.block.empty() && count > sizeof kExifMark &&
+            !std::memcmp(data, kExifMark, sizeof kExifMark) && isExifBlock(data + sizeof kExifMark, count - sizeof kExifMark))
+            metadata.exif.block.assign(data + sizeof kExifMark, data + count);
+        else if (marker->marker == JPEG_APP0 + 13 && count > sizeof kPhotoshopMark &&
+                 !std::memcmp(data, kPhotoshopMark, sizeof kPhotoshopMark))
+            resources.insert(resources.end(), data + sizeof kPhotoshopMark, data + count); // long ones go on in further segments
+    }
+    metadata.iptc.block = photoshopResource(resources, kResourceIptc);
+
+    JOCTET *profile = nullptr;
+    unsigned count = 0;
+    guarded(reader.error, [&] { jpeg_read_icc_profile(&reader.info, &profile, &count); });
+    const std::unique_ptr<JOCTET, void (*)(void *)> owner(profile, std::free);
+    if (profile)
+        metadata.icc.assign(profile, profile + count);
+}
+
+// Adobe's programs store the inks inverted, and say so by their marker.
+void inksToRgb(const std::uint8_t *inks, std::uint8_t *rgb, int width, bool inverted)
+{
+    const unsigned flip = inverted ? 0 : 255;
+    for (int x = 0; x < width; ++x, inks += 4, rgb += 3) {
+        const unsigned key = inks[3] ^ flip;
+        for (int c = 0; c < 3; ++c)
+            rgb[c] = static_cast<std::uint8_t>(((inks[c] ^ flip) * key + 127) / 255);
+    }
+}
+
+void readPixels(Reader &reader, NewBitmap &bitmap, std::uint64_t fileBytes)
+{
+    jpeg_decompress_struct &info = reader.info;
+    const bool inks = info.out_color_space == JCS_CMYK;
+    if (jpeg_has_multiple_scans(&info)) {
+        // The library holds all coefficients of such a file. Each block takes a bit at least, or a fraction of one when the file
+        // is arithmetically coded.
+        const std::uint64_t blocks = std::uint64_t(info.image_width) * info.image_height / 64;
+        if (blocks > fileBytes * 8 * (info.arith_code ? 64 : 1) + 1024)
+            throw Failure{GFL_ERROR_FILE_READ};
+    }
+    info.progress = &reader.progress;
+    guarded(reader.error, [&] { jpeg_start_decompress(&info); });
+
+    Bytes inkRow(inks ? std::size_t(bitmap.width()) * 4 : 0);
+    for (int y = 0; y < bitmap.height();) {
+        JSAMPROW rows[kBand];
+        int count = inks ? 1 : std::min({kBand, bitmap.rowsFrom(y), bitmap.height() - y});
+        for (int i = 0; i < count; ++i)
+            rows[i] = inks ? inkRow.data() : bitmap.row(y + i);
+        guarded(reader.error, [&] {
+            for (int done = 0; done < count;)
+                done += static_cast<int>(jpeg_read_scanlines(&info, rows + done, static_cast<JDIMENSION>(count - done)));
+        });
+        if (inks)
+            inksToRgb(inkRow.data(), bitmap.row(y), bitmap.width(), info.saw_Adobe_marker);
+        y += count;
+    }
+}
+
+struct Target
+{
+    jpeg_destination_mgr manager;
+    OutputFile *file;
+    JOCTET buffer[64 * 1024];
+};
+
+void startTarget(j_compress_ptr info)
+{
+    auto *target = reinterpret_cast<Target *>(info->dest);
+    target->manager.next_output_byte = target->buffer;
+    target->manager.free_in_buffer = sizeof target->buffer;
+}
+
+boolean emptyTarget(j_compress_ptr info)
+{
+    auto *target = reinterpret_cast<Target *>(info->dest);
+    if (!target->file->tryWrite(target->buffer, sizeof target->buffer))
+        ERREXIT(info, JERR_FILE_WRITE);
+    startTarget(info);
+    return TRUE;
+}
+
+void endTarget(j_compress_ptr info)
+{
+    auto *target = reinterpret_cast<Target *>(info->dest);
+    if (!target->file->tryWrite(target->buffer, sizeof target->buffer - target->manager.free_in_buffer))
+        ERREXIT(info, JERR_FILE_WRITE);
+}
+
+struct Writer
+{
+    jpeg_compress_struct info{};
+    ErrorState error;
+    std::unique_ptr<Target> target = std::make_unique<Target>();
+
+    explicit Writer(OutputFile &file)
+    {
+        info.err = prepare(error);
+        error.code = GFL_ERROR_FILE_WRITE;
+        target->file = &file;
+        target->manager.init_destination = startTarget;
+        target->manager.empty_output_buffer = emptyTarget;
+        target->manager.term_destination = endTarget;
+    }
+    ~Writer() { jpeg_destroy_compress(&info); }
+};
+
+void writeSegments(Writer &writer, const WriteRequest &request)
+{
+    Bytes exif(kExifMark, kExifMark + sizeof kExifMark);
+    const Bytes block = shrinkExif(request.exif, kSegmentLimit - exif.size());
+    exif.insert(exif.end(), block.begin(), block.end());
+
+    Bytes resources;
+    if (!request.iptc.empty())
+        appendPhotoshopResource(resources, kResourceIptc, request.iptc);
+    Bytes segment;
+
+    const auto put = [&](int marker, const Bytes &data) {
+        guarded(writer.error, [&] { jpeg_write_marker(&writer.info, marker, data.data(), static_cast<unsigned>(data.size())); });
+    };
+    if (!block.empty())
+        put(JPEG_APP0 + 1, exif);
+    for (std::size_t start = 0; start < resources.size();) {
+        const std::size_t part = std::min(resources.size() - start, kSegmentLimit - sizeof kPhotoshopMark);
+        segment.assign(kPhotoshopMark, kPhotoshopMark + sizeof kPhotoshopMark);
+        segment.insert(segment.end(), resources.data() + start, resources.data() + start + part);
+        put(JPEG_APP0 + 13, segment);
+        start += part;
+    }
+    // A profile is cut into at most 255 segments.
+    if (!request.icc.empty() && request.icc.size() <= 255 * std::size_t(65519))
+        guarded(writer.error,
+                [&] { jpeg_write_icc_profile(&writer.info, request.icc.data(), static_cast<unsigned>(request.icc.size())); });
+}
+
+} // namespace
+
+BitmapPointer readJpeg(const ReadRequest &request)
+{
+    Reader reader(request.file);
+    jpeg_decompress_struct &info = reader.info;
+    guarded(reader.error, [&] {
+        jpeg_create_decompress(&info);
+        info.src = &reader.source.manager;
+        if (request.metadata) {
+            jpeg_save_markers(&info, JPEG_APP0 + 1, 0xFFFF);
+            jpeg_save_markers(&info, kIccMarker, 0xFFFF);
+            jpeg_save_markers(&info, JPEG_APP0 + 13, 0xFFFF);
+        }
+        jpeg_read_header(&info, TRUE);
+    });
+    switch (info.num_components) {
+    case 1:
+        info.out_color_space = JCS_GRAYSCALE;
+        break;
+    case 3:
+        info.out_color_space = JCS_RGB;
+        break;
+    case 4:
+        info.out_color_space = JCS_CMYK;
+        break;
+    default:
+        throw Failure{GFL_ERROR_FILE_READ};
+    }
+
+    NewBitmap bitmap(request.file, info.image_width, info.image_height, {info.num_components == 1 ? 1 : 3, 8});
+    const double unit = info.density_unit == 1 ? 1.0 : info.density_unit == 2 ? 2.54 : 0.0;
+    bitmap.record().xDpi = dpiFrom(info.X_density * unit);
+    bitmap.record().yDpi = dpiFrom(info.Y_density * unit);
+    if (request.metadata)
+        readSegments(reader, attachMetadata(bitmap.record()));
+    if (request.pixels)
+        readPixels(reader, bitmap, request.file.size());
+    return bitmap.take();
+}
+
+void writeJpeg(const WriteRequest &request)
+{
+    const GflBitmap &bitmap = request.bitmap;
+    if (bitmap.width > JPEG_MAX_DIMENSION || bitmap.height > JPEG_MAX_DIMENSION)
+        throw Failure{GFL_ERROR_BAD_BITMAP};
+    // An alpha is left out, not composited: the colours are the photograph, whatever lay over or under it.
+    const bool skipsAlpha = bitmap.componentsPerPixel == 4 && bitmap.bitsPerComponent == 8;
+    const int components = bitmap.componentsPerPixel == 1 ? 1 : 3;
+    SourceRows rows(bitmap, {skipsAlpha ? 4 : components, 8});
+
+    Writer writer(request.file);
+    jpeg_compress_struct &info = writer.info;
+    guarded(writer.error, [&] {
+        jpeg_create_compress(&info);
+        info.dest = &writer.target->manager;
+        info.image_width = static_cast<JDIMENSION>(bitmap.width);
+        info.image_height = static_cast<JDIMENSION>(bitmap.height);
+        info.input_components = skipsAlpha ? 4 : components;
+        info.in_color_space = components == 1 ? JCS_GRAYSCALE : skipsAlpha ? JCS_EXT_RGBX : JCS_RGB;
+        jpeg_set_defaults(&info);
+        constexpr int kDefaultQuality = 92;
+        jpeg_set_quality(&info, request.quality < 0 ? kDefaultQuality : std::clamp(request.quality, 1, 100), TRUE);
+        for (int c = 0; c < info.num_components; ++c) // 4:4:4
+            info.comp_info[c].h_samp_factor = info.comp_info[c].v_samp_factor = 1;
+        if (bitmap.xDpi && bitmap.yDpi) {
+            info.density_unit = 1;
+            info.X_density = bitmap.xDpi;
+            info.Y_density = bitmap.yDpi;
+        }
+        jpeg_start_compress(&info, TRUE);
+    });
+    writeSegments(writer, request);
+    for (int y = 0; y < bitmap.height; ++y) {
+        JSAMPROW row = const_cast<JSAMPROW>(rows.row(y)); // the library does not write to it
+        guarded(writer.error, [&] { jpeg_write_scanlines(&info, &row, 1); });
+    }
+    guarded(writer.error, [&] { jpeg_finish_compress(&info); });
+}
+
+} // namespace gfl

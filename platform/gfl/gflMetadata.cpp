@@ -1,0 +1,334 @@
+#include "gflMetadata.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <filesystem>
+#include <mutex>
+
+#include <exiv2/exiv2.hpp>
+
+namespace gfl {
+namespace {
+
+// The XMP toolkit beneath exiv2 starts once a process, and takes turns by this lock.
+std::mutex xmpMutex;
+
+void lockXmp(void *, bool lock)
+{
+    if (lock)
+        xmpMutex.lock();
+    else
+        xmpMutex.unlock();
+}
+
+void startExiv2()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        Exiv2::XmpParser::initialize(lockXmp, nullptr);
+    });
+}
+
+std::uint32_t number(const std::uint8_t *bytes, int count, bool bigEndian)
+{
+    std::uint32_t value = 0;
+    for (int i = 0; i < count; ++i)
+        value = value << 8 | bytes[bigEndian ? i : count - 1 - i];
+    return value;
+}
+
+unsigned typeBytes(unsigned type)
+{
+    static constexpr unsigned kBytes[] = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8, 4};
+    return type < std::size(kBytes) ? kBytes[type] : 0;
+}
+
+Bytes encoded(Exiv2::ExifData &data, Exiv2::ByteOrder order)
+{
+    Exiv2::Blob blob;
+    if (!data.empty())
+        Exiv2::ExifParser::encode(blob, order == Exiv2::invalidByteOrder ? Exiv2::littleEndian : order, data);
+    return blob;
+}
+
+// What a new file may hold of another one's EXIF.
+bool isCarried(const Exiv2::Exifdatum &datum)
+{
+    const std::string group = datum.groupName();
+    if (group == "Image")
+        return !isStructuralTag(datum.tag());
+    static const char *const kOfTheFile[] = {"Thumbnail", "SubImage", "SubThumb", "Image2", "Image3", "PanasonicRaw"};
+    return std::none_of(std::begin(kOfTheFile), std::end(kOfTheFile),
+                        [&](const char *name) { return group.compare(0, std::strlen(name), name) == 0; });
+}
+
+template<class Drop>
+void dropFrom(Exiv2::ExifData &data, Drop drop)
+{
+    for (auto at = data.begin(); at != data.end();)
+        at = drop(*at) ? data.erase(at) : std::next(at);
+}
+
+double realValue(const Exiv2::ExifData &data, const char *key)
+{
+    const auto at = data.findKey(Exiv2::ExifKey(key));
+    if (at == data.end() || at->count() == 0)
+        return 0;
+    const Exiv2::Rational value = at->toRational();
+    const double real = value.second != 0 ? double(value.first) / double(value.second) : 0.0;
+    return real > 0 ? real : 0.0;
+}
+
+std::string textValue(const Exiv2::ExifData &data, const char *key)
+{
+    const auto at = data.findKey(Exiv2::ExifKey(key));
+    if (at == data.end())
+        return {};
+    std::string text = at->toString();
+    text.erase(std::find(text.begin(), text.end(), '\0'), text.end());
+    while (!text.empty() && text.back() == ' ')
+        text.pop_back();
+    return text;
+}
+
+// The nearest fraction with a denominator that a person would choose: 1/n below a second, tenths above.
+Exiv2::URational fraction(double value)
+{
+    if (value < 1)
+        return {1, static_cast<std::uint32_t>(std::lround(std::min(1 / value, 4e9)))};
+    return {static_cast<std::uint32_t>(std::lround(std::min(value, 4e8) * 10)), 10};
+}
+
+} // namespace
+
+bool profileFits(const Bytes &icc, int components)
+{
+    constexpr std::size_t kHeader = 128;
+    constexpr std::size_t kColourSpace = 16;
+    if (icc.size() < kHeader)
+        return false;
+    const auto is = [&](const char *space) { return std::memcmp(icc.data() + kColourSpace, space, 4) == 0; };
+    return is("RGB ") || (components == 1 && is("GRAY"));
+}
+
+Bytes photoshopResource(const Bytes &section, unsigned id)
+{
+    // "8BIM", id, Pascal string padded to even, length, data padded to even.
+    for (std::size_t at = 0; at + 12 <= section.size();) {
+        if (std::memcmp(section.data() + at, "8BIM", 4) != 0)
+            break;
+        const unsigned found = big16(section.data() + at + 4);
+        const std::size_t lengthAt = at + 6 + (std::size_t(section[at + 6]) + 2) / 2 * 2;
+        if (lengthAt + 4 > section.size())
+            break;
+        const std::size_t length = big32(section.data() + lengthAt);
+        const std::size_t start = lengthAt + 4;
+        if (length > section.size() - start)
+            break;
+        if (found == id)
+            return Bytes(section.begin() + static_cast<std::ptrdiff_t>(start),
+                         section.begin() + static_cast<std::ptrdiff_t>(start + length));
+        at = start + (length + 1) / 2 * 2;
+    }
+    return {};
+}
+
+void appendPhotoshopResource(Bytes &section, unsigned id, const Bytes &data)
+{
+    section.insert(section.end(), {'8', 'B', 'I', 'M'});
+    putBig16(section, id);
+    putBig16(section, 0); // no name
+    putBig32(section, static_cast<std::uint32_t>(data.size()));
+    section.insert(section.end(), data.begin(), data.end());
+    if (data.size() % 2)
+        section.push_back(0);
+}
+
+std::vector<IfdEntry> firstDirectory(const TiffReader &read, std::uint64_t streamBytes, bool &bigEndian)
+{
+    std::vector<IfdEntry> entries;
+    std::uint8_t head[8];
+    if (read(0, head, sizeof head) != sizeof head || (std::memcmp(head, "II", 2) != 0 && std::memcmp(head, "MM", 2) != 0))
+        return entries;
+    bigEndian = head[0] == 'M';
+    const std::uint64_t start = number(head + 4, 4, bigEndian);
+    std::uint8_t countBytes[2];
+    if (number(head + 2, 2, bigEndian) != 42 || read(start, countBytes, 2) != 2)
+        return entries;
+    const unsigned count = number(countBytes, 2, bigEndian);
+    for (unsigned i = 0; i < count; ++i) {
+        IfdEntry entry;
+        const std::uint64_t at = start + 2 + std::uint64_t(12) * i;
+        if (read(at, entry.raw, 12) != 12)
+            break;
+        entry.tag = static_cast<std::uint16_t>(number(entry.raw, 2, bigEndian));
+        entry.type = static_cast<std::uint16_t>(number(entry.raw + 2, 2, bigEndian));
+        entry.count = number(entry.raw + 4, 4, bigEndian);
+        entry.valueBytes = std::uint64_t(entry.count) * typeBytes(entry.type);
+        entry.valueOffset = entry.valueBytes <= 4 ? at + 8 : number(entry.raw + 8, 4, bigEndian);
+        if (entry.valueBytes > 0 && entry.valueOffset <= streamBytes && entry.valueBytes <= streamBytes - entry.valueOffset)
+            entries.push_back(entry);
+    }
+    return entries;
+}
+
+std::vector<IfdEntry> firstDirectory(const Bytes &stream, bool &bigEndian)
+{
+    const TiffReader read = [&](std::uint64_t offset, void *target, std::size_t bytes) -> std::size_t {
+        if (offset > stream.size() || bytes > stream.size() - offset)
+            return 0;
+        std::memcpy(target, stream.data() + offset, bytes);
+        return bytes;
+    };
+    return firstDirectory(read, stream.size(), bigEndian);
+}
+
+bool isStructuralTag(unsigned tag)
+{
+    struct Range
+    {
+        unsigned first;
+        unsigned last;
+    };
+    static constexpr Range kRanges[] = {
+        {254, 259},     // kind of image, size, bits, compression
+        {262, 266},     // photometric, thresholding, cells, fill order
+        {273, 273},     // strips
+        {277, 281},     // samples, rows a strip, strip counts, smallest and largest sample
+        {284, 284},     // planes
+        {288, 293},     // free space, grey response, fax options
+        {301, 301},     // transfer function
+        {317, 317},     // predictor
+        {320, 332},     // palette, halftones, tiles, SubIFDs, inks
+        {334, 334},     // number of inks
+        {336, 341},     // dot range, extra samples, sample format and limits
+        {347, 347},     // JPEG tables
+        {512, 532},     // the old JPEG; YCbCr and its reference levels
+        {700, 700},     // XMP
+        {33421, 33422}, // colour filter array
+        {33723, 33723}, // IPTC
+        {34377, 34377}, // image resources
+        {34675, 34675}, // colour profile
+        {37724, 37724}, // layers
+        {50706, 52600}, // DNG: a version number would make a raw file of any other
+    };
+    return std::any_of(std::begin(kRanges), std::end(kRanges), [&](Range r) { return tag >= r.first && tag <= r.last; });
+}
+
+bool isExifBlock(const std::uint8_t *bytes, std::size_t count)
+{
+    constexpr std::size_t kSmallest = 8 + 2; // header and a count
+    return count >= kSmallest && (std::memcmp(bytes, "II*\0", 4) == 0 || std::memcmp(bytes, "MM\0*", 4) == 0);
+}
+
+FileMetadata metadataFromFile(const std::string &fileName, bool raw)
+{
+    startExiv2();
+    FileMetadata result;
+    try {
+        // A relative path could be taken for an address.
+        const auto image = Exiv2::ImageFactory::open(std::filesystem::absolute(fileName).string(), /*useCurl=*/false);
+        if (!image.get())
+            throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
+        image->readMetadata();
+        result.width = static_cast<int>(image->pixelWidth());
+        result.height = static_cast<int>(image->pixelHeight());
+        Exiv2::ExifData &data = image->exifData();
+        dropFrom(data, [](const Exiv2::Exifdatum &datum) { return !isCarried(datum); });
+        result.exif = encoded(data, image->byteOrder());
+        if (raw && !image->iptcData().empty()) {
+            const Exiv2::DataBuf iptc = Exiv2::IptcParser::encode(image->iptcData());
+            result.iptc.assign(iptc.pData_, iptc.pData_ + iptc.size_);
+        }
+    } catch (const Exiv2::AnyError &) {
+        if (raw)
+            throw Failure{GFL_ERROR_FILE_READ};
+    }
+    return result;
+}
+
+Bytes shrinkExif(const Bytes &exif, std::size_t limit)
+{
+    if (exif.size() <= limit)
+        return exif;
+    startExiv2();
+    try {
+        Exiv2::ExifData data;
+        const Exiv2::ByteOrder order = Exiv2::ExifParser::decode(data, exif.data(), static_cast<std::uint32_t>(exif.size()));
+        dropFrom(data, [](const Exiv2::Exifdatum &datum) { return datum.groupName() == "Thumbnail"; });
+        const Bytes smaller = encoded(data, order); // leaves out large unknown tags on its own
+        if (smaller.size() <= limit)
+            return smaller;
+    } catch (const Exiv2::AnyError &) {
+    }
+    return {};
+}
+
+ExposureFacts exposureFacts(const Bytes &exif)
+{
+    startExiv2();
+    ExposureFacts facts;
+    if (exif.empty())
+        return facts;
+    try {
+        Exiv2::ExifData data;
+        Exiv2::ExifParser::decode(data, exif.data(), static_cast<std::uint32_t>(exif.size()));
+        facts.exposureSeconds = realValue(data, "Exif.Photo.ExposureTime");
+        facts.aperture = realValue(data, "Exif.Photo.FNumber");
+        facts.isoSpeed = realValue(data, "Exif.Photo.ISOSpeedRatings");
+        facts.captureDate = textValue(data, "Exif.Photo.DateTimeOriginal");
+        facts.owner = textValue(data, "Exif.Image.Copyright");
+        if (facts.owner.empty())
+            facts.owner = textValue(data, "Exif.Image.Artist");
+        facts.comments = textValue(data, "Exif.Image.ImageDescription");
+        facts.make = textValue(data, "Exif.Image.Make");
+        facts.model = textValue(data, "Exif.Image.Model");
+    } catch (const Exiv2::AnyError &) {
+    }
+    return facts;
+}
+
+Bytes exifFromFacts(const ExposureFacts &facts)
+{
+    startExiv2();
+    try {
+        Exiv2::ExifData data;
+        if (facts.exposureSeconds > 0)
+            data["Exif.Photo.ExposureTime"] = fraction(facts.exposureSeconds);
+        if (facts.aperture > 0)
+            data["Exif.Photo.FNumber"] = fraction(facts.aperture);
+        if (facts.isoSpeed >= 1 && facts.isoSpeed <= 65535)
+            data["Exif.Photo.ISOSpeedRatings"] = static_cast<std::uint16_t>(facts.isoSpeed);
+        if (!facts.captureDate.empty())
+            data["Exif.Photo.DateTimeOriginal"] = facts.captureDate;
+        if (!facts.owner.empty())
+            data["Exif.Image.Copyright"] = facts.owner;
+        if (!facts.comments.empty())
+            data["Exif.Image.ImageDescription"] = facts.comments;
+        if (!facts.make.empty())
+            data["Exif.Image.Make"] = facts.make;
+        if (!facts.model.empty())
+            data["Exif.Image.Model"] = facts.model;
+        return encoded(data, Exiv2::littleEndian);
+    } catch (const Exiv2::AnyError &) {
+        return {};
+    }
+}
+
+BitmapPointer readRaw(const ReadRequest &request)
+{
+    const FileMetadata found = metadataFromFile(request.file.name(), /*raw=*/true);
+    NewBitmap bitmap(request.file, 1, 1, {3, 8});
+    if (request.pixels)
+        std::memset(bitmap.row(0), 0, bitmap.record().bytesPerLine);
+    if (request.metadata) {
+        Metadata &metadata = attachMetadata(bitmap.record());
+        metadata.exif.block = found.exif;
+        metadata.iptc.block = found.iptc;
+    }
+    return bitmap.take();
+}
+
+} // namespace gfl

@@ -1,0 +1,493 @@
+#include <algorithm>
+#include <csetjmp>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+
+#include <libdeflate.h>
+#include <png.h>
+#include <zlib.h>
+
+#include "gflMetadata.h"
+
+namespace gfl {
+namespace {
+
+constexpr std::uint8_t kSignature[8] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+constexpr double kMetresPerInch = 0.0254;
+constexpr std::uint64_t kDeflateRatio = 1032; // the most that deflate packs: 258 bytes in 2 bits
+// Text and profiles in a photograph are smaller; more than that is an attack on the memory.
+constexpr std::size_t kLargestText = std::size_t(64) << 20;
+
+// ---- reading
+
+struct Reader
+{
+    png_structp png = nullptr;
+    png_infop info = nullptr;
+    InputStream stream;
+
+    explicit Reader(const InputFile &file) : stream(file) {}
+    ~Reader() { png_destroy_read_struct(&png, &info, nullptr); }
+};
+
+// The library's own jump buffer is set here. Its calls may jump out, so `call` must not make objects that have a destructor.
+template<class Call>
+void guarded(png_structp png, Call call)
+{
+    if (setjmp(png_jmpbuf(png)))
+        throw Failure{GFL_ERROR_FILE_READ};
+    call();
+}
+
+[[noreturn]] void onError(png_structp png, png_const_charp)
+{
+    png_longjmp(png, 1);
+}
+void onWarning(png_structp, png_const_charp) {}
+
+void onRead(png_structp png, png_bytep target, std::size_t bytes)
+{
+    if (!static_cast<InputStream *>(png_get_io_ptr(png))->tryRead(target, bytes))
+        png_error(png, "");
+}
+
+void openReader(Reader &reader)
+{
+    reader.png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, onError, onWarning);
+    if (!reader.png)
+        throw Failure{GFL_ERROR_NO_MEMORY};
+    reader.info = png_create_info_struct(reader.png);
+    if (!reader.info)
+        throw Failure{GFL_ERROR_NO_MEMORY};
+    png_set_read_fn(reader.png, &reader.stream, onRead);
+    guarded(reader.png, [&] {
+        png_set_keep_unknown_chunks(reader.png, PNG_HANDLE_CHUNK_NEVER, nullptr, 0);
+        // Metadata is collected as it stands, by collect().
+        static constexpr png_byte kIgnored[] = "iCCP\0tEXt\0zTXt\0iTXt\0eXIf";
+        png_set_keep_unknown_chunks(reader.png, PNG_HANDLE_CHUNK_NEVER, kIgnored, 5);
+        png_read_info(reader.png, reader.info);
+    });
+}
+
+void readPixels(Reader &reader, NewBitmap &bitmap)
+{
+    const png_structp png = reader.png;
+    int passes = 1;
+    std::size_t rowBytes = 0;
+    guarded(png, [&] {
+        passes = png_set_interlace_handling(png);
+        png_read_update_info(png, reader.info);
+        rowBytes = png_get_rowbytes(png, reader.info);
+    });
+    if (rowBytes != std::size_t(bitmap.width()) * bitmap.record().bytesPerPixel)
+        throw Failure{GFL_ERROR_FILE_READ};
+    if (passes > 1) {
+        // Seven passes, each over the rows of the whole image.
+        bitmap.row(bitmap.height() - 1);
+        const std::size_t stride = bitmap.record().bytesPerLine;
+        std::uint8_t *first = bitmap.row(0);
+        std::memset(first, 0, stride * std::size_t(bitmap.height()));
+        const int height = bitmap.height();
+        guarded(png, [&] {
+            for (int pass = 0; pass < passes; ++pass)
+                for (int y = 0; y < height; ++y)
+                    png_read_row(png, first + stride * std::size_t(y), nullptr);
+        });
+        return;
+    }
+    for (int y = 0; y < bitmap.height();) {
+        const int count = std::min(bitmap.rowsFrom(y), bitmap.height() - y);
+        const std::size_t stride = bitmap.record().bytesPerLine;
+        std::uint8_t *first = bitmap.row(y);
+        guarded(png, [&] {
+            for (int i = 0; i < count; ++i)
+                png_read_row(png, first + stride * std::size_t(i), nullptr);
+        });
+        y += count;
+    }
+}
+
+Bytes inflated(const std::uint8_t *data, std::size_t count)
+{
+    const std::unique_ptr<libdeflate_decompressor, void (*)(libdeflate_decompressor *)> inflater(libdeflate_alloc_decompressor(),
+                                                                                                 libdeflate_free_decompressor);
+    if (!inflater)
+        throw Failure{GFL_ERROR_NO_MEMORY};
+    Bytes result;
+    for (std::size_t room = count * 4 + 1024; room <= kLargestText; room *= 4) {
+        result.resize(room);
+        std::size_t size = 0;
+        const libdeflate_result state = libdeflate_zlib_decompress(inflater.get(), data, count, result.data(), room, &size);
+        if (state == LIBDEFLATE_SUCCESS) {
+            result.resize(size);
+            return result;
+        }
+        if (state != LIBDEFLATE_INSUFFICIENT_SPACE)
+            break;
+    }
+    return {};
+}
+
+int hexDigit(std::uint8_t c)
+{
+    return c >= '0' && c <= '9' ? c - '0' : c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
+}
+
+// A "raw profile": a line feed, a name, the size in decimal, then hexadecimal digits in lines.
+Bytes rawProfile(const Bytes &text)
+{
+    Bytes result;
+    const auto isSpace = [](std::uint8_t c) { return c == ' ' || c == '\n'; };
+    auto at = std::find_if_not(text.begin(), text.end(), isSpace);
+    at = std::find(at, text.end(), '\n');
+    at = std::find_if_not(at, text.end(), isSpace);
+    at = std::find(at, text.end(), '\n');
+    int high = -1;
+    for (; at != text.end(); ++at) {
+        const int digit = hexDigit(*at);
+        if (digit < 0)
+            continue;
+        if (high < 0) {
+            high = digit;
+        } else {
+            result.push_back(static_cast<std::uint8_t>(high * 16 + digit));
+            high = -1;
+        }
+    }
+    return result;
+}
+
+void takeText(const Bytes &chunk, bool packed, Metadata &metadata)
+{
+    const auto end = std::find(chunk.begin(), chunk.end(), std::uint8_t(0));
+    const std::string name(chunk.begin(), end);
+    if (name.compare(0, 17, "Raw profile type ") != 0)
+        return;
+    const std::size_t start = name.size() + (packed ? 2 : 1);
+    if (start >= chunk.size())
+        return;
+    const Bytes text = packed ? inflated(chunk.data() + start, chunk.size() - start)
+                              : Bytes(chunk.begin() + static_cast<std::ptrdiff_t>(start), chunk.end());
+    const std::string kind = name.substr(17);
+    if (kind == "iptc" && metadata.iptc.block.empty()) {
+        const Bytes block = rawProfile(text); // image resources, or the bare datasets
+        metadata.iptc.block = !block.empty() && block[0] == 0x1C ? block : photoshopResource(block, kResourceIptc);
+    } else if ((kind == "exif" || kind == "APP1") && metadata.exif.block.empty()) {
+        Bytes block = rawProfile(text);
+        constexpr std::size_t kMark = 6; // "Exif\0\0"
+        if (block.size() > kMark && !std::memcmp(block.data(), "Exif", 4))
+            block.erase(block.begin(), block.begin() + kMark);
+        if (isExifBlock(block.data(), block.size()))
+            metadata.exif.block = block;
+    }
+}
+
+// Goes from chunk to chunk over the file, so that the pixels are passed by and not unpacked.
+void collect(const InputFile &file, Metadata &metadata)
+{
+    std::uint64_t at = sizeof kSignature;
+    std::uint8_t head[8];
+    while (file.readAt(at, head, sizeof head) == sizeof head) {
+        const std::uint32_t length = big32(head);
+        const std::string type(head + 4, head + 8);
+        const bool wanted = type == "iCCP" || type == "eXIf" || type == "zTXt" || type == "tEXt";
+        if (type == "IEND" || length > file.size() - at)
+            break;
+        if (wanted && length <= kLargestText) {
+            const Bytes chunk = file.bytesAt(at + 8, length);
+            const auto nameEnd = std::find(chunk.begin(), chunk.end(), std::uint8_t(0));
+            const std::size_t start = static_cast<std::size_t>(nameEnd - chunk.begin()) + 2;
+            if (type == "iCCP" && start < chunk.size())
+                metadata.icc = inflated(chunk.data() + start, chunk.size() - start);
+            else if (type == "eXIf" && isExifBlock(chunk.data(), chunk.size()))
+                metadata.exif.block = chunk;
+            else if (type == "zTXt" || type == "tEXt")
+                takeText(chunk, type == "zTXt", metadata);
+        }
+        at += std::uint64_t(12) + length;
+    }
+}
+
+// ---- writing
+
+void writeChunk(OutputFile &file, const char *type, const std::uint8_t *data, std::size_t count)
+{
+    Bytes head;
+    putBig32(head, static_cast<std::uint32_t>(count));
+    head.insert(head.end(), type, type + 4);
+    std::uint32_t check = libdeflate_crc32(0, head.data() + 4, 4);
+    check = libdeflate_crc32(check, data, count);
+    Bytes tail;
+    putBig32(tail, check);
+    file.write(head);
+    file.write(data, count);
+    file.write(tail);
+}
+
+void writeChunk(OutputFile &file, const char *type, const Bytes &data)
+{
+    writeChunk(file, type, data.data(), data.size());
+}
+
+struct Deflater
+{
+    libdeflate_compressor *handle;
+
+    explicit Deflater(int level) : handle(libdeflate_alloc_compressor(level))
+    {
+        if (!handle)
+            throw Failure{GFL_ERROR_NO_MEMORY};
+    }
+    ~Deflater() { libdeflate_free_compressor(handle); }
+    Deflater(const Deflater &) = delete;
+    Deflater &operator=(const Deflater &) = delete;
+};
+
+void appendDeflated(Bytes &chunk, const Bytes &data)
+{
+    const Deflater deflater(6);
+    const std::size_t start = chunk.size();
+    chunk.resize(start + libdeflate_zlib_compress_bound(deflater.handle, data.size()));
+    chunk.resize(start +
+                 libdeflate_zlib_compress(deflater.handle, data.data(), data.size(), chunk.data() + start, chunk.size() - start));
+}
+
+void writeMetadata(const WriteRequest &request)
+{
+    if (!request.icc.empty()) {
+        static constexpr char kName[] = "ICC Profile";
+        Bytes chunk(kName, kName + sizeof kName);
+        chunk.push_back(0); // packed by deflate
+        appendDeflated(chunk, request.icc);
+        writeChunk(request.file, "iCCP", chunk);
+    }
+    if (!request.exif.empty())
+        writeChunk(request.file, "eXIf", request.exif);
+    if (!request.iptc.empty()) {
+        Bytes block;
+        appendPhotoshopResource(block, kResourceIptc, request.iptc);
+        const std::string size = std::to_string(block.size());
+        std::string text = "\niptc\n" + std::string(8 - std::min<std::size_t>(size.size(), 8), ' ') + size;
+        constexpr std::size_t kBytesPerLine = 36;
+        for (std::size_t i = 0; i < block.size(); ++i) {
+            if (i % kBytesPerLine == 0)
+                text += '\n';
+            text += "0123456789abcdef"[block[i] >> 4];
+            text += "0123456789abcdef"[block[i] & 15];
+        }
+        text += '\n';
+        static constexpr char kName[] = "Raw profile type iptc";
+        Bytes chunk(kName, kName + sizeof kName);
+        chunk.push_back(0);
+        appendDeflated(chunk, Bytes(text.begin(), text.end()));
+        writeChunk(request.file, "zTXt", chunk);
+    }
+}
+
+/// Filters the rows one after the other; see PNG (ISO/IEC 15948), clause 9.
+class RowFilter
+{
+public:
+    RowFilter(std::size_t bytes, std::size_t pixel)
+        : rowBytes(bytes), pixelBytes(pixel), current(bytes + pixel), above(bytes + pixel), candidate(bytes + 1)
+    {
+    }
+
+    /// Where the next row is to be put, in the file's byte order.
+    std::uint8_t *next() { return current.data() + pixelBytes; }
+
+    /// Writes filter byte and filtered row, rowBytes + 1 in all: whichever of the filters leaves the smallest sum of magnitudes.
+    void filter(std::uint8_t *target)
+    {
+        unsigned long best = std::numeric_limits<unsigned long>::max();
+        for (const int kind : {kUp, kSub, kPaeth}) {
+            candidate[0] = static_cast<std::uint8_t>(kind);
+            const unsigned long sum = apply(kind, candidate.data() + 1);
+            if (sum < best) {
+                best = sum;
+                std::memcpy(target, candidate.data(), rowBytes + 1);
+            }
+        }
+        current.swap(above);
+    }
+
+private:
+    static constexpr int kSub = 1;
+    static constexpr int kUp = 2;
+    static constexpr int kPaeth = 4;
+
+    unsigned long apply(int kind, std::uint8_t *out) const
+    {
+        const std::uint8_t *x = current.data() + pixelBytes;
+        const std::uint8_t *a = current.data(); // left of x; a pixel of zeros stands before each row
+        const std::uint8_t *b = above.data() + pixelBytes;
+        const std::uint8_t *c = above.data();
+        if (kind == kUp) {
+            for (std::size_t i = 0; i < rowBytes; ++i)
+                out[i] = static_cast<std::uint8_t>(x[i] - b[i]);
+        } else if (kind == kSub) {
+            for (std::size_t i = 0; i < rowBytes; ++i)
+                out[i] = static_cast<std::uint8_t>(x[i] - a[i]);
+        } else {
+            for (std::size_t i = 0; i < rowBytes; ++i) {
+                const short toA = static_cast<short>(b[i] - c[i]); // p - a, where p = a + b - c
+                const short toB = static_cast<short>(a[i] - c[i]);
+                const short toC = static_cast<short>(toA + toB);
+                const short sizeA = static_cast<short>(toA < 0 ? -toA : toA);
+                const short sizeB = static_cast<short>(toB < 0 ? -toB : toB);
+                const short sizeC = static_cast<short>(toC < 0 ? -toC : toC);
+                const std::uint8_t nearestBc = sizeB <= sizeC ? b[i] : c[i];
+                const std::uint8_t nearest = sizeA <= std::min(sizeB, sizeC) ? a[i] : nearestBc;
+                out[i] = static_cast<std::uint8_t>(x[i] - nearest);
+            }
+        }
+        unsigned long sum = 0;
+        for (std::size_t i = 0; i < rowBytes; ++i)
+            sum += static_cast<std::uint8_t>(out[i] < 128 ? out[i] : 256 - out[i]);
+        return sum;
+    }
+
+    std::size_t rowBytes;
+    std::size_t pixelBytes;
+    Bytes current;
+    Bytes above;
+    Bytes candidate;
+};
+
+// The filtered image in one piece: libdeflate packs no other way.
+void writeWhole(const WriteRequest &request, Form form, std::size_t rowBytes, int level)
+{
+    const GflBitmap &bitmap = request.bitmap;
+    const std::size_t total = (rowBytes + 1) * std::size_t(bitmap.height);
+    const std::unique_ptr<std::uint8_t[]> filtered(new std::uint8_t[total]);
+    SourceRows rows(bitmap, form);
+    RowFilter filter(rowBytes, form.pixelBytes());
+    for (int y = 0; y < bitmap.height; ++y) {
+        swapSamples(rows.row(y), filter.next(), form.bits == 16 ? rowBytes / 2 : rowBytes, form.bits);
+        filter.filter(filtered.get() + (rowBytes + 1) * std::size_t(y));
+    }
+
+    const Deflater deflater(level);
+    const std::size_t bound = libdeflate_zlib_compress_bound(deflater.handle, total);
+    const std::unique_ptr<std::uint8_t[]> packed(new std::uint8_t[bound]);
+    const std::size_t count = libdeflate_zlib_compress(deflater.handle, filtered.get(), total, packed.get(), bound);
+    writeChunk(request.file, "IDAT", packed.get(), count);
+}
+
+// Row by row through zlib, where the filtered image would take too much memory.
+void writeStreaming(const WriteRequest &request, Form form, std::size_t rowBytes, int level)
+{
+    const GflBitmap &bitmap = request.bitmap;
+    struct Stream : z_stream
+    {
+        Stream() : z_stream{} {}
+        ~Stream() { deflateEnd(this); }
+    } stream;
+    if (deflateInit(&stream, level) != Z_OK)
+        throw Failure{GFL_ERROR_NO_MEMORY};
+    Bytes filtered(rowBytes + 1);
+    Bytes packed(std::size_t(1) << 20);
+    SourceRows rows(bitmap, form);
+    RowFilter filter(rowBytes, form.pixelBytes());
+    const auto startChunk = [&] {
+        stream.next_out = packed.data();
+        stream.avail_out = static_cast<unsigned>(packed.size());
+    };
+    startChunk();
+    for (int y = 0; y < bitmap.height; ++y) {
+        swapSamples(rows.row(y), filter.next(), form.bits == 16 ? rowBytes / 2 : rowBytes, form.bits);
+        filter.filter(filtered.data());
+        stream.next_in = filtered.data();
+        stream.avail_in = static_cast<unsigned>(filtered.size());
+        const int flush = y + 1 == bitmap.height ? Z_FINISH : Z_NO_FLUSH;
+        for (bool more = true; more;) {
+            const int state = deflate(&stream, flush);
+            more = flush == Z_FINISH ? state != Z_STREAM_END : stream.avail_in > 0;
+            if (stream.avail_out == 0) {
+                writeChunk(request.file, "IDAT", packed);
+                startChunk();
+            }
+        }
+    }
+    writeChunk(request.file, "IDAT", packed.data(), packed.size() - stream.avail_out);
+}
+
+} // namespace
+
+BitmapPointer readPng(const ReadRequest &request)
+{
+    Reader reader(request.file);
+    openReader(reader);
+    const png_structp png = reader.png;
+    png_uint_32 width = 0;
+    png_uint_32 height = 0;
+    int depth = 0;
+    int colour = 0;
+    std::size_t packedRow = 0;
+    Form form{};
+    guarded(png, [&] {
+        png_get_IHDR(png, reader.info, &width, &height, &depth, &colour, nullptr, nullptr, nullptr);
+        packedRow = png_get_rowbytes(png, reader.info);
+        png_set_expand(png); // palette to RGB, 1, 2 and 4 bits to 8, transparent colour to alpha
+        if (depth == 16)
+            png_set_swap(png);
+        const bool alpha = (colour & PNG_COLOR_MASK_ALPHA) || png_get_valid(png, reader.info, PNG_INFO_tRNS);
+        if (alpha)
+            png_set_gray_to_rgb(png);
+        form = {alpha ? 4 : (colour & PNG_COLOR_MASK_COLOR) ? 3 : 1, depth == 16 ? 16 : 8};
+    });
+    if ((std::uint64_t(packedRow) + 1) * height / kDeflateRatio > request.file.size())
+        throw Failure{GFL_ERROR_FILE_READ};
+
+    NewBitmap bitmap(request.file, width, height, form);
+    png_uint_32 xPerUnit = 0;
+    png_uint_32 yPerUnit = 0;
+    int unit = 0;
+    if (png_get_pHYs(png, reader.info, &xPerUnit, &yPerUnit, &unit) && unit == PNG_RESOLUTION_METER) {
+        bitmap.record().xDpi = dpiFrom(xPerUnit * kMetresPerInch);
+        bitmap.record().yDpi = dpiFrom(yPerUnit * kMetresPerInch);
+    }
+    if (request.metadata)
+        collect(request.file, attachMetadata(bitmap.record()));
+    if (request.pixels)
+        readPixels(reader, bitmap);
+    return bitmap.take();
+}
+
+void writePng(const WriteRequest &request)
+{
+    const GflBitmap &bitmap = request.bitmap;
+    const Form form{bitmap.componentsPerPixel, bitmap.bitsPerComponent == 8 ? 8 : 16};
+    const std::size_t rowBytes = std::size_t(bitmap.width) * form.pixelBytes();
+
+    request.file.write(kSignature, sizeof kSignature);
+    Bytes header;
+    putBig32(header, static_cast<std::uint32_t>(bitmap.width));
+    putBig32(header, static_cast<std::uint32_t>(bitmap.height));
+    header.push_back(static_cast<std::uint8_t>(form.bits));
+    header.push_back(form.components == 1   ? PNG_COLOR_TYPE_GRAY
+                     : form.components == 3 ? PNG_COLOR_TYPE_RGB
+                                            : PNG_COLOR_TYPE_RGB_ALPHA);
+    header.insert(header.end(), {0, 0, 0}); // deflate, adaptive filters, no interlace
+    writeChunk(request.file, "IHDR", header);
+    if (bitmap.xDpi && bitmap.yDpi) {
+        Bytes resolution;
+        putBig32(resolution, static_cast<std::uint32_t>(bitmap.xDpi / kMetresPerInch + 0.5));
+        putBig32(resolution, static_cast<std::uint32_t>(bitmap.yDpi / kMetresPerInch + 0.5));
+        resolution.push_back(PNG_RESOLUTION_METER);
+        writeChunk(request.file, "pHYs", resolution);
+    }
+    writeMetadata(request);
+
+    constexpr int kDefaultLevel = 3;
+    const int level = request.compression < 0 ? kDefaultLevel : std::min(request.compression, 9);
+    constexpr std::size_t kLargestWhole = std::size_t(512) << 20;
+    if ((rowBytes + 1) * std::size_t(bitmap.height) <= kLargestWhole)
+        writeWhole(request, form, rowBytes, level);
+    else
+        writeStreaming(request, form, rowBytes, level);
+    writeChunk(request.file, "IEND", {});
+}
+
+} // namespace gfl

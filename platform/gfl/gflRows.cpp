@@ -1,0 +1,205 @@
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+#include "gflCodec.h"
+
+namespace gfl {
+namespace {
+
+// std::nearbyint would be a call on a bare x86-64: adding 2^23 rounds a float below it to an integer, ties to even.
+template<class Target>
+Target fromFloat(float value)
+{
+    constexpr float scale = std::numeric_limits<Target>::max();
+    constexpr float kRounder = 8388608.0f;
+    const float clamped = value > 0.0f ? std::min(value, 1.0f) : 0.0f; // a not-a-number fails the comparison
+    return static_cast<Target>(static_cast<int>((clamped * scale + kRounder) - kRounder));
+}
+
+template<class Source, class Target>
+Target convertSample(Source value)
+{
+    if constexpr (std::is_same_v<Source, Target>)
+        return value;
+    else if constexpr (std::is_same_v<Source, float>)
+        return fromFloat<Target>(value);
+    else if constexpr (std::is_same_v<Target, float>)
+        return static_cast<float>(value) / static_cast<float>(std::numeric_limits<Source>::max());
+    else if constexpr (sizeof(Target) > sizeof(Source))
+        return static_cast<Target>(value * 257u);
+    else
+        return static_cast<Target>((value + 128u) / 257u);
+}
+
+template<class Source, class Target, int sourceComponents, int targetComponents>
+void convertPixels(const Source *source, Target *target, int width)
+{
+    constexpr Target opaque = std::is_same_v<Target, float> ? Target(1) : std::numeric_limits<Target>::max();
+    for (int x = 0; x < width; ++x, source += sourceComponents, target += targetComponents) {
+        for (int c = 0; c < std::min(targetComponents, 3); ++c)
+            target[c] = convertSample<Source, Target>(source[sourceComponents < 3 ? 0 : c]);
+        if constexpr (targetComponents == 4)
+            target[3] = sourceComponents == 4 ? convertSample<Source, Target>(source[sourceComponents - 1]) : opaque;
+    }
+}
+
+template<class Source, class Target>
+void convertRow(const void *source, int sourceComponents, void *target, int targetComponents, int width)
+{
+    const auto *from = static_cast<const Source *>(source);
+    auto *to = static_cast<Target *>(target);
+    switch (sourceComponents * 10 + targetComponents) {
+    case 11:
+        return convertPixels<Source, Target, 1, 1>(from, to, width);
+    case 13:
+        return convertPixels<Source, Target, 1, 3>(from, to, width);
+    case 14:
+        return convertPixels<Source, Target, 1, 4>(from, to, width);
+    case 33:
+        return convertPixels<Source, Target, 3, 3>(from, to, width);
+    case 34:
+        return convertPixels<Source, Target, 3, 4>(from, to, width);
+    case 43:
+        return convertPixels<Source, Target, 4, 3>(from, to, width);
+    case 44:
+        return convertPixels<Source, Target, 4, 4>(from, to, width);
+    default:
+        throw Failure{GFL_ERROR_BAD_BITMAP};
+    }
+}
+
+} // namespace
+
+RowConverter rowConverter(int sourceBits, int targetBits)
+{
+    using U8 = std::uint8_t;
+    using U16 = std::uint16_t;
+    static constexpr RowConverter table[3][3] = {
+        {convertRow<U8, U8>, convertRow<U8, U16>, convertRow<U8, float>},
+        {convertRow<U16, U8>, convertRow<U16, U16>, convertRow<U16, float>},
+        {convertRow<float, U8>, convertRow<float, U16>, convertRow<float, float>},
+    };
+    return table[sourceBits / 16][targetBits / 16]; // 8, 16, 32 -> 0, 1, 2
+}
+
+void swapSamples(const void *source, void *target, std::size_t count, int bits)
+{
+    if (bits == 16) {
+        const auto *from = static_cast<const std::uint16_t *>(source);
+        auto *to = static_cast<std::uint16_t *>(target);
+        for (std::size_t i = 0; i < count; ++i)
+            to[i] = static_cast<std::uint16_t>(from[i] << 8 | from[i] >> 8);
+    } else if (bits == 32) {
+        const auto *from = static_cast<const std::uint32_t *>(source);
+        auto *to = static_cast<std::uint32_t *>(target);
+        for (std::size_t i = 0; i < count; ++i)
+            to[i] = from[i] << 24 | (from[i] & 0xFF00u) << 8 | (from[i] >> 8 & 0xFF00u) | from[i] >> 24;
+    } else if (source != target) {
+        std::memcpy(target, source, count);
+    }
+}
+
+Form formOf(const GflBitmap &bitmap)
+{
+    return {bitmap.componentsPerPixel, bitmap.bitsPerComponent};
+}
+
+SourceRows::SourceRows(const GflBitmap &source, Form target)
+    : bitmap(source), form(target), convert(rowConverter(source.bitsPerComponent, target.bits))
+{
+    if (!(formOf(bitmap) == form))
+        buffer.resize(std::size_t(bitmap.width) * form.pixelBytes());
+}
+
+const std::uint8_t *SourceRows::row(int y)
+{
+    if (buffer.empty())
+        return rowOf(bitmap, y);
+    convert(rowOf(bitmap, y), bitmap.componentsPerPixel, buffer.data(), form.components, bitmap.width);
+    return buffer.data();
+}
+
+NewBitmap::NewBitmap(const InputFile &file, std::int64_t width, std::int64_t height, Form form)
+{
+    constexpr std::int64_t kLargest = std::numeric_limits<std::int32_t>::max();
+    if (width <= 0 || height <= 0 || width > kLargest || height > kLargest)
+        throw Failure{GFL_ERROR_FILE_READ};
+    const std::int64_t stride = (width * std::int64_t(form.pixelBytes()) + 3) / 4 * 4;
+    if (stride > kLargest)
+        throw Failure{GFL_ERROR_NO_MEMORY};
+
+    auto *record = static_cast<GflBitmap *>(allocate(sizeof(GflBitmap)));
+    if (!record)
+        throw Failure{GFL_ERROR_NO_MEMORY};
+    *record = GflBitmap{};
+    bitmap.reset(record);
+    record->type = form.components == 1 ? 0x0002 : form.components == 3 ? 0x0010 : 0x0020;
+    record->width = static_cast<std::int32_t>(width);
+    record->height = static_cast<std::int32_t>(height);
+    record->bytesPerLine = static_cast<std::uint32_t>(stride);
+    record->lineAlignment = 4;
+    record->bitsPerComponent = static_cast<std::uint16_t>(form.bits);
+    record->componentsPerPixel = static_cast<std::uint16_t>(form.components);
+    record->bytesPerPixel = static_cast<std::uint16_t>(form.pixelBytes());
+    record->transparentIndex = -1;
+    record->colorUsed = form.components == 1 ? 256 : 0;
+
+    // A photograph seldom packs better than 64 to 1: it gets its whole block at once, others grow into it.
+    constexpr std::uint64_t kSmall = std::uint64_t(16) << 20;
+    constexpr std::uint64_t kRatio = 64;
+    const std::uint64_t total = std::uint64_t(stride) * std::uint64_t(height);
+    firstBytes = static_cast<std::size_t>(std::min(total, kSmall + kRatio * file.size()));
+}
+
+std::uint8_t *NewBitmap::row(int y)
+{
+    const std::size_t stride = bitmap->bytesPerLine;
+    const std::size_t needed = stride * (std::size_t(y) + 1);
+    if (needed > capacity) {
+        const std::size_t total = stride * std::size_t(bitmap->height);
+        const std::size_t bytes = std::min(total, std::max({needed, capacity * 2, firstBytes}));
+        void *block = capacity ? reallocate(bitmap->data, bytes) : allocate(bytes);
+        if (!block)
+            throw Failure{GFL_ERROR_NO_MEMORY};
+        bitmap->data = block;
+        capacity = bytes;
+    }
+    return static_cast<std::uint8_t *>(bitmap->data) + stride * std::size_t(y);
+}
+
+int NewBitmap::rowsFrom(int y)
+{
+    row(y);
+    return static_cast<int>(capacity / bitmap->bytesPerLine) - y;
+}
+
+std::uint16_t big16(const std::uint8_t *bytes)
+{
+    return static_cast<std::uint16_t>(bytes[0] << 8 | bytes[1]);
+}
+
+std::uint32_t big32(const std::uint8_t *bytes)
+{
+    return std::uint32_t(bytes[0]) << 24 | std::uint32_t(bytes[1]) << 16 | std::uint32_t(bytes[2]) << 8 | bytes[3];
+}
+
+void putBig16(Bytes &bytes, unsigned value)
+{
+    bytes.push_back(static_cast<std::uint8_t>(value >> 8));
+    bytes.push_back(static_cast<std::uint8_t>(value));
+}
+
+void putBig32(Bytes &bytes, std::uint32_t value)
+{
+    putBig16(bytes, value >> 16);
+    putBig16(bytes, value & 0xFFFF);
+}
+
+std::uint16_t dpiFrom(double dotsPerInch)
+{
+    return dotsPerInch >= 1.0 && dotsPerInch <= 65535.0 ? static_cast<std::uint16_t>(dotsPerInch + 0.5) : std::uint16_t(0);
+}
+
+} // namespace gfl

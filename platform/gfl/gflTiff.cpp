@@ -1,0 +1,708 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+#include <tiffio.h>
+
+#include "gflMetadata.h"
+
+namespace gfl {
+namespace {
+
+// What LZW packs at best, roughly; the sizes that a file claims are held against its own by this.
+constexpr std::uint64_t kMostPacked = 4096;
+constexpr std::uint64_t kSmallClaim = std::uint64_t(16) << 20;
+
+int onTiffMessage(TIFF *, void *, const char *, const char *, va_list)
+{
+    return 1;
+} // handled: nothing is printed
+
+struct TiffClose
+{
+    void operator()(TIFF *tiff) const { TIFFClose(tiff); }
+};
+using TiffPointer = std::unique_ptr<TIFF, TiffClose>;
+
+struct OptionsFree
+{
+    void operator()(TIFFOpenOptions *options) const { TIFFOpenOptionsFree(options); }
+};
+
+std::unique_ptr<TIFFOpenOptions, OptionsFree> quietOptions()
+{
+    std::unique_ptr<TIFFOpenOptions, OptionsFree> options(TIFFOpenOptionsAlloc());
+    if (!options)
+        throw Failure{GFL_ERROR_NO_MEMORY};
+    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), onTiffMessage, nullptr);
+    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), onTiffMessage, nullptr);
+    return options;
+}
+
+template<class T>
+T field(TIFF *tiff, std::uint32_t tag, T fallback)
+{
+    T value = fallback;
+    return TIFFGetFieldDefaulted(tiff, tag, &value) ? value : fallback;
+}
+
+// ---- reading
+
+struct ReadHandle
+{
+    const InputFile *file;
+    std::uint64_t position;
+};
+
+tmsize_t onRead(thandle_t handle, void *target, tmsize_t bytes)
+{
+    auto *source = static_cast<ReadHandle *>(handle);
+    const std::size_t got = source->file->readAt(source->position, target, static_cast<std::size_t>(bytes));
+    source->position += got;
+    return static_cast<tmsize_t>(got);
+}
+
+toff_t onReadSeek(thandle_t handle, toff_t offset, int whence)
+{
+    auto *source = static_cast<ReadHandle *>(handle);
+    source->position = offset + (whence == SEEK_CUR ? source->position : whence == SEEK_END ? source->file->size() : 0);
+    return source->position;
+}
+
+toff_t onReadSize(thandle_t handle)
+{
+    return static_cast<ReadHandle *>(handle)->file->size();
+}
+tmsize_t onNoWrite(thandle_t, void *, tmsize_t)
+{
+    return -1;
+}
+int onClose(thandle_t)
+{
+    return 0;
+}
+int onNoMap(thandle_t, void **, toff_t *)
+{
+    return 0;
+}
+void onNoUnmap(thandle_t, void *, toff_t) {}
+
+/// An open file: the library's handle and the place it reads from.
+struct OpenTiff
+{
+    std::unique_ptr<ReadHandle> handle;
+    TiffPointer tiff;
+
+    explicit OpenTiff(const InputFile &file) : handle(new ReadHandle{&file, 0})
+    {
+        const auto options = quietOptions();
+        const std::uint64_t limit = std::min<std::uint64_t>(kSmallClaim * 4 + kMostPacked * file.size(), std::uint64_t(1) << 40);
+        TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), static_cast<tmsize_t>(limit));
+        tiff.reset(TIFFClientOpenExt("", "rm", handle.get(), onRead, onNoWrite, onReadSeek, onClose, onReadSize, onNoMap,
+                                     onNoUnmap, options.get()));
+        if (!tiff)
+            throw Failure{GFL_ERROR_FILE_READ};
+    }
+    TIFF *get() const { return tiff.get(); }
+};
+
+enum class Alpha { None, Straight, Associated };
+
+struct Layout
+{
+    std::uint32_t width = 0;
+    std::uint32_t height = 0;
+    int bits = 1;
+    int samples = 1;
+    int sampleFormat = SAMPLEFORMAT_UINT;
+    int photometric = PHOTOMETRIC_MINISBLACK;
+    bool planar = false;
+    bool tiled = false;
+    int colours = 1; // samples that make up the colour; alpha, if any, is the next
+    Alpha alpha = Alpha::None;
+    bool ours = false; // false: the library's own conversion to 8-bit RGB
+    Form form{};
+};
+
+Layout readLayout(TIFF *tiff)
+{
+    Layout layout;
+    if (!TIFFGetField(tiff, TIFFTAG_IMAGEWIDTH, &layout.width) || !TIFFGetField(tiff, TIFFTAG_IMAGELENGTH, &layout.height))
+        throw Failure{GFL_ERROR_FILE_READ};
+    layout.bits = field<std::uint16_t>(tiff, TIFFTAG_BITSPERSAMPLE, 1);
+    layout.samples = field<std::uint16_t>(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
+    layout.sampleFormat = field<std::uint16_t>(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT);
+    layout.planar =
+        field<std::uint16_t>(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG) == PLANARCONFIG_SEPARATE && layout.samples > 1;
+    layout.tiled = TIFFIsTiled(tiff) != 0;
+    std::uint16_t photometric = 0;
+    if (!TIFFGetField(tiff, TIFFTAG_PHOTOMETRIC, &photometric))
+        photometric = layout.samples >= 3 ? PHOTOMETRIC_RGB : PHOTOMETRIC_MINISBLACK;
+    if (photometric == PHOTOMETRIC_YCBCR &&
+        field<std::uint16_t>(tiff, TIFFTAG_COMPRESSION, COMPRESSION_NONE) == COMPRESSION_JPEG && !layout.planar) {
+        TIFFSetField(tiff, TIFFTAG_JPEGCOLORMODE, JPEGCOLORMODE_RGB);
+        photometric = PHOTOMETRIC_RGB;
+    }
+    layout.photometric = photometric;
+
+    switch (photometric) {
+    case PHOTOMETRIC_MINISBLACK:
+    case PHOTOMETRIC_MINISWHITE:
+    case PHOTOMETRIC_PALETTE:
+        layout.colours = 1;
+        break;
+    case PHOTOMETRIC_RGB:
+        layout.colours = 3;
+        break;
+    case PHOTOMETRIC_SEPARATED:
+        layout.colours = 4;
+        break;
+    default:
+        layout.colours = 0;
+    }
+    const bool integers = layout.sampleFormat == SAMPLEFORMAT_UINT || layout.sampleFormat == SAMPLEFORMAT_VOID;
+    const bool depth = layout.sampleFormat == SAMPLEFORMAT_IEEEFP
+                           ? layout.bits == 16 || layout.bits == 32 || layout.bits == 64
+                           : integers && ((layout.bits >= 1 && layout.bits <= 16) || layout.bits == 32);
+    const bool inks =
+        photometric != PHOTOMETRIC_SEPARATED || field<std::uint16_t>(tiff, TIFFTAG_INKSET, INKSET_CMYK) == INKSET_CMYK;
+    const bool palette = photometric != PHOTOMETRIC_PALETTE || (integers && layout.bits <= 16);
+    layout.ours = layout.colours > 0 && layout.samples >= layout.colours && depth && inks && palette;
+    if (!layout.ours) {
+        layout.form = {3, 8};
+        return layout;
+    }
+
+    if (layout.samples > layout.colours && photometric != PHOTOMETRIC_PALETTE && layout.colours != 4) {
+        std::uint16_t count = 0;
+        std::uint16_t *kinds = nullptr;
+        const bool told = TIFFGetField(tiff, TIFFTAG_EXTRASAMPLES, &count, &kinds) && count > 0;
+        // A channel of no stated use is somebody's mask; but a file that states nothing at all means alpha by its fourth sample.
+        if (told)
+            layout.alpha = kinds[0] == EXTRASAMPLE_ASSOCALPHA   ? Alpha::Associated
+                           : kinds[0] == EXTRASAMPLE_UNASSALPHA ? Alpha::Straight
+                                                                : Alpha::None;
+        else if (layout.samples == layout.colours + 1)
+            layout.alpha = Alpha::Straight;
+    }
+    const int outBits = layout.sampleFormat == SAMPLEFORMAT_IEEEFP || layout.bits == 32 ? 32
+                        : layout.bits > 8 && photometric != PHOTOMETRIC_PALETTE         ? 16
+                                                                                        : 8;
+    const bool grey = layout.colours == 1 && photometric != PHOTOMETRIC_PALETTE;
+    layout.form = {layout.alpha != Alpha::None ? 4 : grey ? 1 : 3, outBits};
+    return layout;
+}
+
+/// The undecoded rows of one plane (or of all samples together), in order. Strips come row by row out of the library; tiles come
+/// a band at a time.
+class PlaneRows
+{
+public:
+    PlaneRows(const InputFile &file, const Layout &shape, int plane)
+        : tiff(file), layout(shape), sample(static_cast<std::uint16_t>(plane))
+    {
+        readLayout(tiff.get()); // for its setting of the colour mode
+        const std::uint64_t samples = layout.planar ? 1 : unsigned(layout.samples);
+        rowBytes = (std::uint64_t(layout.width) * samples * unsigned(layout.bits) + 7) / 8;
+        const std::uint64_t limit = kSmallClaim + kMostPacked * file.size();
+        if (!layout.tiled) {
+            if (TIFFScanlineSize64(tiff.get()) != rowBytes || rowBytes > limit)
+                throw Failure{GFL_ERROR_FILE_READ};
+            return;
+        }
+        TIFFGetField(tiff.get(), TIFFTAG_TILEWIDTH, &tileWidth);
+        TIFFGetField(tiff.get(), TIFFTAG_TILELENGTH, &tileHeight);
+        const std::uint64_t tileBytes = TIFFTileSize64(tiff.get());
+        tileRowBytes = TIFFTileRowSize64(tiff.get());
+        if (tileWidth == 0 || tileHeight == 0 || tileBytes == 0 || tileRowBytes == 0 || tileBytes > limit ||
+            rowBytes > limit / tileHeight || tileBytes / tileHeight < tileRowBytes ||
+            std::uint64_t(tileWidth) * samples * unsigned(layout.bits) / 8 > tileRowBytes ||
+            std::uint64_t(tileWidth) * samples * unsigned(layout.bits) % 8 != 0)
+            throw Failure{GFL_ERROR_FILE_READ};
+        tile.resize(static_cast<std::size_t>(tileBytes));
+        band.resize(static_cast<std::size_t>(rowBytes * tileHeight));
+    }
+
+    /// Reads row `y` to `target`; call it for each row in order.
+    void read(std::uint32_t y, void *target)
+    {
+        if (!layout.tiled) {
+            if (TIFFReadScanline(tiff.get(), target, y, sample) != 1)
+                throw Failure{GFL_ERROR_FILE_READ};
+            return;
+        }
+        if (y % tileHeight == 0)
+            readBand(y);
+        std::memcpy(target, band.data() + std::size_t(rowBytes) * (y % tileHeight), static_cast<std::size_t>(rowBytes));
+    }
+
+    std::size_t bytes() const { return static_cast<std::size_t>(rowBytes); }
+    TIFF *handle() const { return tiff.get(); }
+
+private:
+    void readBand(std::uint32_t y)
+    {
+        const std::uint32_t rows = std::min(tileHeight, layout.height - y);
+        std::uint64_t at = 0;
+        for (std::uint32_t x = 0; x < layout.width; x += tileWidth, at += tileRowBytes) {
+            if (TIFFReadTile(tiff.get(), tile.data(), x, y, 0, sample) < 0)
+                throw Failure{GFL_ERROR_FILE_READ};
+            const std::size_t part = static_cast<std::size_t>(std::min(tileRowBytes, rowBytes - at));
+            for (std::uint32_t i = 0; i < rows; ++i)
+                std::memcpy(band.data() + rowBytes * i + at, tile.data() + tileRowBytes * i, part);
+            if (layout.width - x <= tileWidth)
+                break;
+        }
+    }
+
+    OpenTiff tiff;
+    const Layout &layout;
+    std::uint16_t sample;
+    std::uint64_t rowBytes = 0;
+    std::uint32_t tileWidth = 0;
+    std::uint32_t tileHeight = 0;
+    std::uint64_t tileRowBytes = 0;
+    Bytes tile;
+    Bytes band;
+};
+
+float halfToFloat(std::uint16_t half)
+{
+    const int exponent = half >> 10 & 31;
+    const int mantissa = half & 1023;
+    const float size = exponent == 0 ? std::ldexp(static_cast<float>(mantissa), -24)
+                       : exponent == 31
+                           ? (mantissa ? std::numeric_limits<float>::quiet_NaN() : std::numeric_limits<float>::infinity())
+                           : std::ldexp(static_cast<float>(mantissa + 1024), exponent - 25);
+    return half & 0x8000 ? -size : size;
+}
+
+/// Turns packed samples of any depth that we take into 32-bit floats (full scale 1) or 16-bit integers (full scale 65535, or the
+/// bare number where it is an index).
+void unpack(const std::uint8_t *source, const Layout &layout, std::size_t count, bool index, float *floats,
+            std::uint16_t *integers)
+{
+    if (layout.sampleFormat == SAMPLEFORMAT_IEEEFP && layout.bits == 16) {
+        const auto *halves = reinterpret_cast<const std::uint16_t *>(source);
+        for (std::size_t i = 0; i < count; ++i)
+            floats[i] = halfToFloat(halves[i]);
+    } else if (layout.sampleFormat == SAMPLEFORMAT_IEEEFP && layout.bits == 64) {
+        for (std::size_t i = 0; i < count; ++i) {
+            double value;
+            std::memcpy(&value, source + i * sizeof value, sizeof value);
+            constexpr double kLargest = std::numeric_limits<float>::max(); // beyond it the conversion is not defined
+            floats[i] =
+                std::isfinite(value) ? static_cast<float>(std::clamp(value, -kLargest, kLargest)) : static_cast<float>(value);
+        }
+    } else if (layout.sampleFormat == SAMPLEFORMAT_IEEEFP) {
+        std::memcpy(floats, source, count * sizeof(float));
+    } else if (layout.bits == 32) {
+        const auto *values = reinterpret_cast<const std::uint32_t *>(source);
+        for (std::size_t i = 0; i < count; ++i)
+            floats[i] = static_cast<float>(double(values[i]) / 4294967295.0);
+    } else if (layout.bits == 16) {
+        std::memcpy(integers, source, count * sizeof(std::uint16_t));
+    } else {
+        const unsigned largest = (1u << layout.bits) - 1;
+        std::uint32_t window = 0;
+        int held = 0;
+        for (std::size_t i = 0; i < count; ++i) {
+            while (held < layout.bits) {
+                window = window << 8 | *source++;
+                held += 8;
+            }
+            held -= layout.bits;
+            const unsigned value = window >> held & largest;
+            integers[i] = static_cast<std::uint16_t>(index ? value : (value * 65535u + largest / 2) / largest);
+        }
+    }
+}
+
+/// From unpacked samples to the bitmap's form.
+template<class Sample>
+void arrange(const Sample *source, const Layout &layout, Sample *target)
+{
+    constexpr bool real = std::is_same_v<Sample, float>;
+    constexpr Sample full = real ? Sample(1) : std::numeric_limits<Sample>::max();
+    const int out = layout.form.components;
+    for (std::uint32_t x = 0; x < layout.width; ++x, source += layout.samples, target += out) {
+        if (layout.colours == 4) {
+            const float key = static_cast<float>(full) - static_cast<float>(source[3]);
+            for (int c = 0; c < 3; ++c)
+                target[c] = static_cast<Sample>((static_cast<float>(full) - static_cast<float>(source[c])) * key /
+                                                    static_cast<float>(full) +
+                                                (real ? 0.0f : 0.5f));
+            continue;
+        }
+        for (int c = 0; c < std::min(out, 3); ++c) {
+            const Sample value = source[layout.colours == 1 ? 0 : c];
+            target[c] = layout.photometric == PHOTOMETRIC_MINISWHITE ? static_cast<Sample>(full - value) : value;
+        }
+        if (layout.alpha == Alpha::None)
+            continue;
+        const Sample alpha = source[layout.colours];
+        target[3] = alpha;
+        if (layout.alpha == Alpha::Associated && alpha > 0)
+            for (int c = 0; c < 3; ++c) {
+                const float straight = static_cast<float>(target[c]) * (static_cast<float>(full) / static_cast<float>(alpha));
+                target[c] = real ? static_cast<Sample>(straight)
+                                 : static_cast<Sample>(std::min(straight + 0.5f, static_cast<float>(full)));
+            }
+    }
+}
+
+struct Palette
+{
+    std::uint16_t *channels[3] = {};
+};
+
+void applyPalette(const std::uint16_t *indices, const Layout &layout, const Palette &palette, std::uint8_t *target)
+{
+    for (std::uint32_t x = 0; x < layout.width; ++x, indices += layout.samples, target += 3)
+        for (int c = 0; c < 3; ++c)
+            target[c] = static_cast<std::uint8_t>((palette.channels[c][*indices] + 128u) / 257u);
+}
+
+void readOurs(const InputFile &file, const Layout &layout, NewBitmap &bitmap)
+{
+    std::vector<std::unique_ptr<PlaneRows>> planes;
+    const int taken = layout.colours + (layout.alpha != Alpha::None ? 1 : 0);
+    for (int i = 0; i < (layout.planar ? taken : 1); ++i)
+        planes.push_back(std::make_unique<PlaneRows>(file, layout, i));
+
+    const bool straight = !layout.planar && layout.samples == layout.form.components && layout.bits == layout.form.bits &&
+                          layout.colours < 4 && layout.alpha != Alpha::Associated &&
+                          (layout.bits < 32 || layout.sampleFormat == SAMPLEFORMAT_IEEEFP) &&
+                          layout.photometric != PHOTOMETRIC_MINISWHITE && layout.photometric != PHOTOMETRIC_PALETTE;
+    if (straight) {
+        for (std::uint32_t y = 0; y < layout.height; ++y)
+            planes[0]->read(y, bitmap.row(static_cast<int>(y)));
+        return;
+    }
+
+    Palette palette;
+    const bool indexed = layout.photometric == PHOTOMETRIC_PALETTE;
+    if (indexed &&
+        !TIFFGetField(planes[0]->handle(), TIFFTAG_COLORMAP, &palette.channels[0], &palette.channels[1], &palette.channels[2]))
+        throw Failure{GFL_ERROR_FILE_READ};
+
+    // Planes that are not taken leave their places in the unpacked row alone.
+    const std::size_t samples = std::size_t(layout.width) * unsigned(layout.samples);
+    const bool real = layout.form.bits == 32;
+    Bytes raw(planes[0]->bytes() + sizeof(double));
+    std::vector<float> floats(real ? samples : 0);
+    std::vector<std::uint16_t> integers(real ? 0 : samples);
+    std::vector<float> floatPlane(layout.planar && real ? layout.width : 0);
+    std::vector<std::uint16_t> integerPlane(layout.planar && !real ? layout.width : 0);
+    std::vector<std::uint16_t> wide(
+        layout.form.bits == 8 && !indexed ? std::size_t(layout.width) * unsigned(layout.form.components) : 0);
+    const RowConverter narrow = rowConverter(16, 8);
+    for (std::uint32_t y = 0; y < layout.height; ++y) {
+        for (std::size_t plane = 0; plane < planes.size(); ++plane) {
+            planes[plane]->read(y, raw.data());
+            if (!layout.planar) {
+                unpack(raw.data(), layout, samples, indexed, floats.data(), integers.data());
+                continue;
+            }
+            unpack(raw.data(), layout, layout.width, indexed, floatPlane.data(), integerPlane.data());
+            for (std::uint32_t x = 0; x < layout.width; ++x) {
+                const std::size_t at = std::size_t(x) * unsigned(layout.samples) + plane;
+                if (real)
+                    floats[at] = floatPlane[x];
+                else
+                    integers[at] = integerPlane[x];
+            }
+        }
+        std::uint8_t *target = bitmap.row(static_cast<int>(y));
+        if (indexed) {
+            applyPalette(integers.data(), layout, palette, target);
+        } else if (real) {
+            arrange(floats.data(), layout, reinterpret_cast<float *>(target));
+        } else if (layout.form.bits == 16) {
+            arrange(integers.data(), layout, reinterpret_cast<std::uint16_t *>(target));
+        } else {
+            arrange(integers.data(), layout, wide.data());
+            narrow(wide.data(), layout.form.components, target, layout.form.components, bitmap.width());
+        }
+    }
+}
+
+struct RgbaImage : TIFFRGBAImage
+{
+    RgbaImage() : TIFFRGBAImage{} {}
+    ~RgbaImage()
+    {
+        if (begun)
+            TIFFRGBAImageEnd(this);
+    }
+    bool begun = false;
+};
+
+void readByLibrary(const OpenTiff &open, const InputFile &file, const Layout &layout, NewBitmap &bitmap)
+{
+    char message[1024];
+    RgbaImage image;
+    image.begun = TIFFRGBAImageBegin(&image, open.get(), /*stop=*/1, message) != 0;
+    if (!image.begun)
+        throw Failure{GFL_ERROR_FILE_READ};
+    image.req_orientation = image.orientation; // rows as they stand
+    std::uint32_t rowsPerBand = 0;
+    if (layout.tiled)
+        TIFFGetField(open.get(), TIFFTAG_TILELENGTH, &rowsPerBand);
+    else
+        TIFFGetFieldDefaulted(open.get(), TIFFTAG_ROWSPERSTRIP, &rowsPerBand);
+    rowsPerBand = std::clamp(rowsPerBand, 1u, layout.height);
+    if (std::uint64_t(rowsPerBand) * layout.width * 4 > kSmallClaim + kMostPacked * file.size())
+        throw Failure{GFL_ERROR_FILE_READ};
+    std::vector<std::uint32_t> raster(std::size_t(rowsPerBand) * layout.width);
+    for (std::uint32_t y = 0; y < layout.height; y += rowsPerBand) {
+        const std::uint32_t rows = std::min(rowsPerBand, layout.height - y);
+        image.row_offset = static_cast<int>(y);
+        if (!TIFFRGBAImageGet(&image, raster.data(), layout.width, rows))
+            throw Failure{GFL_ERROR_FILE_READ};
+        for (std::uint32_t i = 0; i < rows; ++i) {
+            const std::uint32_t *source = raster.data() + std::size_t(i) * layout.width;
+            std::uint8_t *target = bitmap.row(static_cast<int>(y + i));
+            for (std::uint32_t x = 0; x < layout.width; ++x, target += 3) {
+                target[0] = static_cast<std::uint8_t>(TIFFGetR(source[x]));
+                target[1] = static_cast<std::uint8_t>(TIFFGetG(source[x]));
+                target[2] = static_cast<std::uint8_t>(TIFFGetB(source[x]));
+            }
+        }
+    }
+}
+
+void readMetadata(const InputFile &file, TIFF *tiff, Metadata &metadata)
+{
+    std::uint32_t count = 0;
+    void *profile = nullptr;
+    if (TIFFGetField(tiff, TIFFTAG_ICCPROFILE, &count, &profile) && count > 0) {
+        const auto *bytes = static_cast<const std::uint8_t *>(profile);
+        metadata.icc.assign(bytes, bytes + count);
+    }
+    metadata.exif.block = metadataFromFile(file.name(), /*raw=*/false).exif;
+
+    bool bigEndian = false;
+    const TiffReader read = [&](std::uint64_t offset, void *target, std::size_t bytes) {
+        return file.readAt(offset, target, bytes);
+    };
+    Bytes resources;
+    for (const IfdEntry &entry : firstDirectory(read, file.size(), bigEndian)) {
+        if (entry.tag == TIFFTAG_RICHTIFFIPTC) {
+            Bytes block = file.bytesAt(entry.valueOffset, entry.valueBytes);
+            // Some writers swap the block as if it were the longs that its type says.
+            if (block.size() >= 4 && block[0] != 0x1C && block[3] == 0x1C)
+                swapSamples(block.data(), block.data(), block.size() / 4, 32);
+            if (!block.empty() && block[0] == 0x1C)
+                metadata.iptc.block = block;
+        } else if (entry.tag == TIFFTAG_PHOTOSHOP) {
+            resources = file.bytesAt(entry.valueOffset, entry.valueBytes);
+        }
+    }
+    if (metadata.iptc.block.empty())
+        metadata.iptc.block = photoshopResource(resources, kResourceIptc);
+}
+
+// ---- writing
+
+tmsize_t onWrite(thandle_t handle, void *source, tmsize_t bytes)
+{
+    return static_cast<OutputFile *>(handle)->tryWrite(source, static_cast<std::size_t>(bytes)) ? bytes : -1;
+}
+
+tmsize_t onReadBack(thandle_t handle, void *target, tmsize_t bytes)
+{
+    return static_cast<tmsize_t>(static_cast<OutputFile *>(handle)->readBack(target, static_cast<std::size_t>(bytes)));
+}
+
+toff_t onWriteSeek(thandle_t handle, toff_t offset, int whence)
+{
+    auto *file = static_cast<OutputFile *>(handle);
+    const std::uint64_t target = offset + (whence == SEEK_CUR ? file->offset() : whence == SEEK_END ? file->size() : 0);
+    return file->trySeek(target) ? target : ~toff_t(0);
+}
+
+toff_t onWriteSize(thandle_t handle)
+{
+    return static_cast<OutputFile *>(handle)->size();
+}
+
+void checked(bool done)
+{
+    if (!done)
+        throw Failure{GFL_ERROR_FILE_WRITE};
+}
+
+void setFields(TIFF *tiff, const WriteRequest &request, std::uint16_t compression)
+{
+    const GflBitmap &bitmap = request.bitmap;
+    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, static_cast<std::uint32_t>(bitmap.width));
+    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, static_cast<std::uint32_t>(bitmap.height));
+    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, bitmap.bitsPerComponent);
+    TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, bitmap.componentsPerPixel);
+    TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, bitmap.componentsPerPixel == 1 ? PHOTOMETRIC_MINISBLACK : PHOTOMETRIC_RGB);
+    TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+    TIFFSetField(tiff, TIFFTAG_SAMPLEFORMAT, bitmap.bitsPerComponent == 32 ? SAMPLEFORMAT_IEEEFP : SAMPLEFORMAT_UINT);
+    if (bitmap.componentsPerPixel == 4) {
+        const std::uint16_t kind = EXTRASAMPLE_UNASSALPHA;
+        TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, 1, &kind);
+    }
+    checked(TIFFSetField(tiff, TIFFTAG_COMPRESSION, compression) == 1);
+    if (compression != COMPRESSION_NONE)
+        TIFFSetField(tiff, TIFFTAG_PREDICTOR, bitmap.bitsPerComponent == 32 ? PREDICTOR_FLOATINGPOINT : PREDICTOR_HORIZONTAL);
+    if (bitmap.xDpi && bitmap.yDpi) {
+        TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
+        TIFFSetField(tiff, TIFFTAG_XRESOLUTION, static_cast<double>(bitmap.xDpi));
+        TIFFSetField(tiff, TIFFTAG_YRESOLUTION, static_cast<double>(bitmap.yDpi));
+    }
+    if (!request.icc.empty())
+        TIFFSetField(tiff, TIFFTAG_ICCPROFILE, static_cast<std::uint32_t>(request.icc.size()), request.icc.data());
+    if (!request.iptc.empty()) // counted in bytes by this library
+        TIFFSetField(tiff, TIFFTAG_RICHTIFFIPTC, static_cast<std::uint32_t>(request.iptc.size()), request.iptc.data());
+}
+
+void writeStrips(TIFF *tiff, const GflBitmap &bitmap, bool swap, bool packed)
+{
+    const std::size_t rowBytes = std::size_t(bitmap.width) * bitmap.bytesPerPixel;
+    constexpr std::size_t kStripBytes = 256 * 1024;
+    const int rowsPerStrip = static_cast<int>(std::clamp<std::size_t>(kStripBytes / rowBytes, 1, std::size_t(bitmap.height)));
+    TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, static_cast<std::uint32_t>(rowsPerStrip));
+
+    // The library changes what it packs, so that goes by way of a strip of our own.
+    const bool direct = !packed && !swap && bitmap.bytesPerLine == rowBytes;
+    Bytes strip(direct ? 0 : rowBytes * std::size_t(rowsPerStrip));
+    std::uint32_t index = 0;
+    for (int y = 0; y < bitmap.height; y += rowsPerStrip, ++index) {
+        const int rows = std::min(rowsPerStrip, bitmap.height - y);
+        const tmsize_t bytes = static_cast<tmsize_t>(rowBytes * std::size_t(rows));
+        for (int i = 0; i < (direct ? 0 : rows); ++i) {
+            std::uint8_t *target = strip.data() + rowBytes * std::size_t(i);
+            if (swap && !packed) // the library swaps what it packs
+                swapSamples(rowOf(bitmap, y + i), target, rowBytes / (bitmap.bitsPerComponent / 8), bitmap.bitsPerComponent);
+            else
+                std::memcpy(target, rowOf(bitmap, y + i), rowBytes);
+        }
+        void *source = direct ? const_cast<std::uint8_t *>(rowOf(bitmap, y)) : strip.data();
+        checked((packed ? TIFFWriteEncodedStrip(tiff, index, source, bytes) : TIFFWriteRawStrip(tiff, index, source, bytes)) ==
+                bytes);
+    }
+}
+
+/// Adds what the EXIF block's first directory holds (camera, author, the pointers to its further directories) to the file's. The
+/// file begins with the block as it stands, so that every offset in it holds, also those within a maker's note.
+void mergeDirectories(OutputFile &file, const Bytes &exif)
+{
+    const std::uint64_t fileBytes = file.size();
+    const TiffReader read = [&](std::uint64_t offset, void *target, std::size_t bytes) -> std::size_t {
+        return file.trySeek(offset) ? file.readBack(target, bytes) : 0;
+    };
+    bool bigEndian = false;
+    std::vector<IfdEntry> entries = firstDirectory(read, fileBytes, bigEndian);
+    checked(!entries.empty());
+    const auto has = [&](unsigned tag) {
+        return std::any_of(entries.begin(), entries.end(), [&](const IfdEntry &entry) { return entry.tag == tag; });
+    };
+    const bool ownResolution = has(TIFFTAG_XRESOLUTION);
+    for (const IfdEntry &entry : firstDirectory(exif, bigEndian)) {
+        const bool resolution = entry.tag == TIFFTAG_RESOLUTIONUNIT && ownResolution;
+        if (!isStructuralTag(entry.tag) && !resolution && !has(entry.tag))
+            entries.push_back(entry);
+    }
+    std::stable_sort(entries.begin(), entries.end(), [](const IfdEntry &a, const IfdEntry &b) { return a.tag < b.tag; });
+
+    const std::uint64_t start = (fileBytes + 1) / 2 * 2;
+    if (start + 2 + 12 * entries.size() + 4 > std::numeric_limits<std::uint32_t>::max())
+        throw Failure{GFL_ERROR_FILE_WRITE};
+    const auto put = [&](Bytes &bytes, std::uint32_t value, int count) {
+        for (int i = 0; i < count; ++i)
+            bytes.push_back(static_cast<std::uint8_t>(value >> 8 * (bigEndian ? count - 1 - i : i)));
+    };
+    Bytes directory(static_cast<std::size_t>(start - fileBytes), 0);
+    put(directory, static_cast<std::uint32_t>(entries.size()), 2);
+    for (const IfdEntry &entry : entries)
+        directory.insert(directory.end(), entry.raw, entry.raw + sizeof entry.raw);
+    put(directory, 0, 4); // no further directory
+    Bytes pointer;
+    put(pointer, static_cast<std::uint32_t>(start), 4);
+    checked(file.trySeek(fileBytes));
+    file.write(directory);
+    checked(file.trySeek(4));
+    file.write(pointer);
+    checked(file.trySeek(start + 2));
+}
+
+} // namespace
+
+BitmapPointer readTiff(const ReadRequest &request)
+{
+    const OpenTiff open(request.file);
+    const Layout layout = readLayout(open.get());
+    NewBitmap bitmap(request.file, layout.width, layout.height, layout.form);
+    const double perInch = field<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_INCH         ? 1.0
+                           : field<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_CENTIMETER ? 2.54
+                                                                                                                          : 0.0;
+    bitmap.record().xDpi = dpiFrom(double(field<float>(open.get(), TIFFTAG_XRESOLUTION, 0)) * perInch);
+    bitmap.record().yDpi = dpiFrom(double(field<float>(open.get(), TIFFTAG_YRESOLUTION, 0)) * perInch);
+    if (request.metadata)
+        readMetadata(request.file, open.get(), attachMetadata(bitmap.record()));
+    if (request.pixels) {
+        if (layout.ours)
+            readOurs(request.file, layout, bitmap);
+        else
+            readByLibrary(open, request.file, layout, bitmap);
+    }
+    return bitmap.take();
+}
+
+void writeTiff(const WriteRequest &request)
+{
+    const GflBitmap &bitmap = request.bitmap;
+    std::uint16_t compression = COMPRESSION_NONE;
+    switch (request.compression) {
+    case GFL_DEFAULT:
+    case 0:
+        break;
+    case 2:
+        if (request.lzw)
+            compression = COMPRESSION_LZW;
+        break;
+    case 4:
+        compression = COMPRESSION_ADOBE_DEFLATE;
+        break;
+    default:
+        throw Failure{GFL_ERROR_BAD_PARAMETERS};
+    }
+
+    // Offsets of 32 bits leave room for directories and metadata. The large form has others than an EXIF block.
+    constexpr std::uint64_t kLargestClassic = std::uint64_t(4000) << 20;
+    const bool large = std::uint64_t(bitmap.width) * bitmap.bytesPerPixel * unsigned(bitmap.height) > kLargestClassic;
+    const bool exif = !request.exif.empty() && !large && isExifBlock(request.exif.data(), request.exif.size());
+    const bool bigEndian = exif && request.exif[0] == 'M';
+
+    {
+        const auto options = quietOptions();
+        const TiffPointer tiff(TIFFClientOpenExt("",
+                                                 large       ? "wl8m"
+                                                 : bigEndian ? "wbm"
+                                                             : "wlm",
+                                                 &request.file, onReadBack, onWrite, onWriteSeek, onClose, onWriteSize, onNoMap,
+                                                 onNoUnmap, options.get()));
+        checked(tiff != nullptr);
+        if (exif) {
+            constexpr std::size_t kHeader = 8;
+            checked(request.file.trySeek(kHeader));
+            request.file.write(request.exif.data() + kHeader, request.exif.size() - kHeader);
+            if (request.exif.size() % 2)
+                request.file.write("", 1);
+        }
+        setFields(tiff.get(), request, compression);
+        writeStrips(tiff.get(), bitmap, bigEndian && bitmap.bitsPerComponent > 8, compression != COMPRESSION_NONE);
+        checked(TIFFWriteDirectory(tiff.get()) == 1 && TIFFFlush(tiff.get()) == 1);
+    }
+    if (exif)
+        mergeDirectories(request.file, request.exif);
+}
+
+} // namespace gfl
