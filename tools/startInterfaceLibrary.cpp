@@ -20,7 +20,7 @@ void startInterfaceLibrary(VUIContext *context)
         return;
     }
     registerInterfaceResources();
-    interfaceContext.flag = new std::uint8_t(1);
+    interfaceContext.flag = makeInterfaceFlag();
     QDir::setSearchPaths(QStringLiteral("UI"), QStringList(QStringLiteral(":/UI")));
     started = true;
 }
