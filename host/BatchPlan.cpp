@@ -1,0 +1,113 @@
+#include "BatchPlan.h"
+
+#include <map>
+#include <set>
+#include <utility>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <sys/stat.h>
+
+namespace {
+
+using FileId = std::pair<dev_t, ino_t>;
+
+std::optional<FileId> idOf(const QString &path)
+{
+    struct stat status;
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return std::nullopt;
+    return FileId(status.st_dev, status.st_ino);
+}
+
+/// One spelling for one place, also where folders are links.
+QString placeOf(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return (folder.isEmpty() ? info.absolutePath() : folder) + '/' + info.fileName();
+}
+
+/// A file system takes no longer names, and the codec layer's temporary file has a few characters more.
+constexpr int kLongestName = 255 - 16;
+
+} // namespace
+
+QString BatchPlan::resultName(const QString &photograph, bool needsTiff)
+{
+    const QFileInfo info(photograph);
+    const QString suffix = needsTiff ? QStringLiteral("tiff") : info.suffix().toLower();
+    return info.absolutePath() + QDir::separator() + info.completeBaseName() +
+           QCoreApplication::translate("NimbraOne2One", "_dehazed") + '.' + suffix;
+}
+
+std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostApplication &host, const Wishes &wishes)
+{
+    std::vector<BatchItem> items;
+    std::map<QString, std::size_t> inputs; // place of the photograph -> item
+    for (const QString &given : photographs) {
+        BatchItem item;
+        item.given = given;
+        // A path through ".." is resolved here, since cleaning it as a text goes wrong behind a link.
+        item.path = given.contains("..") ? placeOf(QDir::current().filePath(given)) : QFileInfo(given).absoluteFilePath();
+        item.refusal = PhotoLoader::complaint(given.isEmpty() ? given : item.path);
+        if (!item.refusal.isEmpty()) {
+            items.push_back(std::move(item));
+            continue;
+        }
+        if (!inputs.emplace(placeOf(item.path), items.size()).second)
+            continue;
+        item.recordable = true;
+        const bool tiff = host.imageDef(item.path)->needsTiffOutput();
+        item.result = resultName(item.path, tiff);
+        const QString suffix = QFileInfo(item.path).suffix();
+        if (tiff && !PhotoLoader::rawSuffixes().contains(suffix.toLower()))
+            item.note = suffix.isEmpty() ? tr("It has no suffix, so the result is a TIFF.")
+                                         : tr("\"%1\" is no format that can be written, so the result is a TIFF.").arg(suffix);
+        const QDomElement stored = wishes.settings ? wishes.settings->element(item.path) : QDomElement();
+        item.strength = wishes.strength ? *wishes.strength : SettingsFile::strengthOf(stored).value_or(wishes.defaultStrength);
+        item.settings =
+            wishes.strength || stored.isNull() ? SettingsFile::withStrength(wishes.processName, item.strength) : stored;
+        items.push_back(std::move(item));
+    }
+
+    std::map<FileId, std::size_t> sources;
+    for (const auto &[place, index] : inputs)
+        if (const auto id = idOf(place))
+            sources.emplace(*id, index);
+    std::map<QString, std::size_t> results;
+    for (std::size_t index = 0; index < items.size(); ++index) {
+        BatchItem &item = items[index];
+        if (!item.refusal.isEmpty())
+            continue;
+        const QFileInfo result(item.result);
+        const QString place = placeOf(item.result);
+        const auto id = idOf(item.result);
+        const auto source = id ? sources.find(*id) : sources.end();
+        const auto [first, fresh] = results.emplace(place, index);
+        if (const auto input = inputs.find(place); input != inputs.end()) {
+            BatchItem &other = items[input->second];
+            item.refusal =
+                tr("Its result \"%1\" is itself one of the photographs given. Leave out one of the two.").arg(item.result);
+            other.refusal = tr("It is the result of \"%1\", which is given too. Leave out one of the two.").arg(item.given);
+        } else if (source != sources.end()) {
+            item.refusal = tr("Its result \"%1\" is the same file as the photograph \"%2\". Move one of the two away.")
+                               .arg(item.result, items[source->second].given);
+        } else if (!fresh) {
+            item.refusal = tr("Its result \"%1\" would be that of \"%2\" too. Rename one of the two photographs.")
+                               .arg(item.result, items[first->second].given);
+        } else if (result.isDir()) {
+            item.refusal = tr("Where its result belongs, at \"%1\", a folder stands. Move the folder away.").arg(item.result);
+        } else if (!wishes.overwrite && (result.exists() || result.isSymLink())) {
+            item.refusal = tr("Its result \"%1\" is there already. Give --overwrite to replace it.").arg(item.result);
+        } else if (!QFileInfo(result.absolutePath()).isWritable()) {
+            item.refusal =
+                tr("Its result can't be written: the folder \"%1\" is read-only. Copy the photograph to another folder.")
+                    .arg(result.absolutePath());
+        } else if (QFile::encodeName(result.fileName()).size() > kLongestName) {
+            item.refusal = tr("The name of its result would be too long. Give the photograph a shorter name.");
+        }
+    }
+    return items;
+}

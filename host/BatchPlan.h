@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include "BatchRunner.h"
+#include "SettingsFile.h"
+
+/// Decides before any work what becomes of each photograph: its strength, the name of its result, and whether it must be refused
+/// (see BatchItem::refusal): what is no photograph, a result that is there already, a result that is itself one of the
+/// photographs, two photographs with one result. A photograph named twice is done once.
+class BatchPlan
+{
+    Q_DECLARE_TR_FUNCTIONS(BatchPlan)
+
+public:
+    struct Wishes
+    {
+        std::optional<int> strength; ///< For all; otherwise that of the settings, then `defaultStrength`.
+        int defaultStrength = 0;
+        bool overwrite = false;
+        QString processName;
+        const SettingsFile *settings = nullptr; ///< May be null.
+    };
+
+    static std::vector<BatchItem> make(const QStringList &photographs, HostApplication &host, const Wishes &wishes);
+
+    /// The name that the process will give to the result, in the language that is installed.
+    static QString resultName(const QString &photograph, bool needsTiff);
+};

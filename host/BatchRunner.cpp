@@ -1,0 +1,196 @@
+#include "BatchRunner.h"
+
+#include <algorithm>
+#include <exception>
+#include <limits>
+#include <memory>
+#include <new>
+#include <thread>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+
+#include "VException.h"
+#include "XmpCarrier.h"
+
+namespace {
+
+/// Ends a run on its way through the plug-in; BatchRunner::stopping tells it from a failure.
+[[noreturn]] void endRun()
+{
+    throw VException(QStringLiteral("Stopped"), V_LOCATION);
+}
+
+qint64 numberIn(const char *file)
+{
+    QFile input(file);
+    bool whole = false;
+    const qint64 number = input.open(QIODevice::ReadOnly) ? input.readAll().trimmed().toLongLong(&whole) : 0;
+    return whole ? number : -1;
+}
+
+/// Bytes that may be taken without pushing anything out: the system's own estimate, less where a container's limit is nearer. Two
+/// gigabytes where neither can be read.
+qint64 freeMemory()
+{
+    qint64 bytes = qint64(2) << 30;
+    QFile input("/proc/meminfo");
+    if (input.open(QIODevice::ReadOnly))
+        for (const QByteArray &line : input.readAll().split('\n'))
+            if (line.startsWith("MemAvailable:"))
+                bytes = line.mid(13).simplified().split(' ').first().toLongLong() * 1024;
+    for (const auto &[limit, used] :
+         {std::pair("/sys/fs/cgroup/memory.max", "/sys/fs/cgroup/memory.current"),
+          std::pair("/sys/fs/cgroup/memory/memory.limit_in_bytes", "/sys/fs/cgroup/memory/memory.usage_in_bytes")})
+        if (numberIn(limit) >= 0 && numberIn(used) >= 0)
+            bytes = std::min(bytes, numberIn(limit) - numberIn(used));
+    return std::max<qint64>(bytes, 0);
+}
+
+/// What one photograph takes at most: the working image (16 bytes a pixel), the map (4), source, result and guides.
+qint64 memoryFor(const PhotoFacts &facts)
+{
+    return qint64(facts.width) * facts.height * 36 + (qint64(64) << 20);
+}
+
+/// Several at a time keep the cores busy while one of them decodes or encodes; more than this many only cost memory.
+constexpr int kMostJobs = 8;
+
+} // namespace
+
+BatchRunner::BatchRunner(HostApplication &host, VIPluginOne2One &process, Observer &observer)
+    : application(host), one2one(process), watcher(observer)
+{
+}
+
+void BatchRunner::run(const std::vector<BatchItem> &items, int jobs)
+{
+    next = 0;
+    running = 0;
+    memoryLeft = jobs > 0 ? std::numeric_limits<qint64>::max() : freeMemory() / 4 * 3;
+    if (jobs <= 0)
+        jobs = std::min(QThread::idealThreadCount(), kMostJobs);
+    std::vector<std::thread> team;
+    for (std::size_t i = 1; i < std::min(items.size(), std::size_t(std::max(jobs, 1))); ++i)
+        team.emplace_back([&] { work(items); });
+    work(items);
+    for (std::thread &member : team)
+        member.join();
+}
+
+void BatchRunner::work(const std::vector<BatchItem> &items)
+{
+    for (std::size_t index; (index = next++) < items.size();) {
+        QElapsedTimer timer;
+        timer.start();
+        BatchOutcome outcome = process(items[index], int(index));
+        outcome.seconds = double(timer.nsecsElapsed()) / 1e9;
+        const std::lock_guard lock(reportMutex);
+        watcher.finished(int(index), outcome);
+    }
+}
+
+BatchOutcome BatchRunner::process(const BatchItem &item, int index)
+{
+    BatchOutcome outcome;
+    if (!item.refusal.isEmpty()) {
+        outcome.message = item.refusal;
+        return outcome;
+    }
+    const bool stoodBefore = QFileInfo::exists(item.result) || QFileInfo(item.result).isSymLink();
+    Stage stage = Stage::Reading;
+    bool outOfMemory = false;
+    try {
+        attempt(item, index, stage);
+        outcome.status = BatchOutcome::Status::Done;
+        outcome.message = carryXmp(item.path, item.result);
+        if (!outcome.message.isEmpty())
+            outcome.message =
+                tr("The result is there, but the photograph's XMP could not be copied into it: %1.").arg(outcome.message);
+        return outcome;
+    } catch (const VException &failure) {
+        outcome.message = failure.message.isEmpty() ? tr("The plug-in failed at %1").arg(failure.location) : failure.message;
+    } catch (const std::bad_alloc &) {
+        outOfMemory = true;
+        outcome.message = tr("There is not enough memory.");
+    } catch (const std::exception &failure) {
+        outcome.message = QString::fromLocal8Bit(failure.what());
+    }
+    // The write check of a failed save may have left an empty file.
+    if (!stoodBefore)
+        QFile::remove(item.result);
+    if (stopping) {
+        outcome.status = BatchOutcome::Status::Stopped;
+        outcome.message = tr("Stopped; no result was written.");
+        return outcome;
+    }
+    outcome.message = outcome.message.trimmed().replace('\n', ", ");
+    if (!outcome.message.endsWith('.'))
+        outcome.message += '.';
+    if (outOfMemory || stage == Stage::Dehazing)
+        outcome.message += ' ' + tr("Close other programs, or work on one photograph at a time (--jobs 1).");
+    else if (stage == Stage::Saving)
+        outcome.message +=
+            ' ' +
+            tr("Make room in the folder \"%1\", and see that you may write there.").arg(QFileInfo(item.result).absolutePath());
+    return outcome;
+}
+
+void BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
+{
+    if (stopping)
+        endRun();
+    Photograph &photograph = *application.photograph(item.path);
+    const PhotoFacts facts = photograph.facts();
+    const int limit = item.strength > 0 ? kRefusedWidth : 0;
+    if (limit > 0 && facts.width >= limit)
+        throw VException(Photograph::tooWide(limit), V_LOCATION);
+
+    const qint64 bytes = memoryFor(facts);
+    reserve(bytes);
+    VISettingsHandle settings = nullptr;
+    const auto finish = [&](void *) {
+        one2one.destroySettings(settings);
+        photograph.watch({});
+        photograph.dropFull();
+        giveBack(bytes);
+    };
+    const std::unique_ptr<void, decltype(finish)> end(this, finish);
+
+    photograph.refuseFrom(limit);
+    photograph.watch([&](Photograph::Use use) {
+        if (stopping)
+            endRun();
+        stage = use == Photograph::Use::Reading ? Stage::Reading : use == Photograph::Use::Read ? Stage::Dehazing : Stage::Saving;
+        const std::lock_guard lock(reportMutex);
+        watcher.stageBegins(index, stage);
+    });
+    {
+        const std::lock_guard lock(reportMutex); // two elements may belong to one document
+        settings = one2one.createSettings(item.settings);
+    }
+    QString written;
+    one2one.run(item.path, settings, &written);
+    if (written != item.result || QFileInfo(written).size() == 0)
+        throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, item.result), V_LOCATION);
+}
+
+void BatchRunner::reserve(qint64 bytes)
+{
+    std::unique_lock lock(memoryMutex);
+    memoryFreed.wait(lock, [&] { return running == 0 || memoryLeft >= bytes; });
+    ++running;
+    memoryLeft -= bytes;
+}
+
+void BatchRunner::giveBack(qint64 bytes)
+{
+    {
+        const std::lock_guard lock(memoryMutex);
+        --running;
+        memoryLeft += bytes;
+    }
+    memoryFreed.notify_all();
+}

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+#include <vector>
+
+#include <QCoreApplication>
+#include <QDomElement>
+#include <QString>
+
+#include "HostApplication.h"
+#include "VIPluginOne2One.h"
+
+/// One photograph of a batch: what is to be done with it, and why not, if it isn't to be.
+struct BatchItem
+{
+    QString given;           ///< As the user named it, for messages.
+    QString path;            ///< Absolute.
+    QString result;          ///< Absolute; what the process will write.
+    QDomElement settings;    ///< Of the process.
+    int strength = 0;        ///< In `settings`.
+    QString refusal;         ///< Not empty: it fails with this sentence, before any work.
+    QString note;            ///< For the user to know, or empty.
+    bool recordable = false; ///< The photograph itself is there, so that a settings file may name it.
+};
+
+struct BatchOutcome
+{
+    enum class Status { Done, Failed, Stopped };
+    Status status = Status::Failed;
+    double seconds = 0;
+    QString message; ///< What went wrong and what helps; for a photograph that is done, what its result lacks, or empty.
+};
+
+/// Runs a process over many photographs, several at a time, so that reading, engine and writing of neighbours overlap. It goes on
+/// after a failure, and a failed or stopped photograph leaves no result behind, but an older one as it was.
+class BatchRunner
+{
+    Q_DECLARE_TR_FUNCTIONS(BatchRunner)
+
+public:
+    enum class Stage { Reading, Dehazing, Saving };
+
+    /// Told what goes on, from the threads of the batch but never from two at once.
+    class Observer
+    {
+    public:
+        virtual ~Observer() = default;
+        virtual void stageBegins(int item, Stage stage) = 0;
+        virtual void finished(int item, const BatchOutcome &outcome) = 0;
+    };
+
+    BatchRunner(HostApplication &host, VIPluginOne2One &process, Observer &observer);
+
+    /// Works on all items and returns when each has had its outcome; begins them in their order. `jobs` photographs at a time, or
+    /// for 0 as many as keep all cores busy and fit into the free memory.
+    void run(const std::vector<BatchItem> &items, int jobs);
+
+    /// No further photograph begins, and those in hand end before their result is written, unless that has begun. May be called
+    /// on any thread and from a signal handler.
+    void stop() { stopping = true; }
+
+    /// Wider photographs come back from the engine unchanged, since the size of its analysis copy wraps: they are refused.
+    static constexpr int kRefusedWidth = 21475;
+
+private:
+    void work(const std::vector<BatchItem> &items);
+    BatchOutcome process(const BatchItem &item, int index);
+    void attempt(const BatchItem &item, int index, Stage &stage);
+    void reserve(qint64 bytes);
+    void giveBack(qint64 bytes);
+
+    HostApplication &application;
+    VIPluginOne2One &one2one;
+    Observer &watcher;
+    std::atomic<bool> stopping{false};
+    std::atomic<std::size_t> next{0};
+    std::mutex reportMutex;
+    std::mutex memoryMutex; ///< Over the next three.
+    std::condition_variable memoryFreed;
+    qint64 memoryLeft = 0;
+    int running = 0;
+};

@@ -1,0 +1,125 @@
+#include "CommandLine.h"
+
+#include <QCommandLineParser>
+
+#include "HostApplication.h"
+
+namespace {
+
+constexpr int kMostJobs = 256;
+
+} // namespace
+
+CommandLine CommandLine::parse(const QStringList &arguments)
+{
+    CommandLine line;
+    QCommandLineParser parser;
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    const QCommandLineOption strength("strength", {}, "N"), settings("settings", {}, "FILE"), language("language", {}, "LANG"),
+        jobs("jobs", {}, "N"), plugin("plugin", {}, "FILE"), overwrite("overwrite"), quiet("quiet"), json("json"),
+        share("share-services"), help(QStringList{"h", "help"}), version("version");
+    for (const QCommandLineOption &option :
+         {strength, settings, language, jobs, plugin, overwrite, quiet, json, share, help, version})
+        parser.addOption(option);
+
+    const auto fail = [&](const QString &reason) {
+        line.error = reason;
+        return line;
+    };
+    if (!parser.parse(arguments))
+        return fail(parser.errorText());
+    if (parser.isSet(help) || parser.isSet(version)) {
+        line.command = parser.isSet(help) ? Command::Help : Command::Version;
+        line.pluginFile = parser.value(plugin);
+        return line;
+    }
+
+    line.photographs = parser.positionalArguments();
+    if (arguments.value(1) == "run")
+        line.photographs.removeFirst();
+    line.settingsFile = parser.value(settings);
+    line.language = parser.value(language);
+    line.pluginFile = parser.value(plugin);
+    line.overwrite = parser.isSet(overwrite);
+    line.quiet = parser.isSet(quiet);
+    line.json = parser.isSet(json);
+    line.shareServices = parser.isSet(share);
+
+    bool whole = false;
+    if (parser.isSet(strength)) {
+        line.strength = parser.value(strength).toInt(&whole);
+        if (!whole || *line.strength < 0 || *line.strength > 100)
+            return fail(tr("--strength wants a whole number from 0 to 100, not \"%1\".").arg(parser.value(strength)));
+    }
+    if (parser.isSet(jobs)) {
+        line.jobs = parser.value(jobs).toInt(&whole);
+        if (!whole || line.jobs < 1 || line.jobs > kMostJobs)
+            return fail(tr("--jobs wants a whole number from 1 to %1, not \"%2\".").arg(kMostJobs).arg(parser.value(jobs)));
+    }
+    if (parser.isSet(language) && !HostApplication::localeFor(line.language))
+        return fail(tr("--language knows %1, but not \"%2\".").arg(HostApplication::languages().join(", "), line.language));
+    if (parser.isSet(settings) && line.settingsFile.isEmpty())
+        return fail(tr("--settings wants the name of a file."));
+    if (line.photographs.isEmpty() && line.settingsFile.isEmpty())
+        return fail(tr("Name the photographs to take the haze from."));
+    return line;
+}
+
+QString CommandLine::help()
+{
+    return tr(R"(veilaway takes the haze out of photographs.
+
+Usage:
+  veilaway [run] PHOTO... [options]
+  veilaway [run] --settings FILE [options]
+  veilaway --help | --version
+
+Each result is written beside its photograph, under the photograph's name with a
+tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
+The tag follows the language: _entnebelt with --language de, for instance.
+
+Options:
+  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
+                    it is, 100 takes all. Without it, the strength in the settings
+                    file counts, then your stored default, then 70.
+  --settings FILE   Keep the strength of each photograph in this XML file. If the file
+                    is there, its strengths are used, unless --strength is given too;
+                    at the end it holds the strengths that were used. Without a PHOTO,
+                    all photographs in the file are done.
+  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
+                    ru, zh_CN or zh_TW. Without it, that of the system.
+  --jobs N          Photographs worked on at the same time. Without it, as many as keep
+                    all cores busy and fit into memory.
+  --overwrite       Replace results that are there already.
+  --quiet           Say nothing but what failed.
+  --json            Write one JSON object a line for each photograph, with photo,
+                    result, status (done, failed, stopped), strength, seconds, message.
+  --share-services  Lend the plug-in the program's own services (log, memory pool,
+                    processor count) instead of letting it make them.
+  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
+                    in ../lib/nimbra.
+  -h, --help        Show this text.
+  --version         Show the versions of the program and of the plug-in.
+  --                What follows are photographs, even if they begin with a dash.
+
+Formats:
+  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
+  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
+  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
+  the result is shown as its photograph is.
+  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
+  XMP sidecar files stay where they are and are not read.
+
+Ends with:
+  0  All photographs are done.
+  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
+     without leaving half a result.
+  2  The command line or the settings file is wrong; nothing was begun.
+
+Examples:
+  veilaway hills.jpg --strength 80
+  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
+  veilaway --settings holiday/haze.xml --overwrite
+)");
+}

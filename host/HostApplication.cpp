@@ -1,0 +1,111 @@
+#include "HostApplication.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <exiv2/exiv2.hpp>
+
+#include "gfl.h"
+#include "gflCallbacks.h"
+#include "startLibraries.h"
+
+namespace {
+
+void lockXmp(void *mutex, bool take)
+{
+    auto *lock = static_cast<std::recursive_mutex *>(mutex);
+    take ? lock->lock() : lock->unlock();
+}
+
+} // namespace
+
+HostApplication::HostApplication(const QLocale &locale, bool lendServices)
+    : language(locale), lending(lendServices),
+      settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Ombre"), QStringLiteral("veilaway"))
+{
+    static std::recursive_mutex xmpMutex;
+    Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+    Exiv2::XmpParser::initialize(lockXmp, &xmpMutex);
+    if (lending) {
+        startImageLibrary(nullptr); // the codec layer with it
+        startInterfaceLibrary(nullptr);
+    } else {
+        gflLibraryInitEx(gflAllocCallback, gflReallocCallback, gflFreeCallback, nullptr);
+        gflEnableLZW(1);
+    }
+}
+
+HostApplication::~HostApplication()
+{
+    if (lending)
+        stopImageLibrary();
+    else
+        gflLibraryExit();
+}
+
+QStringList HostApplication::languages()
+{
+    return {"de", "en", "es", "fr", "it", "ja", "pl", "ru", "zh_CN", "zh_TW"};
+}
+
+std::optional<QLocale> HostApplication::localeFor(const QString &wanted)
+{
+    const QString name = wanted.section('.', 0, 0).section('@', 0, 0).replace('-', '_');
+    QString code = name.section('_', 0, 0).toLower();
+    if (code == "re")
+        code = "ru";
+    if (code == "zh") {
+        const QStringList rest = name.section('_', 1).toUpper().split('_');
+        for (const char *traditional : {"TW", "HK", "MO", "HANT"})
+            if (rest.contains(traditional))
+                return QLocale("zh_TW");
+        return QLocale("zh_CN");
+    }
+    if (!languages().contains(code))
+        return std::nullopt;
+    return QLocale(name.contains('_') ? code + '_' + name.section('_', 1) : code);
+}
+
+VImageContext *HostApplication::imageLibraryContext()
+{
+    return lending ? &imageContext : nullptr;
+}
+
+VUIContext *HostApplication::interfaceLibraryContext()
+{
+    return lending ? &interfaceContext : nullptr;
+}
+
+QVariant HostApplication::value(const QString &group, const QString &key, const QVariant &fallback)
+{
+    const std::lock_guard lock(settingsMutex);
+    return settings.value(group + '/' + key, fallback);
+}
+
+void HostApplication::setValue(const QString &group, const QString &key, const QVariant &value)
+{
+    const std::lock_guard lock(settingsMutex);
+    settings.setValue(group + '/' + key, value);
+}
+
+void HostApplication::loadTranslator(const QString &fileName)
+{
+    // "Nimbra_fr_FR.qm" finds Nimbra_fr.qm by the translator's own search. The Russian catalogue of some sets is named "re".
+    const QString folder = QStringLiteral(":/Translation");
+    const QString base = fileName.section('_', 0, 0);
+    auto translator = std::make_unique<QTranslator>();
+    const bool found = translator->load(fileName, folder) ||
+                       (language.language() == QLocale::Russian && translator->load(base + QStringLiteral("_re.qm"), folder));
+    if (found && QCoreApplication::installTranslator(translator.get()))
+        translators.push_back(std::move(translator));
+}
+
+Photograph *HostApplication::photograph(const QString &path)
+{
+    const QString key = QFileInfo(path).absoluteFilePath();
+    const std::lock_guard lock(photographMutex);
+    auto &entry = photographs[key];
+    if (!entry)
+        entry = std::make_unique<Photograph>(key);
+    return entry.get();
+}

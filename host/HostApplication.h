@@ -1,0 +1,72 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+#include <QCoreApplication>
+#include <QSettings>
+#include <QTranslator>
+
+#include "Photograph.h"
+#include "VIApplication.h"
+
+/// The program as its plug-ins see it: settings, language, catalogues, photographs and lent services.
+///
+/// Settings live in the user's Ombre/veilaway.ini (XDG_CONFIG_HOME, or ~/.config), one section a group. value, setValue and
+/// imageDef may be called on any thread, the rest on the main one.
+class HostApplication : public VIApplication
+{
+public:
+    /// With `lendServices` the program starts services of its own and lends them to its plug-ins; otherwise each plug-in makes
+    /// its own. They stop with this object, which must outlive the plug-ins' use of them.
+    HostApplication(const QLocale &locale, bool lendServices);
+    ~HostApplication() override;
+
+    /// The locale for what a user writes as a language: "de", "fr_CA", "pt-BR.UTF-8"; Russian also as "re", as its catalogue is
+    /// named. Nothing if there is no catalogue for it.
+    static std::optional<QLocale> localeFor(const QString &language);
+    /// The languages that have a catalogue, as --language takes them.
+    static QStringList languages();
+
+    /// The photograph behind imageDef.
+    Photograph *photograph(const QString &path);
+
+    QVariant value(const QString &group, const QString &key, const QVariant &fallback) override;
+    void setValue(const QString &group, const QString &key, const QVariant &value) override;
+    QLocale locale() override { return language; }
+    void loadTranslator(const QString &fileName) override;
+    ImageDef *imageDef(const QString &path) override { return photograph(path); }
+    VImageContext *imageLibraryContext() override;
+    VUIContext *interfaceLibraryContext() override;
+
+private:
+    const QLocale language;
+    const bool lending;
+    std::vector<std::unique_ptr<QTranslator>> translators;
+    std::mutex settingsMutex;
+    QSettings settings;
+    std::mutex photographMutex;
+    std::map<QString, std::unique_ptr<Photograph>> photographs; ///< By absolute path.
+};
+
+/// The application object itself: Base is QCoreApplication for the command line and QApplication for a window. Plug-ins ask it by
+/// qt_metacast for the interface.
+template<class Base>
+class HostedApplication : public Base, public HostApplication
+{
+public:
+    HostedApplication(int &argc, char **argv, const QLocale &locale, bool lendServices)
+        : Base(argc, argv), HostApplication(locale, lendServices)
+    {
+    }
+
+    void *qt_metacast(const char *name) override
+    {
+        if (qstrcmp(name, qobject_interface_iid<VIApplication *>()) == 0)
+            return static_cast<VIApplication *>(this);
+        return Base::qt_metacast(name);
+    }
+};

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <memory>
+
+#include <QCoreApplication>
+#include <QString>
+
+#include "GflBitmap.h"
+#include "VImage.h"
+
+/// What the head of a photograph's file says, without its pixels. A figure that it doesn't give is 0.
+struct PhotoFacts
+{
+    int width = 0; ///< Pixels as stored, before any orientation.
+    int height = 0;
+    int orientation = 1; ///< EXIF's 1 to 8.
+};
+
+/// The pixels of one photograph at full size, as stored (no orientation applied).
+class DecodedPhoto
+{
+public:
+    VImage &image() { return pixels; }
+
+private:
+    friend class PhotoLoader;
+    struct Release
+    {
+        void operator()(GflBitmap *record) const { gflFreeBitmap(record); }
+    };
+    std::unique_ptr<GflBitmap, Release> bitmap; ///< What `pixels` is a view of; null when it owns its pixels. Outlives it.
+    VImage pixels;
+};
+
+/// Reads photographs: pictures through the codec layer, camera raw by developing it to 16 bits. Has no state; any thread.
+/// The codec layer must have been started. Every failure is a VException whose message says what is wrong and what helps, without
+/// naming the file.
+class PhotoLoader
+{
+    Q_DECLARE_TR_FUNCTIONS(PhotoLoader)
+
+public:
+    /// Says why the file can't be a photograph (missing, a folder, empty, unreadable), or nothing. Reads no content.
+    static QString complaint(const QString &path);
+
+    /// Reads the head of the file only. Throws where `complaint` has something to say, and for camera raw that can't be opened.
+    static PhotoFacts describe(const QString &path);
+
+    /// Reads the whole photograph. Pictures keep the depth and channels of their file; camera raw becomes 16-bit RGB or grey in
+    /// sRGB, with the camera's white balance.
+    static std::unique_ptr<DecodedPhoto> decode(const QString &path);
+
+    /// True if a result can be written under this suffix (lower case, without the dot); all others become TIFF.
+    static bool canWrite(const QString &suffix);
+
+    /// The suffixes that can be written and those of camera raw, for texts and file dialogs.
+    static QStringList pictureSuffixes();
+    static QStringList rawSuffixes();
+
+private:
+    static bool isRaw(const QString &path);
+    static PhotoFacts describeRaw(const QString &path);
+    static void developRaw(const QString &path, VImage &image);
+};

@@ -1,0 +1,101 @@
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+#include <libraw/libraw.h>
+
+#include "PhotoLoader.h"
+#include "VException.h"
+
+namespace {
+
+void check(int code)
+{
+    if (code == LIBRAW_SUCCESS)
+        return;
+    if (code == LIBRAW_UNSUFFICIENT_MEMORY)
+        throw VException(
+            PhotoLoader::tr("There is not enough memory for this camera raw file. Close other programs, or work on one "
+                            "photograph at a time (--jobs 1)."),
+            V_LOCATION);
+    throw VException(PhotoLoader::tr("The camera raw file can't be developed: %1. Copy it anew, or convert it to DNG or TIFF.")
+                         .arg(QString::fromLatin1(libraw_strerror(code))),
+                     V_LOCATION);
+}
+
+/// Opened, not yet unpacked, and without the handler that would write to the program's standard error.
+std::unique_ptr<LibRaw> open(const QString &path)
+{
+    auto raw = std::make_unique<LibRaw>();
+    raw->set_dataerror_handler(nullptr, nullptr);
+    check(raw->open_file(QFile::encodeName(path).constData()));
+    return raw;
+}
+
+/// LibRaw's flip as EXIF's orientation.
+int orientationOf(int flip)
+{
+    switch (flip) {
+    case 3:
+        return 3;
+    case 5:
+        return 8;
+    case 6:
+        return 6;
+    default:
+        return 1;
+    }
+}
+
+} // namespace
+
+QStringList PhotoLoader::rawSuffixes()
+{
+    return {"3fr", "ari", "arw", "bay", "cap", "cr2", "cr3", "crw", "dcr", "dcs", "dng", "erf", "fff", "iiq", "k25", "kdc", "mef",
+            "mos", "mrw", "nef", "nrw", "orf", "pef", "ptx", "raf", "raw", "rw2", "rwl", "rwz", "sr2", "srf", "srw", "x3f"};
+}
+
+/// The suffix decides, since most camera raw files are TIFF inside. Without one of a known format the content does: the codec
+/// layer's formats other than TIFF have a signature, and what is left may be camera raw.
+bool PhotoLoader::isRaw(const QString &path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (canWrite(suffix))
+        return false;
+    if (rawSuffixes().contains(suffix))
+        return true;
+    QFile file(path);
+    const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(8) : QByteArray();
+    for (const char *signature : {"\xff\xd8\xff", "\x89PNG", "8BPS", "#?", "\x76\x2f\x31\x01"})
+        if (head.startsWith(signature))
+            return false;
+    return LibRaw().open_file(QFile::encodeName(path).constData()) == LIBRAW_SUCCESS;
+}
+
+PhotoFacts PhotoLoader::describeRaw(const QString &path)
+{
+    const auto raw = open(path);
+    PhotoFacts facts;
+    facts.width = raw->imgdata.sizes.iwidth;
+    facts.height = raw->imgdata.sizes.iheight;
+    facts.orientation = orientationOf(raw->imgdata.sizes.flip);
+    return facts;
+}
+
+void PhotoLoader::developRaw(const QString &path, VImage &image)
+{
+    const auto raw = open(path);
+    libraw_output_params_t &wish = raw->imgdata.params;
+    wish.output_bps = 16;
+    wish.output_color = 1; // sRGB, which a file without a profile is taken for
+    wish.gamm[0] = 1 / 2.4;
+    wish.gamm[1] = 12.92;
+    wish.use_camera_wb = 1;
+    wish.user_flip = 0;            // the EXIF that goes into the result still carries the orientation
+    wish.auto_bright_thr = 0.001f; // a bright sky loses at most one pixel in a thousand to white
+    check(raw->unpack());
+    check(raw->dcraw_process());
+    int width = 0, height = 0, colors = 0, bits = 0;
+    raw->get_mem_image_format(&width, &height, &colors, &bits);
+    image.Create(width, height, colors == 1 ? VImage::Grey : VImage::Rgb, 16);
+    check(raw->copy_mem_image(image.PixelAddress(0, 0), image.BytesPerLine(), /*bgr=*/0));
+}

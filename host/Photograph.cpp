@@ -1,0 +1,170 @@
+#include "Photograph.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include <QFileInfo>
+
+#include "VException.h"
+
+namespace {
+
+bool liesOnItsSide(int orientation)
+{
+    return orientation >= 5;
+}
+
+/// Turns a picture as EXIF's orientation asks for. Orientation 5 to 8 exchange width and height.
+void orient(const VImage &source, int orientation, VImage &target)
+{
+    const int width = source.Width(), height = source.Height();
+    const bool side = liesOnItsSide(orientation);
+    target.Create(side ? height : width, side ? width : height, source.Type(), source.BitsPerComponent());
+    const bool mirrored = orientation == 2 || orientation == 3 || orientation == 7 || orientation == 8;
+    const bool upsideDown = orientation == 3 || orientation == 4 || orientation == 6 || orientation == 7;
+    const std::size_t pixel = source.Bitmap()->bytesPerPixel;
+    for (int y = 0; y < target.Height(); ++y) {
+        unsigned char *to = target.PixelAddress(0, y);
+        for (int x = 0; x < target.Width(); ++x, to += pixel) {
+            const int across = side ? y : x, down = side ? x : y;
+            std::memcpy(to, source.PixelAddress(mirrored ? width - 1 - across : across, upsideDown ? height - 1 - down : down),
+                        pixel);
+        }
+    }
+}
+
+} // namespace
+
+QString Photograph::tooWide(int limit)
+{
+    return tr("It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into "
+              "parts.")
+        .arg(limit - 1);
+}
+
+PhotoFacts Photograph::facts()
+{
+    const std::lock_guard lock(mutex);
+    if (!head)
+        head = PhotoLoader::describe(file);
+    return *head;
+}
+
+QString Photograph::displayName()
+{
+    return QFileInfo(file).fileName();
+}
+
+int Photograph::width()
+{
+    const PhotoFacts known = facts();
+    return liesOnItsSide(known.orientation) ? known.height : known.width;
+}
+
+int Photograph::height()
+{
+    const PhotoFacts known = facts();
+    return liesOnItsSide(known.orientation) ? known.width : known.height;
+}
+
+std::unique_ptr<DecodedPhoto> Photograph::decode()
+{
+    auto photo = PhotoLoader::decode(file);
+    form = Form{photo->image().Bitmap()->componentsPerPixel, photo->image().BitsPerComponent()};
+    return photo;
+}
+
+Photograph::Form Photograph::knownForm()
+{
+    const std::lock_guard lock(mutex);
+    if (!form)
+        decode();
+    return *form;
+}
+
+int Photograph::channelCount()
+{
+    return knownForm().channels;
+}
+
+int Photograph::bitsPerChannel()
+{
+    return knownForm().bits;
+}
+
+bool Photograph::needsTiffOutput()
+{
+    return !PhotoLoader::canWrite(QFileInfo(file).suffix().toLower());
+}
+
+VImage *Photograph::acquireScaled(int width, int height, int)
+{
+    const int orientation = facts().orientation;
+    const std::lock_guard lock(mutex);
+    auto found = scaled.find({width, height});
+    if (found == scaled.end()) {
+        auto fresh = std::make_unique<Scaled>();
+        int lyingWidth = std::max(width, 1), lyingHeight = std::max(height, 1);
+        if (liesOnItsSide(orientation))
+            std::swap(lyingWidth, lyingHeight);
+        VImage lying;
+        VImage &small = orientation == 1 ? fresh->image : lying;
+        if (full)
+            full->image().Resample(small, lyingWidth, lyingHeight);
+        else
+            decode()->image().Resample(small, lyingWidth, lyingHeight);
+        if (orientation != 1)
+            orient(lying, orientation, fresh->image);
+        found = scaled.emplace(std::pair(width, height), std::move(fresh)).first;
+    }
+    ++found->second->uses;
+    return &found->second->image;
+}
+
+void Photograph::releaseScaled(int width, int height, int)
+{
+    const std::lock_guard lock(mutex);
+    const auto found = scaled.find({width, height});
+    if (found != scaled.end() && --found->second->uses <= 0)
+        scaled.erase(found);
+}
+
+VImage *Photograph::acquireFull(int)
+{
+    if (watcher)
+        watcher(Use::Reading);
+    VImage *image = nullptr;
+    {
+        const std::lock_guard lock(mutex);
+        std::unique_ptr<DecodedPhoto> fresh = full ? nullptr : decode();
+        image = full ? &full->image() : &fresh->image();
+        if (refusedWidth > 0 && image->Width() >= refusedWidth)
+            throw VException(tooWide(refusedWidth), V_LOCATION);
+        if (fresh)
+            full = std::move(fresh);
+        ++fullUses;
+    }
+    if (watcher)
+        watcher(Use::Read);
+    return image;
+}
+
+void Photograph::releaseFull(int)
+{
+    {
+        const std::lock_guard lock(mutex);
+        if (--fullUses <= 0) {
+            fullUses = 0;
+            full.reset();
+        }
+    }
+    if (watcher)
+        watcher(Use::Released);
+}
+
+void Photograph::dropFull()
+{
+    const std::lock_guard lock(mutex);
+    fullUses = 0;
+    full.reset();
+}

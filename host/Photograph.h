@@ -1,0 +1,77 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <utility>
+
+#include "ImageDef.h"
+#include "PhotoLoader.h"
+
+/// One photograph of the program, as a plug-in sees it. Pixels are decoded at an acquire and freed at its release, so that a list
+/// of any length costs no memory by itself. All operations may be called from several threads at once; those that read the file
+/// throw VException (see PhotoLoader).
+///
+/// Full size comes as stored; scaled images and width() and height() are as a viewer shows the photograph, with its EXIF
+/// orientation applied.
+class Photograph : public ImageDef
+{
+    Q_DECLARE_TR_FUNCTIONS(Photograph)
+
+public:
+    /// The steps of a full use. What a watcher throws leaves through the call of the plug-in, and so ends its run.
+    enum class Use { Reading, Read, Released };
+    using Watcher = std::function<void(Use)>;
+
+    explicit Photograph(const QString &path) : file(path) {}
+
+    const QString &path() const { return file; }
+    /// The head of the file, read at the first call.
+    PhotoFacts facts();
+    /// Calls `next` on the acquiring thread at each step of a full use; none by default. Not while a use goes on.
+    void watch(Watcher next) { watcher = std::move(next); }
+    /// acquireFull refuses wider photographs; 0, the default, refuses none.
+    void refuseFrom(int width) { refusedWidth = width; }
+    static QString tooWide(int limit);
+    /// Frees the full image whatever holds it: a run that failed never releases.
+    void dropFull();
+
+    QString displayName() override;
+    int height() override;
+    int width() override;
+    int channelCount() override;
+    int bitsPerChannel() override;
+    bool needsTiffOutput() override;
+    VImage *acquireScaled(int width, int height, int flag) override;
+    void releaseScaled(int width, int height, int flag) override;
+    VImage *acquireFull(int flag) override;
+    void releaseFull(int flag) override;
+
+private:
+    struct Scaled
+    {
+        VImage image;
+        int uses = 0;
+    };
+    struct Form
+    {
+        int channels;
+        int bits;
+    };
+
+    std::unique_ptr<DecodedPhoto> decode(); ///< And notes the form.
+    Form knownForm();
+
+    const QString file;
+    Watcher watcher;
+    int refusedWidth = 0;
+
+    std::mutex mutex; ///< Over all that follows.
+    std::optional<PhotoFacts> head;
+    std::optional<Form> form;
+    std::unique_ptr<DecodedPhoto> full;
+    int fullUses = 0;
+    std::map<std::pair<int, int>, std::unique_ptr<Scaled>> scaled;
+};

@@ -1,0 +1,157 @@
+#include "RunCommand.h"
+
+#include <atomic>
+#include <csignal>
+#include <memory>
+
+#include <QFileInfo>
+#include <unistd.h>
+
+#include "BatchPlan.h"
+#include "PluginFile.h"
+#include "ProgressView.h"
+#include "SettingsFile.h"
+#include "VException.h"
+
+namespace {
+
+constexpr int kUsualStrength = 70;
+
+std::atomic<BatchRunner *> interruptible{nullptr};
+
+/// The first signal lets the batch end in good order, a second one ends the program at once.
+void stopBatch(int)
+{
+    if (BatchRunner *runner = interruptible) {
+        runner->stop();
+        const char text[] = "\nveilaway: Stopping; what is being saved gets ready. Press Ctrl-C again to end at once.\n";
+        [[maybe_unused]] const auto written = ::write(STDERR_FILENO, text, sizeof text - 1);
+    }
+}
+
+class StopOnSignal
+{
+public:
+    explicit StopOnSignal(BatchRunner &runner)
+    {
+        interruptible = &runner;
+        struct sigaction action = {};
+        action.sa_handler = stopBatch;
+        action.sa_flags = int(SA_RESETHAND) | SA_RESTART;
+        for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+            struct sigaction before = {};
+            sigaction(number, nullptr, &before);
+            if (before.sa_handler != SIG_IGN) // nohup
+                sigaction(number, &action, nullptr);
+        }
+    }
+    ~StopOnSignal() { interruptible = nullptr; }
+    StopOnSignal(const StopOnSignal &) = delete;
+    StopOnSignal &operator=(const StopOnSignal &) = delete;
+};
+
+} // namespace
+
+void RunCommand::note(const QString &text) const
+{
+    if (!line.quiet)
+        ProgressView::complain(text);
+}
+
+int RunCommand::defaultStrength(const QString &group)
+{
+    const QVariant stored = application.value(group, "hazeRemove", QVariant());
+    bool whole = false;
+    const int strength = stored.toInt(&whole);
+    const bool usable = stored.isValid() && whole && strength >= 0 && strength <= 100;
+    note(usable ? tr("No --strength given: using your stored default of %1.").arg(strength)
+                : tr("No --strength given and no default stored: using %1.").arg(kUsualStrength));
+    return usable ? strength : kUsualStrength;
+}
+
+int RunCommand::run()
+{
+    std::unique_ptr<PluginFile> plugin;
+    try {
+        plugin = std::make_unique<PluginFile>(line.pluginFile);
+    } catch (const VException &failure) {
+        ProgressView::complain(failure.message);
+        return ExitSomeFailed;
+    }
+    // The texts of the layers under the plug-in, which came with its resources.
+    for (const char *set : {"VImage", "VTools"})
+        application.loadTranslator(QStringLiteral("%1_%2.qm").arg(QLatin1String(set), application.locale().name()));
+    VIPluginOne2One &process = plugin->process();
+
+    std::unique_ptr<SettingsFile> settings;
+    QStringList photographs = line.photographs;
+    if (!line.settingsFile.isEmpty()) {
+        settings = std::make_unique<SettingsFile>(line.settingsFile, process.name());
+        try {
+            settings->load();
+        } catch (const VException &failure) {
+            ProgressView::complain(failure.message);
+            return ExitUsage;
+        }
+        if (photographs.isEmpty())
+            photographs = settings->photographs();
+        if (photographs.isEmpty()) {
+            ProgressView::complain(
+                settings->exists() ? tr("The settings file \"%1\" names no photographs. Name some.").arg(settings->path())
+                                   : tr("There is no settings file \"%1\". Name photographs to make one.").arg(settings->path()));
+            return ExitUsage;
+        }
+        if (!QFileInfo(QFileInfo(settings->path()).absolutePath()).isWritable()) {
+            ProgressView::complain(
+                tr("The settings file \"%1\" can't be written there. Name one in another folder.").arg(settings->path()));
+            return ExitUsage;
+        }
+    }
+
+    BatchPlan::Wishes wishes;
+    wishes.strength = line.strength;
+    wishes.overwrite = line.overwrite;
+    wishes.processName = process.name();
+    wishes.settings = settings.get();
+    const auto lacksStrength = [&](const QString &photograph) {
+        return !settings || settings->element(QFileInfo(photograph).absoluteFilePath()).isNull();
+    };
+    if (!line.strength && std::any_of(photographs.begin(), photographs.end(), lacksStrength))
+        wishes.defaultStrength = defaultStrength(process.guid());
+    const std::vector<BatchItem> items = BatchPlan::make(photographs, application, wishes);
+    for (const BatchItem &item : items) {
+        if (settings && QFileInfo(item.result).absoluteFilePath() == settings->path()) {
+            ProgressView::complain(
+                tr("The settings file \"%1\" has the name of a result. Give it another one.").arg(settings->path()));
+            return ExitUsage;
+        }
+        if (!item.note.isEmpty() && item.refusal.isEmpty())
+            note(item.given + ": " + item.note);
+    }
+
+    const auto style = line.json               ? ProgressView::Style::Json
+                       : line.quiet            ? ProgressView::Style::Quiet
+                       : isatty(STDOUT_FILENO) ? ProgressView::Style::Bars
+                                               : ProgressView::Style::Lines;
+    ProgressView view(style, items);
+    BatchRunner runner(application, process, view);
+    {
+        const StopOnSignal guard(runner);
+        runner.run(items, line.jobs);
+    }
+    view.summarize();
+
+    bool settingsKept = true;
+    if (settings) {
+        for (const BatchItem &item : items)
+            if (item.recordable)
+                settings->setElement(item.path, item.settings);
+        try {
+            settings->save();
+        } catch (const VException &failure) {
+            ProgressView::complain(failure.message);
+            settingsKept = false;
+        }
+    }
+    return view.allDone() && settingsKept ? ExitAllDone : ExitSomeFailed;
+}

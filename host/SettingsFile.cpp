@@ -1,0 +1,136 @@
+#include "SettingsFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QSet>
+
+#include "VException.h"
+
+namespace {
+
+const QString kRoot = QStringLiteral("veilaway");
+const QString kEntry = QStringLiteral("photo");
+const QString kPath = QStringLiteral("path");
+const QString kStrength = QStringLiteral("hazeRemove");
+
+} // namespace
+
+SettingsFile::SettingsFile(const QString &path, const QString &processName)
+    : file(QFileInfo(path).absoluteFilePath()), tag(processName)
+{
+    document.appendChild(document.createProcessingInstruction("xml", "version=\"1.0\" encoding=\"UTF-8\""));
+    document.appendChild(document.createElement(kRoot));
+}
+
+bool SettingsFile::exists() const
+{
+    return QFileInfo::exists(file);
+}
+
+std::optional<int> SettingsFile::strengthOf(const QDomElement &element)
+{
+    bool whole = false;
+    const int strength = element.attribute(kStrength).toInt(&whole);
+    return whole && strength >= 0 && strength <= 100 ? std::optional(strength) : std::nullopt;
+}
+
+QDomElement SettingsFile::withStrength(const QString &processName, int strength)
+{
+    QDomDocument factory(processName);
+    QDomElement element = factory.createElement(processName);
+    element.setAttribute(kStrength, strength);
+    return element;
+}
+
+void SettingsFile::load()
+{
+    if (!exists())
+        return;
+    const auto broken = [this](const QString &reason) {
+        return VException(tr("The settings file \"%1\" can't be used: %2. Repair it, or name another one.").arg(file, reason),
+                          V_LOCATION);
+    };
+    QFile input(file);
+    if (QFileInfo(file).isDir() || !input.open(QIODevice::ReadOnly))
+        throw broken(QFileInfo(file).isDir() ? tr("it is a folder") : input.errorString());
+    QDomDocument read;
+    QString error;
+    int line = 0, column = 0;
+    if (!read.setContent(&input, /*namespaceProcessing=*/false, &error, &line, &column))
+        throw broken(tr("line %1, column %2: %3").arg(line).arg(column).arg(error));
+    if (read.documentElement().tagName() != kRoot)
+        throw broken(tr("its outermost element is not <%1>").arg(kRoot));
+    QSet<QString> seen;
+    for (QDomElement entry = read.documentElement().firstChildElement(kEntry); !entry.isNull();
+         entry = entry.nextSiblingElement(kEntry)) {
+        const QString where = tr("line %1").arg(entry.lineNumber());
+        if (entry.attribute(kPath).isEmpty())
+            throw broken(tr("%1: a photo without a path").arg(where));
+        if (seen.contains(absolute(entry)))
+            throw broken(tr("%1: \"%2\" stands in it twice").arg(where, entry.attribute(kPath)));
+        if (!strengthOf(entry.firstChildElement(tag)))
+            throw broken(tr("%1: the photo needs <%2 %3=\"...\"/> with a whole number from 0 to 100").arg(where, tag, kStrength));
+        seen.insert(absolute(entry));
+    }
+    document = read;
+    changed = false;
+}
+
+void SettingsFile::save()
+{
+    if (!changed)
+        return;
+    QSaveFile output(file);
+    const QByteArray text = document.toByteArray(/*indent=*/4);
+    if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size() || !output.commit())
+        throw VException(
+            tr("The settings file \"%1\" can't be written: %2. Make room, or give yourself the permission to write there.")
+                .arg(file, output.errorString()),
+            V_LOCATION);
+    changed = false;
+}
+
+QString SettingsFile::absolute(const QDomElement &entry) const
+{
+    return QDir::cleanPath(QFileInfo(file).absoluteDir().absoluteFilePath(entry.attribute(kPath)));
+}
+
+QStringList SettingsFile::photographs() const
+{
+    QStringList paths;
+    for (QDomElement entry = document.documentElement().firstChildElement(kEntry); !entry.isNull();
+         entry = entry.nextSiblingElement(kEntry))
+        paths << absolute(entry);
+    return paths;
+}
+
+QDomElement SettingsFile::entryOf(const QString &photograph) const
+{
+    const QString wanted = QDir::cleanPath(photograph);
+    QDomElement entry = document.documentElement().firstChildElement(kEntry);
+    while (!entry.isNull() && absolute(entry) != wanted)
+        entry = entry.nextSiblingElement(kEntry);
+    return entry;
+}
+
+QDomElement SettingsFile::element(const QString &photograph) const
+{
+    return entryOf(photograph).firstChildElement(tag);
+}
+
+void SettingsFile::setElement(const QString &photograph, const QDomElement &element)
+{
+    QDomElement entry = entryOf(photograph);
+    if (entry.isNull()) {
+        entry = document.createElement(kEntry);
+        entry.setAttribute(kPath, QFileInfo(file).absoluteDir().relativeFilePath(QDir::cleanPath(photograph)));
+        document.documentElement().appendChild(entry);
+    } else if (entry.firstChildElement(tag).attribute(kStrength) == element.attribute(kStrength)) {
+        return;
+    }
+    entry.removeChild(entry.firstChildElement(tag));
+    entry.appendChild(document.importNode(element, /*deep=*/true));
+    changed = true;
+}

@@ -1,0 +1,64 @@
+#include <clocale>
+#include <csignal>
+#include <cstdio>
+
+#include <QLocale>
+#include <QTextCodec>
+
+#include "CommandLine.h"
+#include "HostApplication.h"
+#include "PluginFile.h"
+#include "ProgressView.h"
+#include "RunCommand.h"
+#include "VException.h"
+
+namespace {
+
+QLocale wantedLocale(const QString &language)
+{
+    const QString system = QLocale::system().uiLanguages().value(0);
+    return HostApplication::localeFor(language.isEmpty() ? system : language).value_or(QLocale(QLocale::English));
+}
+
+int showVersion(const CommandLine &line)
+{
+    std::printf("veilaway %s\n", NIMBRA_VERSION);
+    try {
+        std::printf("%s\n", PluginFile(line.pluginFile).identity().toUtf8().constData());
+        return ExitAllDone;
+    } catch (const VException &failure) {
+        ProgressView::complain(failure.message);
+        return ExitSomeFailed;
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // File names are UTF-8 here, also where the environment sets no locale; otherwise Qt would turn their letters into "?".
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    // A reader that goes away, or a limit on the size of files, is a failed write and not the end.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromUtf8(argv[i]);
+    const CommandLine line = CommandLine::parse(arguments);
+    if (!line.error.isEmpty()) {
+        ProgressView::complain(line.error + ' ' + CommandLine::tr("See veilaway --help."));
+        return ExitUsage;
+    }
+    if (line.command == CommandLine::Command::Help) {
+        std::fputs(CommandLine::help().toUtf8().constData(), stdout);
+        return ExitAllDone;
+    }
+
+    HostedApplication<QCoreApplication> application(argc, argv, wantedLocale(line.language), line.shareServices);
+    if (!std::setlocale(LC_CTYPE, "C.UTF-8")) // the application object has set the environment's
+        std::setlocale(LC_CTYPE, "en_US.UTF-8");
+    QCoreApplication::setApplicationName(QStringLiteral("veilaway"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(NIMBRA_VERSION));
+    return line.command == CommandLine::Command::Version ? showVersion(line) : RunCommand(line, application).run();
+}
