@@ -69,26 +69,25 @@ IPP_VERSIONS void scaleAnyRow(int sourceBits, int targetBits, const void *source
     }
 }
 
-/// Colours from 1, 3 or 4 channels into 3 or 4; a fourth channel is set to *alpha if there is one and otherwise left alone.
-template<typename Sample, int From, int To>
-IPP_INLINE void copyRow(const void *source, void *target, std::size_t pixels, const void *alpha)
+/// Colours from 1, 3 or 4 channels into 3 or 4. `Opaque` sets a fourth channel to `alpha`; without it that channel is left alone.
+template<typename Sample, int From, int To, bool Opaque>
+IPP_INLINE void copyRow(const Sample *__restrict from, Sample *__restrict to, std::size_t pixels, Sample alpha)
 {
-    const auto *__restrict from = static_cast<const Sample *>(source);
-    auto *__restrict to = static_cast<Sample *>(target);
-    const auto colours = [&](std::size_t i) {
+    std::size_t i = 0;
+    // From 3 or 4 channels all pixels but the last move as four samples at once: what a fourth sample overwrites comes next
+    // anyway.
+    if constexpr (From == 4 || (From == 3 && Opaque))
+        for (; i + 1 < pixels; ++i) {
+            std::memcpy(to + i * To, from + i * From, 4 * sizeof(Sample));
+            if constexpr (Opaque)
+                to[i * To + To - 1] = alpha;
+        }
+    for (; i < pixels; ++i) {
         to[i * To] = from[i * From];
         to[i * To + 1] = from[i * From + (From > 1 ? 1 : 0)];
         to[i * To + 2] = from[i * From + (From > 1 ? 2 : 0)];
-    };
-    if (To == 4 && alpha) {
-        const Sample opaque = *static_cast<const Sample *>(alpha);
-        for (std::size_t i = 0; i < pixels; ++i) {
-            colours(i);
-            to[i * To + To - 1] = opaque;
-        }
-    } else {
-        for (std::size_t i = 0; i < pixels; ++i)
-            colours(i);
+        if constexpr (Opaque)
+            to[i * To + To - 1] = alpha;
     }
 }
 
@@ -96,13 +95,16 @@ template<typename Sample>
 IPP_INLINE void copyRowOf(int sourceChannels, int targetChannels, const void *source, void *target, std::size_t pixels,
                           const void *alpha)
 {
-    if (sourceChannels == 4)
-        return copyRow<Sample, 4, 3>(source, target, pixels, alpha);
-    if (sourceChannels == 3)
-        return copyRow<Sample, 3, 4>(source, target, pixels, alpha);
+    const auto *from = static_cast<const Sample *>(source);
+    auto *to = static_cast<Sample *>(target);
+    const Sample opaque = alpha ? *static_cast<const Sample *>(alpha) : Sample{};
     if (targetChannels == 3)
-        return copyRow<Sample, 1, 3>(source, target, pixels, alpha);
-    return copyRow<Sample, 1, 4>(source, target, pixels, alpha);
+        return sourceChannels == 4 ? copyRow<Sample, 4, 3, false>(from, to, pixels, opaque)
+                                   : copyRow<Sample, 1, 3, false>(from, to, pixels, opaque);
+    if (sourceChannels == 3)
+        return alpha ? copyRow<Sample, 3, 4, true>(from, to, pixels, opaque)
+                     : copyRow<Sample, 3, 4, false>(from, to, pixels, opaque);
+    return alpha ? copyRow<Sample, 1, 4, true>(from, to, pixels, opaque) : copyRow<Sample, 1, 4, false>(from, to, pixels, opaque);
 }
 
 IPP_VERSIONS void copyAnyRow(int bits, int sourceChannels, int targetChannels, const void *source, void *target,
