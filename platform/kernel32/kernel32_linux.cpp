@@ -31,6 +31,12 @@ bool fail(int error)
     return false;
 }
 
+// A mask of the lowest `count` processors; none is one that a shift can't make.
+std::uint32_t maskOfProcessors(std::uint32_t count)
+{
+    return count == 0 ? 0 : 0xFFFFFFFFu >> (kProcessorsPerGroup - count);
+}
+
 /// A set of the kernel's processor numbers; machines of today have fewer than this.
 using ProcessorSet = std::bitset<8192>;
 
@@ -197,10 +203,11 @@ bool GetLogicalProcessorInformationEx(std::int32_t relation, LogicalProcessorInf
     *information = {};
     information->relation = relation;
     if (relation == RelationGroup) {
-        information->count = GetActiveProcessorGroupCount();
-        for (std::uint16_t group = 0; group < information->count; ++group) {
+        const std::uint16_t groups = GetActiveProcessorGroupCount();
+        information->count = groups;
+        for (std::uint16_t group = 0; group < groups; ++group) {
             const std::uint32_t count = GetMaximumProcessorCount(group);
-            information->groups[group] = {count, 0xFFFFFFFFu >> (kProcessorsPerGroup - count)};
+            information->groups[group] = {count, maskOfProcessors(count)};
         }
         return true;
     }
@@ -247,7 +254,7 @@ bool GetProcessAffinityMask(std::uint32_t *processMask, std::uint32_t *systemMas
     if (!GetProcessGroupAffinity(&first))
         return false;
     *processMask = first.mask;
-    *systemMask = 0xFFFFFFFFu >> (kProcessorsPerGroup - GetMaximumProcessorCount(0));
+    *systemMask = maskOfProcessors(GetMaximumProcessorCount(0));
     return true;
 }
 
