@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "VImage.h"
+
+/// The engine's stages once more, slow and plain, one pixel after the other.
+namespace hazeReference {
+
+/// R, G, B, A floats. `image` is a view of them with padded rows.
+struct Picture
+{
+    Picture(int width, int height);
+    float *at(int x, int y) { return samples.data() + static_cast<std::size_t>(y) * stride + static_cast<std::size_t>(x) * 4; }
+    const float *at(int x, int y) const { return const_cast<Picture *>(this)->at(x, y); }
+
+    int width;
+    int height;
+    std::size_t stride; ///< Floats.
+    std::vector<float> samples;
+    std::unique_ptr<VImage> image;
+};
+
+enum class Kind {
+    Smooth, ///< A shaded scene with two hard edges.
+    Noise,  ///< Every sample anything from 0 to 1.
+    Steps,  ///< Few levels: equal values everywhere.
+    Wild,   ///< Now and then not-a-number, infinity, -0.0, values far outside of 0..1, and alpha 0.0.
+};
+Picture makePicture(int width, int height, Kind kind, unsigned seed = 1);
+std::vector<float> makeMap(int width, int height, unsigned seed = 1);
+
+struct DarkChannel
+{
+    float airlight[3];
+    std::vector<float> map;
+};
+std::optional<DarkChannel> darkChannel(const Picture &picture);
+
+/// (L + lambda I), the upper triangle of a dense matrix, with an inverse in 64 bits by elimination.
+std::vector<float> mattingMatrix(const Picture &picture);
+/// Solves A x = b by elimination in 64 bits, from the upper triangle.
+std::vector<double> solve(const std::vector<float> &upper, std::vector<double> b);
+
+std::vector<float> jointUpsample(const Picture &fine, const Picture &coarse, const std::vector<float> &map);
+
+void recover(Picture &picture, const std::vector<float> &map, const float airlight[3], float strength);
+
+/// Where the bits of two runs of floats differ first, all kinds of not-a-number being one; empty if nowhere.
+std::string firstDifference(const float *a, const float *b, std::size_t count);
+
+} // namespace hazeReference

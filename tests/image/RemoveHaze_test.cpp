@@ -1,0 +1,151 @@
+#include "RemoveHaze.h"
+
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "HazeReference.h"
+#include "HazeState.h"
+#include "VException.h"
+#include "threadCount.h"
+
+using namespace hazeReference;
+
+namespace {
+
+/// The state with the release that its owner owes.
+struct OwnedState : HazeState
+{
+    explicit OwnedState(int percent) : HazeState{percent, {-1.0f, -2.0f, -3.0f}, nullptr} {}
+    ~OwnedState() { delete[] transmission; }
+    OwnedState(const OwnedState &) = delete;
+    OwnedState &operator=(const OwnedState &) = delete;
+};
+
+/// Stripes under a veil that thickens towards the top, which is white.
+Picture makeHazyScene(int width, int height)
+{
+    Picture picture(width, height);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const float t = 0.1f + 0.9f * static_cast<float>(y) / static_cast<float>(height);
+            const float scene[3] = {(x / 4) % 2 ? 0.4f : 0.05f, 0.3f, (x / 8) % 2 ? 0.02f : 0.2f};
+            for (int c = 0; c < 3; ++c)
+                picture.at(x, y)[c] = 0.95f + (scene[c] - 0.95f) * t;
+            picture.at(x, y)[3] = 1.0f;
+        }
+    }
+    return picture;
+}
+
+TEST(RemoveHaze, StrengthZeroTouchesNothing)
+{
+    VImage unfit(3, 3, VImage::Grey, 8, /*clear=*/true); // not even looked at
+    OwnedState state(0);
+    RemoveHaze(unfit, state);
+    EXPECT_EQ(state.airlight[0], -1.0f);
+    EXPECT_EQ(state.transmission, nullptr);
+}
+
+TEST(RemoveHaze, ASecondStrengthUsesTheMapAndThreadsDontMatter)
+{
+    Picture first = makeHazyScene(100, 100);
+    OwnedState state(70);
+    RemoveHaze(*first.image, state);
+    ASSERT_NE(state.transmission, nullptr);
+    const float *const map = state.transmission;
+    EXPECT_NEAR(state.airlight[0], 0.9f, 0.1f);
+    // The veil at the top is gone for the most part; at the bottom there was hardly any.
+    const Picture before = makeHazyScene(100, 100);
+    EXPECT_LT(first.at(50, 30)[1], before.at(50, 30)[1] - 0.1f);
+    EXPECT_NEAR(first.at(50, 95)[1], before.at(50, 95)[1], 0.25f);
+
+    Picture second = makeHazyScene(100, 100);
+    state.strength = 30;
+    RemoveHaze(*second.image, state);
+    EXPECT_EQ(state.transmission, map);
+    Picture expected = makeHazyScene(100, 100);
+    recover(expected, std::vector<float>(map, map + 10000), state.airlight, 30.0f / 100.0f);
+    EXPECT_EQ(firstDifference(second.samples.data(), expected.samples.data(), expected.samples.size()), "");
+
+    threadCount = 3;
+    Picture third = makeHazyScene(100, 100);
+    OwnedState fresh(70);
+    RemoveHaze(*third.image, fresh);
+    threadCount = 1;
+    EXPECT_EQ(firstDifference(fresh.transmission, map, 10000), "");
+    EXPECT_EQ(firstDifference(third.samples.data(), first.samples.data(), first.samples.size()), "");
+}
+
+TEST(RemoveHaze, QuietExitsLeaveTheImage)
+{
+    const float kNan = std::numeric_limits<float>::quiet_NaN();
+    const float kInfinity = std::numeric_limits<float>::infinity();
+    for (const float value : {kNan, kInfinity, -kInfinity}) {
+        for (const bool everywhere : {false, true}) {
+            Picture picture = makeHazyScene(40, 30);
+            for (int i = 0; i < (everywhere ? 1200 : 1); ++i) {
+                const int pixel = (i + 620) % 1200;
+                picture.at(pixel % 40, pixel / 40)[1] = value;
+            }
+            const auto before = picture.samples;
+            OwnedState state(70);
+            RemoveHaze(*picture.image, state);
+            EXPECT_EQ(state.transmission, nullptr) << value;
+            EXPECT_EQ(firstDifference(picture.samples.data(), before.data(), before.size()), "") << value;
+        }
+    }
+    VImage noRows(40, 0, VImage::Rgba, 32);
+    OwnedState state(70);
+    EXPECT_THROW(RemoveHaze(noRows, state), VException); // no size of a copy can be given
+    VImage noColumns(0, 40, VImage::Rgba, 32);
+    RemoveHaze(noColumns, state);
+    EXPECT_EQ(state.transmission, nullptr);
+}
+
+TEST(RemoveHaze, SizesOfTheCopy)
+{
+    const struct
+    {
+        int width, height;
+        bool map;
+        const char *failure;
+    } rows[] = {
+        {20000, 5, true, ""},                    // the copy has the image's size
+        {42950, 100, false, ""},                 // wraps to 18 x 0
+        {21475, 10, false, "Not enough memory"}, // wraps below 0
+        {1, 1, true, ""},                        // 316 x 316 from one pixel
+        {3, 2000, true, ""},
+    };
+    for (const auto &row : rows) {
+        VImage image(row.width, row.height, VImage::Rgba, 32);
+        for (int y = 0; y < row.height; ++y) {
+            auto *p = reinterpret_cast<float *>(image.PixelAddress(0, y));
+            for (int x = 0; x < row.width; ++x, p += 4) {
+                p[0] = p[1] = p[2] = 0.25f + static_cast<float>((x / 16 + y) % 4) / 8.0f;
+                p[3] = 1.0f;
+            }
+        }
+        OwnedState state(50);
+        QString failure = QStringLiteral("");
+        try {
+            RemoveHaze(image, state);
+        } catch (const VException &exception) {
+            failure = exception.message;
+        }
+        EXPECT_EQ(failure.toStdString(), row.failure) << row.width;
+        EXPECT_EQ(state.transmission != nullptr, row.map) << row.width;
+    }
+}
+
+TEST(RemoveHaze, OtherFormsAreRefused)
+{
+    VImage rgb(30, 20, VImage::Rgb, 32, /*clear=*/true);
+    OwnedState state(50);
+    EXPECT_THROW(RemoveHaze(rgb, state), VException);
+}
+
+} // namespace
