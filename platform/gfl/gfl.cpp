@@ -31,7 +31,7 @@ constexpr Format kFormats[] = {
     {"jpeg", readJpeg, writeJpeg, {"jpg", "jpeg", "jpe", "jfif"}, {"\xFF\xD8\xFF"sv}},
     {"png", readPng, writePng, {"png"}, {"\x89PNG\r\n\x1A\n"sv}},
     {"tiff", readTiff, writeTiff, {"tif", "tiff"}, {"II*\0"sv, "MM\0*"sv, "II+\0"sv, "MM\0+"sv}},
-    {"hdri", readHdr, writeHdr, {"hdr", "pic", "rgbe", "xyze"}, {"#?RADIANCE"sv, "#?RGBE"sv}},
+    {"hdri", readHdr, writeHdr, {"hdr", "pic", "rgbe"}, {"#?RADIANCE"sv, "#?RGBE"sv}},
     {"exr", readExr, writeExr, {"exr"}, {"\x76\x2F\x31\x01"sv}},
     {"psd", readPsd, writePsd, {"psd", "psb"}, {"8BPS"sv}},
 };

@@ -71,12 +71,12 @@ void dropFrom(Exiv2::ExifData &data, Drop drop)
         at = drop(*at) ? data.erase(at) : std::next(at);
 }
 
-double realValue(const Exiv2::ExifData &data, const char *key)
+double realValue(const Exiv2::ExifData &data, const char *key, long index = 0)
 {
     const auto at = data.findKey(Exiv2::ExifKey(key));
-    if (at == data.end() || at->count() == 0)
+    if (at == data.end() || at->count() <= index)
         return 0;
-    const Exiv2::Rational value = at->toRational();
+    const Exiv2::Rational value = at->toRational(index);
     const double real = value.second != 0 ? double(value.first) / double(value.second) : 0.0;
     return real > 0 ? real : 0.0;
 }
@@ -91,6 +91,19 @@ std::string textValue(const Exiv2::ExifData &data, const char *key)
     while (!text.empty() && text.back() == ' ')
         text.pop_back();
     return text;
+}
+
+constexpr char kPrimaries[] = "Exif.Image.PrimaryChromaticities";
+constexpr char kWhitePoint[] = "Exif.Image.WhitePoint";
+
+void addRationals(Exiv2::ExifData &data, const char *key, const double *values, int count)
+{
+    constexpr std::uint32_t kDenominator = 1000000;
+    Exiv2::URationalValue rationals;
+    for (int i = 0; i < count; ++i)
+        rationals.value_.emplace_back(static_cast<std::uint32_t>(std::lround(std::clamp(values[i], 0.0, 1.0) * kDenominator)),
+                                      kDenominator);
+    data.add(Exiv2::ExifKey(key), &rationals);
 }
 
 // The nearest fraction with a denominator that a person would choose: 1/n below a second, tenths above.
@@ -278,6 +291,8 @@ ExposureFacts exposureFacts(const Bytes &exif)
         facts.exposureSeconds = realValue(data, "Exif.Photo.ExposureTime");
         facts.aperture = realValue(data, "Exif.Photo.FNumber");
         facts.isoSpeed = realValue(data, "Exif.Photo.ISOSpeedRatings");
+        for (int i = 0; i < 8; ++i)
+            facts.chromaticities[i] = i < 6 ? realValue(data, kPrimaries, i) : realValue(data, kWhitePoint, i - 6);
         facts.captureDate = textValue(data, "Exif.Photo.DateTimeOriginal");
         facts.owner = textValue(data, "Exif.Image.Copyright");
         if (facts.owner.empty())
@@ -301,6 +316,10 @@ Bytes exifFromFacts(const ExposureFacts &facts)
             data["Exif.Photo.FNumber"] = fraction(facts.aperture);
         if (facts.isoSpeed >= 1 && facts.isoSpeed <= 65535)
             data["Exif.Photo.ISOSpeedRatings"] = static_cast<std::uint16_t>(facts.isoSpeed);
+        if (facts.chromaticities[0] > 0) {
+            addRationals(data, kPrimaries, facts.chromaticities, 6);
+            addRationals(data, kWhitePoint, facts.chromaticities + 6, 2);
+        }
         if (!facts.captureDate.empty())
             data["Exif.Photo.DateTimeOriginal"] = facts.captureDate;
         if (!facts.owner.empty())

@@ -66,6 +66,8 @@ struct ExposureFacts
     double exposureSeconds = 0; ///< 0: not known, as for the two below.
     double aperture = 0;
     double isoSpeed = 0;
+    /// Red, green, blue and white, each as x, y; all 0: not known. EXIF has them as PrimaryChromaticities and WhitePoint.
+    double chromaticities[8] = {};
     std::string captureDate; ///< "YYYY:MM:DD hh:mm:ss"; empty: not known, as for the rest.
     std::string owner;
     std::string comments;

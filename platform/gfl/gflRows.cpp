@@ -129,6 +129,10 @@ NewBitmap::NewBitmap(const InputFile &file, std::int64_t width, std::int64_t hei
     const std::int64_t stride = (width * std::int64_t(form.pixelBytes()) + 3) / 4 * 4;
     if (stride > kLargest)
         throw Failure{GFL_ERROR_NO_MEMORY};
+    constexpr std::uint64_t kSmall = std::uint64_t(16) << 20;
+    constexpr std::uint64_t kMostPacked = 4096; // more than any of the packers reaches within one row
+    if (std::uint64_t(stride) > kSmall + kMostPacked * file.size())
+        throw Failure{GFL_ERROR_FILE_READ};
 
     auto *record = static_cast<GflBitmap *>(allocate(sizeof(GflBitmap)));
     if (!record)
@@ -147,7 +151,6 @@ NewBitmap::NewBitmap(const InputFile &file, std::int64_t width, std::int64_t hei
     record->colorUsed = form.components == 1 ? 256 : 0;
 
     // A photograph seldom packs better than 64 to 1: it gets its whole block at once, others grow into it.
-    constexpr std::uint64_t kSmall = std::uint64_t(16) << 20;
     constexpr std::uint64_t kRatio = 64;
     const std::uint64_t total = std::uint64_t(stride) * std::uint64_t(height);
     firstBytes = static_cast<std::size_t>(std::min(total, kSmall + kRatio * file.size()));
