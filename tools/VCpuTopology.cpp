@@ -1,5 +1,6 @@
 #include "VCpuTopology.h"
 
+#include <memory>
 #include <system_error>
 #include <thread>
 
@@ -8,6 +9,8 @@
 #include "countTopology.h"
 
 VCpuTopology *cpuTopology = nullptr;
+
+static std::unique_ptr<VCpuTopology> ownTopology;
 
 namespace {
 
@@ -50,12 +53,14 @@ int orThreads(int counted)
 
 void initTopology(VCpuTopology **shared)
 {
-    cpuTopology = shared ? *shared : new VCpuTopology;
+    if (!shared)
+        ownTopology = std::make_unique<VCpuTopology>();
+    cpuTopology = shared ? *shared : ownTopology.get();
 }
 
 void releaseTopology()
 {
-    delete cpuTopology;
+    ownTopology.reset();
     cpuTopology = nullptr;
 }
 

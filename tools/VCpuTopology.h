@@ -84,7 +84,7 @@ extern VCpuTopology *cpuTopology;
 
 /// Takes the host's record, or makes one without a result if `shared` is null. The machine is asked at the first query.
 void initTopology(VCpuTopology **shared);
-/// Deletes the record in use. Harmless without one. To be called only for a record that was made here.
+/// Deletes the record that was made here; a lent one is only forgotten. Harmless without one.
 void releaseTopology();
 
 // The queries fill the record in use if nobody has, which takes one walk over the processors on a thread of its own: a binding is

@@ -1,14 +1,20 @@
 #include "VLog.h"
 
+#include <memory>
+
 VLog *logInstance = nullptr;
+
+static std::unique_ptr<VLog> ownLog;
 
 void initLog(VLog *shared)
 {
-    logInstance = shared ? shared : new VLog;
+    if (!shared)
+        ownLog = std::make_unique<VLog>();
+    logInstance = shared ? shared : ownLog.get();
 }
 
 void releaseLog()
 {
-    delete logInstance;
+    ownLog.reset();
     logInstance = nullptr;
 }

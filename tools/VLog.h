@@ -32,5 +32,5 @@ extern VLog *logInstance;
 
 /// Takes the host's log, which stays the host's, or makes one if `shared` is null.
 void initLog(VLog *shared);
-/// Deletes the log in use. Harmless without one. To be called only for a log that was made here.
+/// Deletes the log that was made here; a lent one is only forgotten. Harmless without one.
 void releaseLog();

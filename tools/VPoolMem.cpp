@@ -1,6 +1,10 @@
 #include "VPoolMem.h"
 
+#include <memory>
+
 VPoolMem *memoryPool = nullptr;
+
+static std::unique_ptr<VPoolMem> ownPool;
 
 VPoolMem::VPoolMem()
 {
@@ -20,14 +24,16 @@ VPoolMem::~VPoolMem()
 
 void initPool(VPoolMem *shared)
 {
-    if (shared)
+    if (shared) {
         memoryPool = shared;
-    else if (!memoryPool)
-        memoryPool = new VPoolMem;
+    } else if (!memoryPool) {
+        ownPool = std::make_unique<VPoolMem>();
+        memoryPool = ownPool.get();
+    }
 }
 
 void releasePool()
 {
-    delete memoryPool;
+    ownPool.reset();
     memoryPool = nullptr;
 }

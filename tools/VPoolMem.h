@@ -40,5 +40,5 @@ extern VPoolMem *memoryPool;
 
 /// With `shared` that one is taken; it stays its owner's. Otherwise an empty one is made if there is none.
 void initPool(VPoolMem *shared);
-/// Deletes the pool in use. Harmless without one. To be called only for a pool that was made here.
+/// Deletes the pool that was made here; a lent one is only forgotten. Harmless without one.
 void releasePool();

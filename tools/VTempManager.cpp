@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <memory>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -12,6 +13,8 @@
 #include "kernel32.h"
 
 VTempManager *tempManager = nullptr;
+
+static std::unique_ptr<VTempManager> ownManager;
 
 qint64 freeDiskSpace(QString path)
 {
@@ -52,18 +55,21 @@ VTempManager::~VTempManager()
 
 void initTempManager(VTempManager *shared)
 {
-    if (shared)
+    if (shared) {
         tempManager = shared;
-    else if (!tempManager)
-        tempManager = new VTempManager;
+    } else if (!tempManager) {
+        ownManager = std::make_unique<VTempManager>();
+        tempManager = ownManager.get();
+    }
 }
 
 void releaseTempManager()
 {
-    if (!tempManager)
+    tempManager = nullptr;
+    if (!ownManager)
         return;
     const QDir currentFolder{QString()};
-    const auto &folders = tempManager->folders;
+    const auto &folders = ownManager->folders;
     // The two bounds differ only while another thread adds an entry: they are read anew each time.
     for (std::size_t i = 0; i < std::min(folders.size(), folders.capacity()); ++i) {
         if (!folders[i])
@@ -72,6 +78,5 @@ void releaseTempManager()
         if (QDir(path).entryList({QStringLiteral("*")}, QDir::Files, QDir::NoSort).isEmpty())
             currentFolder.rmdir(path);
     }
-    delete tempManager;
-    tempManager = nullptr;
+    ownManager.reset();
 }

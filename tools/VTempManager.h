@@ -40,6 +40,6 @@ extern VTempManager *tempManager;
 /// With `shared` that one is taken; it stays its owner's. Otherwise one is made if there is none.
 void initTempManager(VTempManager *shared);
 
-/// Removes each folder of the manager's list that holds nothing, then deletes the manager. Harmless without one. A folder that
-/// holds anything, or can't be removed, stays. To be called only for a manager that was made here.
+/// Removes each folder in the list of the manager that was made here, if it holds nothing, and deletes the manager; a lent one is
+/// only forgotten. Harmless without one. A folder that holds anything, or can't be removed, stays.
 void releaseTempManager();

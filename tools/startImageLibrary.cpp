@@ -1,5 +1,7 @@
 #include "startLibraries.h"
 
+#include <memory>
+
 #include <QDir>
 
 #include "VImageCacheRegistry.h"
@@ -14,7 +16,13 @@ VImageContext imageContext;
 namespace {
 
 bool started = false;
-VImageCacheRegistry *cacheRegistry = nullptr;
+std::unique_ptr<VImageCacheRegistry> ownRegistry;
+
+VImageCacheRegistry *makeRegistry()
+{
+    ownRegistry = std::make_unique<VImageCacheRegistry>();
+    return ownRegistry.get();
+}
 
 } // namespace
 
@@ -28,27 +36,31 @@ void startImageLibrary(VImageContext *context)
     if (context) {
         startTools(context->tools);
         imageSettings = context->settings;
-        cacheRegistry = context->cacheRegistry ? context->cacheRegistry : new VImageCacheRegistry;
+        imageContext.cacheRegistry = context->cacheRegistry ? context->cacheRegistry : makeRegistry();
     } else {
         startTools(nullptr);
         imageSettings = new VImageSettings;
         gflLibraryInitEx(gflAllocCallback, gflReallocCallback, gflFreeCallback, nullptr);
         gflEnableLZW(1);
-        cacheRegistry = new VImageCacheRegistry;
+        imageContext.cacheRegistry = makeRegistry();
         started = true;
     }
-    imageContext = {&toolsContext, cacheRegistry, imageSettings};
+    imageContext.tools = &toolsContext;
+    imageContext.settings = imageSettings;
 }
 
 void stopImageLibrary()
 {
     stopTools();
-    if (!started)
+    if (!started) {
+        imageSettings = nullptr; // lent, and forgotten
+        imageContext = {};
         return;
+    }
     delete imageSettings;
     imageSettings = nullptr;
-    delete cacheRegistry;
-    cacheRegistry = nullptr;
+    ownRegistry.reset();
+    imageContext = {};
     gflLibraryExit();
     started = false;
 }

@@ -23,7 +23,7 @@ void takeShared(const VToolsContext &context)
     initTopology(context.topology);
     threadCount = *context.threadCount;
     coreCount = *context.coreCount;
-    initPool(context.pool);
+    initPool(context.pool); // this one and the next make what the host has not
     initTempManager(context.tempManager);
     sharedValue = context.sharedValue;
 }
@@ -56,21 +56,27 @@ void startTools(VToolsContext *context)
         takeShared(*context);
     else
         makeOwn();
-    // A host may lend neither of these two.
-    initPool(memoryPool);
-    initTempManager(tempManager);
     toolsContext = {logInstance, &cpuTopology, memoryPool, tempManager, sharedValue, &threadCount, &coreCount};
 }
 
 void stopTools()
 {
-    if (!started)
+    if (!started) {
+        // What was lent is forgotten, so that a later start alone makes its own.
+        logInstance = nullptr;
+        cpuTopology = nullptr;
+        memoryPool = nullptr;
+        tempManager = nullptr;
+        sharedValue = nullptr;
+        toolsContext = {};
         return;
+    }
     releasePool();
     releaseTempManager();
     releaseTopology();
     releaseLog();
     delete sharedValue;
     sharedValue = nullptr;
+    toolsContext = {};
     started = false;
 }
