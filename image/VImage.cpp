@@ -179,6 +179,41 @@ struct ExifRelease
     void operator()(GflExif *exif) const { gflFreeEXIF2(exif); }
 };
 
+/// Scales all of `source` into all of `target`. False, with the target as it was, for a form that is not processed, an empty side
+/// or no memory.
+bool resize(const GflBitmap &source, GflBitmap &target)
+{
+    const unsigned short type = source.type;
+    const int bits = source.bitsPerComponent;
+    const int channels = source.componentsPerPixel;
+    if ((type != VImage::Grey && type != VImage::Rgb && type != VImage::Rgba) || (bits != 8 && bits != 16 && bits != 32))
+        return false;
+    const IppiSize from{source.width, source.height};
+    const IppiSize to{target.width, target.height};
+    const auto method = to.width > from.width || to.height > from.height ? IppiInterpolation::Linear : IppiInterpolation::Super;
+    const std::size_t specBytes = ippiResizeGetSize(from, to, method);
+    const IppsBlock<IppiResizeSpec> spec(specBytes ? static_cast<IppiResizeSpec *>(ippsMalloc(specBytes)) : nullptr);
+    if (!spec)
+        return false;
+    ippiResizeInit(from, to, method, {bits, channels}, spec.get());
+
+    const std::int64_t pixels = std::int64_t{from.width} * from.height + std::int64_t{to.width} * to.height;
+    const int team = pixels * channels < kSamplesForTeam ? 1 : std::clamp(threadCount, 1, to.height);
+    const std::size_t bufferBytes = ippiResizeGetBufferSize(spec.get());
+    const IppsBlock<unsigned char> buffers(
+        static_cast<unsigned char *>(ippsMalloc(bufferBytes * static_cast<std::size_t>(team))));
+    if (!buffers)
+        return false;
+#    pragma omp parallel for schedule(static) num_threads(team)
+    for (int part = 0; part < team; ++part) {
+        const auto rowOf = [&](int index) { return static_cast<int>(std::int64_t{to.height} * index / team); };
+        ippiResize(source.data, static_cast<int>(source.bytesPerLine), target.data, static_cast<int>(target.bytesPerLine),
+                   rowOf(part), rowOf(part + 1) - rowOf(part), spec.get(),
+                   buffers.get() + bufferBytes * static_cast<std::size_t>(part));
+    }
+    return true;
+}
+
 /// The codec layer's name of a format that is given in any case or by one of three short forms.
 QString formatName(const QString &format)
 {
@@ -241,34 +276,9 @@ void VImage::Resample(VImage &target, int width, int height) const
         throw VException(QString(), V_LOCATION);
     if (width == Width() && height == Height())
         return target.Assign(*this);
-    target.Create(width, height, Type(), BitsPerComponent(), /*clear=*/true);
-
-    const int bits = BitsPerComponent();
-    const bool processed = (Type() == Grey || Type() == Rgb || Type() == Rgba) && (bits == 8 || bits == 16 || bits == 32);
-    if (!processed)
-        return;
-    const IppiSize from{Width(), Height()};
-    const IppiSize to{width, height};
-    const auto method = width > Width() || height > Height() ? IppiInterpolation::Linear : IppiInterpolation::Super;
-    const std::size_t specBytes = ippiResizeGetSize(from, to, method);
-    const IppsBlock<IppiResizeSpec> spec(specBytes ? static_cast<IppiResizeSpec *>(ippsMalloc(specBytes)) : nullptr);
-    if (!spec)
-        return;
-    ippiResizeInit(from, to, method, {bits, bitmap->componentsPerPixel}, spec.get());
-
-    const std::int64_t pixels = std::int64_t{from.width} * from.height + std::int64_t{to.width} * to.height;
-    const int team = pixels * bitmap->componentsPerPixel < kSamplesForTeam ? 1 : std::clamp(threadCount, 1, height);
-    const std::size_t bufferBytes = ippiResizeGetBufferSize(spec.get());
-    const IppsBlock<unsigned char> buffers(
-        static_cast<unsigned char *>(ippsMalloc(bufferBytes * static_cast<std::size_t>(team))));
-    if (!buffers)
-        return;
-#    pragma omp parallel for schedule(static) num_threads(team)
-    for (int part = 0; part < team; ++part) {
-        const auto rowOf = [&](int index) { return static_cast<int>(std::int64_t{height} * index / team); };
-        ippiResize(bitmap->data, BytesPerLine(), target.bitmap->data, target.BytesPerLine(), rowOf(part),
-                   rowOf(part + 1) - rowOf(part), spec.get(), buffers.get() + bufferBytes * static_cast<std::size_t>(part));
-    }
+    target.Create(width, height, Type(), BitsPerComponent());
+    if (!resize(*bitmap, *target.bitmap))
+        target.Create(width, height, Type(), BitsPerComponent(), /*clear=*/true);
 }
 
 void VImage::Save(QString fileName, QString format, int quality, QString metadataSource)
