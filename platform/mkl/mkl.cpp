@@ -8,6 +8,7 @@
 #include <new>
 #include <vector>
 
+#include "MultifrontalFactors.h"
 #include "MumpsFactors.h"
 #include "SparseRows.h"
 
@@ -37,11 +38,45 @@ constexpr double kConverged = 1.0 / 8192;
 // lost far more digits of the residual by then; a perturbed singular one keeps about all of it.
 constexpr double kSolved = 1e-3;
 
-/// What `pt` stands for between the phases.
+/// What `pt` stands for between the phases: the quick factors as long as they serve, the library's otherwise.
 struct Handle
 {
-    MumpsFactors factors;
+    std::unique_ptr<MultifrontalFactors> quick;
+    MumpsFactors library;
     bool factorised = false;
+
+    std::int32_t analyse(const SparseRows &matrix)
+    {
+        if (matrix.symmetric) {
+            quick = std::make_unique<MultifrontalFactors>();
+            if (quick->analyse(matrix))
+                return 0;
+            quick.reset();
+        }
+        return library.analyse(matrix);
+    }
+
+    std::int32_t factorise(const SparseRows &matrix, float pivotFloor)
+    {
+        if (quick) {
+            if (quick->factorise(matrix))
+                return 0;
+            quick.reset();
+            if (const std::int32_t code = library.analyse(matrix))
+                return code;
+        }
+        return library.factorise(matrix, pivotFloor);
+    }
+
+    std::int32_t solve(float *rightHandSide)
+    {
+        if (!quick)
+            return library.solve(rightHandSide);
+        quick->solve(rightHandSide);
+        return 0;
+    }
+
+    std::int64_t entryCount() const { return quick ? quick->entryCount() : library.entryCount(); }
 };
 
 bool allFinite(const float *values, std::int32_t count)
@@ -105,7 +140,7 @@ std::int32_t solveRefined(Handle &handle, const SparseRows &matrix, std::int32_t
     std::vector<double> solution(order, 0.0);
     std::vector<double> residual(order);
     const auto addPart = [&]() -> std::int32_t {
-        if (const std::int32_t code = handle.factors.solve(part.data()))
+        if (const std::int32_t code = handle.solve(part.data()))
             return code;
         if (!allFinite(part.data(), matrix.order))
             return PardisoNotFinite;
@@ -163,17 +198,17 @@ void pardiso(void *pt, const std::int32_t *, const std::int32_t *, const std::in
             if (handle || !validRows(matrix))
                 return PardisoBadInput;
             handle = std::make_unique<Handle>();
-            return handle->factors.analyse(matrix);
+            return handle->analyse(matrix);
         case Factorisation: {
             if (!handle)
                 return PardisoBadInput;
             if (!allFinite(matrix.values, matrix.count()))
                 return PardisoNotFinite;
-            const std::int32_t code = handle->factors.factorise(matrix, std::pow(10.0F, float(-iparm[9])));
+            const std::int32_t code = handle->factorise(matrix, std::pow(10.0F, float(-iparm[9])));
             handle->factorised = code == 0;
             if (code == 0 && iparm[17] < 0) {
                 constexpr std::int64_t highest = std::numeric_limits<std::int32_t>::max();
-                iparm[17] = std::int32_t(std::min(handle->factors.entryCount(), highest));
+                iparm[17] = std::int32_t(std::min(handle->entryCount(), highest));
             }
             return code;
         }

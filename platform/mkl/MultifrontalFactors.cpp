@@ -1,0 +1,404 @@
+#include "MultifrontalFactors.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <iterator>
+#include <new>
+
+#include <omp.h>
+#include <sys/mman.h>
+
+#include "frontKernels.h"
+#include "mkl.h"
+
+namespace {
+
+// Boxes of this many vertices are no longer cut: below, the dense work is cheaper than the handling of more fronts.
+constexpr std::int64_t kLeafVertices = 32;
+// A box that can't be cut although it is larger than this shows a pattern of another kind.
+constexpr std::int64_t kMostLeafVertices = 512;
+// A grid of any size a float can solve takes some hundred; more shows a pattern of another kind too.
+constexpr std::size_t kMostFloatsPerVertex = 2000;
+// Subtrees below this size are not worth a task.
+constexpr std::int32_t kTaskVertices = 1500;
+// What elimination may leave of a diagonal cell. Below, a float has kept three bits of it, and a solver with pivoting does
+// better.
+constexpr float kPivotFloor = 1.0F / (1 << 20);
+
+constexpr std::size_t kAlignment = kStrip * sizeof(float);
+constexpr std::size_t kHugePage = std::size_t(2) << 20;
+
+} // namespace
+
+int MultifrontalFactors::Node::pivotStrips() const
+{
+    return (pivots + kStrip - 1) / kStrip;
+}
+
+int MultifrontalFactors::Node::strips() const
+{
+    return pivotStrips() + (int(border.size()) + kStrip - 1) / kStrip;
+}
+
+int MultifrontalFactors::Node::rowOf(std::int32_t position) const
+{
+    if (position < first + pivots)
+        return position - first;
+    return pivotStrips() * kStrip + int(std::lower_bound(border.begin(), border.end(), position) - border.begin());
+}
+
+void MultifrontalFactors::Free::operator()(float *memory) const
+{
+    mklFree(memory);
+}
+
+MultifrontalFactors::Floats MultifrontalFactors::allocate(std::size_t count, std::size_t alignment)
+{
+    Floats result(static_cast<float *>(mklMalloc(std::max<std::size_t>(count, 1) * sizeof(float), int(alignment))));
+    if (!result)
+        throw std::bad_alloc();
+    return result;
+}
+
+void MultifrontalFactors::findGrid(const SparseRows &matrix)
+{
+    // A vertex inside the image has the longest rows. Its columns come in runs: its own grid row, the next one around the same x,
+    // ...
+    std::int32_t longest = 0;
+    const auto lengthOf = [&matrix](std::int32_t row) { return matrix.rowStarts[row + 1] - matrix.rowStarts[row]; };
+    for (std::int32_t row = 1; row < order; ++row)
+        if (lengthOf(row) > lengthOf(longest))
+            longest = row;
+    const std::int32_t *const last = matrix.columns + (matrix.rowStarts[longest + 1] - 1);
+    const auto endOfRun = [last](const std::int32_t *column) {
+        while (column + 1 < last && column[1] == column[0] + 1)
+            ++column;
+        return column + 1;
+    };
+    const std::int32_t *const first = matrix.columns + (matrix.rowStarts[longest] - 1);
+    gridWidth = 1; // with one run only, the grid is a band: one column, with a longer reach
+    if (first < last) {
+        const std::int32_t *const second = endOfRun(first);
+        if (second < last)
+            gridWidth = std::max(1, (second[0] + endOfRun(second)[-1]) / 2 - (longest + 1));
+    }
+
+    std::vector<std::int32_t> x(std::size_t(order), 0);
+    std::vector<std::int32_t> y(std::size_t(order), 0);
+    for (std::int32_t vertex = 0; vertex < order; ++vertex) {
+        x[std::size_t(vertex)] = vertex % gridWidth;
+        y[std::size_t(vertex)] = vertex / gridWidth;
+    }
+    reach[0] = reach[1] = 0;
+    for (std::int32_t row = 0; row < order; ++row) {
+        for (std::int32_t cell = matrix.rowStarts[row] - 1; cell < matrix.rowStarts[row + 1] - 1; ++cell) {
+            const auto column = std::size_t(matrix.columns[cell] - 1);
+            reach[0] = std::max(reach[0], std::abs(x[column] - x[std::size_t(row)]));
+            reach[1] = std::max(reach[1], y[column] - y[std::size_t(row)]);
+        }
+    }
+}
+
+// Cuts the box across, where that takes fewer vertices, by a separator as thick as the reach: no cell joins the two sides.
+// Returns the node, or -1 if the box is too large for a leaf and too small to be cut.
+std::int32_t MultifrontalFactors::dissect(const Box &box)
+{
+    const std::int32_t width = box.right - box.left;
+    const std::int32_t height = box.bottom - box.top;
+    const auto subtreeFirst = std::int32_t(vertexAt.size());
+    Node node{};
+    node.children[0] = node.children[1] = -1;
+    node.subtreeFirst = subtreeFirst;
+    Box own = box;
+
+    const std::int64_t vertices = std::int64_t(width) * height;
+    const bool canCutX = width >= reach[0] + 2;
+    const bool canCutY = height >= reach[1] + 2;
+    if (vertices > kLeafVertices && (canCutX || canCutY)) {
+        const bool cutX = canCutX && (!canCutY || std::int64_t(reach[0]) * height < std::int64_t(reach[1]) * width);
+        Box low = box;
+        Box high = box;
+        if (cutX) {
+            low.right = own.left = box.left + (width - reach[0]) / 2;
+            high.left = own.right = own.left + reach[0];
+        } else {
+            low.bottom = own.top = box.top + (height - reach[1]) / 2;
+            high.top = own.bottom = own.top + reach[1];
+        }
+        node.children[0] = dissect(low);
+        node.children[1] = node.children[0] < 0 ? -1 : dissect(high);
+        if (node.children[1] < 0)
+            return -1;
+    } else if (vertices > kMostLeafVertices) {
+        return -1;
+    }
+
+    node.first = std::int32_t(vertexAt.size());
+    for (std::int32_t y = own.top; y < own.bottom; ++y) {
+        for (std::int32_t x = own.left; x < own.right; ++x) {
+            const std::int64_t vertex = std::int64_t(y) * gridWidth + x;
+            if (vertex < order) // the last row may be cut short
+                vertexAt.push_back(std::int32_t(vertex));
+        }
+    }
+    node.pivots = std::int32_t(vertexAt.size()) - node.first;
+    nodes.push_back(std::move(node));
+    return std::int32_t(nodes.size()) - 1;
+}
+
+void MultifrontalFactors::fileCells(const SparseRows &matrix)
+{
+    cellStarts.assign(std::size_t(order) + 1, 0);
+    cells.resize(std::size_t(matrix.count()));
+    const auto everyCell = [&](const auto &visit) {
+        for (std::int32_t row = 0; row < order; ++row) {
+            const std::int32_t rowPosition = positionOf[std::size_t(row)];
+            for (std::int32_t cell = matrix.rowStarts[row] - 1; cell < matrix.rowStarts[row + 1] - 1; ++cell) {
+                const std::int32_t position = positionOf[std::size_t(matrix.columns[cell] - 1)];
+                visit(std::size_t(std::min(rowPosition, position)), Cell{std::max(rowPosition, position), cell});
+            }
+        }
+    };
+    everyCell([this](std::size_t sooner, const Cell &) { ++cellStarts[sooner + 1]; });
+    for (std::size_t position = 0; position < std::size_t(order); ++position)
+        cellStarts[position + 1] += cellStarts[position];
+    std::vector<std::int32_t> next(cellStarts.begin(), cellStarts.end() - 1);
+    everyCell([&](std::size_t sooner, const Cell &cell) { cells[std::size_t(next[sooner]++)] = cell; });
+}
+
+void MultifrontalFactors::findBorder(std::int32_t number)
+{
+    Node &node = nodes[std::size_t(number)];
+    const std::int32_t end = node.first + node.pivots;
+    std::vector<std::int32_t> border;
+    for (std::int32_t cell = cellStarts[std::size_t(node.first)]; cell < cellStarts[std::size_t(end)]; ++cell)
+        if (cells[std::size_t(cell)].later >= end)
+            border.push_back(cells[std::size_t(cell)].later);
+    std::sort(border.begin(), border.end());
+    border.erase(std::unique(border.begin(), border.end()), border.end());
+    for (const std::int32_t child : node.children) {
+        if (child < 0)
+            continue;
+        const std::vector<std::int32_t> &below = nodes[std::size_t(child)].border;
+        std::vector<std::int32_t> both;
+        both.reserve(border.size() + below.size());
+        std::set_union(border.begin(), border.end(), std::lower_bound(below.begin(), below.end(), end), below.end(),
+                       std::back_inserter(both));
+        border.swap(both);
+    }
+    node.border = std::move(border);
+    for (const std::int32_t child : node.children) {
+        if (child < 0)
+            continue;
+        Node &below = nodes[std::size_t(child)];
+        below.parentRows.reserve(below.border.size());
+        for (const std::int32_t position : below.border)
+            below.parentRows.push_back(node.rowOf(position));
+    }
+}
+
+template<typename Visit>
+void MultifrontalFactors::climb(std::int32_t number, const Visit &visit)
+{
+    const Node &node = nodes[std::size_t(number)];
+    if (node.children[0] >= 0) {
+        const bool large = node.first - node.subtreeFirst > kTaskVertices;
+#pragma omp task default(shared) if (large)
+        climb(node.children[0], visit);
+        climb(node.children[1], visit);
+#pragma omp taskwait
+    }
+    visit(number);
+}
+
+// Visits every node after its children, unrelated ones at the same time. False if a visit returned false; the rest is left out
+// then.
+template<typename Visit>
+bool MultifrontalFactors::childrenFirst(const Visit &visit)
+{
+    enum State { Good, GaveUp, NoMemory };
+    std::atomic<int> state{Good};
+    // No exception may leave a task.
+    const auto guarded = [&](std::int32_t number) {
+        if (state.load(std::memory_order_relaxed) != Good)
+            return;
+        try {
+            if (!visit(number))
+                state = GaveUp;
+        } catch (const std::bad_alloc &) {
+            state = NoMemory;
+        }
+    };
+#pragma omp parallel default(shared)
+#pragma omp single
+    climb(std::int32_t(nodes.size()) - 1, guarded);
+    if (state == NoMemory)
+        throw std::bad_alloc();
+    return state == Good;
+}
+
+bool MultifrontalFactors::analyse(const SparseRows &matrix)
+{
+    order = matrix.order;
+    findGrid(matrix);
+    vertexAt.reserve(std::size_t(order));
+    const std::int32_t gridHeight = std::int32_t((std::int64_t(order) + gridWidth - 1) / gridWidth);
+    if (dissect({0, 0, gridWidth, gridHeight}) < 0)
+        return false;
+
+    positionOf.resize(std::size_t(order));
+    for (std::int32_t position = 0; position < order; ++position)
+        positionOf[std::size_t(vertexAt[std::size_t(position)])] = position;
+    fileCells(matrix);
+    childrenFirst([this](std::int32_t number) {
+        findBorder(number);
+        return true;
+    });
+
+    std::size_t localFloats = 0;
+    for (Node &node : nodes) {
+        const auto rows = std::size_t(node.strips()) * kStrip;
+        node.panelStart = panelFloats;
+        node.localStart = localFloats;
+        panelFloats += rows * std::size_t(node.pivotStrips()) * kStrip;
+        localFloats += rows;
+    }
+    if (panelFloats > kMostFloatsPerVertex * std::size_t(order))
+        return false;
+    locals = allocate(localFloats, kAlignment);
+    return true;
+}
+
+bool MultifrontalFactors::factorise(const SparseRows &matrix)
+{
+    panels = allocate(panelFloats, kHugePage);
+    madvise(panels.get(), panelFloats * sizeof(float), MADV_HUGEPAGE); // a wish: without huge pages it is only slower
+    const bool done = childrenFirst([&](std::int32_t number) { return eliminate(number, matrix.values); });
+    for (Node &node : nodes)
+        node.contribution.reset();
+    return done;
+}
+
+bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
+{
+    Node &node = nodes[std::size_t(number)];
+    const int pivotStrips = node.pivotStrips();
+    const int strips = node.strips();
+    const std::size_t stripFloats = std::size_t(pivotStrips) * kStrip * kStrip;
+    float *const panel = panels.get() + node.panelStart;
+    // A row's part of the panel, and of the contribution: column c is 16 c floats further.
+    const auto inPanel = [&](int row) { return std::size_t(row / kStrip) * stripFloats + std::size_t(row % kStrip); };
+    const auto inContribution = [](int row) { return std::size_t(contributionStart(row / kStrip) + row % kStrip); };
+
+    if (strips > pivotStrips) {
+        const auto count = std::size_t(contributionStart(strips - pivotStrips));
+        node.contribution = allocate(count, kAlignment);
+        std::fill_n(node.contribution.get(), count, 0.0F);
+    }
+    std::fill_n(panel, stripFloats * std::size_t(strips), 0.0F);
+    float *const floors = locals.get() + node.localStart;
+    std::fill(floors, floors + pivotStrips * kStrip, 0.0F);
+    for (int pivot = 0; pivot < node.pivots; ++pivot) {
+        const auto position = std::size_t(node.first + pivot);
+        float *const column = panel + std::size_t(pivot) * kStrip;
+        for (std::int32_t i = cellStarts[position]; i < cellStarts[position + 1]; ++i) {
+            const Cell &cell = cells[std::size_t(i)];
+            const float value = values[cell.source];
+            column[inPanel(node.rowOf(cell.later))] = value;
+            if (std::size_t(cell.later) == position)
+                floors[pivot] = kPivotFloor * value;
+        }
+    }
+    for (int pad = node.pivots; pad < pivotStrips * kStrip; ++pad)
+        panel[inPanel(pad) + std::size_t(pad) * kStrip] = 1.0F;
+
+    for (const std::int32_t child : node.children) {
+        if (child < 0)
+            continue;
+        Node &below = nodes[std::size_t(child)];
+        const auto count = int(below.border.size());
+        const float *source = below.contribution.get();
+        for (int strip = 0; strip * kStrip < count; ++strip) {
+            const int rows = std::min(kStrip, count - strip * kStrip);
+            const std::int32_t *const targetRows = below.parentRows.data() + strip * kStrip;
+            std::size_t panelRow[kStrip];
+            std::size_t contributionRow[kStrip];
+            for (int i = 0; i < rows; ++i) {
+                panelRow[i] = inPanel(targetRows[i]);
+                contributionRow[i] =
+                    targetRows[i] < pivotStrips * kStrip ? 0 : inContribution(targetRows[i] - pivotStrips * kStrip);
+            }
+            const int columns = std::min((strip + 1) * kStrip, count);
+            for (int column = 0; column < columns; ++column) {
+                const int from = std::max(0, column - strip * kStrip); // the lower triangle alone
+                const int target = below.parentRows[std::size_t(column)];
+                const float *const sourceColumn = source + column * kStrip;
+                if (target < pivotStrips * kStrip) {
+                    float *const at = panel + std::size_t(target) * kStrip;
+                    for (int i = from; i < rows; ++i)
+                        at[panelRow[i]] += sourceColumn[i];
+                } else {
+                    float *const at = node.contribution.get() + std::size_t(target - pivotStrips * kStrip) * kStrip;
+                    for (int i = from; i < rows; ++i)
+                        at[contributionRow[i]] += sourceColumn[i];
+                }
+            }
+            source += (strip + 1) * kStrip * kStrip;
+        }
+        below.contribution.reset();
+    }
+
+    const FrontKernels &kernels = frontKernels();
+    if (!kernels.factor(panel, pivotStrips, strips, floors))
+        return false;
+    if (strips > pivotStrips)
+        kernels.update(panel, node.pivots, pivotStrips, strips, node.contribution.get());
+    return true;
+}
+
+void MultifrontalFactors::solve(float *rightHandSide)
+{
+    childrenFirst([&](std::int32_t number) {
+        const Node &node = nodes[std::size_t(number)];
+        float *const local = locals.get() + node.localStart;
+        std::fill(local, local + node.strips() * kStrip, 0.0F);
+        for (int pivot = 0; pivot < node.pivots; ++pivot)
+            local[pivot] = rightHandSide[vertexAt[std::size_t(node.first + pivot)]];
+        for (const std::int32_t child : node.children) {
+            if (child < 0)
+                continue;
+            const Node &below = nodes[std::size_t(child)];
+            const float *const from = locals.get() + below.localStart + below.pivotStrips() * kStrip;
+            for (std::size_t i = 0; i < below.parentRows.size(); ++i)
+                local[below.parentRows[i]] += from[i];
+        }
+        frontKernels().forward(panels.get() + node.panelStart, node.pivotStrips(), node.strips(), local);
+        return true;
+    });
+#pragma omp parallel default(shared)
+#pragma omp single
+    descend(std::int32_t(nodes.size()) - 1, -1, rightHandSide);
+}
+
+void MultifrontalFactors::descend(std::int32_t number, std::int32_t parent, float *solution)
+{
+    const Node &node = nodes[std::size_t(number)];
+    float *const local = locals.get() + node.localStart;
+    if (parent >= 0) {
+        const float *const above = locals.get() + nodes[std::size_t(parent)].localStart;
+        float *const border = local + node.pivotStrips() * kStrip;
+        for (std::size_t i = 0; i < node.parentRows.size(); ++i)
+            border[i] = above[node.parentRows[i]];
+    }
+    frontKernels().backward(panels.get() + node.panelStart, node.pivotStrips(), node.strips(), local);
+    for (int pivot = 0; pivot < node.pivots; ++pivot)
+        solution[vertexAt[std::size_t(node.first + pivot)]] = local[pivot];
+    if (node.children[0] < 0)
+        return;
+    const bool large = node.first - node.subtreeFirst > kTaskVertices;
+#pragma omp task default(shared) if (large)
+    descend(node.children[0], number, solution);
+    descend(node.children[1], number, solution);
+#pragma omp taskwait
+}
