@@ -5,12 +5,12 @@
 #define V_TEXT_OF_(x) #x
 #define V_TEXT_OF(x) V_TEXT_OF_(x)
 
-/// Where this line stands, as a location text: File: "../image/VImage.cpp" Line: 902. The path is turned into a text a second time,
-/// which puts the quotes around it and doubles any backslash. Fixed when the source is compiled.
+/// Where this line stands, as a location text: File: "../image/VImage.cpp" Line: 902. The path is turned into a text a second
+/// time, which puts the quotes around it and doubles any backslash. Fixed when the source is compiled.
 #define V_LOCATION QStringLiteral("File: " V_TEXT_OF(__FILE__) " Line: " V_TEXT_OF(__LINE__))
 
-/// The one failure type, thrown and caught by value. It is part of the contract between host and plug-in, which know it under this
-/// name and field order, and on purpose it is no std::exception: a handler for those does not see it.
+/// The one failure type, thrown and caught by value. It is part of the contract between host and plug-in, which know it under
+/// this name and field order, and on purpose it is no std::exception: a handler for those does not see it.
 class VException
 {
 public:
