@@ -236,7 +236,7 @@ void ApplySaveQuality(QString format, int quality, GflSaveParams &params)
         params.compression = quality >= 1 && quality <= 8 ? static_cast<std::int16_t>(quality - 1) : 4;
 }
 
-/// Asks for all metadata, and for camera raw to be developed by the image library's settings, so that such a file is read at all.
+/// Asks for all metadata and, since the pixels are thrown away, for nothing else. The raw settings of the image library go along.
 void InitLoadParameters(GflLoadParams &params)
 {
     gflGetDefaultLoadParams(&params);
@@ -250,7 +250,7 @@ void InitLoadParameters(GflLoadParams &params)
     params.rawBrightness = settings.rawBrightness;
     params.rawRedScaling = settings.rawRedScaling;
     params.rawBlueScaling = settings.rawBlueScaling;
-    params.flags |= GFL_LOAD_METADATA;
+    params.flags |= GFL_LOAD_METADATA | GFL_LOAD_METADATA_ONLY;
 }
 
 /// Colour profile, IPTC and EXIF of a file, each if it has it.
