@@ -90,5 +90,6 @@ struct CpuidRegisters
 /// family of processors.
 bool ReadCpuid(std::uint32_t leaf, std::uint32_t subleaf, CpuidRegisters *registers);
 
-/// How many processors' worth of time the system grants the process (a container's quota), rounded up; 0 for no limit.
-std::uint32_t GetProcessorQuota();
+/// How many processors' worth of time the system grants the process (a container's quota), rounded up; 0 for no limit. The two
+/// arguments say where the system lists the process's control groups and keeps them.
+std::uint32_t GetProcessorQuota(const char *processGroups = "/proc/self/cgroup", const char *mountPoint = "/sys/fs/cgroup");

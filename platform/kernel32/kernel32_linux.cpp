@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <cwchar>
 #include <fstream>
 #include <string>
@@ -200,6 +201,8 @@ bool GetLogicalProcessorInformationEx(std::int32_t relation, LogicalProcessorInf
     const std::size_t room = relation == RelationGroup ? kMaximumGroups * kProcessorsPerGroup : kMaximumProcessors;
     if (online.empty() || online.size() > room)
         return fail(EOVERFLOW);
+    if (relation != RelationGroup && relation != RelationProcessorCore)
+        return fail(EINVAL);
     *information = {};
     information->relation = relation;
     if (relation == RelationGroup) {
@@ -211,8 +214,6 @@ bool GetLogicalProcessorInformationEx(std::int32_t relation, LogicalProcessorInf
         }
         return true;
     }
-    if (relation != RelationProcessorCore)
-        return fail(EINVAL);
     information->count = static_cast<std::uint32_t>(online.size());
     for (std::size_t i = 0; i < online.size(); ++i) {
         const std::string folder = "/sys/devices/system/cpu/cpu" + std::to_string(online[i]) + "/topology/";
@@ -276,28 +277,30 @@ bool ReadCpuid(std::uint32_t leaf, std::uint32_t subleaf, CpuidRegisters *regist
 #endif
 }
 
-std::uint32_t GetProcessorQuota()
+std::uint32_t GetProcessorQuota(const char *processGroups, const char *mountPoint)
 {
     // Every control group from the process's own up to the root may set a limit; the tightest holds. In a container, the own path
     // is often one of the outside, and only the root is there.
     double tightest = -1;
-    std::ifstream groups("/proc/self/cgroup");
-    for (std::string line; std::getline(groups, line);) {
+    std::ifstream groups(processGroups);
+    for (std::string line; std::getline(groups, line);) { // number:controllers:path
         const std::size_t names = line.find(':');
         const std::size_t path = line.find(':', names + 1);
-        if (path == std::string::npos)
+        if (names == std::string::npos || path == std::string::npos)
             continue;
-        const std::string controllers = line.substr(names + 1, path - names - 1);
-        const bool unified = controllers.empty();
-        if (!unified && ("," + controllers + ",").find(",cpu,") == std::string::npos)
-            continue;
-        for (const char *root : {"/sys/fs/cgroup", "/sys/fs/cgroup/cpu", "/sys/fs/cgroup/cpu,cpuacct"}) {
-            for (std::string folder = line.substr(path + 1);; folder.resize(folder.find_last_of('/'))) {
-                const double quota = quotaOf(root + folder);
+        const std::string controllers = "," + line.substr(names + 1, path - names - 1) + ",";
+        std::vector<std::string> roots;
+        if (controllers == ",,") // the unified hierarchy
+            roots = {"", "/unified"};
+        else if (controllers.find(",cpu,") != std::string::npos)
+            roots = {"/cpu", "/cpu,cpuacct"};
+        for (const std::string &root : roots) {
+            std::string folder = mountPoint + root + line.substr(path + 1);
+            while (folder.size() >= std::strlen(mountPoint) + root.size()) {
+                const double quota = quotaOf(folder);
                 if (quota > 0 && (tightest < 0 || quota < tightest))
                     tightest = quota;
-                if (folder.find('/') == std::string::npos)
-                    break;
+                folder.resize(folder.find_last_of('/'));
             }
         }
     }

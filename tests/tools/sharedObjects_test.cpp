@@ -1,0 +1,144 @@
+#include <thread>
+
+#include <QMetaMethod>
+#include <QPointer>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include "VLog.h"
+#include "VPoolMem.h"
+#include "VTimers.h"
+
+namespace {
+
+TEST(VLog, HasTwoSignalsAndNothingElse)
+{
+    const QMetaObject &meta = VLog::staticMetaObject;
+    ASSERT_EQ(meta.methodCount() - meta.methodOffset(), 2);
+    EXPECT_EQ(meta.method(meta.methodOffset()).methodSignature(), "Logged(int,QString)");
+    EXPECT_EQ(meta.method(meta.methodOffset() + 1).methodSignature(), "Logged(QString)");
+    EXPECT_EQ(meta.propertyCount(), meta.propertyOffset());
+    EXPECT_EQ(meta.enumeratorCount(), meta.enumeratorOffset());
+}
+
+TEST(VLog, IsDeletedOnlyByItsMaker)
+{
+    releaseLog();
+    initLog(nullptr);
+    const QPointer<VLog> own = logInstance;
+    EXPECT_EQ(own->parent(), nullptr);
+    releaseLog();
+    EXPECT_TRUE(own.isNull());
+    VLog lent;
+    initLog(&lent);
+    EXPECT_EQ(logInstance, &lent);
+    releaseLog();
+    EXPECT_EQ(logInstance, nullptr);
+}
+
+TEST(VLog, IsHeardFromSeveralThreads)
+{
+    initLog(nullptr);
+    int heard = 0; // under the log's mutex
+    QObject::connect(logInstance, QOverload<const QString &>::of(&VLog::Logged),
+                     [&](const QString &text) { heard += text.size(); });
+    const auto say = [] {
+        for (int i = 0; i < 100; ++i) {
+            const QMutexLocker lock(&logInstance->mutex);
+            Q_EMIT logInstance->Logged(QStringLiteral("a"));
+        }
+    };
+    std::thread other(say);
+    say();
+    other.join();
+    EXPECT_EQ(heard, 200);
+    releaseLog();
+}
+
+TEST(VPoolMem, FreesItsBlocksAndForgetsTheFreeOnes)
+{
+    releasePool();
+    initPool(nullptr);
+    VPoolMem *pool = memoryPool;
+    initPool(nullptr);
+    EXPECT_EQ(memoryPool, pool);
+    pool->blockCount = 64;
+    pool->blocks = new VPoolMemBloc[64]; // a leak or a double release is the sanitizer's to find
+    for (int i = 0; i < pool->blockCount; ++i)
+        pool->blocks[i].memory = new unsigned char[16];
+    const auto fill = [pool](int first) {
+        for (int i = first; i < 64; i += 2)
+            pool->freeBlocks.push(&pool->blocks[i]);
+    };
+    std::thread other(fill, 1);
+    fill(0);
+    VPoolMemBloc *taken = nullptr;
+    EXPECT_TRUE(pool->freeBlocks.try_pop(taken));
+    other.join();
+    releasePool();
+    EXPECT_EQ(memoryPool, nullptr);
+
+    VPoolMem lent;
+    initPool(&lent);
+    EXPECT_EQ(memoryPool, &lent);
+    releasePool();
+    EXPECT_EQ(lent.blockCount, 0);
+}
+
+TEST(VTimers, AreCalibratedAtLoad)
+{
+    // The counter tells nanoseconds; the fixed correction makes a little less of them. An interrupted sample is left out of the
+    // mean, which leaves room for the rest of a busy machine.
+    EXPECT_NEAR(double(vTimers.ticksPerSecond), 1e9 / 1.002284, 2e7);
+    EXPECT_GE(vTimers.overheadTicks, 124524475 - 1);
+    EXPECT_LT(vTimers.overheadTicks, 124524475 + 1000000);
+    EXPECT_TRUE(vTimers.timers.empty());
+    const VTimers further;
+    EXPECT_EQ(further.ticksPerSecond, 0);
+}
+
+TEST(VTimers, KeepOneStopwatchPerNameAndThread)
+{
+    VTimers timers;
+    EXPECT_EQ(timers.stop("never"), 0);
+    EXPECT_TRUE(timers.timers.empty());
+    timers.start("a");
+    std::thread([&] {
+        EXPECT_EQ(timers.stop("a"), 0);
+        timers.start("a");
+    }).join();
+    EXPECT_EQ(timers.timers.size(), 2u);
+    timers.start("a");
+    const QString key = QStringLiteral("a@%1").arg(reinterpret_cast<quintptr>(QThread::currentThread()));
+    decltype(timers.timers)::const_accessor record;
+    ASSERT_TRUE(timers.timers.find(record, key));
+    const qint64 secondStart = record->second.startTick;
+    record.release();
+    const qint64 elapsed = timers.stop("a");
+    ASSERT_TRUE(timers.timers.find(record, key));
+    EXPECT_EQ(record->second.stopTick - secondStart, elapsed);
+    EXPECT_EQ(record->second.count, 1);
+    EXPECT_EQ(record->second.total, elapsed);
+}
+
+TEST(VTimers, ServeManyThreadsAtOnce)
+{
+    VTimers timers;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back([&] {
+            for (int round = 0; round < 200; ++round) {
+                timers.start(QString::number(round % 8));
+                timers.stop(QString::number(round % 8));
+            }
+        });
+    for (std::thread &thread : threads)
+        thread.join();
+    qint64 pairs = 0;
+    for (const auto &entry : timers.timers)
+        pairs += entry.second.count;
+    EXPECT_EQ(pairs, 800);
+}
+
+} // namespace
