@@ -1,0 +1,75 @@
+#include <QCoreApplication>
+#include <QFile>
+#include <exiv2/exiv2.hpp>
+#include <gtest/gtest.h>
+
+#include "Photograph.h"
+#include "TestFolder.h"
+#include "VException.h"
+#include "gfl.h"
+
+TEST(Photograph, scaled_images_are_turned_as_a_viewer_shows_them)
+{
+    gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr);
+    TestFolder folder;
+    VImage image(3, 2, VImage::Grey, 8); // 1 2 3 / 4 5 6
+    for (int i = 0; i < 6; ++i)
+        *image.PixelAddress(i % 3, i / 3) = static_cast<unsigned char>(i + 1);
+    image.Save(folder.path("a.tif"), "tiff", -1, QString());
+    const char *const shown[] = {"123456", "321654", "654321", "456123", "142536", "415263", "635241", "362514"};
+    for (int orientation = 1; orientation <= 8; ++orientation) {
+        {
+            auto file = Exiv2::ImageFactory::open(QFile::encodeName(folder.path("a.tif")).toStdString());
+            file->readMetadata();
+            file->exifData()["Exif.Image.Orientation"] = uint16_t(orientation);
+            file->writeMetadata();
+        }
+        Photograph photograph(folder.path("a.tif"));
+        const bool side = orientation >= 5;
+        EXPECT_EQ(photograph.width(), side ? 2 : 3);
+        EXPECT_EQ(photograph.height(), side ? 3 : 2);
+        VImage *scaled = photograph.acquireScaled(photograph.width(), photograph.height(), 1);
+        std::string seen;
+        for (int y = 0; y < scaled->Height(); ++y)
+            for (int x = 0; x < scaled->Width(); ++x)
+                seen += char('0' + *scaled->PixelAddress(x, y));
+        EXPECT_EQ(seen, shown[orientation - 1]) << orientation;
+        photograph.releaseScaled(photograph.width(), photograph.height(), 1);
+    }
+    gflLibraryExit();
+}
+
+TEST(Photograph, decodes_at_acquire_and_lets_go_at_release)
+{
+    gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr);
+    TestFolder folder;
+    folder.photograph("a.png", 64, 48, VImage::Rgba, 16);
+    Photograph photograph(folder.path("a.png"));
+    EXPECT_EQ(photograph.width(), 64);
+    EXPECT_EQ(photograph.channelCount(), 4);
+    EXPECT_EQ(photograph.bitsPerChannel(), 16);
+    EXPECT_FALSE(photograph.needsTiffOutput());
+    EXPECT_EQ(photograph.displayName(), "a.png");
+
+    std::vector<Photograph::Use> uses;
+    photograph.watch([&](Photograph::Use use) { uses.push_back(use); });
+    VImage *full = photograph.acquireFull(1);
+    EXPECT_EQ(full, photograph.acquireFull(1)); // one decoding for two who use it at once
+    QFile::remove(folder.path("a.png"));
+    EXPECT_EQ(photograph.acquireScaled(32, 24, 1)->Width(), 32); // from the image that is there
+    photograph.releaseScaled(32, 24, 1);
+    photograph.releaseFull(1);
+    photograph.releaseFull(1);
+    using Use = Photograph::Use;
+    EXPECT_EQ(uses, (std::vector{Use::Reading, Use::Read, Use::Reading, Use::Read, Use::Released, Use::Released}));
+    EXPECT_THROW(photograph.acquireFull(1), VException); // not kept
+    EXPECT_THROW(photograph.acquireScaled(32, 24, 1), VException);
+
+    folder.photograph("a.png", 64, 48);
+    photograph.refuseFrom(64);
+    EXPECT_THROW(photograph.acquireFull(1), VException);
+    photograph.refuseFrom(65);
+    EXPECT_NO_THROW(photograph.acquireFull(1));
+    photograph.dropFull();
+    gflLibraryExit();
+}

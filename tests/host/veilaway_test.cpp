@@ -1,0 +1,439 @@
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDomDocument>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+#include <QSettings>
+#include <exiv2/exiv2.hpp>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "PhotoLoader.h"
+#include "TestFolder.h"
+#include "gfl.h"
+
+namespace {
+
+const char kProcessGuid[] = "51D2A7E4-93C6-4F08-B1E5-6A0C7D3E9F21";
+
+class Veilaway : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr); }
+    static void TearDownTestSuite() { gflLibraryExit(); }
+
+    TestFolder folder;
+};
+
+testing::AssertionResult contains(const QString &text, const QString &part)
+{
+    return text.contains(part)
+               ? testing::AssertionSuccess()
+               : testing::AssertionFailure() << '"' << part.toStdString() << "\" is not in: " << text.toStdString();
+}
+
+} // namespace
+
+TEST_F(Veilaway, wrong_command_lines_end_with_2_and_say_what_is_wrong)
+{
+    folder.photograph("a.png");
+    folder.write("broken.xml", "<veilaway><photo path=");
+    folder.write("twice.xml", "<veilaway><photo path='a.png'><Veilaway hazeRemove='4'/></photo>"
+                              "<photo path='./a.png'><Veilaway hazeRemove='5'/></photo></veilaway>");
+    folder.write("odd.xml", "<veilaway><photo path='a.png'><Veilaway hazeRemove='101'/></photo></veilaway>");
+    folder.write("other.xml", "<html/>");
+    const QStringList before = folder.files();
+    const struct
+    {
+        QStringList arguments;
+        const char *said;
+    } cases[] = {
+        {{}, "Name the photographs"},
+        {{"run"}, "Name the photographs"},
+        {{"a.png", "--strength", "101"}, "--strength wants"},
+        {{"a.png", "--strength", "-1"}, "--strength wants"},
+        {{"a.png", "--strength", "70.5"}, "70.5"},
+        {{"a.png", "--strength="}, "--strength wants"},
+        {{"a.png", "--strength"}, "strength"},
+        {{"a.png", "--jobs", "0"}, "--jobs wants"},
+        {{"a.png", "--language", "xx"}, "zh_TW"},
+        {{"a.png", "--nonsense"}, "nonsense"},
+        {{"--settings", "none.xml"}, "none.xml"},
+        {{"a.png", "--strength", "9", "--settings", "broken.xml"}, "broken.xml"},
+        {{"a.png", "--settings", "twice.xml"}, "twice"},
+        {{"a.png", "--settings", "odd.xml"}, "0 to 100"},
+        {{"a.png", "--settings", "other.xml"}, "<veilaway>"},
+        {{"a.png", "--settings", "no/such/folder.xml"}, "folder.xml"},
+        {{"a.png", "--settings", "a_dehazed.png"}, "name of a result"},
+    };
+    for (const auto &[arguments, said] : cases) {
+        const Said answer = folder.run(arguments);
+        EXPECT_EQ(answer.code, 2) << arguments.join(' ');
+        EXPECT_EQ(answer.out, "") << arguments.join(' ');
+        EXPECT_TRUE(contains(answer.err, said)) << arguments.join(' ');
+    }
+    EXPECT_EQ(folder.files(), before);
+    EXPECT_EQ(folder.content("broken.xml"), "<veilaway><photo path=");
+}
+
+TEST_F(Veilaway, help_and_version_answer_on_standard_output)
+{
+    const Said help = folder.run({"--help"});
+    EXPECT_EQ(help.code, 0);
+    for (const char *part : {"--strength N", "--json", "--share-services", "_entnebelt", "Examples:", "  2  "})
+        EXPECT_TRUE(contains(help.out, part));
+    const Said version = folder.run({"--version"});
+    EXPECT_EQ(version.code, 0) << version.err;
+    EXPECT_TRUE(contains(version.out, "Nimbra 3.0.0.400, Ombre"));
+    const Said lost = folder.run({"--plugin", "none.so", "a.png"});
+    EXPECT_EQ(lost.code, 1);
+    EXPECT_TRUE(contains(lost.err, "--plugin FILE"));
+}
+
+TEST_F(Veilaway, takes_haze_away_and_keeps_format_depth_and_source)
+{
+    const struct
+    {
+        QString name, result;
+        unsigned short type;
+        int bits;
+    } cases[] = {
+        {"grey8.png", "grey8_dehazed.png", VImage::Grey, 8},
+        {"grey16.png", "grey16_dehazed.png", VImage::Grey, 16},
+        {"rgb16.tif", "rgb16_dehazed.tif", VImage::Rgb, 16},
+        {"rgba8.tiff", "rgba8_dehazed.tiff", VImage::Rgba, 8},
+        {"float.tif", "float_dehazed.tif", VImage::Rgb, 32},
+        {"IMG 1.v2.JPG", "IMG 1.v2_dehazed.jpg", VImage::Rgb, 8},
+        {QStringLiteral("Höhenzug – 霧.png"), QStringLiteral("Höhenzug – 霧_dehazed.png"), VImage::Rgb, 8},
+        {"-dash.png", "-dash_dehazed.png", VImage::Rgb, 8},
+    };
+    QStringList arguments{"--strength", "90", "--"};
+    for (const auto &photo : cases) {
+        folder.photograph(photo.name, 48, 32, photo.type, photo.bits);
+        arguments << photo.name;
+    }
+    const QByteArray source = folder.content("IMG 1.v2.JPG");
+    const Said answer = folder.run(arguments);
+    EXPECT_EQ(answer.code, 0) << answer.err;
+    EXPECT_EQ(folder.content("IMG 1.v2.JPG"), source);
+    EXPECT_EQ(folder.files().size(), 2 * int(std::size(cases)));
+    for (const auto &photo : cases) {
+        EXPECT_TRUE(contains(answer.out, folder.path(photo.result)));
+        const auto result = PhotoLoader::decode(folder.path(photo.result));
+        EXPECT_EQ(result->image().Type(), photo.type) << photo.name;
+        EXPECT_EQ(result->image().BitsPerComponent(), photo.bits) << photo.name;
+        EXPECT_EQ(result->image().Width(), 48) << photo.name;
+        EXPECT_GT(folder.contrast(photo.result), folder.contrast(photo.name) + 0.02) << photo.name;
+    }
+}
+
+TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
+{
+    folder.photograph("good.png");
+    folder.photograph("there.png");
+    folder.write("there_dehazed.png", "older");
+    folder.photograph("same.jpg");
+    folder.photograph("same.JPG");
+    folder.photograph("link.png");
+    QFile::link("link.png", folder.path("link_dehazed.png"));
+    folder.photograph("hard.png");
+    ASSERT_EQ(link(QFile::encodeName(folder.path("hard.png")).constData(),
+                   QFile::encodeName(folder.path("hard_dehazed.png")).constData()),
+              0);
+    folder.photograph("both.png");
+    folder.photograph("both_dehazed.png");
+    folder.photograph("blocked.png");
+    QDir(folder.path(".")).mkdir("blocked_dehazed.png");
+    folder.write("empty.png", "");
+    folder.write("text.jpg", "no picture");
+    folder.photograph("wide.png", 21475, 2, VImage::Grey);
+    folder.photograph("cut.png");
+    folder.write("cut.png", folder.content("cut.png").left(150));
+    folder.photograph("liar.png");
+    QFile::rename(folder.path("liar.png"), folder.path("liar.jpg"));
+    QFile::link("nowhere", folder.path("dangling.png"));
+    const struct
+    {
+        const char *photo, *said;
+    } cases[] = {
+        {"there.png", "--overwrite"},
+        {"same.JPG", "same.jpg"},
+        {"link.png", "same file"},
+        {"both.png", "Leave out"},
+        {"both_dehazed.png", "Leave out"},
+        {"blocked.png", "folder"},
+        {"empty.png", "empty"},
+        {"text.jpg", "known format"},
+        {"wide.png", "21474"},
+        {"cut.png", "damaged"},
+        {"liar.jpg", "suffix"},
+        {"dangling.png", "link"},
+        {"missing.png", "no such file"},
+        {"blocked_dehazed.png", "This is a folder"},
+    };
+    QStringList arguments{"--strength", "50", "same.jpg", "./good.png", "good.png"};
+    for (const auto &refused : cases)
+        arguments << refused.photo;
+    const QStringList before = folder.files();
+    const Said answer = folder.run(arguments);
+    EXPECT_EQ(answer.code, 1);
+    for (const auto &refused : cases)
+        EXPECT_TRUE(answer.err.contains(
+            QRegularExpression(QStringLiteral("veilaway: %1: [^\n]*%2[^\n]*\\.\n").arg(refused.photo, refused.said))))
+            << refused.photo << ": " << answer.err;
+    QStringList after = before;
+    after << "good_dehazed.png"
+          << "same_dehazed.jpg";
+    EXPECT_THAT(folder.files(), testing::UnorderedElementsAreArray(after));
+    EXPECT_EQ(folder.content("there_dehazed.png"), "older");
+
+    // Even --overwrite never writes through a link to a source.
+    const QByteArray hard = folder.content("hard.png");
+    EXPECT_EQ(folder.run({"hard.png", "link.png", "--overwrite", "--strength", "50"}).code, 1);
+    EXPECT_EQ(folder.content("hard.png"), hard);
+    EXPECT_EQ(folder.content("hard_dehazed.png"), hard);
+
+    // Without haze to take away, width is no matter; what an old result was gives way when it is told to.
+    EXPECT_EQ(folder.run({"wide.png", "there.png", "--overwrite", "--strength", "0"}).code, 0);
+    EXPECT_NE(folder.content("there_dehazed.png"), "older");
+}
+
+TEST_F(Veilaway, a_failed_save_leaves_no_file_and_the_older_result)
+{
+    folder.photograph("new.tif", 300, 200, VImage::Rgb, 16);
+    folder.photograph("old.tif", 300, 200, VImage::Rgb, 16);
+    folder.write("old_dehazed.tif", "older");
+    const QStringList before = folder.files();
+    const Said answer = folder.shell("ulimit -f 8; \"$V\" new.tif old.tif --overwrite --strength 0");
+    EXPECT_EQ(answer.code, 1) << answer.err;
+    EXPECT_TRUE(contains(answer.err, "new.tif"));
+    EXPECT_TRUE(contains(answer.err, "Make room"));
+    EXPECT_EQ(folder.files(), before);
+    EXPECT_EQ(folder.content("old_dehazed.tif"), "older");
+}
+
+TEST_F(Veilaway, says_the_same_to_programs_for_any_number_of_jobs_and_with_lent_services)
+{
+    QStringList photographs;
+    for (int i = 0; i < 3; ++i) {
+        photographs << QString("p%1.jpg").arg(i);
+        folder.photograph(photographs.last(), 60 + 7 * i, 50);
+    }
+    photographs << "missing.jpg";
+    std::vector<QByteArray> first;
+    for (const QStringList &options : {QStringList{"--jobs", "1"}, {"--jobs", "3"}, {"--jobs", "2", "--share-services"}}) {
+        const Said answer = folder.run(QStringList{"run", "--json", "--strength", "80", "--overwrite"} + options + photographs);
+        EXPECT_EQ(answer.code, 1);
+        EXPECT_TRUE(contains(answer.err, "missing.jpg"));
+        QSet<QString> done;
+        const QStringList lines = answer.out.split('\n', Qt::SkipEmptyParts);
+        EXPECT_EQ(lines.size(), 4);
+        for (const QString &line : lines) {
+            const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
+            EXPECT_EQ(object["strength"].toInt(), object["status"] == "done" ? 80 : 0);
+            if (object["status"] != "done") {
+                EXPECT_EQ(object["photo"].toString(), "missing.jpg");
+                EXPECT_TRUE(object["result"].isNull());
+                continue;
+            }
+            EXPECT_GT(object["seconds"].toDouble(), 0);
+            done << object["result"].toString();
+        }
+        EXPECT_EQ(done.size(), 3);
+        for (int i = 0; i < 3; ++i) {
+            const QByteArray bytes = folder.content(QString("p%1_dehazed.jpg").arg(i));
+            EXPECT_TRUE(done.contains(folder.path(QString("p%1_dehazed.jpg").arg(i))));
+            if (int(first.size()) == i)
+                first.push_back(bytes);
+            EXPECT_EQ(bytes, first[std::size_t(i)]) << options.join(' ').toStdString();
+        }
+    }
+    const Said quiet = folder.run(QStringList{"--quiet", "--strength", "0", "--overwrite"} + photographs.mid(0, 2));
+    EXPECT_EQ(quiet.code, 0);
+    EXPECT_EQ(quiet.out + quiet.err, "");
+}
+
+TEST_F(Veilaway, settings_make_a_batch_repeatable)
+{
+    QDir(folder.path(".")).mkdir("sub");
+    folder.photograph("a.png");
+    folder.photograph("sub/b.png");
+    EXPECT_EQ(folder.run({"a.png", "sub/b.png", "--strength", "30", "--settings", "s.xml"}).code, 0);
+    const QByteArray written = folder.content("s.xml");
+    QDomDocument document;
+    ASSERT_TRUE(document.setContent(written));
+    const QDomElement entry = document.documentElement().lastChildElement("photo");
+    EXPECT_EQ(entry.attribute("path"), "sub/b.png");
+    EXPECT_EQ(entry.firstChildElement("Veilaway").attribute("hazeRemove"), "30");
+    EXPECT_EQ(entry.firstChildElement("Veilaway").attributes().size(), 1);
+
+    // One photograph anew: its entry changes, the other stays, a comment of the user too.
+    folder.write("s.xml", QByteArray(written).replace("<photo", "<!--mine--><photo"));
+    EXPECT_EQ(folder.run({"a.png", "--strength", "0", "--settings", "s.xml", "--overwrite"}).code, 0);
+    EXPECT_TRUE(contains(folder.content("s.xml"), "<!--mine-->"));
+
+    const Said repeated = folder.run({"--settings", "s.xml", "--overwrite", "--json"});
+    EXPECT_EQ(repeated.code, 0) << repeated.err;
+    EXPECT_FALSE(repeated.err.contains("--strength")); // each has its own
+    for (const QString &line : repeated.out.split('\n', Qt::SkipEmptyParts)) {
+        const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
+        EXPECT_EQ(object["strength"].toInt(), object["photo"].toString().endsWith("a.png") ? 0 : 30);
+    }
+    // Moved as a whole, it still finds its photographs.
+    QDir(folder.path(".")).mkdir("moved");
+    for (const char *name : {"a.png", "s.xml", "sub"})
+        ASSERT_TRUE(QFile::rename(folder.path(name), folder.path("moved/") + name));
+    EXPECT_EQ(folder.run({"--settings", "moved/s.xml", "--overwrite"}).code, 0);
+    EXPECT_TRUE(QFile::exists(folder.path("moved/a_dehazed.png")));
+}
+
+TEST_F(Veilaway, strength_falls_back_to_the_stored_default_and_then_to_70)
+{
+    folder.photograph("a.png");
+    for (const auto &[stored, said, used] :
+         {std::tuple("", "no default stored: using 70", 70), std::tuple("25", "default of 25", 25),
+          std::tuple("0", "default of 0", 0), std::tuple("150", "using 70", 70)}) {
+        if (*stored)
+            QSettings(folder.path("config/Ombre/veilaway.ini"), QSettings::IniFormat)
+                .setValue(QString(kProcessGuid) + "/hazeRemove", QString(stored));
+        const Said answer = folder.run({"a.png", "--json", "--overwrite"});
+        EXPECT_EQ(answer.code, 0) << answer.err;
+        EXPECT_TRUE(contains(answer.err, said));
+        EXPECT_EQ(QJsonDocument::fromJson(answer.out.toUtf8()).object()["strength"].toInt(), used);
+    }
+}
+
+TEST_F(Veilaway, the_tag_follows_the_language)
+{
+    folder.photograph("a.png");
+    const struct
+    {
+        QStringList options, environment;
+        QString result;
+    } cases[] = {
+        {{"--language", "de"}, {}, "a_entnebelt.png"},
+        {{"--language", "ru"}, {}, QStringLiteral("a_удалена атмосферная дымка.png")},
+        {{"--language", "zh-HK"}, {}, QStringLiteral("a_去除糢糊.png")},
+        {{}, {"LC_ALL=es_ES.UTF-8"}, "a_sinbruma.png"},
+        {{"--language", "en"}, {"LC_ALL=es_ES.UTF-8"}, "a_dehazed.png"},
+        {{}, {"LC_ALL=xx_XX"}, "a_dehazed.png"},
+    };
+    for (const auto &[options, environment, result] : cases) {
+        QFile::remove(folder.path("a_dehazed.png"));
+        const Said answer = folder.run(QStringList{"a.png", "--strength", "0"} + options, environment);
+        EXPECT_EQ(answer.code, 0) << answer.err;
+        EXPECT_TRUE(QFile::exists(folder.path(result))) << result;
+        EXPECT_TRUE(contains(answer.out, result));
+        // The name is known before the work.
+        EXPECT_EQ(folder.run(QStringList{"a.png", "--strength", "0"} + options, environment).code, 1) << result;
+    }
+}
+
+TEST_F(Veilaway, metadata_goes_from_the_photograph_into_the_result)
+{
+    const std::string packet =
+        "<?xpacket begin='' id='W5M0MpCehiHzreSzNTczkc9d'?><x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
+        "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description rdf:about='' "
+        "xmlns:xmp='http://ns.adobe.com/xap/1.0/' xmp:Rating='4'/></rdf:RDF></x:xmpmeta><?xpacket end='w'?>";
+    const auto read = [this](const QString &name) {
+        auto image = Exiv2::ImageFactory::open(QFile::encodeName(folder.path(name)).toStdString());
+        image->readMetadata();
+        return image;
+    };
+    for (const QString &name : {"a.jpg", "a.png", "a.tif"}) {
+        folder.photograph(name, 40, 24);
+        {
+            const auto image = read(name);
+            image->exifData()["Exif.Image.Orientation"] = uint16_t(6);
+            image->exifData()["Exif.Photo.LensModel"] = "Acme 50 mm";
+            image->iptcData()["Iptc.Application2.Headline"] = "Fog";
+            image->setXmpPacket(packet);
+            image->writeXmpFromPacket(true);
+            image->writeMetadata();
+        }
+        const Said answer = folder.run({name, "--strength", "0"});
+        EXPECT_EQ(answer.code, 0) << answer.err;
+        EXPECT_EQ(answer.err, "");
+        const QString result = QString(name).replace('.', "_dehazed.");
+        const auto image = read(result);
+        EXPECT_EQ(image->exifData()["Exif.Image.Orientation"].toLong(), 6) << name;
+        EXPECT_EQ(image->exifData()["Exif.Photo.LensModel"].toString(), "Acme 50 mm") << name;
+        EXPECT_EQ(image->iptcData()["Iptc.Application2.Headline"].toString(), "Fog") << name;
+        EXPECT_EQ(image->xmpData()["Xmp.xmp.Rating"].toLong(), 4) << name;
+        if (name != "a.tif") // the library gives a TIFF's packet in its own words
+            EXPECT_TRUE(folder.content(result).contains(packet.c_str())) << name;
+        EXPECT_EQ(PhotoLoader::decode(folder.path(result))->image().Width(), 40) << name; // not turned
+    }
+    EXPECT_EQ(folder.files().size(), 6);
+}
+
+TEST_F(Veilaway, camera_raw_and_unknown_suffixes_become_tiff)
+{
+    folder.raw("shot.dng");
+    folder.raw("shot2.xyz");
+    folder.photograph("plain.jpg");
+    QFile::rename(folder.path("plain.jpg"), folder.path("plain"));
+    const Said answer = folder.run({"shot.dng", "shot2.xyz", "plain", "--strength", "60"});
+    EXPECT_EQ(answer.code, 0) << answer.err;
+    EXPECT_TRUE(contains(answer.err, "plain: It has no suffix, so the result is a TIFF."));
+    for (const auto &[name, width, bits] : {std::tuple("shot_dehazed.tiff", 64, 16), std::tuple("shot2_dehazed.tiff", 64, 16),
+                                            std::tuple("plain_dehazed.tiff", 48, 8)}) {
+        const auto photo = PhotoLoader::decode(folder.path(name));
+        EXPECT_EQ(photo->image().Type(), VImage::Rgb) << name;
+        EXPECT_EQ(photo->image().BitsPerComponent(), bits) << name;
+        EXPECT_EQ(photo->image().Width(), width) << name; // lies on its side, as stored
+        EXPECT_GT(folder.contrast(name), 0.3) << name;
+    }
+    auto image = Exiv2::ImageFactory::open(QFile::encodeName(folder.path("shot_dehazed.tiff")).toStdString());
+    image->readMetadata();
+    EXPECT_EQ(image->exifData()["Exif.Image.Orientation"].toLong(), 6);
+    EXPECT_EQ(image->exifData()["Exif.Image.Model"].toString(), "One");
+    EXPECT_EQ(image->pixelHeight(), 48);
+
+    folder.write("cut.dng", folder.content("shot.dng").left(100));
+    const Said cut = folder.run({"cut.dng", "--strength", "60"});
+    EXPECT_EQ(cut.code, 1);
+    EXPECT_TRUE(contains(cut.err, "cut.dng: The camera raw file"));
+}
+
+TEST_F(Veilaway, interrupted_it_keeps_what_is_whole_and_leaves_nothing_else)
+{
+    QStringList photographs;
+    for (int i = 0; i < 60; ++i) {
+        photographs << QString("p%1.png").arg(i, 2, 10, QChar('0'));
+        folder.photograph(photographs.last());
+    }
+    // The reader of the first line sends the signal, so at least one result is there; sixty take far longer than that. A shell
+    // lets its background programs ignore SIGINT, so it is the other one.
+    const Said answer =
+        folder.shell("mkfifo lines; \"$V\" --strength 50 --jobs 2 p*.png >lines & pid=$!; "
+                     "{ read line; kill -TERM $pid; cat >/dev/null; } <lines; wait $pid; code=$?; rm lines; exit $code");
+    EXPECT_EQ(answer.code, 1) << answer.err;
+    EXPECT_TRUE(contains(answer.err, "Stopping"));
+    int results = 0;
+    for (const QString &name : folder.files())
+        if (!photographs.contains(name)) {
+            ++results;
+            EXPECT_TRUE(name.endsWith("_dehazed.png")) << name;
+            EXPECT_NO_THROW(PhotoLoader::decode(folder.path(name))) << name;
+        }
+    EXPECT_GE(results, 1);
+    EXPECT_LT(results, 60);
+}
+
+TEST_F(Veilaway, shows_a_bar_for_each_photograph_on_a_terminal)
+{
+    if (!QFile::exists("/usr/bin/script"))
+        GTEST_SKIP() << "no terminal to be had: script(1) is missing";
+    folder.photograph("a.png");
+    folder.photograph("b\x1b.png");
+    const Said answer = folder.shell("script -qec '\"$V\" --strength 50 *.png' /dev/null </dev/null");
+    EXPECT_EQ(answer.code, 0) << answer.out;
+    for (const char *part : {"taking haze away  a.png", "[--------------------] reading", "[####################]",
+                             "a_dehazed.png", "2 photographs done.", "b?_dehazed.png"})
+        EXPECT_TRUE(contains(answer.out, part));
+}
