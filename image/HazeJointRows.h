@@ -15,7 +15,7 @@ class VImage;
 class HazeJointRows
 {
 public:
-    static constexpr int kTile = 128;
+    static constexpr int kTile = 256;
     static constexpr int kSide = 3; ///< Neighbours in each direction.
 
     /// One column offset of one coarse row, at the fine width. A neighbour without a say has the colour not-a-number, whose
@@ -30,7 +30,8 @@ public:
     {
         Neighbours rows[kSide][kSide]; ///< Coarse row r at r modulo kSide; then by column offset.
         float colour[3][kTile];        ///< Of the fine pixels.
-        std::int32_t entries[3][kTile];
+        std::uint32_t redGreen[kTile]; ///< Entries of the range weights, two in one word.
+        std::uint32_t blue[kTile];
         double ranges[kTile];
         float sumWeights[kTile];
         float sumValues[kTile];
