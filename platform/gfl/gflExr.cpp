@@ -96,7 +96,9 @@ void checkClaims(const InputFile &file)
     std::int64_t height = 0;
     std::uint64_t tileWidth = 0;
     std::uint64_t tileHeight = 0;
-    std::uint64_t channelBytes = 0;
+    std::uint64_t mostChannels = 1;
+    double pixelBytes = 0;
+    int packing = Imf::DWAB_COMPRESSION;
     for (std::string name = text(); !name.empty(); name = text()) {
         const std::string type = text();
         stream.read(bytes, 4);
@@ -112,8 +114,16 @@ void checkClaims(const InputFile &file)
             stream.read(bytes, 9);
             tileWidth = little32(bytes);
             tileHeight = little32(bytes + 4);
+        } else if (name == "compression" && size == 1) {
+            packing = stream.next();
         } else if (name == "channels") {
-            channelBytes = size; // an upper bound: a channel takes 18 bytes there and at most 4 in a pixel
+            constexpr std::uint64_t kPerChannel = 18; // at least, for a name of one letter
+            mostChannels = size / kPerChannel + 1;
+            while (stream.offset() < next && !text().empty()) {
+                stream.read(bytes, 16); // type, flags, x and y sampling
+                const double samples = std::max(1.0, double(little32(bytes + 8))) * std::max(1.0, double(little32(bytes + 12)));
+                pixelBytes += (little32(bytes) == Imf::HALF ? 2 : 4) / samples;
+            }
         }
         stream.seek(next);
     }
@@ -133,7 +143,29 @@ void checkClaims(const InputFile &file)
     const std::uint64_t pieceHeight = tiled ? std::min<std::uint64_t>(tileHeight, kLargest) : 1;
     const std::uint64_t pieceWidth = tiled ? std::max(w, std::min<std::uint64_t>(tileWidth, kLargest)) : w;
     const std::uint64_t room = kSmall + kMostPacked * file.size();
-    if (chunks > file.size() / kBytesPerChunk || pieceWidth > room / (pieceHeight * (1 + channelBytes / 4)))
+    if (chunks > file.size() / kBytesPerChunk || pieceWidth > room / (pieceHeight * 4 * mostChannels))
+        throw Failure{GFL_ERROR_FILE_READ};
+    // The library does not notice what a chunk lacks. At best, each packing makes so much of a byte.
+    const auto mostPerByte = [&]() -> double {
+        constexpr double kDeflate = 1032;
+        switch (packing) {
+        case Imf::NO_COMPRESSION:
+            return 1;
+        case Imf::RLE_COMPRESSION:
+            return 64;
+        case Imf::ZIPS_COMPRESSION:
+        case Imf::ZIP_COMPRESSION:
+            return kDeflate;
+        case Imf::PXR24_COMPRESSION:
+            return kDeflate * 4 / 3;
+        case Imf::DWAA_COMPRESSION:
+        case Imf::DWAB_COMPRESSION:
+            return kDeflate * 64; // deflates one number for a flat block of 64
+        default:
+            return double(kMostPacked);
+        }
+    };
+    if (double(width) * double(height) * pixelBytes > mostPerByte() * double(file.size()))
         throw Failure{GFL_ERROR_FILE_READ};
 }
 

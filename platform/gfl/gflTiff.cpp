@@ -442,6 +442,11 @@ struct RgbaImage : TIFFRGBAImage
 
 void readByLibrary(const OpenTiff &open, const InputFile &file, const Layout &layout, NewBitmap &bitmap)
 {
+    // Lab counts from the white of print, the library's RGB from the screen's: named as if it were that one, neutral stays
+    // neutral.
+    static constexpr float kScreenWhite[] = {0.3127f, 0.3290f};
+    if (layout.photometric == PHOTOMETRIC_CIELAB || layout.photometric == PHOTOMETRIC_ICCLAB)
+        TIFFSetField(open.get(), TIFFTAG_WHITEPOINT, kScreenWhite);
     char message[1024];
     RgbaImage image;
     image.begun = TIFFRGBAImageBegin(&image, open.get(), /*stop=*/1, message) != 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -125,11 +126,46 @@ inline int save(const std::string &name, const GflBitmap *bitmap, const char *fo
     return gflSaveBitmapUTF8(name.c_str(), bitmap, &params);
 }
 
+/// What the three callbacks of the layer have been asked for.
+struct Heap
+{
+    int blocks = 0;
+    std::size_t largest = 0;
+    bool fails = false;
+};
+
+inline void *countedAlloc(std::size_t bytes, void *tag)
+{
+    auto *heap = static_cast<Heap *>(tag);
+    heap->largest = std::max(heap->largest, bytes);
+    if (heap->fails)
+        return nullptr;
+    ++heap->blocks;
+    return std::malloc(bytes);
+}
+
+inline void *countedRealloc(void *block, std::size_t bytes, void *tag)
+{
+    auto *heap = static_cast<Heap *>(tag);
+    heap->largest = std::max(heap->largest, bytes);
+    return heap->fails ? nullptr : std::realloc(block, bytes);
+}
+
+inline void countedFree(void *block, void *tag)
+{
+    --static_cast<Heap *>(tag)->blocks;
+    std::free(block);
+}
+
 /// A folder of its own for each test.
 class GflTest : public testing::Test
 {
 protected:
-    GflTest() : folder(std::filesystem::temp_directory_path() / ("gfl_test_" + std::to_string(::getpid())))
+    // In memory where there is such a place: replacing a file waits for the disk on some file systems.
+    GflTest()
+        : folder((std::filesystem::is_directory("/dev/shm") ? std::filesystem::path("/dev/shm")
+                                                            : std::filesystem::temp_directory_path()) /
+                 ("gfl_test_" + std::to_string(::getpid())))
     {
         std::filesystem::remove_all(folder);
         std::filesystem::create_directories(folder);

@@ -414,36 +414,6 @@ TEST_F(GflTest, ResultHasOrdinaryPermissionsAndLinksStay)
     EXPECT_TRUE(std::filesystem::exists(path("plain.png")));
 }
 
-struct Heap
-{
-    int blocks = 0;
-    std::size_t largest = 0;
-    bool fails = false;
-};
-
-void *countedAlloc(std::size_t bytes, void *tag)
-{
-    auto *heap = static_cast<Heap *>(tag);
-    heap->largest = std::max(heap->largest, bytes);
-    if (heap->fails)
-        return nullptr;
-    ++heap->blocks;
-    return std::malloc(bytes);
-}
-
-void *countedRealloc(void *block, std::size_t bytes, void *tag)
-{
-    auto *heap = static_cast<Heap *>(tag);
-    heap->largest = std::max(heap->largest, bytes);
-    return heap->fails ? nullptr : std::realloc(block, bytes);
-}
-
-void countedFree(void *block, void *tag)
-{
-    --static_cast<Heap *>(tag)->blocks;
-    std::free(block);
-}
-
 TEST_F(GflTest, BitmapsComeFromTheGivenAllocator)
 {
     for (int i = 0; i < 6; ++i)
