@@ -1,3 +1,4 @@
+#include <atomic>
 #include <thread>
 
 #include <QMetaMethod>
@@ -40,7 +41,7 @@ TEST(VLog, IsDeletedOnlyByItsMaker)
 TEST(VLog, IsHeardFromSeveralThreads)
 {
     initLog(nullptr);
-    int heard = 0; // under the log's mutex
+    std::atomic<int> heard{0};
     QObject::connect(logInstance, QOverload<const QString &>::of(&VLog::Logged),
                      [&](const QString &text) { heard += text.size(); });
     const auto say = [] {
@@ -135,7 +136,7 @@ TEST(VTimers, ServeManyThreadsAtOnce)
             decltype(timers.timers)::const_accessor record;
             EXPECT_TRUE(
                 timers.timers.find(record, QStringLiteral("7@%1").arg(reinterpret_cast<quintptr>(QThread::currentThread()))));
-            EXPECT_EQ(record->second.count, 25);
+            EXPECT_EQ(record->second.count % 25, 0); // a thread that has ended may have lent its address to a later one
         });
     for (std::thread &thread : threads)
         thread.join();
