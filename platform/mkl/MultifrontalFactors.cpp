@@ -15,7 +15,7 @@
 namespace {
 
 // Boxes of this many vertices are no longer cut: below, the dense work is cheaper than the handling of more fronts.
-constexpr std::int64_t kLeafVertices = 32;
+constexpr std::int64_t kLeafVertices = 64;
 // A box that can't be cut although it is larger than this shows a pattern of another kind.
 constexpr std::int64_t kMostLeafVertices = 512;
 // A grid of any size a float can solve takes some hundred; more shows a pattern of another kind too.

@@ -6,6 +6,7 @@
 #include <random>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -222,7 +223,8 @@ TEST(Pardiso, SolvesRandomPatternsAsGaussInDouble)
 {
     std::mt19937 random(5);
     for (const bool symmetric : {true, false}) {
-        for (const std::size_t order : {std::size_t(1), std::size_t(2), std::size_t(17), std::size_t(96), std::size_t(301)}) {
+        for (const std::size_t order :
+             {std::size_t(1), std::size_t(2), std::size_t(17), std::size_t(96), std::size_t(301), std::size_t(701)}) {
             for (const bool indefinite : {false, true}) {
                 SCOPED_TRACE(std::to_string(order) + (symmetric ? " symmetric" : " unsymmetric") +
                              (indefinite ? " indefinite" : ""));
@@ -277,6 +279,68 @@ TEST(Pardiso, SolvesMattingSystemsToFloatPrecision)
         ASSERT_EQ(calls.solve(b), 0);
         // The solution is about 0.5: this is some two roundings of a float there, and no more.
         EXPECT_LT(largestDifference(calls.x, conjugateGradients(matrix, b)), 2e-7);
+    }
+}
+
+// Neighbours on a grid, row by row, but not those of an image: other stencils, a last row cut short, parts that nothing joins.
+TEST(Pardiso, SolvesGridsOfManyKinds)
+{
+    struct Offset
+    {
+        int dx, dy;
+    };
+    const struct
+    {
+        const char *name;
+        int width, order;
+        std::vector<Offset> stencil;
+    } grids[] = {
+        {"diagonal", 1, 3000, {}},
+        {"chain", 1, 3000, {{0, 1}}},
+        {"band", 1, 3000, {{0, 1}, {0, 30}}},
+        {"wide_band", 1, 3000, {{0, 1}, {0, 290}}},
+        {"rows_apart", 50, 3000, {{1, 0}, {2, 0}}},
+        {"columns_apart", 50, 3001, {{0, 1}}},
+        {"five_points", 64, 4095, {{1, 0}, {0, 1}}},
+        {"nine_points", 37, 2990, {{1, 0}, {-1, 1}, {0, 1}, {1, 1}}},
+        {"narrow", 7, 3003, {{1, 0}, {0, 1}}},
+        {"flat", 1000, 3500, {{1, 0}, {0, 1}}},
+        {"leaning", 61, 3033, {{1, 1}, {2, 1}}},
+        {"third_neighbours", 61, 3033, {{1, 0}, {3, 0}, {0, 1}, {-3, 2}, {0, 3}}},
+        {"round_the_corner", 61, 3033, {{60, 0}, {1, 0}, {0, 1}}}, // rows joined at their ends: no grid at all
+    };
+    std::mt19937 random(11);
+    for (const auto &grid : grids) {
+        SCOPED_TRACE(grid.name);
+        std::vector<float> diagonal(std::size_t(grid.order), 1.0F);
+        std::vector<std::vector<std::pair<int, float>>> upper(std::size_t(grid.order));
+        for (int vertex = 0; vertex < grid.order; ++vertex) {
+            for (const Offset &offset : grid.stencil) {
+                const int x = vertex % grid.width + offset.dx;
+                const int other = vertex + offset.dy * grid.width + offset.dx;
+                if (x < 0 || x >= grid.width || other >= grid.order)
+                    continue;
+                const float value = float(random() % 2000) / 1000.0F - 1.0F;
+                upper[std::size_t(vertex)].push_back({other, value});
+                diagonal[std::size_t(vertex)] += std::fabs(value);
+                diagonal[std::size_t(other)] += std::fabs(value);
+            }
+        }
+        TestRows matrix;
+        matrix.order = grid.order;
+        for (int vertex = 0; vertex < grid.order; ++vertex) {
+            auto &row = upper[std::size_t(vertex)];
+            row.push_back({vertex, diagonal[std::size_t(vertex)]});
+            std::sort(row.begin(), row.end());
+            for (const auto &[column, value] : row)
+                matrix.add(column, value);
+            matrix.endRow();
+        }
+        const std::vector<float> b = waves(std::size_t(grid.order));
+        Calls calls(matrix);
+        ASSERT_EQ(calls.solve(b), 0);
+        // The solution stays below 0.001, where the rounding to float is some 6e-11.
+        EXPECT_LT(largestDifference(calls.x, conjugateGradients(matrix, b)), 1.5e-10);
     }
 }
 
