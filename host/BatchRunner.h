@@ -60,6 +60,8 @@ public:
     /// No further photograph begins, and those in hand end before their result is written, unless that has begun. May be called
     /// on any thread and from a signal handler.
     void stop() { stopping = true; }
+    /// Takes a stop back, before the next batch.
+    void resume() { stopping = false; }
 
     /// Wider photographs come back from the engine unchanged, since the size of its analysis copy wraps: they are refused.
     static constexpr int kRefusedWidth = 21475;

@@ -35,7 +35,10 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     }
 
     line.photographs = parser.positionalArguments();
-    if (arguments.value(1) == "run")
+    const QString command = arguments.value(1);
+    if (command == "wizard")
+        line.command = Command::Wizard;
+    if (command == "wizard" || command == "run")
         line.photographs.removeFirst();
     line.settingsFile = parser.value(settings);
     line.language = parser.value(language);
@@ -60,7 +63,11 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         return fail(tr("--language knows %1, but not \"%2\".").arg(HostApplication::languages().join(", "), line.language));
     if (parser.isSet(settings) && line.settingsFile.isEmpty())
         return fail(tr("--settings wants the name of a file."));
-    if (line.photographs.isEmpty() && line.settingsFile.isEmpty())
+    if (line.command == Command::Wizard) {
+        for (const QCommandLineOption &option : {strength, overwrite, quiet, json})
+            if (parser.isSet(option))
+                return fail(tr("--%1 is not for the wizard, which asks in its window.").arg(option.names().constFirst()));
+    } else if (line.photographs.isEmpty() && line.settingsFile.isEmpty())
         return fail(tr("Name the photographs to take the haze from."));
     return line;
 }
@@ -72,11 +79,16 @@ QString CommandLine::help()
 Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
+  veilaway wizard [PHOTO...] [options]
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph's name with a
 tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
 The tag follows the language: _entnebelt with --language de, for instance.
+
+The wizard opens a window: choose photographs, set the strength of each with a live
+preview, take the haze away, and compare. It takes --settings (which then holds the
+strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as

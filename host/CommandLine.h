@@ -12,7 +12,9 @@ class CommandLine
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 
 public:
-    enum class Command { Run, Help, Version };
+    enum class Command { Run, Wizard, Help, Version };
+
+    static constexpr int kUsualStrength = 70; ///< Where nothing else gives one.
 
     Command command = Command::Run;
     QStringList photographs;

@@ -1,5 +1,7 @@
 #include "HostApplication.h"
 
+#include <cstdio>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,6 +13,9 @@
 
 namespace {
 
+/// Some hundred copies at the size of the plug-in's page.
+constexpr std::size_t kScaledBytes = std::size_t(256) << 20;
+
 void lockXmp(void *mutex, bool take)
 {
     auto *lock = static_cast<std::recursive_mutex *>(mutex);
@@ -21,7 +26,8 @@ void lockXmp(void *mutex, bool take)
 
 HostApplication::HostApplication(const QLocale &locale, bool lendServices)
     : language(locale), lending(lendServices),
-      settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Ombre"), QStringLiteral("veilaway"))
+      settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Ombre"), QStringLiteral("veilaway")),
+      scaledImages(kScaledBytes)
 {
     static std::recursive_mutex xmpMutex;
     Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
@@ -78,8 +84,41 @@ VUIContext *HostApplication::interfaceLibraryContext()
 
 QVariant HostApplication::value(const QString &group, const QString &key, const QVariant &fallback)
 {
+    const QString name = group + '/' + key;
     const std::lock_guard lock(settingsMutex);
-    return settings.value(group + '/' + key, fallback);
+    if (name == presetKey && !presets.isEmpty())
+        if (const QVariant answer = presets.takeFirst(); answer.isValid())
+            return answer;
+    const auto ours = usual.find(key);
+    return settings.value(name, ours != usual.end() ? ours->second : fallback);
+}
+
+void HostApplication::setUsual(const QString &key, const QVariant &value)
+{
+    usual[key] = value;
+}
+
+void HostApplication::report(const QString &message) const
+{
+    if (reporter)
+        reporter(message);
+    else
+        std::fprintf(stderr, "veilaway: %s\n", message.toUtf8().constData());
+}
+
+HostApplication::Presets::Presets(HostApplication &host, const QString &group, const QString &key, QList<QVariant> answers)
+    : application(host)
+{
+    const std::lock_guard lock(application.settingsMutex);
+    application.presetKey = group + '/' + key;
+    application.presets = std::move(answers);
+}
+
+HostApplication::Presets::~Presets()
+{
+    const std::lock_guard lock(application.settingsMutex);
+    application.presetKey.clear();
+    application.presets.clear();
 }
 
 void HostApplication::setValue(const QString &group, const QString &key, const QVariant &value)
@@ -106,6 +145,6 @@ Photograph *HostApplication::photograph(const QString &path)
     const std::lock_guard lock(photographMutex);
     auto &entry = photographs[key];
     if (!entry)
-        entry = std::make_unique<Photograph>(key);
+        entry = std::make_unique<Photograph>(key, &scaledImages);
     return entry.get();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <exception>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -11,6 +13,8 @@
 #include <QTranslator>
 
 #include "Photograph.h"
+#include "ScaledImages.h"
+#include "VException.h"
 #include "VIApplication.h"
 
 /// The program as its plug-ins see it: settings, language, catalogues, photographs and lent services.
@@ -31,6 +35,27 @@ public:
     /// The languages that have a catalogue, as --language takes them.
     static QStringList languages();
 
+    /// What `value` answers for this key, in any group, in place of the caller's fallback when nothing is stored. Before any
+    /// other thread runs.
+    void setUsual(const QString &key, const QVariant &value);
+
+    /// For its lifetime, `value` answers each question for this key with the next of `answers`; an invalid one stands for the
+    /// usual answer. So a process that asks for its stored default once a photograph starts each with a strength of its own.
+    class Presets
+    {
+    public:
+        Presets(HostApplication &host, const QString &group, const QString &key, QList<QVariant> answers);
+        ~Presets();
+        Presets(const Presets &) = delete;
+        Presets &operator=(const Presets &) = delete;
+
+    private:
+        HostApplication &application;
+    };
+
+    /// Who is told of a failure that no one has caught on the interface thread; the program then goes on.
+    void reportTo(std::function<void(const QString &message)> next) { reporter = std::move(next); }
+
     /// The photograph behind imageDef.
     Photograph *photograph(const QString &path);
 
@@ -42,12 +67,20 @@ public:
     VImageContext *imageLibraryContext() override;
     VUIContext *interfaceLibraryContext() override;
 
+protected:
+    void report(const QString &message) const;
+
 private:
+    std::function<void(const QString &)> reporter;
     const QLocale language;
     const bool lending;
     std::vector<std::unique_ptr<QTranslator>> translators;
     std::mutex settingsMutex;
     QSettings settings;
+    std::map<QString, QVariant> usual; ///< By key.
+    QString presetKey;                 ///< Group/key, or empty.
+    QList<QVariant> presets;
+    ScaledImages scaledImages;
     std::mutex photographMutex;
     std::map<QString, std::unique_ptr<Photograph>> photographs; ///< By absolute path.
 };
@@ -68,5 +101,18 @@ public:
         if (qstrcmp(name, qobject_interface_iid<VIApplication *>()) == 0)
             return static_cast<VIApplication *>(this);
         return Base::qt_metacast(name);
+    }
+
+    /// A slot of a plug-in may throw, on a damaged photograph for instance: that must not end the program.
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        try {
+            return Base::notify(receiver, event);
+        } catch (const VException &failure) {
+            report(failure.message);
+        } catch (const std::exception &failure) {
+            report(QString::fromLocal8Bit(failure.what()));
+        }
+        return false;
     }
 };

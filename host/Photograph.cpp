@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include "VException.h"
+#include "patiently.h"
 
 namespace {
 
@@ -97,35 +98,53 @@ bool Photograph::needsTiffOutput()
     return !PhotoLoader::canWrite(QFileInfo(file).suffix().toLower());
 }
 
-VImage *Photograph::acquireScaled(int width, int height, int)
+ScaledImages::Image Photograph::makeScaled(int width, int height)
 {
     const int orientation = facts().orientation;
+    int lyingWidth = std::max(width, 1), lyingHeight = std::max(height, 1);
+    if (liesOnItsSide(orientation))
+        std::swap(lyingWidth, lyingHeight);
+    auto upright = std::make_shared<VImage>();
+    VImage lying;
+    VImage &small = orientation == 1 ? *upright : lying;
+    // Decoding takes no lock: meanwhile the photograph answers all other questions.
+    const std::unique_ptr<DecodedPhoto> photo = PhotoLoader::decode(file);
+    photo->image().Resample(small, lyingWidth, lyingHeight);
+    if (orientation != 1)
+        orient(lying, orientation, *upright);
     const std::lock_guard lock(mutex);
-    auto found = scaled.find({width, height});
-    if (found == scaled.end()) {
-        auto fresh = std::make_unique<Scaled>();
-        int lyingWidth = std::max(width, 1), lyingHeight = std::max(height, 1);
-        if (liesOnItsSide(orientation))
-            std::swap(lyingWidth, lyingHeight);
-        VImage lying;
-        VImage &small = orientation == 1 ? fresh->image : lying;
-        if (full)
-            full->image().Resample(small, lyingWidth, lyingHeight);
-        else
-            decode()->image().Resample(small, lyingWidth, lyingHeight);
-        if (orientation != 1)
-            orient(lying, orientation, fresh->image);
-        found = scaled.emplace(std::pair(width, height), std::move(fresh)).first;
+    form = Form{photo->image().Bitmap()->componentsPerPixel, photo->image().BitsPerComponent()};
+    return upright;
+}
+
+VImage *Photograph::acquireScaled(int width, int height, int)
+{
+    const std::pair size(width, height);
+    {
+        const std::lock_guard lock(mutex);
+        if (const auto found = scaled.find(size); found != scaled.end()) {
+            ++found->second.uses;
+            return found->second.image.get();
+        }
     }
-    ++found->second->uses;
-    return &found->second->image;
+    ScaledImages::Image image;
+    patiently([&] {
+        const auto make = [&] { return makeScaled(width, height); };
+        image = copies ? copies->obtain({file, width, height}, make) : make();
+    });
+    const std::lock_guard lock(mutex);
+    Scaled &entry = scaled[size];
+    if (!entry.image)
+        entry.image = std::move(image);
+    ++entry.uses;
+    return entry.image.get();
 }
 
 void Photograph::releaseScaled(int width, int height, int)
 {
     const std::lock_guard lock(mutex);
     const auto found = scaled.find({width, height});
-    if (found != scaled.end() && --found->second->uses <= 0)
+    if (found != scaled.end() && --found->second.uses <= 0)
         scaled.erase(found);
 }
 

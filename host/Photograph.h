@@ -9,6 +9,7 @@
 
 #include "ImageDef.h"
 #include "PhotoLoader.h"
+#include "ScaledImages.h"
 
 /// One photograph of the program, as a plug-in sees it. Pixels are decoded at an acquire and freed at its release, so that a list
 /// of any length costs no memory by itself. All operations may be called from several threads at once; those that read the file
@@ -25,7 +26,8 @@ public:
     enum class Use { Reading, Read, Released };
     using Watcher = std::function<void(Use)>;
 
-    explicit Photograph(const QString &path) : file(path) {}
+    /// `keptCopies`, which may be null, outlives the photograph and keeps its scaled images beyond their release.
+    explicit Photograph(const QString &path, ScaledImages *keptCopies = nullptr) : file(path), copies(keptCopies) {}
 
     const QString &path() const { return file; }
     /// The head of the file, read at the first call.
@@ -52,7 +54,7 @@ public:
 private:
     struct Scaled
     {
-        VImage image;
+        ScaledImages::Image image;
         int uses = 0;
     };
     struct Form
@@ -61,10 +63,12 @@ private:
         int bits;
     };
 
-    std::unique_ptr<DecodedPhoto> decode(); ///< And notes the form.
+    std::unique_ptr<DecodedPhoto> decode(); ///< And notes the form. With `mutex` held.
+    ScaledImages::Image makeScaled(int width, int height);
     Form knownForm();
 
     const QString file;
+    ScaledImages *const copies;
     Watcher watcher;
     int refusedWidth = 0;
 
@@ -73,5 +77,5 @@ private:
     std::optional<Form> form;
     std::unique_ptr<DecodedPhoto> full;
     int fullUses = 0;
-    std::map<std::pair<int, int>, std::unique_ptr<Scaled>> scaled;
+    std::map<std::pair<int, int>, Scaled> scaled;
 };

@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr int kUsualStrength = 70;
-
 std::atomic<BatchRunner *> interruptible{nullptr};
 
 /// The first signal lets the batch end in good order, a second one ends the program at once.
@@ -65,8 +63,8 @@ int RunCommand::defaultStrength(const QString &group)
     const int strength = stored.toInt(&whole);
     const bool usable = stored.isValid() && whole && strength >= 0 && strength <= 100;
     note(usable ? tr("No --strength given: using your stored default of %1.").arg(strength)
-                : tr("No --strength given and no default stored: using %1.").arg(kUsualStrength));
-    return usable ? strength : kUsualStrength;
+                : tr("No --strength given and no default stored: using %1.").arg(CommandLine::kUsualStrength));
+    return usable ? strength : CommandLine::kUsualStrength;
 }
 
 int RunCommand::run()

@@ -2,6 +2,7 @@
 #include <csignal>
 #include <cstdio>
 
+#include <QApplication>
 #include <QLocale>
 #include <QTextCodec>
 
@@ -11,6 +12,7 @@
 #include "ProgressView.h"
 #include "RunCommand.h"
 #include "VException.h"
+#include "WizardCommand.h"
 
 namespace {
 
@@ -55,10 +57,20 @@ int main(int argc, char **argv)
         return ExitAllDone;
     }
 
+    const auto name = [] {
+        if (!std::setlocale(LC_CTYPE, "C.UTF-8")) // the application object has set the environment's
+            std::setlocale(LC_CTYPE, "en_US.UTF-8");
+        QCoreApplication::setApplicationName(QStringLiteral("veilaway"));
+        QCoreApplication::setApplicationVersion(QStringLiteral(NIMBRA_VERSION));
+    };
+    if (line.command == CommandLine::Command::Wizard) {
+        QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+        HostedApplication<QApplication> application(argc, argv, wantedLocale(line.language), line.shareServices);
+        name();
+        return WizardCommand(line, application).run();
+    }
     HostedApplication<QCoreApplication> application(argc, argv, wantedLocale(line.language), line.shareServices);
-    if (!std::setlocale(LC_CTYPE, "C.UTF-8")) // the application object has set the environment's
-        std::setlocale(LC_CTYPE, "en_US.UTF-8");
-    QCoreApplication::setApplicationName(QStringLiteral("veilaway"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(NIMBRA_VERSION));
+    name();
     return line.command == CommandLine::Command::Version ? showVersion(line) : RunCommand(line, application).run();
 }

@@ -1,0 +1,239 @@
+#include "PhotoPage.h"
+
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPainter>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kPath = Qt::UserRole;
+constexpr QSize kPicture(160, 120);
+constexpr int kComplaintsShown = 3;
+
+/// The picture in the middle of a transparent field, so that all entries have one size.
+QIcon centred(const QImage &picture, qreal ratio)
+{
+    QImage field(kPicture * ratio, QImage::Format_ARGB32_Premultiplied);
+    field.fill(Qt::transparent);
+    QPainter painter(&field);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QSize size = picture.size().scaled(field.size(), Qt::KeepAspectRatio);
+    painter.drawImage(QRect(QPoint((field.width() - size.width()) / 2, (field.height() - size.height()) / 2), size), picture);
+    painter.end();
+    field.setDevicePixelRatio(ratio);
+    return QIcon(QPixmap::fromImage(field));
+}
+
+QStringList patterns()
+{
+    QStringList all;
+    for (const QString &suffix : PhotoLoader::pictureSuffixes() + PhotoLoader::rawSuffixes())
+        all << "*." + suffix << "*." + suffix.toUpper();
+    return all;
+}
+
+} // namespace
+
+PhotoPage::PhotoPage(HostApplication &host, QWidget *parent)
+    : QWizardPage(parent), list(new QListWidget(this)), state(new QLabel(this)), leftOut(new QLabel(this)),
+      removeButton(new QPushButton(tr("&Remove"), this)), reader(host)
+{
+    setTitle(tr("Photographs"));
+    setSubTitle(
+        tr("Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written "
+           "beside its photograph."));
+    setAcceptDrops(true);
+
+    list->setObjectName(QStringLiteral("photographs"));
+    list->setViewMode(QListView::IconMode);
+    list->setIconSize(kPicture);
+    list->setGridSize(kPicture + QSize(20, 36));
+    list->setResizeMode(QListView::Adjust);
+    list->setMovement(QListView::Static);
+    list->setUniformItemSizes(true);
+    list->setWordWrap(false);
+    list->setTextElideMode(Qt::ElideMiddle);
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list->setAcceptDrops(false); // the page takes them
+    state->setObjectName(QStringLiteral("state"));
+    leftOut->setObjectName(QStringLiteral("leftOut"));
+    leftOut->setWordWrap(true);
+    leftOut->setTextFormat(Qt::PlainText);
+    leftOut->hide();
+
+    auto *addButton = new QPushButton(tr("&Add photographs..."), this);
+    addButton->setObjectName(QStringLiteral("add"));
+    auto *settingsButton = new QPushButton(tr("&Open a session..."), this);
+    settingsButton->setObjectName(QStringLiteral("openSession"));
+    settingsButton->setToolTip(tr("A settings file with photographs and the strength of each"));
+    removeButton->setObjectName(QStringLiteral("remove"));
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(addButton);
+    buttons->addWidget(settingsButton);
+    buttons->addWidget(removeButton);
+    buttons->addStretch();
+    buttons->addWidget(state);
+    auto *rows = new QVBoxLayout(this);
+    rows->addWidget(list, 1);
+    rows->addWidget(leftOut);
+    rows->addLayout(buttons);
+
+    connect(addButton, &QPushButton::clicked, this, &PhotoPage::choose);
+    connect(settingsButton, &QPushButton::clicked, this, &PhotoPage::chooseSettings);
+    connect(removeButton, &QPushButton::clicked, this, &PhotoPage::removeSelected);
+    connect(list, &QListWidget::itemSelectionChanged, this, &PhotoPage::showState);
+    connect(&reader, &PhotoReader::checked, this, &PhotoPage::onChecked);
+    connect(&reader, &PhotoReader::ready, this, &PhotoPage::onReady);
+    connect(&reader, &PhotoReader::failed, this, &PhotoPage::onFailed);
+    showState();
+}
+
+void PhotoPage::add(const QStringList &paths)
+{
+    QImage waiting(kPicture, QImage::Format_ARGB32_Premultiplied);
+    waiting.fill(QColor(128, 128, 128, 40));
+    for (const QString &given : paths) {
+        const QFileInfo info(given);
+        if (info.isDir()) {
+            QStringList inside;
+            for (const QFileInfo &file : QDir(given).entryInfoList(patterns(), QDir::Files, QDir::Name))
+                inside << file.absoluteFilePath();
+            if (inside.isEmpty())
+                complaints << tr("%1: There are no photographs in this folder.").arg(given);
+            else
+                add(inside);
+            continue;
+        }
+        const QString path = QDir::cleanPath(info.absoluteFilePath());
+        if (items.contains(path))
+            continue;
+        auto *item = new QListWidgetItem(centred(waiting, devicePixelRatioF()), info.fileName(), list);
+        item->setData(kPath, path);
+        item->setToolTip(QDir::toNativeSeparators(path));
+        items.insert(path, item);
+        ++unchecked;
+        ++unread;
+        reader.read(path);
+    }
+    showState();
+    Q_EMIT completeChanged();
+}
+
+QStringList PhotoPage::photographs() const
+{
+    QStringList paths;
+    for (int row = 0; row < list->count(); ++row)
+        paths << list->item(row)->data(kPath).toString();
+    return paths;
+}
+
+bool PhotoPage::isComplete() const
+{
+    return unchecked == 0 && list->count() > 0 && (unread == 0 || pictures > 0);
+}
+
+void PhotoPage::onChecked(const QString &path)
+{
+    checkedPaths.insert(path);
+    --unchecked;
+    Q_EMIT completeChanged();
+}
+
+void PhotoPage::onReady(const QString &path, const QImage &picture)
+{
+    --unread;
+    ++pictures;
+    if (QListWidgetItem *item = items.value(path))
+        item->setIcon(centred(picture, devicePixelRatioF()));
+    showState();
+    Q_EMIT completeChanged();
+}
+
+void PhotoPage::onFailed(const QString &path, const QString &reason)
+{
+    --unread;
+    if (!checkedPaths.contains(path))
+        --unchecked;
+    if (QListWidgetItem *item = items.take(path)) {
+        complaints << tr("%1: %2").arg(QFileInfo(path).fileName(), reason);
+        delete item;
+    }
+    showState();
+    Q_EMIT completeChanged();
+}
+
+void PhotoPage::removeSelected()
+{
+    for (QListWidgetItem *item : list->selectedItems()) {
+        items.remove(item->data(kPath).toString());
+        delete item;
+    }
+    showState();
+    Q_EMIT completeChanged();
+}
+
+void PhotoPage::showState()
+{
+    removeButton->setEnabled(!list->selectedItems().isEmpty());
+    state->setText(unread > 0 ? tr("Reading %n photograph(s)...", nullptr, unread)
+                              : tr("%n photograph(s)", nullptr, list->count()));
+    QStringList shown = complaints.mid(qMax(0, complaints.size() - kComplaintsShown));
+    if (complaints.size() > shown.size())
+        shown.prepend(tr("... and %n more", nullptr, complaints.size() - shown.size()));
+    leftOut->setText(tr("Left out:") + '\n' + shown.join('\n'));
+    leftOut->setToolTip(complaints.join('\n'));
+    leftOut->setVisible(!complaints.isEmpty());
+}
+
+void PhotoPage::choose()
+{
+    const QString folder = list->count() > 0 ? QFileInfo(photographs().constLast()).absolutePath()
+                                             : QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    complaints.clear();
+    add(QFileDialog::getOpenFileNames(this, tr("Add photographs"), folder,
+                                      tr("Photographs (%1)").arg(patterns().join(' ')) + ";;" + tr("All files (*)")));
+}
+
+void PhotoPage::chooseSettings()
+{
+    const QString file = QFileDialog::getOpenFileName(this, tr("Open a session"), QString(),
+                                                      tr("Settings files (*.xml)") + ";;" + tr("All files (*)"));
+    if (!file.isEmpty())
+        Q_EMIT settingsWanted(file);
+}
+
+void PhotoPage::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void PhotoPage::dropEvent(QDropEvent *event)
+{
+    QStringList paths;
+    for (const QUrl &url : event->mimeData()->urls())
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    event->acceptProposedAction();
+    complaints.clear();
+    add(paths);
+}
+
+void PhotoPage::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Delete)
+        removeSelected();
+    else
+        QWizardPage::keyPressEvent(event);
+}

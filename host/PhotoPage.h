@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QHash>
+#include <QSet>
+#include <QStringList>
+#include <QWizardPage>
+
+#include "PhotoReader.h"
+
+class QLabel;
+class QListWidget;
+class QListWidgetItem;
+class QPushButton;
+
+/// The window's first page: the photographs, chosen by a dialog, dropped, or named on the command line. One that can't be read is
+/// named with the reason and left out. Complete once the heads of all have been read and the picture of one is there.
+class PhotoPage : public QWizardPage
+{
+    Q_OBJECT
+
+public:
+    explicit PhotoPage(HostApplication &host, QWidget *parent = nullptr);
+
+    /// Adds photographs by path; folders stand for the photographs in them. What is in the list already stays as it is.
+    void add(const QStringList &paths);
+    /// Absolute paths in the order of the list.
+    QStringList photographs() const;
+
+    bool isComplete() const override;
+
+Q_SIGNALS:
+    /// The user wants the photographs and strengths of a settings file.
+    void settingsWanted(const QString &file);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void choose();
+    void chooseSettings();
+    void removeSelected();
+    void onChecked(const QString &path);
+    void onReady(const QString &path, const QImage &picture);
+    void onFailed(const QString &path, const QString &reason);
+    void showState();
+
+    QListWidget *list;
+    QLabel *state;
+    QLabel *leftOut;
+    QPushButton *removeButton;
+    QHash<QString, QListWidgetItem *> items; ///< By absolute path; the list owns them.
+    int unchecked = 0;                       ///< Photographs whose heads are still to be read.
+    int unread = 0;                          ///< Photographs whose pictures are still to come, those of removed ones too.
+    int pictures = 0;                        ///< Pictures that have come.
+    QSet<QString> checkedPaths;
+    QStringList complaints;
+    PhotoReader reader;
+};

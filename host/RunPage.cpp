@@ -1,0 +1,180 @@
+#include "RunPage.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+enum Column { Photo, Strength, Progress, State, Columns };
+
+// The engine takes most of the time of a photograph.
+constexpr int kStageStart[] = {5, 20, 85};
+
+} // namespace
+
+RunPage::RunPage(HostApplication &host, VIPluginOne2One &process, QWidget *parent)
+    : QWizardPage(parent), runner(host, process, *this), question(new QWidget(this)), questionText(new QLabel(question)),
+      table(new QTableWidget(0, Columns, this)), overall(new QProgressBar(this)), stopButton(new QPushButton(tr("&Stop"), this))
+{
+    setTitle(tr("Taking the haze away"));
+    setSubTitle(tr("Each result is written beside its photograph."));
+
+    questionText->setWordWrap(true);
+    auto *replace = new QPushButton(tr("&Replace them"), question);
+    replace->setObjectName(QStringLiteral("replace"));
+    auto *keep = new QPushButton(tr("&Keep them"), question);
+    keep->setObjectName(QStringLiteral("keep"));
+    auto *asked = new QHBoxLayout(question);
+    asked->setContentsMargins(0, 0, 0, 0);
+    asked->addWidget(questionText, 1);
+    asked->addWidget(replace);
+    asked->addWidget(keep);
+    question->hide();
+
+    table->setObjectName(QStringLiteral("work"));
+    table->setHorizontalHeaderLabels({tr("Photograph"), tr("Strength"), tr("Progress"), tr("State")});
+    table->verticalHeader()->hide();
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionMode(QAbstractItemView::NoSelection);
+    table->setFocusPolicy(Qt::NoFocus);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    table->horizontalHeader()->setSectionResizeMode(Photo, QHeaderView::Stretch);
+    table->horizontalHeader()->setSectionResizeMode(Strength, QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setSectionResizeMode(State, QHeaderView::ResizeToContents);
+    table->horizontalHeader()->resizeSection(Progress, 160);
+    overall->setObjectName(QStringLiteral("overall"));
+    stopButton->setObjectName(QStringLiteral("stop"));
+
+    auto *bottom = new QHBoxLayout;
+    bottom->addWidget(overall, 1);
+    bottom->addWidget(stopButton);
+    auto *rows = new QVBoxLayout(this);
+    rows->addWidget(question);
+    rows->addWidget(table, 1);
+    rows->addLayout(bottom);
+
+    connect(replace, &QPushButton::clicked, this, [this] { start(std::move(other)); });
+    connect(keep, &QPushButton::clicked, this, [this] { start(std::move(batch)); });
+    connect(stopButton, &QPushButton::clicked, this, &RunPage::stop);
+}
+
+RunPage::~RunPage()
+{
+    runner.stop();
+    if (worker.joinable())
+        worker.join();
+}
+
+void RunPage::begin(std::vector<BatchItem> keeping, std::vector<BatchItem> replacing, int jobs)
+{
+    complete = false;
+    endedCount = 0;
+    batchJobs = jobs;
+    int there = 0;
+    for (std::size_t index = 0; index < keeping.size(); ++index)
+        there += !keeping[index].refusal.isEmpty() && replacing[index].refusal.isEmpty();
+    stopButton->setEnabled(false);
+    if (there == 0) {
+        start(std::move(keeping));
+        return;
+    }
+    batch = std::move(keeping);
+    other = std::move(replacing);
+    fillTable();
+    questionText->setText(tr("%n result(s) of an earlier run are there already.", nullptr, there));
+    question->show();
+    Q_EMIT completeChanged();
+}
+
+void RunPage::fillTable()
+{
+    results.assign(batch.size(), {BatchOutcome::Status::Stopped, 0, QString()});
+    table->setRowCount(int(batch.size()));
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const BatchItem &item = batch[std::size_t(row)];
+        auto *photo = new QTableWidgetItem(QFileInfo(item.path).fileName());
+        photo->setToolTip(item.path);
+        table->setItem(row, Photo, photo);
+        auto *strength = new QTableWidgetItem(tr("%1 %").arg(item.strength));
+        strength->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        table->setItem(row, Strength, strength);
+        auto *bar = new QProgressBar;
+        bar->setTextVisible(false);
+        table->setCellWidget(row, Progress, bar);
+        table->setItem(row, State, new QTableWidgetItem(tr("Waiting")));
+    }
+    overall->setRange(0, qMax(1, table->rowCount()));
+    overall->setValue(0);
+    overall->setFormat(tr("%v of %m"));
+}
+
+void RunPage::start(std::vector<BatchItem> items)
+{
+    question->hide();
+    batch = std::move(items);
+    fillTable();
+    stopButton->setEnabled(true);
+    runner.resume();
+    worker = std::thread([this] {
+        runner.run(batch, batchJobs);
+        QMetaObject::invokeMethod(this, &RunPage::end, Qt::QueuedConnection);
+    });
+    Q_EMIT completeChanged();
+}
+
+void RunPage::stop()
+{
+    runner.stop();
+    stopButton->setEnabled(false);
+}
+
+void RunPage::stageBegins(int item, BatchRunner::Stage stage)
+{
+    QMetaObject::invokeMethod(
+        this, [this, item, stage] { showStage(item, stage); }, Qt::QueuedConnection);
+}
+
+void RunPage::finished(int item, const BatchOutcome &outcome)
+{
+    QMetaObject::invokeMethod(
+        this, [this, item, outcome] { showOutcome(item, outcome); }, Qt::QueuedConnection);
+}
+
+void RunPage::showStage(int item, BatchRunner::Stage stage)
+{
+    const QString texts[] = {tr("Reading"), tr("Taking the haze away"), tr("Saving")};
+    static_cast<QProgressBar *>(table->cellWidget(item, Progress))->setValue(kStageStart[int(stage)]);
+    table->item(item, State)->setText(texts[int(stage)]);
+}
+
+void RunPage::showOutcome(int item, const BatchOutcome &outcome)
+{
+    results[std::size_t(item)] = outcome;
+    const bool done = outcome.status == BatchOutcome::Status::Done;
+    static_cast<QProgressBar *>(table->cellWidget(item, Progress))->setValue(done ? 100 : 0);
+    QTableWidgetItem *state = table->item(item, State);
+    state->setText(done ? tr("Done") : outcome.status == BatchOutcome::Status::Stopped ? tr("Stopped") : tr("Failed"));
+    state->setToolTip(outcome.message);
+    overall->setValue(++endedCount);
+}
+
+void RunPage::end()
+{
+    worker.join();
+    complete = true;
+    stopButton->setEnabled(false);
+    Q_EMIT completeChanged();
+    Q_EMIT ended();
+}
+
+bool RunPage::isComplete() const
+{
+    return complete;
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <memory>
+#include <thread>
+#include <vector>
+
+#include <QWizardPage>
+
+#include "BatchRunner.h"
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QTableWidget;
+
+/// The window's page for the work itself: a bar for each photograph and one for all. Work can be stopped between photographs:
+/// those in hand end without a result, unless it is being saved. Complete when all have had their outcome.
+class RunPage : public QWizardPage, private BatchRunner::Observer
+{
+    Q_OBJECT
+
+public:
+    RunPage(HostApplication &host, VIPluginOne2One &process, QWidget *parent = nullptr);
+    /// Stops and waits.
+    ~RunPage() override;
+
+    /// Takes a batch twice planned: with the results that are there already refused, and with them replaced. If there are any,
+    /// the user is asked which of the two it shall be; otherwise work begins at once. `jobs` as BatchRunner::run takes it.
+    void begin(std::vector<BatchItem> keeping, std::vector<BatchItem> replacing, int jobs);
+    bool isRunning() const { return worker.joinable(); }
+    /// Returns at once; the page gets complete when what is in hand has ended.
+    void stop();
+
+    const std::vector<BatchItem> &items() const { return batch; }
+    /// One for each item; those of items without one yet are Stopped.
+    const std::vector<BatchOutcome> &outcomes() const { return results; }
+
+    bool isComplete() const override;
+
+Q_SIGNALS:
+    /// All items have had their outcome.
+    void ended();
+
+private:
+    void stageBegins(int item, BatchRunner::Stage stage) override;
+    void finished(int item, const BatchOutcome &outcome) override;
+    void start(std::vector<BatchItem> items);
+    void showStage(int item, BatchRunner::Stage stage);
+    void showOutcome(int item, const BatchOutcome &outcome);
+    void end();
+    void fillTable();
+
+    BatchRunner runner;
+    std::thread worker;
+    std::vector<BatchItem> batch;
+    std::vector<BatchItem> other; ///< The plan that replaces, while the user is asked.
+    std::vector<BatchOutcome> results;
+    int batchJobs = 0;
+    int endedCount = 0;
+    bool complete = false;
+
+    QWidget *question;
+    QLabel *questionText;
+    QTableWidget *table;
+    QProgressBar *overall;
+    QPushButton *stopButton;
+};

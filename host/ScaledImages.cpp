@@ -1,0 +1,45 @@
+#include "ScaledImages.h"
+
+ScaledImages::Image ScaledImages::obtain(const Key &key, const std::function<Image()> &make)
+{
+    {
+        std::unique_lock lock(mutex);
+        made.wait(lock, [&] { return inHand.count(key) == 0; });
+        if (const auto place = places.find(key); place != places.end()) {
+            recent.splice(recent.begin(), recent, place->second);
+            return recent.front().image;
+        }
+        inHand.insert(key);
+    }
+    const auto finish = [&](void *) {
+        {
+            const std::lock_guard lock(mutex);
+            inHand.erase(key);
+        }
+        made.notify_all();
+    };
+    const std::unique_ptr<void, decltype(finish)> end(this, finish);
+    Image image = make();
+    keep(key, image);
+    return image;
+}
+
+void ScaledImages::keep(const Key &key, const Image &image)
+{
+    const std::size_t size = std::size_t(image->BytesPerLine()) * std::size_t(image->Height());
+    const std::lock_guard lock(mutex);
+    recent.push_front({key, image, size});
+    places[key] = recent.begin();
+    held += size;
+    while (held > limit && recent.size() > 1) {
+        held -= recent.back().bytes;
+        places.erase(recent.back().key);
+        recent.pop_back();
+    }
+}
+
+std::size_t ScaledImages::bytes() const
+{
+    const std::lock_guard lock(mutex);
+    return held;
+}

@@ -1,0 +1,42 @@
+#include "WizardCommand.h"
+
+#include <memory>
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include "PluginFile.h"
+#include "ProgressView.h"
+#include "SettingsFile.h"
+#include "VException.h"
+#include "WizardWindow.h"
+
+int WizardCommand::run()
+{
+    application.setUsual(QStringLiteral("hazeRemove"), CommandLine::kUsualStrength);
+    std::unique_ptr<PluginFile> plugin;
+    std::unique_ptr<SettingsFile> settings;
+    try {
+        plugin = std::make_unique<PluginFile>(line.pluginFile);
+        for (const char *set : {"qtbase", "VImage", "VTools", "VUI"})
+            application.loadTranslator(QStringLiteral("%1_%2.qm").arg(QLatin1String(set), application.locale().name()));
+        if (!line.settingsFile.isEmpty()) {
+            settings = std::make_unique<SettingsFile>(line.settingsFile, plugin->process().name());
+            settings->load();
+        }
+    } catch (const VException &failure) {
+        ProgressView::complain(failure.message);
+        return plugin ? ExitUsage : ExitSomeFailed;
+    }
+    QStringList photographs = line.photographs;
+    if (photographs.isEmpty() && settings)
+        photographs = settings->photographs();
+
+    WizardWindow window(application, plugin->process(), std::move(settings), line.jobs);
+    application.reportTo([&](const QString &message) { QMessageBox::warning(&window, window.windowTitle(), message); });
+    window.addPhotographs(photographs);
+    window.show();
+    QApplication::exec();
+    application.reportTo({});
+    return ExitAllDone;
+}

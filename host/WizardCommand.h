@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QCoreApplication>
+
+#include "CommandLine.h"
+#include "HostApplication.h"
+
+/// The command `wizard`: the window, until it is closed. Returns what the program ends with. Needs a QApplication.
+class WizardCommand
+{
+    Q_DECLARE_TR_FUNCTIONS(WizardCommand)
+
+public:
+    WizardCommand(const CommandLine &commandLine, HostApplication &host) : line(commandLine), application(host) {}
+    int run();
+
+private:
+    const CommandLine &line;
+    HostApplication &application;
+};

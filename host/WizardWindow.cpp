@@ -1,0 +1,162 @@
+#include "WizardWindow.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include "BatchPlan.h"
+#include "PhotoPage.h"
+#include "ResultPage.h"
+#include "RunPage.h"
+#include "VException.h"
+
+namespace {
+
+const QString kStrengthKey = QStringLiteral("hazeRemove");
+
+} // namespace
+
+WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std::unique_ptr<SettingsFile> settings, int jobs)
+    : application(host), one2one(process), session(std::move(settings)), hasFile(session != nullptr), batchJobs(jobs),
+      photoPage(new PhotoPage(host)), runPage(new RunPage(host, process)), resultPage(new ResultPage(host))
+{
+    if (!session)
+        session = std::make_unique<SettingsFile>(QDir::current().filePath(QStringLiteral("veilaway.xml")), process.name());
+    setWindowTitle(tr("veilaway"));
+    setWizardStyle(QWizard::ClassicStyle);
+    setOptions(QWizard::NoBackButtonOnStartPage | QWizard::NoBackButtonOnLastPage | QWizard::NoCancelButtonOnLastPage);
+    // The two buttons of the plug-in's page have no face of their own.
+    setStyleSheet(QStringLiteral("QToolButton#QToolButton_Prev { qproperty-arrowType: LeftArrow; }"
+                                 "QToolButton#QToolButton_Next { qproperty-arrowType: RightArrow; }"));
+    setPage(Photographs, photoPage);
+    QWizardPage *const strengthPage = process.wizardPage();
+    strengthPage->setCommitPage(true); // the way back ends where the work begins
+    strengthPage->setButtonText(QWizard::CommitButton, tr("&Take the haze away"));
+    setPage(Strength, strengthPage);
+    setPage(Work, runPage);
+    setPage(Results, resultPage);
+    resize(960, 700);
+
+    connect(photoPage, &PhotoPage::settingsWanted, this, &WizardWindow::openSession);
+    connect(resultPage, &ResultPage::saveWanted, this, &WizardWindow::saveSessionAs);
+}
+
+void WizardWindow::addPhotographs(const QStringList &paths)
+{
+    photoPage->add(paths);
+}
+
+void WizardWindow::openSession(const QString &file)
+{
+    try {
+        auto opened = std::make_unique<SettingsFile>(file, one2one.name());
+        opened->load();
+        session = std::move(opened);
+        hasFile = true;
+        onPage.clear();
+        photoPage->add(session->photographs());
+    } catch (const VException &failure) {
+        QMessageBox::warning(this, windowTitle(), failure.message);
+    }
+}
+
+bool WizardWindow::saveSession(SettingsFile &file)
+{
+    try {
+        file.save();
+        return true;
+    } catch (const VException &failure) {
+        QMessageBox::warning(this, windowTitle(), failure.message);
+        return false;
+    }
+}
+
+void WizardWindow::saveSessionAs()
+{
+    const QString name = QFileDialog::getSaveFileName(this, tr("Save session"), session->path(), tr("Settings files (*.xml)"));
+    if (name.isEmpty())
+        return;
+    auto copy = std::make_unique<SettingsFile>(name, one2one.name());
+    for (const QString &path : photoPage->photographs())
+        copy->setElement(path, session->element(path));
+    if (saveSession(*copy)) {
+        session = std::move(copy);
+        hasFile = true;
+    }
+}
+
+void WizardWindow::preparePluginPage()
+{
+    const QStringList paths = photoPage->photographs();
+    if (paths == onPage)
+        return;
+    takeStrengths();
+    // The process starts each photograph from the stored default, which it asks for in the order of the list.
+    QList<QVariant> strengths;
+    for (const QString &path : paths)
+        if (const auto strength = SettingsFile::strengthOf(session->element(path)))
+            strengths << *strength;
+        else
+            strengths << QVariant();
+    const HostApplication::Presets presets(application, one2one.guid(), kStrengthKey, strengths);
+    one2one.setImages(paths);
+    onPage = paths;
+}
+
+void WizardWindow::takeStrengths()
+{
+    for (const QString &path : qAsConst(onPage))
+        session->setElement(path, one2one.settingsFor(path));
+}
+
+void WizardWindow::prepareWork()
+{
+    BatchPlan::Wishes wishes;
+    wishes.processName = one2one.name();
+    wishes.settings = session.get();
+    auto keeping = BatchPlan::make(onPage, application, wishes);
+    wishes.overwrite = true;
+    runPage->begin(std::move(keeping), BatchPlan::make(onPage, application, wishes), batchJobs);
+}
+
+void WizardWindow::initializePage(int id)
+{
+    QWizard::initializePage(id);
+    if (id == Strength)
+        preparePluginPage();
+    else if (id == Work)
+        prepareWork();
+    else if (id == Results)
+        resultPage->present(runPage->items(), runPage->outcomes());
+}
+
+void WizardWindow::cleanupPage(int id)
+{
+    QWizard::cleanupPage(id);
+    if (id == Strength)
+        takeStrengths();
+}
+
+bool WizardWindow::validateCurrentPage()
+{
+    if (currentId() == Strength) {
+        takeStrengths();
+        one2one.saveDefaults();
+        if (hasFile && !saveSession(*session))
+            return false;
+    }
+    return QWizard::validateCurrentPage();
+}
+
+void WizardWindow::done(int result)
+{
+    if (currentId() == Work && runPage->isRunning()) {
+        // What is in hand has to end before the window may go.
+        runPage->stop();
+        connect(runPage, &RunPage::ended, this, [this, result] { QWizard::done(result); });
+        return;
+    }
+    QWizard::done(result);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <memory>
+
+#include <QHash>
+#include <QWizard>
+
+#include "HostApplication.h"
+#include "SettingsFile.h"
+#include "VIPluginOne2One.h"
+
+class PhotoPage;
+class ResultPage;
+class RunPage;
+
+/// The window: photographs, the plug-in's page with its preview, the work, the results. The strength of each photograph lives in
+/// a session, which is a settings file as the command line reads and writes it, once the user names one.
+class WizardWindow : public QWizard
+{
+    Q_OBJECT
+
+public:
+    enum Page { Photographs, Strength, Work, Results };
+
+    /// `settings` is loaded already; null for a session without a file. `jobs` as BatchRunner::run takes it.
+    WizardWindow(HostApplication &host, VIPluginOne2One &process, std::unique_ptr<SettingsFile> settings, int jobs);
+
+    void addPhotographs(const QStringList &paths);
+
+    void done(int result) override;
+
+protected:
+    void initializePage(int id) override;
+    void cleanupPage(int id) override;
+    bool validateCurrentPage() override;
+
+private:
+    void openSession(const QString &file);
+    void saveSessionAs();
+    bool saveSession(SettingsFile &file);
+    void preparePluginPage();
+    void takeStrengths();
+    void prepareWork();
+
+    HostApplication &application;
+    VIPluginOne2One &one2one;
+    std::unique_ptr<SettingsFile> session;
+    bool hasFile;
+    int batchJobs;
+    QStringList onPage; ///< What the plug-in's page edits.
+    PhotoPage *photoPage;
+    RunPage *runPage;
+    ResultPage *resultPage;
+};

@@ -1,0 +1,30 @@
+#include "patiently.h"
+
+#include <exception>
+#include <thread>
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QThread>
+
+void patiently(const std::function<void()> &work)
+{
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance()) || QThread::currentThread() != qApp->thread()) {
+        work();
+        return;
+    }
+    std::exception_ptr failure;
+    QEventLoop loop;
+    std::thread worker([&] {
+        try {
+            work();
+        } catch (...) {
+            failure = std::current_exception();
+        }
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    worker.join();
+    if (failure)
+        std::rethrow_exception(failure);
+}
