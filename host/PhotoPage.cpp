@@ -89,6 +89,9 @@ PhotoPage::PhotoPage(HostApplication &host, QWidget *parent)
     rows->addWidget(leftOut);
     rows->addLayout(buttons);
 
+    for (QPushButton *button : {addButton, settingsButton, removeButton})
+        button->setAutoDefault(false); // Return belongs to the window's own buttons
+
     connect(addButton, &QPushButton::clicked, this, &PhotoPage::choose);
     connect(settingsButton, &QPushButton::clicked, this, &PhotoPage::chooseSettings);
     connect(removeButton, &QPushButton::clicked, this, &PhotoPage::removeSelected);

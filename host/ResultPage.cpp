@@ -53,6 +53,9 @@ ResultPage::ResultPage(HostApplication &host, QWidget *parent)
     columns->addWidget(list);
     columns->addLayout(right, 1);
 
+    for (QPushButton *button : {saveButton, folderButton})
+        button->setAutoDefault(false); // Return belongs to the window's own buttons
+
     pool.setMaxThreadCount(1);
     connect(list, &QListWidget::currentRowChanged, this, &ResultPage::showCurrent);
     connect(folderButton, &QPushButton::clicked, this, &ResultPage::openFolder);

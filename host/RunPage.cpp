@@ -60,6 +60,9 @@ RunPage::RunPage(HostApplication &host, VIPluginOne2One &process, QWidget *paren
     rows->addWidget(table, 1);
     rows->addLayout(bottom);
 
+    for (QPushButton *button : {replace, keep, stopButton})
+        button->setAutoDefault(false); // Return belongs to the window's own buttons
+
     connect(replace, &QPushButton::clicked, this, [this] { start(std::move(other)); });
     connect(keep, &QPushButton::clicked, this, [this] { start(std::move(batch)); });
     connect(stopButton, &QPushButton::clicked, this, &RunPage::stop);
