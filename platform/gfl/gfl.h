@@ -37,7 +37,7 @@ constexpr std::int16_t GFL_DEFAULT = -1; ///< In `compression` and `quality`: wh
 /// | tiff   | compression | 0 none, 2 LZW (none unless enabled), 4 deflate; else BAD_PARAMETERS       | 0             |
 /// | hdri   | compression | 0 none, else run lengths                                                  | run lengths   |
 /// | psd    | compression | 0 none, else run lengths                                                  | run lengths   |
-/// | exr    | compression | OpenEXR's own numbers, 0 (none) .. 7 (B44A); else BAD_PARAMETERS          | 3 (zip)       |
+/// | exr    | compression | OpenEXR's own numbers, 0 (none) .. 7 (B44A); else BAD_PARAMETERS          | 4 (PIZ)       |
 struct GflSaveParams
 {
     std::uint32_t flags;
@@ -73,8 +73,10 @@ struct GflIptc; ///< IPTC record block, opaque.
 struct GflExif; ///< EXIF block (a TIFF stream), opaque.
 
 /// Starts the layer with the allocator that bitmaps are made with. Null callbacks stand for malloc, realloc and free.
+/// BAD_PARAMETERS, and nothing is changed, if some of them are null and some are not. No bitmap may live while it runs.
 int gflLibraryInitEx(GflAllocCallback alloc, GflReallocCallback realloc, GflFreeCallback free, void *user);
 void gflLibraryExit();
+/// Whether TIFF files may be written in LZW; else they are written plain. On at the start. Reading takes LZW in any case.
 void gflEnableLZW(int enable);
 
 /// Index of a format by its lower-case name: "jpeg", "png", "tiff", "hdri", "exr", "psd"; -1 for any other.

@@ -71,6 +71,44 @@ std::uint32_t little32(const std::uint8_t *bytes)
     return bytes[0] | std::uint32_t(bytes[1]) << 8 | std::uint32_t(bytes[2]) << 16 | std::uint32_t(bytes[3]) << 24;
 }
 
+/// The size of an attribute's value as the library reads it, whatever the file says; -1 where it goes by the file.
+std::int64_t fixedSize(const std::string &type)
+{
+    struct Type
+    {
+        const char *name;
+        int bytes;
+    };
+    static constexpr Type kTypes[] = {{"box2f", 16},
+                                      {"box2i", 16},
+                                      {"chromaticities", 32},
+                                      {"compression", 1},
+                                      {"deepImageState", 1},
+                                      {"double", 8},
+                                      {"envmap", 1},
+                                      {"float", 4},
+                                      {"int", 4},
+                                      {"keycode", 28},
+                                      {"lineOrder", 1},
+                                      {"m33d", 72},
+                                      {"m33f", 36},
+                                      {"m44d", 128},
+                                      {"m44f", 64},
+                                      {"rational", 8},
+                                      {"tiledesc", 9},
+                                      {"timecode", 8},
+                                      {"v2d", 16},
+                                      {"v2f", 8},
+                                      {"v2i", 8},
+                                      {"v3d", 24},
+                                      {"v3f", 12},
+                                      {"v3i", 12}};
+    for (const Type &known : kTypes)
+        if (type == known.name)
+            return known.bytes;
+    return -1;
+}
+
 /// Walks over the header's attributes before the library sees them: it allocates what they claim. Throws FILE_READ if the file is
 /// too short for its attributes, its table of chunks or one chunk's pixels.
 void checkClaims(const InputFile &file)
@@ -106,7 +144,14 @@ void checkClaims(const InputFile &file)
         if (next > file.size())
             throw Failure{GFL_ERROR_FILE_READ};
         const std::uint64_t size = little32(bytes);
-        if (name == "dataWindow" && size == 16) {
+        // From here on the library must find what is found here.
+        if (fixedSize(type) >= 0 && fixedSize(type) != std::int64_t(size))
+            throw Failure{GFL_ERROR_FILE_READ};
+        if (type == "preview") {
+            stream.read(bytes, 8);
+            if (8 + std::uint64_t(little32(bytes)) * little32(bytes + 4) * 4 != size)
+                throw Failure{GFL_ERROR_FILE_READ};
+        } else if (name == "dataWindow" && size == 16) {
             stream.read(bytes, 16);
             width = std::int64_t(std::int32_t(little32(bytes + 8))) - std::int32_t(little32(bytes)) + 1;
             height = std::int64_t(std::int32_t(little32(bytes + 12))) - std::int32_t(little32(bytes + 4)) + 1;
@@ -116,7 +161,7 @@ void checkClaims(const InputFile &file)
             tileHeight = little32(bytes + 4);
         } else if (name == "compression" && size == 1) {
             packing = stream.next();
-        } else if (name == "channels") {
+        } else if (type == "chlist") {
             constexpr std::uint64_t kPerChannel = 18; // at least, for a name of one letter
             mostChannels = size / kPerChannel + 1;
             while (stream.offset() < next && !text().empty()) {
@@ -124,6 +169,8 @@ void checkClaims(const InputFile &file)
                 const double samples = std::max(1.0, double(little32(bytes + 8))) * std::max(1.0, double(little32(bytes + 12)));
                 pixelBytes += (little32(bytes) == Imf::HALF ? 2 : 4) / samples;
             }
+            if (stream.offset() != next)
+                throw Failure{GFL_ERROR_FILE_READ};
         }
         stream.seek(next);
     }
@@ -349,7 +396,7 @@ BitmapPointer readExr(const ReadRequest &request)
 void writeExr(const WriteRequest &request)
 {
     const GflBitmap &bitmap = request.bitmap;
-    const int packing = request.compression < 0 ? int(Imf::ZIP_COMPRESSION) : request.compression;
+    const int packing = request.compression < 0 ? int(Imf::PIZ_COMPRESSION) : request.compression;
     if (packing > int(Imf::B44A_COMPRESSION))
         throw Failure{GFL_ERROR_BAD_PARAMETERS};
     const Form form{bitmap.componentsPerPixel, 32};

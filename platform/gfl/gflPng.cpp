@@ -255,7 +255,10 @@ void appendDeflated(Bytes &chunk, const Bytes &data)
 
 void writeMetadata(const WriteRequest &request)
 {
-    if (!request.icc.empty()) {
+    constexpr std::size_t kColourSpace = 16;
+    // This format wants a grey profile for grey.
+    if (!request.icc.empty() &&
+        (request.bitmap.componentsPerPixel == 1) == (std::memcmp(&request.icc[kColourSpace], "GRAY", 4) == 0)) {
         static constexpr char kName[] = "ICC Profile";
         Bytes chunk(kName, kName + sizeof kName);
         chunk.push_back(0); // packed by deflate

@@ -355,6 +355,8 @@ void writePsd(const WriteRequest &request)
     const GflBitmap &bitmap = request.bitmap;
     OutputFile &file = request.file;
     const bool large = std::max(bitmap.width, bitmap.height) > kLargestSide;
+    if (std::max(bitmap.width, bitmap.height) > kLargestSide * 10)
+        throw Failure{GFL_ERROR_BAD_BITMAP};
     const int components = bitmap.componentsPerPixel;
     // Floats don't pack in runs of bytes.
     const bool runs = request.compression != 0 && bitmap.bitsPerComponent < 32;

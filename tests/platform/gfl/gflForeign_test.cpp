@@ -86,7 +86,7 @@ void putSample(FileBytes &row, std::size_t index, const TiffCase &c, unsigned va
 {
     const double real = value / 1000.0;
     const auto single = static_cast<float>(real);
-    const auto whole = static_cast<std::uint32_t>(real * 4294967295.0);
+    const auto whole = c.bits == 32 ? static_cast<std::uint32_t>(real * 4294967295.0) : 0u;
     const auto half = static_cast<std::uint16_t>(value);
     if (c.bits == 64)
         std::memcpy(&row[index * 8], &real, 8);

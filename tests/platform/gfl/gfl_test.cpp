@@ -118,7 +118,7 @@ TEST_F(GflTest, JpegQualityAndDefaults)
     EXPECT_EQ(bytes("png", -1, 9), bytes("png", -1, 12));
     EXPECT_GT(bytes("png", -1, 0), bytes("png", -1, -1));
     EXPECT_EQ(bytes("tiff", -1, -1), bytes("tiff", -1, 0));
-    EXPECT_EQ(bytes("exr", -1, -1), bytes("exr", -1, 3));
+    EXPECT_EQ(bytes("exr", -1, -1), bytes("exr", -1, 4));
     EXPECT_EQ(save(path("q"), picture.get(), "exr", -1, 8), GFL_ERROR_BAD_PARAMETERS);
     EXPECT_EQ(save(path("q"), picture.get(), "tiff", -1, 3), GFL_ERROR_BAD_PARAMETERS);
     gflEnableLZW(0);
