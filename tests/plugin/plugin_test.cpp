@@ -1,0 +1,489 @@
+// The plug-in file as a host sees it: loaded by Qt, through the contract alone, by a program that links nothing of ours but the
+// image record.
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDomDocument>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QPluginLoader>
+#include <QPointer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QWizardPage>
+
+#include <gmock/gmock.h>
+
+#include "TestHost.h"
+#include "VException.h"
+#include "VIPluginLibrary.h"
+#include "VIPluginOne2One.h"
+
+namespace {
+
+const QString kProcessGuid = QStringLiteral("51D2A7E4-93C6-4F08-B1E5-6A0C7D3E9F21");
+const QString kStored = kProcessGuid + QStringLiteral("/hazeRemove");
+
+QPluginLoader &plugin()
+{
+    static QPluginLoader loader(QStringLiteral(PLUGIN_FILE));
+    return loader;
+}
+
+class PluginEnvironment : public TestHostEnvironment
+{
+public:
+    void TearDown() override
+    {
+        delete plugin().instance();
+        TestHostEnvironment::TearDown();
+    }
+};
+
+const auto *const kEnvironment = testing::AddGlobalTestEnvironment(new PluginEnvironment);
+
+class Plugin : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        host.reset();
+        library = plugin().instance();
+        ASSERT_NE(library, nullptr) << qPrintable(plugin().errorString());
+        interface = qobject_cast<VIPluginLibrary *>(library);
+        ASSERT_NE(interface, nullptr);
+    }
+    void TearDown() override { delete object; }
+
+    /// A new process; the test deletes it at its end.
+    VIPluginOne2One *newProcess()
+    {
+        delete object;
+        object = interface->processes(1).last();
+        return qobject_cast<VIPluginOne2One *>(object);
+    }
+
+    QDomElement element(const QString &strength)
+    {
+        QDomElement result = document.createElement(QStringLiteral("Veilaway"));
+        if (!strength.isNull())
+            result.setAttribute(QStringLiteral("hazeRemove"), strength);
+        return result;
+    }
+    int strengthOf(VIPluginOne2One *process, VISettingsHandle settings)
+    {
+        const int strength = process->settingsToElement(settings).attribute(QStringLiteral("hazeRemove")).toInt();
+        process->destroySettings(settings);
+        return strength;
+    }
+    /// The file behind a photograph: here only what its metadata is read from.
+    void writeSource(const QString &path)
+    {
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        image.save(path, "PNG");
+    }
+    /// Runs one image and returns the path of the result.
+    QString run(const QString &path, int strength)
+    {
+        writeSource(path);
+        VIPluginOne2One *const process = newProcess();
+        const VISettingsHandle settings = process->createSettings(element(QString::number(strength)));
+        QString output;
+        process->run(path, settings, &output);
+        process->destroySettings(settings);
+        return output;
+    }
+
+    TestHost &host = TestHost::self();
+    QObject *library = nullptr;
+    VIPluginLibrary *interface = nullptr;
+    QPointer<QObject> object;
+    QDomDocument document;
+    QTemporaryDir folder;
+};
+
+TEST_F(Plugin, exports_two_functions_and_no_folder_of_the_builder)
+{
+    QProcess symbols;
+    symbols.start(QStringLiteral("nm"), {QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix"),
+                                         QStringLiteral(PLUGIN_FILE)});
+    ASSERT_TRUE(symbols.waitForFinished());
+    QStringList names;
+    for (const QByteArray &line : symbols.readAllStandardOutput().split('\n'))
+        if (!line.isEmpty())
+            names += QString::fromLatin1(line.left(line.indexOf(' ')));
+    EXPECT_THAT(names,
+                testing::UnorderedElementsAre(QStringLiteral("qt_plugin_instance"), QStringLiteral("qt_plugin_query_metadata")));
+
+    QFile file(QStringLiteral(PLUGIN_FILE));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(file.readAll().contains(SOURCE_FOLDER "/"));
+}
+
+TEST_F(Plugin, metadata)
+{
+    const QJsonObject data = plugin().metaData();
+    EXPECT_EQ(data.value("IID").toString(), "com.ombre.haze");
+    EXPECT_EQ(data.value("className").toString(), "Library");
+    EXPECT_EQ(data.value("version").toInt() >> 8, QT_VERSION >> 8);
+    EXPECT_EQ(data.value("debug"), QJsonValue(false));
+    EXPECT_TRUE(data.value("MetaData").toObject().isEmpty());
+}
+
+TEST_F(Plugin, identities_of_library_and_process)
+{
+    VIPluginOne2One *const process = newProcess();
+    auto *const about = qobject_cast<VIAbout *>(library);
+    ASSERT_NE(about, nullptr);
+
+    EXPECT_EQ(library->objectName(), "Nimbra");
+    EXPECT_EQ(about->name(), "Nimbra");
+    EXPECT_EQ(about->description(), "Comment");
+    EXPECT_EQ(about->guid(), "8E04C3B7-2AF1-4D96-A37C-F1B86C05D24E");
+    EXPECT_EQ(object->objectName(), "NimbraOne2One");
+    EXPECT_EQ(process->name(), "Veilaway");
+    EXPECT_TRUE(process->description().startsWith("Haze is an atmospheric phenomenon"));
+    EXPECT_TRUE(process->description().contains("white layer.This plugin"));
+    EXPECT_EQ(process->guid(), kProcessGuid);
+    EXPECT_EQ(process->author(), about->author());
+    EXPECT_FALSE(about->author().isEmpty());
+    for (VIAbout *one : {about, static_cast<VIAbout *>(process)}) {
+        EXPECT_EQ(one->company(), "Ombre");
+        EXPECT_EQ(one->version(), "3.0.0.400");
+        EXPECT_TRUE(one->icon().pixmap(64).isNull());
+    }
+    EXPECT_EQ(process->beforeAfterIcon().availableSizes(), QList<QSize>{QSize(256, 128)});
+}
+
+TEST_F(Plugin, casts_by_name)
+{
+    auto *const process = static_cast<VIPluginOne2One *>(newProcess());
+    EXPECT_EQ(library->qt_metacast("Library"), library);
+    EXPECT_EQ(library->qt_metacast("VIPluginLibrary"), interface);
+    EXPECT_EQ(library->qt_metacast("VIAbout"), qobject_cast<VIAbout *>(library));
+    EXPECT_EQ(library->qt_metacast("VIPluginProcess"), nullptr);
+    EXPECT_EQ(object->qt_metacast("NimbraOne2One"), object.data());
+    for (const char *name : {"VIPluginOne2One", "VIPluginProcess", "VIAbout"})
+        EXPECT_EQ(object->qt_metacast(name), process) << name;
+    EXPECT_EQ(object->qt_metacast("QObject"), object.data());
+    EXPECT_EQ(object->qt_metacast("Veilaway"), nullptr);
+
+    const QMetaObject *const meta = object->metaObject();
+    EXPECT_EQ(meta->constructorCount(), 2);
+    EXPECT_EQ(meta->methodCount(), QObject::staticMetaObject.methodCount());
+    std::unique_ptr<QObject> made(meta->newInstance());
+    ASSERT_NE(made, nullptr);
+    EXPECT_EQ(made->parent(), nullptr);
+}
+
+TEST_F(Plugin, start_asks_the_host_in_order_and_works_without_one)
+{
+    delete library;
+    host.calls.clear();
+    host.language = QLocale(QLocale::French, QLocale::France);
+    library = plugin().instance();
+    EXPECT_EQ(host.calls, QStringList({"loadTranslator Nimbra_fr_FR.qm", "imageLibraryContext", "interfaceLibraryContext"}));
+    EXPECT_EQ(qobject_cast<VIAbout *>(library)->description(), "Commentaire");
+    EXPECT_EQ(plugin().instance(), library);
+
+    delete library;
+    host.reset();
+    host.isHost = false;
+    library = plugin().instance();
+    EXPECT_EQ(host.calls, QStringList());
+    EXPECT_EQ(qobject_cast<VIAbout *>(library)->description(), "Comment");
+    EXPECT_EQ(qobject_cast<VIPluginLibrary *>(library)->processes(1).size(), 1);
+
+    delete library;
+    host.isHost = true;
+    host.language = QLocale(QLocale::English, QLocale::UnitedStates);
+    ASSERT_NE(plugin().instance(), nullptr);
+}
+
+TEST_F(Plugin, processes_are_made_on_request_and_belong_to_the_library)
+{
+    delete library;
+    interface = qobject_cast<VIPluginLibrary *>(plugin().instance());
+    EXPECT_EQ(interface->processes(0), QList<QPointer<QObject>>());
+    const QPointer<QObject> first = interface->processes(1).value(0);
+    const auto both = interface->processes(1);
+    ASSERT_EQ(both.size(), 2);
+    EXPECT_EQ(both[0], first);
+    EXPECT_NE(both[1], first);
+    EXPECT_EQ(interface->processes(0), both);
+    delete both[0];
+    EXPECT_TRUE(interface->processes(0)[0].isNull());
+
+    delete plugin().instance();
+    EXPECT_TRUE(both[1].isNull());
+}
+
+TEST_F(Plugin, strength_of_new_settings)
+{
+    const struct
+    {
+        const char *name;
+        QVariant stored;
+        QDomElement element;
+        int strength;
+    } rows[] = {
+        {"nothing_stored", {}, {}, 0},
+        {"stored_default", 35, {}, 35},
+        {"stored_value_is_not_clamped", 150, {}, 150},
+        {"element_wins", 35, element("40"), 40},
+        {"element_is_not_clamped", 35, element("-7"), -7},
+        {"element_without_attribute_gives_0", 35, element({}), 0},
+        {"element_that_is_no_number_gives_0", 35, element("much"), 0},
+    };
+    for (const auto &row : rows) {
+        host.stored.clear();
+        if (row.stored.isValid())
+            host.stored[kStored] = row.stored;
+        VIPluginOne2One *const process = newProcess();
+        EXPECT_EQ(strengthOf(process, process->createSettings(row.element)), row.strength) << row.name;
+    }
+    EXPECT_EQ(host.fallbackType, int(QMetaType::QString));
+
+    host.isHost = false;
+    VIPluginOne2One *const process = newProcess();
+    EXPECT_EQ(strengthOf(process, process->createSettings({})), 0) << "no host";
+    process->saveDefaults();
+}
+
+TEST_F(Plugin, settings_go_to_an_element_and_between_handles)
+{
+    host.stored[kStored] = 25;
+    VIPluginOne2One *const process = newProcess();
+    const VISettingsHandle forty = process->createSettings(element("40"));
+    const QDomElement made = process->settingsToElement(forty);
+    EXPECT_EQ(made.tagName(), "Veilaway");
+    EXPECT_EQ(made.attribute("hazeRemove"), "40");
+    EXPECT_EQ(made.attributes().count(), 1);
+    EXPECT_TRUE(made.parentNode().isNull());
+
+    const VISettingsHandle copy = process->createSettings({});
+    process->copySettings(copy, forty);
+    EXPECT_EQ(strengthOf(process, copy), 40);
+    process->destroySettings(forty);
+    process->destroySettings(nullptr);
+
+    host.stored.clear();
+    process->saveDefaults(); // the default that stood when the process was made
+    EXPECT_EQ(host.stored.value(kStored), QVariant(25));
+}
+
+TEST_F(Plugin, images_of_the_page_have_settings_of_their_own)
+{
+    host.stored[kStored] = 25;
+    VIPluginOne2One *const process = newProcess();
+    const std::unique_ptr<QWizardPage> page(process->wizardPage());
+    EXPECT_EQ(process->wizardPage(), page.get());
+    process->setImages({"/p/a.jpg", "/p/b.jpg", "/p/a.jpg"});
+    host.stored[kStored] = 60;
+    EXPECT_EQ(process->settingsFor("/p/b.jpg").attribute("hazeRemove"), "25");
+    EXPECT_EQ(process->settingsFor("/p/unknown.jpg").attribute("hazeRemove"), "60");
+    process->setImages({"/p/b.jpg"});
+    EXPECT_EQ(process->settingsFor("/p/b.jpg").attribute("hazeRemove"), "60");
+    process->setImages({});
+}
+
+TEST_F(Plugin, run_calls_the_host_in_order)
+{
+    const QString path = folder.filePath("photo.png");
+    host.calls.clear();
+    run(path, 60);
+    EXPECT_EQ(host.calls, QStringList({"acquireFull 1", "releaseFull 1"}));
+}
+
+TEST_F(Plugin, names_of_results)
+{
+    const QLocale german(QLocale::German, QLocale::Germany);
+    const QLocale english(QLocale::English, QLocale::UnitedStates);
+    const struct
+    {
+        const char *source;
+        QLocale locale;
+        bool tiff;
+        const char *result;
+    } rows[] = {
+        {"IMG.PNG", english, false, "IMG_dehazed.png"},      {"a.b.png", english, false, "a.b_dehazed.png"},
+        {"raw.nef", english, true, "raw_dehazed.tiff"},      {"bare", english, true, "bare_dehazed.tiff"},
+        {"photo.JPG", german, false, "photo_entnebelt.jpg"},
+    };
+    for (const auto &row : rows) {
+        delete plugin().instance();
+        host.language = row.locale;
+        library = plugin().instance();
+        interface = qobject_cast<VIPluginLibrary *>(library);
+        const QString path = folder.filePath(row.source);
+        host.image(path).tiffOutput = row.tiff;
+        const QString output = run(path, 0);
+        EXPECT_EQ(output, folder.filePath(row.result));
+        EXPECT_TRUE(QFile::exists(output)) << qPrintable(output);
+    }
+    delete plugin().instance();
+    host.language = english;
+}
+
+TEST_F(Plugin, failures_reach_a_host_built_apart_as_values)
+{
+    const QString bare = folder.filePath("bare");
+    const QString empty = folder.filePath("empty.png");
+    const QString lost = folder.filePath("no/such/folder/photo.png");
+    host.image(empty).givesEmptyImage = true;
+    const struct
+    {
+        QString path;
+        QString message; ///< Its beginning.
+        QStringList calls;
+    } rows[] = {
+        {bare, "Invalid Parameter", {"acquireFull 1", "releaseFull 1"}},
+        {empty, "Invalid Bitmap", {"acquireFull 1"}},
+        {lost, "", {"acquireFull 1", "releaseFull 1"}},
+    };
+    for (const auto &row : rows) {
+        VIPluginOne2One *const process = newProcess();
+        const VISettingsHandle settings = process->createSettings({});
+        host.calls.clear();
+        QString output;
+        try {
+            process->run(row.path, settings, &output);
+            ADD_FAILURE() << qPrintable(row.path) << " did not fail";
+        } catch (const VException &failure) {
+            EXPECT_TRUE(failure.message.startsWith(row.message)) << qPrintable(failure.message);
+            EXPECT_THAT(failure.location.toStdString(),
+                        testing::MatchesRegex("File: \"\\.\\./image/VImage[A-Za-z_]*\\.cpp\" Line: [0-9]+"));
+        }
+        process->destroySettings(settings);
+        EXPECT_TRUE(output.contains("_dehazed.")) << "the name is known before any work";
+        EXPECT_FALSE(QFile::exists(output));
+        EXPECT_EQ(host.calls, row.calls) << qPrintable(row.path);
+    }
+}
+
+/// Mean of the colours of the upper, hazy third.
+double hazyMean(const QImage &image)
+{
+    double sum = 0.0;
+    for (int y = 0; y < image.height() / 3; ++y)
+        for (int x = 0; x < image.width(); ++x)
+            sum += qGray(image.pixel(x, y));
+    return sum / (image.height() / 3) / image.width();
+}
+
+TEST_F(Plugin, every_form_is_dehazed_and_keeps_its_channels_and_depth)
+{
+    const struct
+    {
+        const char *name;
+        unsigned short type;
+        int bits;
+        QImage::Format format;
+    } rows[] = {
+        {"grey8.png", VImage::Grey, 8, QImage::Format_Grayscale8}, {"grey16.png", VImage::Grey, 16, QImage::Format_Grayscale16},
+        {"rgb8.png", VImage::Rgb, 8, QImage::Format_RGB32},        {"rgb16.png", VImage::Rgb, 16, QImage::Format_RGBX64},
+        {"rgba8.png", VImage::Rgba, 8, QImage::Format_ARGB32},     {"rgba16.png", VImage::Rgba, 16, QImage::Format_RGBA64},
+    };
+    for (const auto &row : rows) {
+        TestImage &photograph = host.image(folder.filePath(row.name));
+        photograph.type = row.type;
+        photograph.bits = row.bits;
+        const QImage untouched(run(folder.filePath(row.name), 0));
+        const QImage result(run(folder.filePath(row.name), 90));
+        EXPECT_EQ(result.size(), QSize(64, 48)) << row.name;
+        EXPECT_EQ(result.format(), row.format) << row.name;
+        EXPECT_GT(hazyMean(untouched), 100.0) << row.name;
+        EXPECT_LT(hazyMean(result), hazyMean(untouched) - 10.0) << row.name;
+    }
+}
+
+TEST_F(Plugin, an_image_that_the_engine_gives_up_is_written_untouched)
+{
+    const QString path = folder.filePath("void.png");
+    host.image(path).type = VImage::Rgba;
+    host.image(path).sample = [](float, float, int channel) { return channel == 3 ? 0.5f : 0.0f; }; // no airlight
+    const QImage result(run(path, 80));
+    ASSERT_EQ(result.size(), QSize(64, 48));
+    EXPECT_EQ(result.pixel(10, 10), qRgba(0, 0, 0, 128));
+}
+
+TEST_F(Plugin, catalogues_hold_the_texts)
+{
+    const struct
+    {
+        const char *source;
+        const char *context;
+    } texts[] = {
+        {"_dehazed", "NimbraOne2One"},
+        {"Comment", "Library"},
+        {"Preview is uptodate", "UIHazePreview"},
+        {"Haze correction", "UIHazePreviewClass"},
+        {"Power", "UIHazePreviewClass"},
+        {"Split preview", "UIHazePreviewClass"},
+        {"Next", "UIImageDefListWizard"},
+        {"Prev", "UIImageDefListWizard"},
+        {"Apply to all images", "UIImageDefListWizardClass"},
+        {"WizardPage", "UIImageDefListWizardClass"},
+    };
+    struct Catalogue
+    {
+        const char *language;
+        QStringList translations; ///< Of the texts above; null for one that stays in English.
+    };
+    const Catalogue rows[] = {
+        {"fr",
+         {"_dehazed", "Commentaire", "L'aperçu est à jour", "Correction de voile blanc", "Puissance", "Aperçu avant/après",
+          "Suivant", "Précédent", "Appliquer à toutes les images", "Page de l'assitant"}},
+        {"de",
+         {"_entnebelt", "Kommentar", "Die Vorschau ist aktuell", "Dunstkorrektur", "Stärke", "Geteilte Vorschau", "Nächstes",
+          "Vorheriges", "Auf alle Bilder anwenden", "Assistentenseite"}},
+        {"es",
+         {"_sinbruma", "Comentario", "La vista previa está actualizada", "Corrección de bruma", "Potencia", "Vista antes/después",
+          "Siguiente", "Anterior", "Aplicar a todas las imágenes", "Página del asistente"}},
+        {"it",
+         {"_senza foschia", "Commento", "L'anteprima è aggiornata", "Correzione Foschia", "Potenza", "Anteprima divisa",
+          "Successivo", "Precedente", "Applica a tutte le immagini", "PaginaDelWizard"}},
+        {"pl",
+         {"_dehazed", "Komentarz", "Podgląd jest aktualny", "Korekta mgły", "Poziom", "Zamień podgląd", "Następny", "Poprzedni",
+          "Zastosuj do wszystkich zdjęć", "Kreator"}},
+        {"ja",
+         {"_除去薄霧", "コメント", "ヘイズ補正", "ヘイズ補正", "電源", "分割プレビュー", "次の", "前の", "すべての画像に適用",
+          "WizardPage"}},
+        {"zh_CN",
+         {"_离开薄雾", "意见", "预览最新", "校正模糊", "电力", "离开预览 ", "下一个 ", "上一个 ", "应用到所有图片",
+          "WizardPage"}},
+        {"zh_TW",
+         {"_去除糢糊", "意見", "預覽最新", "校正朦朧", "電力", " 離開預覽", "下一個", "上一個", "應用到所有文件", "WizardPage"}},
+        {"re",
+         {"_удалена атмосферная дымка", "Комментарий", "Предварительный просмотр обновлен", "Коррекция дымки", "Интенсивность",
+          "Разделить предварительный просмотр", "Вперед", "Назад", "Применить ко всем изображениям", ""}},
+        {"en", {"", "", "", "", "", "", "", "", "", ""}},
+    };
+    const QByteArray description = newProcess()->description().toUtf8();
+    for (const Catalogue &row : rows) {
+        QTranslator catalogue;
+        const bool loaded = catalogue.load(QStringLiteral("Nimbra_%1.qm").arg(row.language), QStringLiteral(":/Translation"));
+        EXPECT_TRUE(loaded) << row.language;
+        for (int i = 0; i < row.translations.size(); ++i)
+            EXPECT_EQ(catalogue.translate(texts[i].context, texts[i].source), row.translations[i])
+                << row.language << ' ' << texts[i].source;
+        EXPECT_EQ(catalogue.translate("NimbraOne2One", description).isEmpty(), qstrcmp(row.language, "en") == 0) << row.language;
+    }
+    EXPECT_FALSE(QFile::exists(QStringLiteral(":/Translation/Nimbra_ru.qm")));
+}
+
+TEST_F(Plugin, pictures)
+{
+    const QString pictures = QStringLiteral(":/%1/Resources/").arg(kProcessGuid);
+    const QStringList files = QDir(pictures).entryList(QDir::Files, QDir::Name);
+    ASSERT_EQ(files.size(), 13);
+    for (const QString &file : files) {
+        const QImage picture(pictures + file);
+        EXPECT_EQ(picture.format(), QImage::Format_ARGB32) << qPrintable(file);
+        EXPECT_EQ(picture.size(), file.startsWith("iconwait") ? QSize(64, 64) : QSize(256, 128)) << qPrintable(file);
+    }
+}
+
+} // namespace

@@ -1,0 +1,286 @@
+#include <QCheckBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+#include "PreviewTest.h"
+#include "QAnimatedLabel.h"
+#include "RemoveHaze.h"
+
+namespace {
+
+constexpr int kWidth = 60;
+constexpr int kHeight = 40;
+
+/// A parent that notes what the panel tells it.
+class Parent : public QWidget
+{
+    Q_OBJECT
+
+public:
+    QList<bool> told;
+
+public Q_SLOTS:
+    void completeChanged() { told += findChild<UIHazePreview *>()->property("isComplete").toBool(); }
+};
+
+class Panel : public PreviewTest
+{
+protected:
+    Panel()
+    {
+        parent.resize(500, 400);
+        panel->resize(500, 400);
+        parent.show();
+    }
+    ~Panel() override { delete panel; }
+
+    /// The panel as the page loads it, at strength 0 and before the first request.
+    void load()
+    {
+        panel->setImage(landscape(kWidth, kHeight));
+        panel->settings = &record;
+        panel->beforeImage = screenImage(*panel->previewImage);
+        panel->beforePixmap = panel->fitFrame(panel->beforeImage);
+    }
+    QImage expectedAt(int percent)
+    {
+        VImage image;
+        image.Assign(*panel->previewImage);
+        HazeState state = record;
+        state.strength = percent;
+        RemoveHaze(image, state);
+        return screenImage(image);
+    }
+
+    struct OwnedRecord : HazeState
+    {
+        OwnedRecord() : HazeState(recordWithMap(kWidth, kHeight)) {}
+        ~OwnedRecord() { delete[] transmission; }
+    } record; ///< Outlives the panel.
+    NimbraOne2One process;
+    Parent parent;
+    UIHazePreview *panel = new UIHazePreview(&process, &parent);
+    PanelWatch watch{*panel};
+    QSpinBox *strength = panel->findChild<QSpinBox *>("spinBoxPourcent");
+    QSlider *slider = panel->findChild<QSlider *>("horizontalSlider");
+    QCheckBox *split = panel->findChild<QCheckBox *>("checkBoxSplit");
+    QFrame *frame = panel->findChild<QFrame *>("frame");
+    QAnimatedLabel *wait = panel->findChild<QAnimatedLabel *>("labelState");
+};
+
+TEST_F(Panel, form)
+{
+    const struct
+    {
+        const char *name;
+        int row, column, columnSpan;
+    } rows[] = {{"horizontalSlider", 1, 4, 1},
+                {"spinBoxPourcent", 1, 5, 1},
+                {"label", 1, 3, 1},
+                {"checkBoxSplit", 1, 6, 1},
+                {"frame", 0, 3, 5}};
+    auto *const grid = panel->findChild<QGridLayout *>("gridLayout");
+    ASSERT_EQ(panel->layout(), grid);
+    for (const auto &row : rows) {
+        int place[4];
+        grid->getItemPosition(grid->indexOf(panel->findChild<QWidget *>(row.name)), &place[0], &place[1], &place[2], &place[3]);
+        EXPECT_THAT(place, testing::ElementsAre(row.row, row.column, 1, row.columnSpan)) << row.name;
+    }
+    EXPECT_EQ(grid->indexOf(wait), -1);
+    EXPECT_EQ(wait->minimumSize(), QSize(64, 64));
+    EXPECT_EQ(panel->objectName(), "UIHazePreviewClass");
+    EXPECT_EQ(panel->windowTitle(), "Haze correction");
+    EXPECT_EQ(panel->focusPolicy(), Qt::StrongFocus);
+    QStringList slots;
+    for (int i = QWidget::staticMetaObject.methodCount(); i < panel->metaObject()->methodCount(); ++i)
+        slots += panel->metaObject()->method(i).methodSignature();
+    EXPECT_EQ(slots, QStringList({"on_pushButtonComputePreview_clicked()", "on_spinBoxPourcent_valueChanged(int)",
+                                  "on_checkBoxSplit_stateChanged(int)", "computePreview()", "updatePreview()"}));
+}
+
+TEST_F(Panel, controls_follow_one_another_and_do_nothing_before_the_first_image)
+{
+    slider->setValue(30);
+    EXPECT_EQ(strength->value(), 30);
+    strength->setValue(200);
+    EXPECT_EQ(slider->value(), 100);
+    panel->computePreview();
+    QTest::keyClick(panel, Qt::Key_Alt);
+    EXPECT_FALSE(panel->thread.isRunning());
+    EXPECT_TRUE(panel->afterPixmap.isNull());
+}
+
+TEST_F(Panel, a_change_of_strength_ends_in_its_picture)
+{
+    load();
+    strength->setValue(60);
+    EXPECT_EQ(record.strength, 60);
+    EXPECT_FALSE(watch.isComplete());
+    EXPECT_TRUE(wait->isVisible());
+    ASSERT_TRUE(watch.finish());
+    EXPECT_EQ(watch.runs, 1);
+    EXPECT_EQ(panel->afterImage, expectedAt(60));
+    EXPECT_FALSE(wait->isVisible());
+    EXPECT_EQ(parent.told, QList<bool>({false, true}));
+}
+
+TEST_F(Panel, three_changes_during_one_run_make_one_more)
+{
+    load();
+    strength->setValue(20);
+    for (int value : {30, 40, 50})
+        strength->setValue(value);
+    ASSERT_TRUE(watch.finish());
+    EXPECT_EQ(watch.runs, 2);
+    EXPECT_EQ(panel->afterImage, expectedAt(50));
+    EXPECT_EQ(parent.told, QList<bool>({false, false, false, false, false, true})) << "the fifth from the restart";
+
+    strength->setValue(10);
+    watch.runs = 0;
+    ASSERT_TRUE(watch.finish());
+    EXPECT_EQ(watch.runs, 1) << "and then it is as before";
+}
+
+TEST_F(Panel, a_request_between_the_end_of_the_run_and_its_finished_is_not_lost)
+{
+    load();
+    strength->setValue(20);
+    ASSERT_TRUE(panel->thread.wait(kLimitMs)); // `finished` stands in the queue
+    strength->setValue(80);
+    ASSERT_TRUE(watch.finish());
+    EXPECT_EQ(watch.runs, 2);
+    EXPECT_EQ(panel->afterImage, expectedAt(80));
+    EXPECT_EQ(parent.told, QList<bool>({false, false, false, true}));
+}
+
+TEST_F(Panel, an_image_that_changes_before_the_run_begins)
+{
+    load();
+    omp_set_lock(&panel->thread.busy);
+    strength->setValue(20); // started, not begun
+    OwnedRecord none;
+    delete[] std::exchange(none.transmission, nullptr);
+    none.strength = 0;
+    panel->setImage(landscape(2 * kWidth, 2 * kHeight));
+    panel->settings = &none;
+    omp_unset_lock(&panel->thread.busy);
+    panel->computePreview();
+    ASSERT_TRUE(watch.finish());
+    EXPECT_EQ(panel->afterImage.size(), QSize(2 * kWidth, 2 * kHeight));
+    EXPECT_EQ(none.transmission, nullptr);
+    panel->releaseRecord();
+}
+
+TEST_F(Panel, alt_shows_the_map)
+{
+    load();
+    strength->setValue(60);
+    QTest::keyPress(panel, Qt::Key_Alt);
+    EXPECT_TRUE(panel->afterImage.isNull()) << "not during a run";
+    QTest::keyRelease(panel, Qt::Key_Alt);
+    EXPECT_TRUE(watch.isComplete());
+    EXPECT_TRUE(wait->isVisible()) << "the run goes on";
+    EXPECT_TRUE(panel->afterPixmap.isNull());
+    ASSERT_TRUE(watch.until([&] { return watch.runs == 1; }));
+    EXPECT_EQ(panel->afterImage, expectedAt(60));
+
+    QTest::keyPress(panel, Qt::Key_Alt);
+    const QRgb *const map = reinterpret_cast<const QRgb *>(panel->afterImage.constScanLine(0));
+    for (int x : {0, kWidth - 1}) {
+        const int grey = qRound(record.transmission[x] * 255.0f);
+        EXPECT_NEAR(qRed(map[x]), grey, 1) << x;
+        EXPECT_EQ(qRed(map[x]), qBlue(map[x]));
+    }
+    const QImage held = panel->afterImage;
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Alt, Qt::AltModifier, QString(), /*autorep=*/true);
+    QApplication::sendEvent(panel, &repeat);
+    EXPECT_EQ(panel->afterImage, held);
+    QTest::keyRelease(panel, Qt::Key_Alt);
+    EXPECT_EQ(panel->afterImage, expectedAt(60));
+}
+
+TEST_F(Panel, alt_without_a_map_shows_the_work)
+{
+    load();
+    delete[] std::exchange(record.transmission, nullptr);
+    panel->computePreview(); // at strength 0
+    ASSERT_TRUE(watch.finish());
+    QTest::keyPress(panel, Qt::Key_Alt);
+    EXPECT_EQ(panel->afterImage, panel->beforeImage);
+}
+
+TEST_F(Panel, no_key_goes_further)
+{
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(panel, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+}
+
+TEST_F(Panel, the_picture_is_split_in_its_middle)
+{
+    load();
+    panel->beforePixmap.fill(Qt::red);
+    panel->afterPixmap = panel->beforePixmap;
+    panel->afterPixmap.fill(Qt::blue);
+    const QSize size = panel->beforePixmap.size();
+    EXPECT_EQ(size, QSize(kWidth, kHeight).scaled(frame->size(), Qt::KeepAspectRatio));
+    wait->hide();
+    const auto colours = [&] {
+        const QImage shot = panel->grab().toImage();
+        const int left = frame->x() + (frame->width() - size.width()) / 2 + 3; // inside the frame's own line
+        const int seam = frame->x() + (frame->width() - size.width()) / 2 + size.width() / 2;
+        const int right = frame->x() + (frame->width() - size.width()) / 2 + size.width() - 4;
+        const int y = frame->geometry().center().y();
+        return QList<QColor>{shot.pixelColor(left, y), shot.pixelColor(seam - 1, y), shot.pixelColor(seam, y),
+                             shot.pixelColor(right, y)};
+    };
+    EXPECT_EQ(colours(), QList<QColor>({Qt::red, Qt::red, Qt::blue, Qt::blue}));
+    split->setChecked(false);
+    EXPECT_EQ(colours(), QList<QColor>({Qt::blue, Qt::blue, Qt::blue, Qt::blue}));
+    panel->afterPixmap = QPixmap();
+    EXPECT_EQ(colours(), QList<QColor>({Qt::red, Qt::red, Qt::red, Qt::red}));
+}
+
+TEST_F(Panel, resizing_scales_the_pictures_and_centres_the_wait_sign)
+{
+    load();
+    strength->setValue(10);
+    ASSERT_TRUE(watch.finish());
+    panel->resize(700, 300);
+    const QSize fitted = QSize(kWidth, kHeight).scaled(frame->size(), Qt::KeepAspectRatio);
+    EXPECT_EQ(panel->beforePixmap.size(), fitted);
+    EXPECT_EQ(panel->afterPixmap.size(), fitted);
+    EXPECT_EQ(wait->pos(), frame->pos() + QPoint((frame->width() - wait->width()) / 2, (frame->height() - wait->height()) / 2));
+}
+
+TEST_F(Panel, a_parent_without_the_slot_costs_nothing)
+{
+    QWidget plain;
+    for (QWidget *other : {&plain, static_cast<QWidget *>(nullptr)}) {
+        auto *const lone = new UIHazePreview(&process, other);
+        lone->setImage(landscape(kWidth, kHeight));
+        lone->settings = &record;
+        lone->computePreview();
+        EXPECT_TRUE(PanelWatch(*lone).finish());
+        delete lone;
+    }
+}
+
+TEST_F(Panel, closing_during_a_run)
+{
+    load();
+    strength->setValue(60);
+    strength->setValue(70);
+    delete std::exchange(panel, nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(record.strength, 70);
+}
+
+} // namespace
+
+#include "UIHazePreview_test.moc"
