@@ -10,8 +10,8 @@
 
 namespace {
 
-/// Width of the copy of about 100,000 pixels. The product is formed in 32 bits and wraps around; a negative one has no square root,
-/// which stands for the smallest integer.
+/// Width of the copy of about 100,000 pixels. The product is formed in 32 bits and wraps around; a negative one has no square
+/// root, which stands for the smallest integer.
 int reducedWidth(int width, int height)
 {
     const auto product = static_cast<std::int32_t>(static_cast<std::uint32_t>(width) * 100000u);
