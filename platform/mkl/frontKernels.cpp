@@ -147,20 +147,20 @@ NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips,
 }
 
 // One version a set of registers; the widths leave room for a column and a factor beside the sums.
-#define NIMBRA_VERSION(name, width, attribute)                                                                                   \
-    attribute bool factor##name(float *panel, int pivotStrips, int strips, const float *floors)                                  \
+#define NIMBRA_VERSION(name, width, ...)                                                                                         \
+    __VA_ARGS__ bool factor##name(float *panel, int pivotStrips, int strips, const float *floors)                                \
     {                                                                                                                            \
         return factorBody<width>(panel, pivotStrips, strips, floors);                                                            \
     }                                                                                                                            \
-    attribute void update##name(const float *panel, int pivots, int pivotStrips, int strips, float *contribution)                \
+    __VA_ARGS__ void update##name(const float *panel, int pivots, int pivotStrips, int strips, float *contribution)              \
     {                                                                                                                            \
         updateBody<width>(panel, pivots, pivotStrips, strips, contribution);                                                     \
     }                                                                                                                            \
-    attribute void forward##name(const float *panel, int pivotStrips, int strips, float *local)                                  \
+    __VA_ARGS__ void forward##name(const float *panel, int pivotStrips, int strips, float *local)                                \
     {                                                                                                                            \
         forwardBody(panel, pivotStrips, strips, local);                                                                          \
     }                                                                                                                            \
-    attribute void backward##name(const float *panel, int pivotStrips, int strips, float *local)                                 \
+    __VA_ARGS__ void backward##name(const float *panel, int pivotStrips, int strips, float *local)                               \
     {                                                                                                                            \
         backwardBody(panel, pivotStrips, strips, local);                                                                         \
     }                                                                                                                            \

@@ -21,7 +21,9 @@ enum PardisoError : std::int32_t {
     PardisoNotFinite = -6, ///< The matrix, the right-hand side or the solution holds a not-a-number or an infinity.
 };
 
-/// Sparse direct solution of A x = b, in phases; every argument by address.
+/// Sparse direct solution of A x = b, in phases; every argument by address. Positive definite neighbours on a grid, as an image
+/// gives them, are factorised on a team of omp_get_max_threads, with results that don't depend on its size; all else runs on the
+/// calling thread, one system of the process at a time.
 ///
 /// `pt` holds 64 pointer-sized words, all zero before phase 11; the layer's own until phase -1. `mtype` is -2 (real symmetric
 /// indefinite, upper triangle given) or 11 (real unsymmetric). `phase` is 11 (analysis), 22 (numerical factorisation), 33
