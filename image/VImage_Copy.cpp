@@ -127,8 +127,9 @@ struct IppiRelease
     void operator()(unsigned char *raster) const { ippiFree(raster); }
 };
 
-/// Both steps run over one tile while it is in the first cache: at most 16 KB of working buffer.
-constexpr int kTilePixels = 1024;
+/// Where a buffer stands between the two steps, both run over one tile at a time. So small a one (4 KB of buffer at most) keeps
+/// the reading of memory going between the steps.
+constexpr int kTilePixels = 256;
 /// Below this many pixels a team costs more than it gains.
 constexpr std::int64_t kPixelsForTeam = 1 << 17;
 
@@ -175,14 +176,15 @@ void VImage::CopyRect(int x, int y, int width, int height, VImage &target, int t
     const Raster to = rasterOf(target, targetX, targetY);
     const Plan &plan = kPlans[static_cast<std::size_t>(formIndex(from.form))][static_cast<std::size_t>(formIndex(to.form))];
 
-    const int tileWidth = std::min(width, kTilePixels);
-    const int tileHeight = std::min(height, kTilePixels / tileWidth);
+    const bool buffered = plan.scales && plan.changesChannels;
+    const int tileWidth = buffered ? std::min(width, kTilePixels) : width;
+    const int tileHeight = std::clamp(kTilePixels / tileWidth, 1, height);
     const int bands = (height - 1) / tileHeight + 1;
     const int team = std::int64_t{width} * height < kPixelsForTeam ? 1 : std::clamp(threadCount, 1, bands);
 
     Raster buffer{nullptr, 0, plan.between};
     std::unique_ptr<unsigned char, IppiRelease> buffers;
-    if (plan.scales && plan.changesChannels) {
+    if (buffered) {
         buffers.reset(static_cast<unsigned char *>(ippiMalloc(tileWidth, tileHeight * team, plan.between, &buffer.step)));
         if (!buffers)
             throw VException("Not enough memory", V_LOCATION);
