@@ -31,7 +31,8 @@ void startImageLibrary(VImageContext *context)
     if (started)
         return;
     registerImageResources();
-    QDir::addSearchPath(QStringLiteral("Data"), QStringLiteral(":/Data"));
+    // Qt keeps these texts after this file is unloaded: they must not be literals in its memory.
+    QDir::addSearchPath(QString::fromLatin1("Data"), QString::fromLatin1(":/Data"));
     ippInit();
     if (context) {
         startTools(context->tools);

@@ -21,6 +21,7 @@ void startInterfaceLibrary(VUIContext *context)
     }
     registerInterfaceResources();
     interfaceContext.flag = makeInterfaceFlag();
-    QDir::setSearchPaths(QStringLiteral("UI"), QStringList(QStringLiteral(":/UI")));
+    // Qt keeps these texts after this file is unloaded: they must not be literals in its memory.
+    QDir::setSearchPaths(QString::fromLatin1("UI"), QStringList(QString::fromLatin1(":/UI")));
     started = true;
 }

@@ -1,0 +1,160 @@
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QPluginLoader>
+#include <QPointer>
+
+#include <dlfcn.h>
+#include <gmock/gmock.h>
+
+#include "VCpuTopology.h"
+#include "VIApplication.h"
+#include "VImageCacheRegistry.h"
+#include "VImageSettings.h"
+#include "VLog.h"
+#include "VPoolMem.h"
+#include "VTempManager.h"
+#include "startLibraries.h"
+#include "threadCount.h"
+
+// What the plug-in file leaves behind in the program that loads it: this program stands for the host, and has libraries of its
+// own.
+
+namespace {
+
+using Sets = std::vector<std::string>;
+
+Sets registered; // by the plug-in file
+
+/// Which of our resource sets this is, by the first name that tells in its table of names: for each name two bytes of length,
+/// four of hash, and the letters in UTF-16, high bytes first. Each set has such a name.
+std::string setOf(const unsigned char *names)
+{
+    for (;;) {
+        const int length = names[0] << 8 | names[1];
+        QString name;
+        for (int i = 0; i < length; ++i)
+            name += QChar(names[7 + 2 * i], names[6 + 2 * i]);
+        if (name == "cameras.txt")
+            return "image";
+        for (const char *set : {"Nimbra", "VTools", "VUI"})
+            if (name.startsWith(QLatin1String(set) + QLatin1Char('_')))
+                return set;
+        names += 6 + 2 * length;
+    }
+}
+
+} // namespace
+
+// This definition stands before Qt's: it notes the call and passes it on.
+Q_DECL_EXPORT bool qRegisterResourceData(int version, const unsigned char *tree, const unsigned char *names,
+                                         const unsigned char *data)
+{
+    static const auto next =
+        reinterpret_cast<decltype(&qRegisterResourceData)>(dlsym(RTLD_NEXT, "_Z21qRegisterResourceDataiPKhS0_S0_"));
+    Dl_info caller{};
+    if (dladdr(__builtin_return_address(0), &caller) && QString(caller.dli_fname).endsWith(QLatin1String("Nimbra.so")))
+        registered.push_back(setOf(names) + " " + std::to_string(version));
+    return next(version, tree, names, data);
+}
+
+namespace {
+
+class Host : public QCoreApplication, public VIApplication
+{
+public:
+    using QCoreApplication::QCoreApplication;
+
+    void *qt_metacast(const char *name) override
+    {
+        return qstrcmp(name, "VIApplication") == 0 ? static_cast<VIApplication *>(this) : QCoreApplication::qt_metacast(name);
+    }
+    QVariant value(const QString &, const QString &, const QVariant &fallback) override { return fallback; }
+    void setValue(const QString &, const QString &, const QVariant &) override {}
+    QLocale locale() override { return QLocale(QLocale::German, QLocale::Germany); }
+    void loadTranslator(const QString &) override {}
+    ImageDef *imageDef(const QString &) override { return nullptr; }
+    VImageContext *imageLibraryContext() override { return lends ? &imageContext : nullptr; }
+    VUIContext *interfaceLibraryContext() override { return lends ? &interfaceContext : nullptr; }
+
+    bool lends = false;
+};
+
+std::size_t entriesOf(const char *folder)
+{
+    const std::filesystem::directory_iterator entries(folder);
+    return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
+}
+
+class Guest : public testing::TestWithParam<bool>
+{
+protected:
+    static void loadOnce()
+    {
+        registered.clear();
+        QPluginLoader loader(QStringLiteral(PLUGIN_FILE));
+        loader.setLoadHints({}); // the default keeps the file loaded
+        ASSERT_TRUE(loader.instance()) << qPrintable(loader.errorString());
+        EXPECT_TRUE(QFile::exists(":/Translation/Nimbra_de.qm"));
+        ASSERT_TRUE(loader.unload());
+        EXPECT_FALSE(QFile::exists(":/Translation/Nimbra_de.qm"));
+    }
+};
+
+TEST_P(Guest, LeavesNothingBehind)
+{
+    int argc = 1;
+    char name[] = "test";
+    char *argv[] = {name, nullptr};
+    Host host(argc, argv);
+    host.lends = GetParam();
+    QDir::setSearchPaths("Data", {"/host"});
+    QDir::setSearchPaths("UI", {"/host"});
+    startImageLibrary(nullptr);
+    interfaceContext.flag = new std::uint8_t(7);
+    const QPointer<VLog> log = logInstance;
+    threadCount = 3; // the host's own wish
+
+    loadOnce(); // what the system itself keeps from the first time on
+    const std::size_t threads = entriesOf("/proc/self/task");
+    const std::size_t files = entriesOf("/proc/self/fd");
+    for (int round = 0; round < 10; ++round)
+        loadOnce();
+    EXPECT_EQ(entriesOf("/proc/self/task"), threads);
+    EXPECT_EQ(entriesOf("/proc/self/fd"), files);
+
+    EXPECT_EQ(QDir::searchPaths("Data").value(0), "/host");
+    EXPECT_EQ(QDir::searchPaths("UI"), QStringList(GetParam() ? "/host" : ":/UI"));
+    EXPECT_FALSE(log.isNull());
+    EXPECT_EQ(logInstance, log);
+    EXPECT_EQ(threadCount, 3);
+    EXPECT_EQ(memoryPool->blockCount, 0);
+    EXPECT_EQ(tempManager->folderName, "OMBRE");
+    EXPECT_EQ(imageSettings->rawGamma, 2.2f);
+    EXPECT_EQ(imageContext.cacheRegistry->intB, 256);
+    EXPECT_TRUE(cpuTopology->enumerated);
+    EXPECT_EQ(*interfaceContext.flag, 7);
+    delete std::exchange(interfaceContext.flag, nullptr);
+    stopImageLibrary();
+    EXPECT_TRUE(log.isNull());
+}
+
+INSTANTIATE_TEST_SUITE_P(Services, Guest, testing::Bool(),
+                         [](const testing::TestParamInfo<bool> &info) { return info.param ? "lent" : "alone"; });
+
+TEST(GuestLoad, RegistersItsResourceSetsInOrder)
+{
+    registered.clear();
+    void *const file = dlopen(PLUGIN_FILE, RTLD_NOW);
+    ASSERT_TRUE(file) << dlerror();
+    ASSERT_GE(registered.size(), 4u);
+    registered.resize(4); // whatever follows says the same again
+    EXPECT_THAT(registered, testing::ElementsAre("Nimbra 1", "image 1", "VTools 1", "VUI 1"));
+    dlclose(file);
+}
+
+} // namespace
