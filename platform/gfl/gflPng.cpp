@@ -217,7 +217,8 @@ void writeChunk(OutputFile &file, const char *type, const std::uint8_t *data, st
     putBig32(head, static_cast<std::uint32_t>(count));
     head.insert(head.end(), type, type + 4);
     std::uint32_t check = libdeflate_crc32(0, head.data() + 4, 4);
-    check = libdeflate_crc32(check, data, count);
+    if (count > 0) // without a buffer the library starts anew
+        check = libdeflate_crc32(check, data, count);
     Bytes tail;
     putBig32(tail, check);
     file.write(head);
