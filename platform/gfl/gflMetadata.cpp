@@ -336,6 +336,21 @@ Bytes exifFromFacts(const ExposureFacts &facts)
     }
 }
 
+Bytes exifFromTexts(const std::vector<std::pair<std::uint16_t, std::string>> &texts, int orientation)
+{
+    startExiv2();
+    try {
+        Exiv2::ExifData data;
+        for (const auto &[tag, text] : texts)
+            data[Exiv2::ExifKey(tag, "Image").key()] = text;
+        if (orientation > 0)
+            data["Exif.Image.Orientation"] = static_cast<std::uint16_t>(orientation);
+        return encoded(data, Exiv2::littleEndian);
+    } catch (const Exiv2::AnyError &) {
+        return {};
+    }
+}
+
 BitmapPointer readRaw(const ReadRequest &request)
 {
     const FileMetadata found = metadataFromFile(request.file.name(), /*raw=*/true);

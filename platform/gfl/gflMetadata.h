@@ -74,6 +74,9 @@ struct ExposureFacts
     std::string make;
     std::string model;
 };
+/// An EXIF block of the plain texts of a TIFF's first directory (tag and value) and its orientation (0: none).
+Bytes exifFromTexts(const std::vector<std::pair<std::uint16_t, std::string>> &texts, int orientation);
+
 ExposureFacts exposureFacts(const Bytes &exif);
 Bytes exifFromFacts(const ExposureFacts &facts);
 

@@ -48,6 +48,10 @@ T field(TIFF *tiff, std::uint32_t tag, T fallback)
     return TIFFGetFieldDefaulted(tiff, tag, &value) ? value : fallback;
 }
 
+// The texts that go into and out of the large form, which holds no EXIF block.
+constexpr std::uint16_t kTexts[] = {TIFFTAG_IMAGEDESCRIPTION, TIFFTAG_MAKE,   TIFFTAG_MODEL,    TIFFTAG_SOFTWARE,
+                                    TIFFTAG_DATETIME,         TIFFTAG_ARTIST, TIFFTAG_COPYRIGHT};
+
 // ---- reading
 
 struct ReadHandle
@@ -488,6 +492,17 @@ void readMetadata(const InputFile &file, TIFF *tiff, Metadata &metadata)
         metadata.icc.assign(bytes, bytes + count);
     }
     metadata.exif.block = metadataFromFile(file.name(), /*raw=*/false).exif;
+    if (metadata.exif.block.empty()) {
+        std::vector<std::pair<std::uint16_t, std::string>> texts;
+        const char *text = nullptr;
+        for (const std::uint16_t tag : kTexts)
+            if (TIFFGetField(tiff, tag, &text) && text)
+                texts.emplace_back(tag, text);
+        std::uint16_t orientation = 0;
+        TIFFGetField(tiff, TIFFTAG_ORIENTATION, &orientation);
+        if (orientation || !texts.empty())
+            metadata.exif.block = exifFromTexts(texts, orientation);
+    }
 
     bool bigEndian = false;
     const TiffReader read = [&](std::uint64_t offset, void *target, std::size_t bytes) {
@@ -566,6 +581,18 @@ void setFields(TIFF *tiff, const WriteRequest &request, std::uint16_t compressio
         TIFFSetField(tiff, TIFFTAG_ICCPROFILE, static_cast<std::uint32_t>(request.icc.size()), request.icc.data());
     if (!request.iptc.empty()) // counted in bytes by this library
         TIFFSetField(tiff, TIFFTAG_RICHTIFFIPTC, static_cast<std::uint32_t>(request.iptc.size()), request.iptc.data());
+}
+
+void setTexts(TIFF *tiff, const Bytes &exif)
+{
+    bool bigEndian = false;
+    for (const IfdEntry &entry : firstDirectory(exif, bigEndian)) {
+        const std::uint8_t *value = exif.data() + entry.valueOffset;
+        if (entry.tag == TIFFTAG_ORIENTATION && entry.type == TIFF_SHORT)
+            TIFFSetField(tiff, TIFFTAG_ORIENTATION, bigEndian ? value[1] : value[0]); // one of 1..8, else refused
+        else if (entry.type == TIFF_ASCII && std::count(std::begin(kTexts), std::end(kTexts), entry.tag))
+            TIFFSetField(tiff, entry.tag, std::string(value, value + entry.valueBytes).c_str());
+    }
 }
 
 void writeStrips(TIFF *tiff, const GflBitmap &bitmap, bool swap, bool packed)
@@ -703,6 +730,8 @@ void writeTiff(const WriteRequest &request)
                 request.file.write("", 1);
         }
         setFields(tiff.get(), request, compression);
+        if (large)
+            setTexts(tiff.get(), request.exif);
         writeStrips(tiff.get(), bitmap, bigEndian && bitmap.bitsPerComponent > 8, compression != COMPRESSION_NONE);
         checked(TIFFWriteDirectory(tiff.get()) == 1 && TIFFFlush(tiff.get()) == 1);
     }

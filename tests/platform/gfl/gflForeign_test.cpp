@@ -225,6 +225,30 @@ TEST_F(GflTest, TiffInOtherColourSpacesGoesThroughTheLibrary)
     }
 }
 
+TEST_F(GflTest, LargeTiffKeepsItsOrientation)
+{
+    TIFF *tiff = TIFFOpen(path("a.tif").c_str(), "w8");
+    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, 1);
+    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, 1);
+    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 8);
+    TIFFSetField(tiff, TIFFTAG_ORIENTATION, ORIENTATION_RIGHTTOP);
+    TIFFSetField(tiff, TIFFTAG_MODEL, "HZ-1");
+    std::uint8_t pixel = 77;
+    TIFFWriteScanline(tiff, &pixel, 0, 0);
+    TIFFClose(tiff);
+    Picture read;
+    ASSERT_EQ(load(path("a.tif"), read), GFL_NO_ERROR);
+    EXPECT_EQ(*sampleAt(*read, 0, 0, 0), 77);
+    ASSERT_EQ(save(path("b.tif"), read.get(), "tiff"), GFL_NO_ERROR);
+    tiff = TIFFOpen(path("b.tif").c_str(), "r");
+    std::uint16_t orientation = 0;
+    const char *model = nullptr;
+    EXPECT_TRUE(TIFFGetField(tiff, TIFFTAG_ORIENTATION, &orientation) && TIFFGetField(tiff, TIFFTAG_MODEL, &model));
+    EXPECT_EQ(orientation, ORIENTATION_RIGHTTOP);
+    EXPECT_STREQ(model, "HZ-1");
+    TIFFClose(tiff);
+}
+
 struct PngCase
 {
     const char *name;
