@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kChannels = 4; ///< R, G, B, A.
 constexpr int kRadius = 1;
+constexpr int kBand = 64; ///< Rows that are done tile after tile, so that few pages of memory are in use at a time.
 using Neighbours = HazeJointRows::Neighbours;
 using Scratch = HazeJointRows::Scratch;
 
@@ -115,25 +116,30 @@ void HazeJointRows::spread(int coarseRow, int firstColumn, int columns, Neighbou
 void HazeJointRows::write(float *map, int firstRow, int lastRow, Scratch &scratch) const
 {
     const int width = fine.Width();
-    for (int firstColumn = 0; firstColumn < width; firstColumn += kTile) {
-        const int columns = std::min(kTile, width - firstColumn);
-        int held[kSide] = {-1, -1, -1}; // coarse rows that the scratch memory holds for this tile
-        for (int y = firstRow; y < lastRow; ++y) {
-            const int centre = centreOf(y, rowScale);
-            const int first = std::max(centre - kRadius, 0);
-            const int last = std::min(centre + kRadius, coarse.Height() - 1);
-            const Neighbours *rows[kSide];
-            for (int row = first; row <= last; ++row) {
-                const int slot = row % kSide;
-                if (held[slot] != row) {
-                    spread(row, firstColumn, columns, scratch.rows[slot]);
-                    held[slot] = row;
-                }
-                rows[row - first] = scratch.rows[slot];
+    for (int band = firstRow; band < lastRow; band += kBand) {
+        for (int firstColumn = 0; firstColumn < width; firstColumn += kTile)
+            writeTile(map, band, std::min(band + kBand, lastRow), firstColumn, std::min(kTile, width - firstColumn), scratch);
+    }
+}
+
+void HazeJointRows::writeTile(float *map, int firstRow, int lastRow, int firstColumn, int columns, Scratch &scratch) const
+{
+    int held[kSide] = {-1, -1, -1}; // coarse rows that the scratch memory holds for this tile
+    for (int y = firstRow; y < lastRow; ++y) {
+        const int centre = centreOf(y, rowScale);
+        const int first = std::max(centre - kRadius, 0);
+        const int last = std::min(centre + kRadius, coarse.Height() - 1);
+        const Neighbours *rows[kSide];
+        for (int row = first; row <= last; ++row) {
+            const int slot = row % kSide;
+            if (held[slot] != row) {
+                spread(row, firstColumn, columns, scratch.rows[slot]);
+                held[slot] = row;
             }
-            writeTileRow(rowOf(fine, y) + static_cast<std::ptrdiff_t>(firstColumn) * kChannels,
-                         map + static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + firstColumn, columns, rows,
-                         std::max(0, last - first + 1), first - centre, scratch);
+            rows[row - first] = scratch.rows[slot];
         }
+        writeTileRow(rowOf(fine, y) + static_cast<std::ptrdiff_t>(firstColumn) * kChannels,
+                     map + static_cast<std::size_t>(y) * static_cast<std::size_t>(fine.Width()) + firstColumn, columns, rows,
+                     std::max(0, last - first + 1), first - centre, scratch);
     }
 }

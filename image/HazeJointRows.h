@@ -44,6 +44,7 @@ public:
     void write(float *map, int firstRow, int lastRow, Scratch &scratch) const;
 
 private:
+    void writeTile(float *map, int firstRow, int lastRow, int firstColumn, int columns, Scratch &scratch) const;
     void spread(int coarseRow, int firstColumn, int columns, Neighbours neighbours[kSide]) const;
 
     const VImage &fine;
