@@ -20,8 +20,8 @@ constexpr std::int64_t kLeafVertices = 64;
 constexpr std::int64_t kMostLeafVertices = 512;
 // A grid of any size a float can solve takes some hundred; more shows a pattern of another kind too.
 constexpr std::size_t kMostFloatsPerVertex = 2000;
-// Subtrees below this size are not worth a task.
-constexpr std::int32_t kTaskVertices = 1500;
+// Subtrees up to this size are visited by one thread.
+constexpr std::int32_t kJobVertices = 1500;
 // What elimination may leave of a diagonal cell. Below, a float has kept three bits of it, and a solver with pivoting does
 // better.
 constexpr float kPivotFloor = 1.0F / (1 << 20);
@@ -203,13 +203,26 @@ void MultifrontalFactors::climb(std::int32_t number, const Visit &visit)
 {
     const Node &node = nodes[std::size_t(number)];
     if (node.children[0] >= 0) {
-        const bool large = node.first - node.subtreeFirst > kTaskVertices;
-#pragma omp task default(shared) if (large)
         climb(node.children[0], visit);
         climb(node.children[1], visit);
-#pragma omp taskwait
     }
     visit(number);
+}
+
+// Loops and no tasks: LLVM's OpenMP run-time (14) corrupts its memory when a thread that has made tasks ends and another one
+// makes some, and the preview starts a thread a run.
+void MultifrontalFactors::planWaves(std::int32_t number, std::int32_t parent, std::size_t depth)
+{
+    const Node &node = nodes[std::size_t(number)];
+    if (node.first - node.subtreeFirst <= kJobVertices) {
+        subtrees.push_back({number, parent});
+        return;
+    }
+    if (waves.size() <= depth)
+        waves.resize(depth + 1);
+    waves[depth].push_back({number, parent});
+    for (const std::int32_t child : node.children)
+        planWaves(child, number, depth + 1);
 }
 
 // Visits every node after its children, unrelated ones at the same time. False if a visit returned false; the rest is left out
@@ -219,7 +232,7 @@ bool MultifrontalFactors::childrenFirst(const Visit &visit)
 {
     enum State { Good, GaveUp, NoMemory };
     std::atomic<int> state{Good};
-    // No exception may leave a task.
+    // No exception may leave a parallel loop.
     const auto guarded = [&](std::int32_t number) {
         if (state.load(std::memory_order_relaxed) != Good)
             return;
@@ -230,9 +243,15 @@ bool MultifrontalFactors::childrenFirst(const Visit &visit)
             state = NoMemory;
         }
     };
-#pragma omp parallel default(shared)
-#pragma omp single
-    climb(std::int32_t(nodes.size()) - 1, guarded);
+#pragma omp parallel for schedule(dynamic)
+    for (std::size_t i = 0; i < subtrees.size(); ++i)
+        climb(subtrees[i].node, guarded);
+    for (auto wave = waves.rbegin(); wave != waves.rend(); ++wave) {
+        const std::vector<Job> &jobs = *wave;
+#pragma omp parallel for schedule(dynamic)
+        for (std::size_t i = 0; i < jobs.size(); ++i)
+            guarded(jobs[i].node);
+    }
     if (state == NoMemory)
         throw std::bad_alloc();
     return state == Good;
@@ -251,6 +270,7 @@ bool MultifrontalFactors::analyse(const SparseRows &matrix)
     for (std::int32_t position = 0; position < order; ++position)
         positionOf[std::size_t(vertexAt[std::size_t(position)])] = position;
     fileCells(matrix);
+    planWaves(std::int32_t(nodes.size()) - 1, -1, 0);
     childrenFirst([this](std::int32_t number) {
         findBorder(number);
         return true;
@@ -376,12 +396,17 @@ void MultifrontalFactors::solve(float *rightHandSide)
         frontKernels().forward(panels.get() + node.panelStart, node.pivotStrips(), node.strips(), local);
         return true;
     });
-#pragma omp parallel default(shared)
-#pragma omp single
-    descend(std::int32_t(nodes.size()) - 1, -1, rightHandSide);
+    for (const std::vector<Job> &jobs : waves) {
+#pragma omp parallel for schedule(dynamic)
+        for (std::size_t i = 0; i < jobs.size(); ++i)
+            substitute(jobs[i].node, jobs[i].parent, rightHandSide);
+    }
+#pragma omp parallel for schedule(dynamic)
+    for (std::size_t i = 0; i < subtrees.size(); ++i)
+        descend(subtrees[i].node, subtrees[i].parent, rightHandSide);
 }
 
-void MultifrontalFactors::descend(std::int32_t number, std::int32_t parent, float *solution)
+void MultifrontalFactors::substitute(std::int32_t number, std::int32_t parent, float *solution)
 {
     const Node &node = nodes[std::size_t(number)];
     float *const local = locals.get() + node.localStart;
@@ -394,11 +419,12 @@ void MultifrontalFactors::descend(std::int32_t number, std::int32_t parent, floa
     frontKernels().backward(panels.get() + node.panelStart, node.pivotStrips(), node.strips(), local);
     for (int pivot = 0; pivot < node.pivots; ++pivot)
         solution[vertexAt[std::size_t(node.first + pivot)]] = local[pivot];
-    if (node.children[0] < 0)
-        return;
-    const bool large = node.first - node.subtreeFirst > kTaskVertices;
-#pragma omp task default(shared) if (large)
-    descend(node.children[0], number, solution);
-    descend(node.children[1], number, solution);
-#pragma omp taskwait
+}
+
+void MultifrontalFactors::descend(std::int32_t number, std::int32_t parent, float *solution)
+{
+    substitute(number, parent, solution);
+    for (const std::int32_t child : nodes[std::size_t(number)].children)
+        if (child >= 0)
+            descend(child, number, solution);
 }

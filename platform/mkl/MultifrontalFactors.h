@@ -58,6 +58,11 @@ private:
     {
         std::int32_t left, top, right, bottom; // right and bottom are outside
     };
+    struct Job
+    {
+        std::int32_t node;
+        std::int32_t parent; ///< -1 for the root.
+    };
     /// A cell of the matrix, filed under the vertex that is eliminated first.
     struct Cell
     {
@@ -76,12 +81,16 @@ private:
     bool childrenFirst(const Visit &visit);
     template<typename Visit>
     void climb(std::int32_t node, const Visit &visit);
+    void planWaves(std::int32_t node, std::int32_t parent, std::size_t depth);
+    void substitute(std::int32_t node, std::int32_t parent, float *solution);
     void descend(std::int32_t node, std::int32_t parent, float *solution);
 
     std::int32_t order = 0;
     std::int32_t gridWidth = 1;
-    std::int32_t reach[2] = {0, 0}; ///< How far apart in x and y two vertices may be that share a cell.
-    std::vector<Node> nodes;        ///< Children before parents; the last is the root.
+    std::int32_t reach[2] = {0, 0};      ///< How far apart in x and y two vertices may be that share a cell.
+    std::vector<Node> nodes;             ///< Children before parents; the last is the root.
+    std::vector<Job> subtrees;           ///< Small subtrees, each visited by one thread.
+    std::vector<std::vector<Job>> waves; ///< The nodes above them by depth, the root first; those of one wave are unrelated.
     std::vector<std::int32_t> positionOf;
     std::vector<std::int32_t> vertexAt;
     std::vector<std::int32_t> cellStarts; ///< By position.
