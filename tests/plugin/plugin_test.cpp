@@ -82,7 +82,7 @@ protected:
     {
         QImage image(8, 8, QImage::Format_RGB32);
         image.fill(Qt::gray);
-        image.save(path, "PNG");
+        image.save(path, path.endsWith(".JPG") ? "JPG" : "PNG");
     }
     /// Runs one image and returns the path of the result.
     QString run(const QString &path, int strength)
@@ -91,7 +91,11 @@ protected:
         VIPluginOne2One *const process = newProcess();
         const VISettingsHandle settings = process->createSettings(element(QString::number(strength)));
         QString output;
-        process->run(path, settings, &output);
+        try {
+            process->run(path, settings, &output);
+        } catch (const VException &failure) {
+            ADD_FAILURE() << qPrintable(failure.message) << ' ' << qPrintable(failure.location);
+        }
         process->destroySettings(settings);
         return output;
     }
