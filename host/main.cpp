@@ -47,30 +47,37 @@ int main(int argc, char **argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromUtf8(argv[i]);
+    // Read before the application object is there, which depends on it; its messages are not in the user's language yet.
     const CommandLine line = CommandLine::parse(arguments);
-    if (!line.error.isEmpty()) {
-        ProgressView::complain(line.error + ' ' + CommandLine::tr("See veilaway --help."));
-        return ExitUsage;
-    }
-    if (line.command == CommandLine::Command::Help) {
-        std::fputs(CommandLine::help().toUtf8().constData(), stdout);
-        return ExitAllDone;
-    }
+    const QLocale locale = wantedLocale(line.language);
 
-    const auto name = [] {
+    const auto settle = [](HostApplication &application) {
         if (!std::setlocale(LC_CTYPE, "C.UTF-8")) // the application object has set the environment's
             std::setlocale(LC_CTYPE, "en_US.UTF-8");
         QCoreApplication::setApplicationName(QStringLiteral("veilaway"));
         QCoreApplication::setApplicationVersion(QStringLiteral(NIMBRA_VERSION));
+        application.loadTranslator(QStringLiteral("veilaway_%1.qm").arg(application.locale().name()));
     };
-    if (line.command == CommandLine::Command::Wizard) {
+    if (line.command == CommandLine::Command::Wizard && line.error.isEmpty()) {
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-        HostedApplication<QApplication> application(argc, argv, wantedLocale(line.language), line.shareServices);
-        name();
+        HostedApplication<QApplication> application(argc, argv, locale, line.shareServices);
+        settle(application);
         return WizardCommand(line, application).run();
     }
-    HostedApplication<QCoreApplication> application(argc, argv, wantedLocale(line.language), line.shareServices);
-    name();
-    return line.command == CommandLine::Command::Version ? showVersion(line) : RunCommand(line, application).run();
+    HostedApplication<QCoreApplication> application(argc, argv, locale, line.shareServices);
+    settle(application);
+    if (!line.error.isEmpty()) {
+        ProgressView::complain(CommandLine::parse(arguments).error + ' ' + CommandLine::tr("See veilaway --help."));
+        return ExitUsage;
+    }
+    switch (line.command) {
+    case CommandLine::Command::Help:
+        std::fputs(CommandLine::help().toUtf8().constData(), stdout);
+        return ExitAllDone;
+    case CommandLine::Command::Version:
+        return showVersion(line);
+    default:
+        return RunCommand(line, application).run();
+    }
 }
