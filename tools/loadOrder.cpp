@@ -32,7 +32,7 @@ struct ResourceSet
 
 NIMBRA_LOAD_LIBRARIES CameraProperties cameraProperties;
 NIMBRA_LOAD_LIBRARIES LensIDProperties lensIDProperties;
-NIMBRA_LOAD_LIBRARIES QString emptyText;
+NIMBRA_LOAD_LIBRARIES static QString emptyText;
 NIMBRA_LOAD_LIBRARIES static ResourceSet<qInitResources_vimage, qCleanupResources_vimage> imageResources;
 NIMBRA_LOAD_LIBRARIES VTimers vTimers;
 NIMBRA_LOAD_LIBRARIES static ResourceSet<qInitResources_vtools, qCleanupResources_vtools> toolsResources;

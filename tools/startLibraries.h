@@ -18,7 +18,8 @@ void stopImageLibrary();
 void startInterfaceLibrary(VUIContext *context);
 
 /// Starts the tools: log, topology, threadCount and coreCount, pool and temporary manager. Alone, this also sets the OpenMP
-/// run-time: its workers sleep as soon as a region ends, and the schedule is guided by chunks of 10.
+/// run-time: its workers sleep as soon as a region ends, and the schedule is guided by chunks of 10; and threadCount is no more
+/// than the processor time that the system grants the process.
 void startTools(VToolsContext *context);
 void stopTools();
 

@@ -44,6 +44,11 @@ TEST(Kernel32, GroupsAddUpToTheMachine)
     GetSystemInfo(&information);
     EXPECT_EQ(information.numberOfProcessors, all);
 
+    LogicalProcessorInformation cores{};
+    if (GetLogicalProcessorInformationEx(RelationProcessorCore, &cores)) { // some systems don't tell
+        EXPECT_EQ(cores.count, all);
+    }
+
     LogicalProcessorInformation groups{};
     ASSERT_TRUE(GetLogicalProcessorInformationEx(RelationGroup, &groups));
     EXPECT_EQ(groups.relation, RelationGroup);
