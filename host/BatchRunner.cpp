@@ -49,10 +49,13 @@ qint64 freeMemory()
     return std::max<qint64>(bytes, 0);
 }
 
-/// What one photograph takes at most: the working image (16 bytes a pixel), the map (4), source, result and guides.
+/// What one photograph takes at most. Two moments of the engine can be the highest: the sparse system, whose size is the same for
+/// every photograph (measured: 640 MB), beside the source and the working image of 16 bytes a pixel; and the last step, with map
+/// and guides in its place.
 qint64 memoryFor(const PhotoFacts &facts)
 {
-    return qint64(facts.width) * facts.height * 36 + (qint64(64) << 20);
+    const qint64 pixels = qint64(facts.width) * facts.height;
+    return std::max(pixels * 22 + (qint64(640) << 20), pixels * 36);
 }
 
 /// Several at a time keep the cores busy while one of them decodes or encodes; more than this many only cost memory.
