@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include <QMutexLocker>
-
+#include "HandOverLocker.h"
 #include "NimbraOne2One.h"
 
 namespace {
@@ -39,7 +38,7 @@ void ComputePreview::run()
     const float *cachedMap = nullptr;
     try {
         {
-            const QMutexLocker locker(&mutex);
+            const HandOverLocker locker(mutex);
             if (!source)
                 return; // the image was changed since; a new request follows
             work.Assign(*source);
@@ -58,7 +57,7 @@ void ComputePreview::run()
         workSettings.transmission = nullptr;
         return;
     }
-    const QMutexLocker locker(&mutex);
+    const HandOverLocker locker(mutex);
     record->transmission = workSettings.transmission;
     std::copy_n(workSettings.airlight, 3, record->airlight);
 }

@@ -1,10 +1,10 @@
 #include "UIHazePreview.h"
 
 #include <QKeyEvent>
-#include <QMutexLocker>
 #include <QPainter>
 #include <QPushButton>
 
+#include "HandOverLocker.h"
 #include "ui_UIHazePreview.h"
 
 namespace {
@@ -46,7 +46,7 @@ UIHazePreview::~UIHazePreview()
 void UIHazePreview::setImage(std::unique_ptr<VImage> image)
 {
     // Old pixels with the new record, or the other way round, would pair a map with an image of another size.
-    const QMutexLocker locker(&thread.mutex);
+    const HandOverLocker locker(thread.mutex);
     thread.source = nullptr;
     previewImage = std::move(image);
 }
@@ -54,7 +54,7 @@ void UIHazePreview::setImage(std::unique_ptr<VImage> image)
 void UIHazePreview::releaseRecord()
 {
     {
-        const QMutexLocker locker(&thread.mutex);
+        const HandOverLocker locker(thread.mutex);
         thread.source = nullptr;
     }
     thread.wait();
@@ -106,7 +106,7 @@ void UIHazePreview::computePreview()
     afterImage = QImage();
     afterPixmap = QPixmap();
     {
-        const QMutexLocker locker(&thread.mutex);
+        const HandOverLocker locker(thread.mutex);
         thread.source = previewImage.get();
         thread.pendingSettings = *settings;
         thread.target = settings;
@@ -133,7 +133,7 @@ void UIHazePreview::updatePreview()
 {
     setComplete(true);
     if (!underWay && thread.work.Bitmap()) {
-        const QMutexLocker locker(&thread.mutex);
+        const HandOverLocker locker(thread.mutex);
         thread.work.ToQImage(afterImage);
     }
     afterPixmap = fitFrame(afterImage);
@@ -146,7 +146,7 @@ void UIHazePreview::keyPressEvent(QKeyEvent *event)
     if (event->key() != Qt::Key_Alt || event->isAutoRepeat() || underWay || !thread.work.Bitmap())
         return;
     {
-        const QMutexLocker locker(&thread.mutex);
+        const HandOverLocker locker(thread.mutex);
         if (float *const map = thread.workSettings.transmission) {
             const int width = thread.work.Width();
             const VImage view(width, thread.work.Height(), VImage::Grey, 32, /*clear=*/false, map, width * int(sizeof(float)));

@@ -1,3 +1,4 @@
+#include "HandOverLocker.h"
 #include "PreviewTest.h"
 #include "RemoveHaze.h"
 
@@ -12,7 +13,7 @@ protected:
 
     void stage(VImage &image)
     {
-        const QMutexLocker locker(&worker.mutex);
+        const HandOverLocker locker(worker.mutex);
         worker.source = &image;
         worker.pendingSettings = record;
         worker.target = &record;
