@@ -40,8 +40,12 @@ ResultPage::ResultPage(HostApplication &host, QWidget *parent)
     auto *saveButton = new QPushButton(tr("&Save session..."), this);
     saveButton->setObjectName(QStringLiteral("saveSession"));
     saveButton->setToolTip(tr("Keep the photographs and the strength of each in a settings file"));
+    auto *againButton = new QPushButton(tr("Start &over"), this);
+    againButton->setObjectName(QStringLiteral("startOver"));
+    againButton->setToolTip(tr("Choose other photographs"));
 
     auto *buttons = new QHBoxLayout;
+    buttons->addWidget(againButton);
     buttons->addStretch();
     buttons->addWidget(saveButton);
     buttons->addWidget(folderButton);
@@ -53,13 +57,14 @@ ResultPage::ResultPage(HostApplication &host, QWidget *parent)
     columns->addWidget(list);
     columns->addLayout(right, 1);
 
-    for (QPushButton *button : {saveButton, folderButton})
+    for (QPushButton *button : {againButton, saveButton, folderButton})
         button->setAutoDefault(false); // Return belongs to the window's own buttons
 
     pool.setMaxThreadCount(1);
     connect(list, &QListWidget::currentRowChanged, this, &ResultPage::showCurrent);
     connect(folderButton, &QPushButton::clicked, this, &ResultPage::openFolder);
     connect(saveButton, &QPushButton::clicked, this, &ResultPage::saveWanted);
+    connect(againButton, &QPushButton::clicked, this, &ResultPage::startOverWanted);
 }
 
 ResultPage::~ResultPage()

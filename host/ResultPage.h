@@ -27,6 +27,8 @@ public:
 Q_SIGNALS:
     /// The user wants to keep the photographs and their strengths.
     void saveWanted();
+    /// The user wants to begin again with other photographs.
+    void startOverWanted();
 
 private:
     void showCurrent();

@@ -23,7 +23,6 @@ RunPage::RunPage(HostApplication &host, VIPluginOne2One &process, QWidget *paren
       table(new QTableWidget(0, Columns, this)), overall(new QProgressBar(this)), stopButton(new QPushButton(tr("&Stop"), this))
 {
     setTitle(tr("Taking the haze away"));
-    setSubTitle(tr("Each result is written beside its photograph."));
 
     questionText->setWordWrap(true);
     auto *replace = new QPushButton(tr("&Replace them"), question);
@@ -80,9 +79,13 @@ void RunPage::begin(std::vector<BatchItem> keeping, std::vector<BatchItem> repla
     complete = false;
     endedCount = 0;
     batchJobs = jobs;
+    setSubTitle(tr("Each result is written beside its photograph."));
     int there = 0;
     for (std::size_t index = 0; index < keeping.size(); ++index)
-        there += !keeping[index].refusal.isEmpty() && replacing[index].refusal.isEmpty();
+        if (!keeping[index].refusal.isEmpty() && replacing[index].refusal.isEmpty()) {
+            keeping[index].refusal = keptText();
+            ++there;
+        }
     stopButton->setEnabled(false);
     if (there == 0) {
         start(std::move(keeping));
@@ -136,6 +139,12 @@ void RunPage::stop()
 {
     runner.stop();
     stopButton->setEnabled(false);
+    setSubTitle(tr("Stopping. The photographs in hand end first."));
+}
+
+QString RunPage::keptText()
+{
+    return tr("Its result was there already and has been kept.");
 }
 
 void RunPage::stageBegins(int item, BatchRunner::Stage stage)
@@ -163,7 +172,10 @@ void RunPage::showOutcome(int item, const BatchOutcome &outcome)
     const bool done = outcome.status == BatchOutcome::Status::Done;
     static_cast<QProgressBar *>(table->cellWidget(item, Progress))->setValue(done ? 100 : 0);
     QTableWidgetItem *state = table->item(item, State);
-    state->setText(done ? tr("Done") : outcome.status == BatchOutcome::Status::Stopped ? tr("Stopped") : tr("Failed"));
+    state->setText(done                                              ? tr("Done")
+                   : outcome.status == BatchOutcome::Status::Stopped ? tr("Stopped")
+                   : outcome.message == keptText()                   ? tr("Kept")
+                                                                     : tr("Failed"));
     state->setToolTip(outcome.message);
     overall->setValue(++endedCount);
 }

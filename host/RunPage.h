@@ -35,6 +35,9 @@ public:
     /// One for each item; those of items without one yet are Stopped.
     const std::vector<BatchOutcome> &outcomes() const { return results; }
 
+    /// The message of an outcome whose result was there already and stays.
+    static QString keptText();
+
     bool isComplete() const override;
 
 Q_SIGNALS:

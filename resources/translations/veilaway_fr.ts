@@ -417,6 +417,14 @@ Examples:
         <source>Stopped before it began.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Start &amp;over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose other photographs</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RunCommand</name>
@@ -520,6 +528,18 @@ Examples:
     </message>
     <message>
         <source>Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopping. The photographs in hand end first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its result was there already and has been kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
