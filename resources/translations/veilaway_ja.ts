@@ -5,112 +5,112 @@
     <name>BatchPlan</name>
     <message>
         <source>It has no suffix, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>拡張子がないため、結果は TIFF になります。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」形式では書き込めないため、結果は TIFF になります。</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果のファイル「%1」自体も、処理する写真に指定されています。どちらか一方を外してください。</translation>
     </message>
     <message>
         <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>同じく指定された「%1」の結果のファイルです。どちらか一方を外してください。</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果のファイル「%1」は写真「%2」と同一のファイルです。どちらか一方を別の場所に移してください。</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果のファイル「%1」は「%2」の結果と同じになります。どちらか一方の写真の名前を変えてください。</translation>
     </message>
     <message>
         <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果の書き込み先「%1」に同名のフォルダーがあります。フォルダーを別の場所に移してください。</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果のファイル「%1」はすでにあります。置き換えるには --overwrite を指定してください。</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Copy the photograph to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果を書き込めません。フォルダー「%1」は読み取り専用です。写真を別のフォルダーにコピーしてください。</translation>
     </message>
     <message>
         <source>The name of its result would be too long. Give the photograph a shorter name.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果のファイル名が長すぎます。写真の名前を短くしてください。</translation>
     </message>
 </context>
 <context>
     <name>BatchRunner</name>
     <message>
         <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果は書き込まれましたが、写真の XMP を結果にコピーできませんでした: %1。</translation>
     </message>
     <message>
         <source>The plug-in failed at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグインの処理が次の場所で失敗しました: %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリが足りません。</translation>
     </message>
     <message>
         <source>Stopped; no result was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>中止しました。結果は書き込まれていません。</translation>
     </message>
     <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>ほかのプログラムを終了するか、写真を 1 枚ずつ処理してください (--jobs 1)。</translation>
     </message>
     <message>
         <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー「%1」に空き容量があり、書き込みが許可されていることを確認してください。</translation>
     </message>
     <message>
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグインは「%2」ではなく「%1」に書き込みました</translation>
     </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>処理前</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>処理後</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength には 0 から 100 までの整数を指定してください。「%1」は使えません。</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--jobs には 1 から %1 までの整数を指定してください。「%2」は使えません。</translation>
     </message>
     <message>
         <source>--language knows %1, but not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--language に指定できるのは %1 です。「%2」は使えません。</translation>
     </message>
     <message>
         <source>--settings wants the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>--settings にはファイル名を指定してください。</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 はウィザードでは使えません。ウィンドウの中で指定します。</translation>
     </message>
     <message>
         <source>Name the photographs to take the haze from.</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘイズを除去する写真を指定してください。</translation>
     </message>
     <message>
         <source>veilaway takes the haze out of photographs.
@@ -173,435 +173,497 @@ Examples:
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway は写真からヘイズを除去します。
+
+使い方:
+  veilaway [run] PHOTO... [オプション]
+  veilaway [run] --settings FILE [オプション]
+  veilaway wizard [PHOTO...] [オプション]
+  veilaway --help | --version
+
+結果はそれぞれの写真と同じフォルダーに、写真の名前にタグを付けた名前で
+書き込まれます。たとえば hills.jpg の結果は hills_除去薄霧.jpg になります。
+元の写真が変更されることはありません。タグは言語に応じて変わり、たとえば
+--language en なら _dehazed になります。
+
+ウィザードはウィンドウを開きます。写真を選び、ライブプレビューを見ながらそれぞれの
+強さを決め、ヘイズを除去して、結果を比べることができます。使えるのは --settings
+（強さはこのファイルに記録されます）、--language、--jobs、--share-services、
+--plugin です。
+
+オプション:
+  --strength N      除去するヘイズの量（パーセント）。0 では写真はそのままで、100 では
+                    すべて除去します。指定しない場合は、設定ファイルの強さ、
+                    保存されている既定値、70 の順に使います。
+  --settings FILE   写真ごとの強さをこの XML ファイルに記録します。ファイルがすでに
+                    あれば、--strength の指定がない限りその中の強さを使います。
+                    終了時には、使った強さが記録されます。PHOTO を指定しないと、
+                    ファイルにあるすべての写真を処理します。
+  --language LANG   メッセージとタグの言語: de、en、es、fr、it、ja、pl、ru、zh_CN、
+                    zh_TW のいずれか。指定しない場合はシステムの言語です。
+  --jobs N          同時に処理する写真の枚数。指定しない場合は、すべてのコアが働き、
+                    メモリに収まる枚数にします。
+  --overwrite       すでにある結果を置き換えます。
+  --quiet           失敗したもの以外は何も表示しません。
+  --json            写真ごとに JSON オブジェクトを 1 行で出力します。項目は photo、
+                    result、status（done、failed、stopped）、strength、seconds、
+                    message です。
+  --share-services  ログ、メモリプール、プロセッサ数などのサービスを、プラグインに
+                    作らせずに、このプログラムのものを貸し出します。
+  --plugin FILE     プログラムと同じフォルダー、または ../lib/nimbra にある Nimbra.so
+                    の代わりに、このプラグインファイルを読み込みます。
+  -h, --help        この説明を表示します。
+  --version         プログラムとプラグインのバージョンを表示します。
+  --                これより後は、ハイフンで始まるものも写真として扱います。
+
+形式:
+  読み書き: JPEG (jpg、jpeg)、PNG、TIFF (tif、tiff)、Radiance (hdr、hdri)、OpenEXR
+  (exr)、PSD。結果は元の写真の形式、ビット深度（8、16 ビット、浮動小数点）、カラー
+  プロファイル、EXIF、IPTC、XMP を引き継ぎます。EXIF の向きも保たれるため、結果は
+  元の写真と同じ向きで表示されます。
+  読み込みのみ: カメラ RAW (dng、cr2、cr3、nef、arw、raf、orf、rw2 など)。結果は 16
+  ビットの TIFF になります。その他の拡張子の写真や拡張子のない写真も、結果は TIFF に
+  なります。XMP サイドカーファイルは読み込まれず、そのまま残ります。
+
+終了コード:
+  0  すべての写真を処理しました。
+  1  処理できなかった写真があります。どの写真か、その理由と対処法が標準エラー出力に
+     表示されます。Ctrl-C でもこのコードで終了し、書きかけの結果は残りません。
+  2  コマンドラインまたは設定ファイルに誤りがあります。処理は始まっていません。
+
+例:
+  veilaway hills.jpg --strength 80
+  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
+  veilaway --settings holiday/haze.xml --overwrite
+</translation>
     </message>
     <message>
         <source>See veilaway --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway --help をご覧ください。</translation>
     </message>
 </context>
 <context>
     <name>NimbraOne2One</name>
     <message>
         <source>_dehazed</source>
-        <translation type="unfinished"></translation>
+        <translation>_除去薄霧</translation>
     </message>
 </context>
 <context>
     <name>PhotoLoader</name>
     <message>
         <source>The file can&apos;t be opened. Check that it exists and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開けません。ファイルがあるか、読み取りが許可されているかを確認してください。</translation>
     </message>
     <message>
         <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが途中で切れているか、壊れています。カメラまたはバックアップからコピーし直してください。</translation>
     </message>
     <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>この写真を処理するにはメモリが足りません。ほかのプログラムを終了するか、写真を 1 枚ずつ処理してください (--jobs 1)。</translation>
     </message>
     <message>
         <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
-        <translation type="unfinished"></translation>
+        <translation>対応する形式の画像ではないか、拡張子が実際の形式と異なります。読み込めるのは JPEG、PNG、TIFF、HDR、EXR、PSD とカメラの RAW です。拡張子を実際の形式に合わせるか、画像を変換してください。</translation>
     </message>
     <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>このピクセル形式は読み込めません。8 または 16 ビットの RGB で保存し直してから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>An empty name stands for no photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>空の名前は写真の指定になりません。</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>リンク先がありません。写真そのものを指定してください。</translation>
     </message>
     <message>
         <source>There is no such file. Check its name and folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが見つかりません。名前とフォルダーを確認してください。</translation>
     </message>
     <message>
         <source>This is a folder. Name the photographs in it, for instance &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>これはフォルダーです。中の写真を、たとえば「%1」のように指定してください。</translation>
     </message>
     <message>
         <source>This is no regular file. Copy the photograph into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>通常のファイルではありません。写真を通常のファイルにコピーしてください。</translation>
     </message>
     <message>
         <source>The file can&apos;t be read. Give yourself the permission to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを読み取れません。読み取りの許可を設定してください。</translation>
     </message>
     <message>
         <source>The file is empty. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが空です。カメラまたはバックアップからコピーし直してください。</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>このカメラ RAW ファイルを処理するにはメモリが足りません。ほかのプログラムを終了するか、写真を 1 枚ずつ処理してください (--jobs 1)。</translation>
     </message>
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ RAW ファイルを現像できません: %1。コピーし直すか、DNG または TIFF に変換してください。</translation>
     </message>
 </context>
 <context>
     <name>PhotoPage</name>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>リストから外す(&amp;R)</translation>
     </message>
     <message>
         <source>Photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>写真</translation>
     </message>
     <message>
         <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘイズを除去する写真を選ぶか、ここにドロップしてください。元の写真は変更されません。結果はそれぞれの写真と同じフォルダーに書き込まれます。</translation>
     </message>
     <message>
         <source>&amp;Add photographs...</source>
-        <translation type="unfinished"></translation>
+        <translation>写真を追加(&amp;A)...</translation>
     </message>
     <message>
         <source>&amp;Open a session...</source>
-        <translation type="unfinished"></translation>
+        <translation>セッションを開く(&amp;O)...</translation>
     </message>
     <message>
         <source>A settings file with photographs and the strength of each</source>
-        <translation type="unfinished"></translation>
+        <translation>写真とそれぞれの強さを記録した設定ファイル</translation>
     </message>
     <message>
         <source>%1: There are no photographs in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: このフォルダーに写真はありません。</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>Reading %n photograph(s)...</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 枚の写真を読み込み中...</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n photograph(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>写真 %n 枚</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>...ほか %n 件</numerusform>
         </translation>
     </message>
     <message>
         <source>Left out:</source>
-        <translation type="unfinished"></translation>
+        <translation>追加できなかったもの:</translation>
     </message>
     <message>
         <source>Add photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>写真を追加</translation>
     </message>
     <message>
         <source>Photographs (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>写真 (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Open a session</source>
-        <translation type="unfinished"></translation>
+        <translation>セッションを開く</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>Photograph</name>
     <message>
         <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>幅が大きすぎます。ヘイズを除去できるのは幅 %1 ピクセルまでの写真です。縮小するか、分割してください。</translation>
     </message>
 </context>
 <context>
     <name>PluginFile</name>
     <message>
         <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグイン「%1」が見つかりません。ビルドまたはインストールするか、--plugin FILE で場所を指定してください。</translation>
     </message>
     <message>
         <source>&quot; or &quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>」または「</translation>
     </message>
     <message>
         <source>it is a plug-in of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>種類の異なるプラグインです</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグイン「%1」を使えません: %2。インストールし直すか、--plugin FILE で別のプラグインを指定してください。</translation>
     </message>
 </context>
 <context>
     <name>ProgressView</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 秒</translation>
     </message>
     <message>
         <source>%1: %2 (%3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3 秒)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 枚の写真を処理しました。</translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 枚の写真のうち %1 枚を処理しました。残り %3 枚は処理できませんでした。</translation>
     </message>
     <message>
         <source>reading</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み中</translation>
     </message>
     <message>
         <source>taking haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘイズを除去中</translation>
     </message>
     <message>
         <source>saving</source>
-        <translation type="unfinished"></translation>
+        <translation>保存中</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 <context>
     <name>ResultPage</name>
     <message>
         <source>Open &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーを開く(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Save session...</source>
-        <translation type="unfinished"></translation>
+        <translation>セッションを保存(&amp;S)...</translation>
     </message>
     <message>
         <source>Keep the photographs and the strength of each in a settings file</source>
-        <translation type="unfinished"></translation>
+        <translation>写真とそれぞれの強さを設定ファイルに保存します</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>結果</translation>
     </message>
     <message>
         <source>All photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての写真を処理しました。</translation>
     </message>
     <message>
         <source>%1 of %2 photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 枚の写真のうち %1 枚を処理しました。</translation>
     </message>
     <message>
         <source>Stopped before it began.</source>
-        <translation type="unfinished"></translation>
+        <translation>開始前に中止されました。</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
-        <translation type="unfinished"></translation>
+        <translation>最初からやり直す(&amp;O)</translation>
     </message>
     <message>
         <source>Choose other photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>別の写真を選びます</translation>
     </message>
 </context>
 <context>
     <name>RunCommand</name>
     <message>
         <source>No --strength given: using your stored default of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength が指定されていないため、保存されている既定値 %1 を使います。</translation>
     </message>
     <message>
         <source>No --strength given and no default stored: using %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength が指定されておらず、既定値も保存されていないため、%1 を使います。</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル「%1」に写真がありません。写真を指定してください。</translation>
     </message>
     <message>
         <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル「%1」はありません。新しく作るには写真を指定してください。</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>その場所には設定ファイル「%1」を書き込めません。別のフォルダーのファイルを指定してください。</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル「%1」の名前が結果のファイルと同じです。別の名前にしてください。</translation>
     </message>
 </context>
 <context>
     <name>RunPage</name>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>中止(&amp;S)</translation>
     </message>
     <message>
         <source>Taking the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘイズを除去中</translation>
     </message>
     <message>
         <source>Each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果はそれぞれの写真と同じフォルダーに書き込まれます。</translation>
     </message>
     <message>
         <source>&amp;Replace them</source>
-        <translation type="unfinished"></translation>
+        <translation>置き換える(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Keep them</source>
-        <translation type="unfinished"></translation>
+        <translation>そのまま残す(&amp;K)</translation>
     </message>
     <message>
         <source>Photograph</source>
-        <translation type="unfinished"></translation>
+        <translation>写真</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>強さ</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>進行状況</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>状態</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) of an earlier run are there already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>以前の処理結果がすでに %n 件あります。</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>待機中</translation>
     </message>
     <message>
         <source>%v of %m</source>
-        <translation type="unfinished"></translation>
+        <translation>%v / %m</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み中</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>保存中</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>中止</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>失敗</translation>
     </message>
     <message>
         <source>Stopping. The photographs in hand end first.</source>
-        <translation type="unfinished"></translation>
+        <translation>中止しています。処理中の写真が終わるまでお待ちください。</translation>
     </message>
     <message>
         <source>Its result was there already and has been kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>結果がすでにあったため、そのまま残しました。</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>既存を保持</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be used: %2. Repair it, or name another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル「%1」を使えません: %2。修正するか、別のファイルを指定してください。</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーです</translation>
     </message>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 行 %2 列: %3</translation>
     </message>
     <message>
         <source>its outermost element is not &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>最上位の要素が &lt;%1&gt; ではありません</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 行</translation>
     </message>
     <message>
         <source>%1: a photo without a path</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: パスのない写真があります</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; stands in it twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 「%2」が重複しています</translation>
     </message>
     <message>
         <source>%1: the photo needs &lt;%2 %3=&quot;...&quot;/&gt; with a whole number from 0 to 100</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: 写真には &lt;%2 %3=&quot;...&quot;/&gt; と 0 から 100 までの整数が必要です</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル「%1」を書き込めません: %2。空き容量を増やすか、書き込みの許可を設定してください。</translation>
     </message>
 </context>
 <context>
     <name>WizardWindow</name>
     <message>
         <source>veilaway</source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway</translation>
     </message>
     <message>
         <source>&amp;Take the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘイズを除去(&amp;T)</translation>
     </message>
     <message>
         <source>Save session</source>
-        <translation type="unfinished"></translation>
+        <translation>セッションを保存</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>XmpCarrier</name>
     <message>
         <source>the result can&apos;t be replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>結果のファイルを置き換えられません</translation>
     </message>
 </context>
 </TS>
