@@ -58,6 +58,8 @@ qint64 memoryFor(const PhotoFacts &facts)
     return std::max(pixels * 22 + (qint64(640) << 20), pixels * 36);
 }
 
+constexpr QChar kIdeographicStop(0x3002); ///< Ends a sentence in Chinese and Japanese.
+
 /// Several at a time keep the cores busy while one of them decodes or encodes; more than this many only cost memory.
 constexpr int kMostJobs = 8;
 
@@ -130,7 +132,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         return outcome;
     }
     outcome.message = outcome.message.trimmed().replace('\n', ", ");
-    if (!outcome.message.endsWith('.'))
+    if (!outcome.message.endsWith('.') && !outcome.message.endsWith(kIdeographicStop))
         outcome.message += '.';
     if (outOfMemory || stage == Stage::Dehazing)
         outcome.message += ' ' + tr("Close other programs, or work on one photograph at a time (--jobs 1).");
