@@ -5,112 +5,112 @@
     <name>BatchPlan</name>
     <message>
         <source>It has no suffix, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Foto hat keine Dateiendung, daher wird das Ergebnis ein TIFF.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Format „%1“ kann nicht geschrieben werden, daher wird das Ergebnis ein TIFF.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis „%1“ ist selbst eines der angegebenen Fotos. Lassen Sie eines der beiden weg.</translation>
     </message>
     <message>
         <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Foto ist das Ergebnis von „%1“, das ebenfalls angegeben ist. Lassen Sie eines der beiden weg.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis „%1“ ist dieselbe Datei wie das Foto „%2“. Verschieben Sie eines der beiden an einen anderen Ort.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis „%1“ wäre zugleich das von „%2“. Benennen Sie eines der beiden Fotos um.</translation>
     </message>
     <message>
         <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Ort des Ergebnisses, „%1“, liegt ein Ordner. Verschieben Sie den Ordner.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis „%1“ ist schon vorhanden. Geben Sie --overwrite an, um es zu ersetzen.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Copy the photograph to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis kann nicht geschrieben werden: Der Ordner „%1“ ist schreibgeschützt. Kopieren Sie das Foto in einen anderen Ordner.</translation>
     </message>
     <message>
         <source>The name of its result would be too long. Give the photograph a shorter name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name des Ergebnisses würde zu lang. Geben Sie dem Foto einen kürzeren Namen.</translation>
     </message>
 </context>
 <context>
     <name>BatchRunner</name>
     <message>
         <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis liegt vor, aber die XMP-Daten des Fotos konnten nicht hineinkopiert werden: %1.</translation>
     </message>
     <message>
         <source>The plug-in failed at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Plug-in ist fehlgeschlagen bei %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
     </message>
     <message>
         <source>Stopped; no result was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehalten; es wurde kein Ergebnis geschrieben.</translation>
     </message>
     <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen Sie andere Programme oder bearbeiten Sie die Fotos einzeln (--jobs 1).</translation>
     </message>
     <message>
         <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaffen Sie Platz im Ordner „%1“ und prüfen Sie, ob Sie dort schreiben dürfen.</translation>
     </message>
     <message>
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Plug-in hat „%1“ statt „%2“ geschrieben</translation>
     </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachher</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength erwartet eine ganze Zahl von 0 bis 100, nicht „%1“.</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--jobs erwartet eine ganze Zahl von 1 bis %1, nicht „%2“.</translation>
     </message>
     <message>
         <source>--language knows %1, but not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--language kennt %1, aber nicht „%2“.</translation>
     </message>
     <message>
         <source>--settings wants the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>--settings erwartet den Namen einer Datei.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 gilt nicht für den Assistenten; er fragt in seinem Fenster danach.</translation>
     </message>
     <message>
         <source>Name the photographs to take the haze from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Fotos an, aus denen der Dunst entfernt werden soll.</translation>
     </message>
     <message>
         <source>veilaway takes the haze out of photographs.
@@ -173,439 +173,500 @@ Examples:
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway entfernt den Dunst aus Fotos.
+
+Aufruf:
+  veilaway [run] FOTO... [Optionen]
+  veilaway [run] --settings DATEI [Optionen]
+  veilaway wizard [FOTO...] [Optionen]
+  veilaway --help | --version
+
+Jedes Ergebnis wird neben seinem Foto gespeichert, unter dessen Namen mit einem
+Zusatz: Aus hills.jpg wird hills_entnebelt.jpg. Das Foto selbst bleibt unverändert.
+Der Zusatz richtet sich nach der Sprache: mit --language en zum Beispiel _dehazed.
+
+Der Assistent öffnet ein Fenster: Fotos auswählen, für jedes die Stärke bei laufender
+Vorschau einstellen, den Dunst entfernen und vergleichen. Er kennt --settings (die
+Datei enthält danach die Stärken), --language, --jobs, --share-services und --plugin.
+
+Optionen:
+  --strength N      Wie viel Dunst entfernt wird, in Prozent: 0 lässt das Bild, wie es
+                    ist, 100 entfernt allen. Ohne diese Option gilt die Stärke in
+                    der Einstellungsdatei, sonst Ihre gespeicherte Voreinstellung,
+                    sonst 70.
+  --settings DATEI  Die Stärke für jedes Foto in dieser XML-Datei aufbewahren. Gibt es
+                    die Datei schon, gelten ihre Stärken, sofern nicht auch --strength
+                    angegeben ist; am Ende enthält sie die verwendeten Stärken. Ohne
+                    FOTO werden alle Fotos in der Datei bearbeitet.
+  --language LANG   Sprache der Meldungen und des Zusatzes: de, en, es, fr, it, ja,
+                    pl, ru, zh_CN oder zh_TW. Ohne diese Option die des Systems.
+  --jobs N          Anzahl der gleichzeitig bearbeiteten Fotos. Ohne diese Option so
+                    viele, wie alle Kerne auslasten und in den Speicher passen.
+  --overwrite       Bereits vorhandene Ergebnisse ersetzen.
+  --quiet           Nur melden, was fehlgeschlagen ist.
+  --json            Für jedes Foto eine Zeile mit einem JSON-Objekt ausgeben: photo,
+                    result, status (done, failed, stopped), strength, seconds,
+                    message.
+  --share-services  Dem Plug-in die Dienste des Programms leihen (Protokoll, Speicher-
+                    pool, Anzahl der Prozessoren), statt es eigene anlegen zu lassen.
+  --plugin DATEI    Diese Plug-in-Datei laden statt Nimbra.so neben dem Programm oder
+                    in ../lib/nimbra.
+  -h, --help        Diesen Text anzeigen.
+  --version         Die Versionen des Programms und des Plug-ins anzeigen.
+  --                Was folgt, sind Fotos, auch wenn sie mit einem Strich beginnen.
+
+Formate:
+  Lesen und schreiben: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
+  OpenEXR (exr) und PSD. Ein Ergebnis hat Format, Farbtiefe (8 oder 16 Bit
+  oder Gleitkomma), Farbprofil, EXIF, IPTC und XMP seines Fotos. Die EXIF-
+  Ausrichtung bleibt erhalten, sodass das Ergebnis wie sein Foto angezeigt wird.
+  Nur lesen: Kamera-RAW (dng, cr2, cr3, nef, arw, raf, orf, rw2 und andere). Das
+  Ergebnis ist ein TIFF mit 16 Bit. Auch Fotos mit einer anderen oder ohne Dateiendung
+  werden ein TIFF. XMP-Begleitdateien bleiben, wo sie sind, und werden nicht gelesen.
+
+Rückgabewert:
+  0  Alle Fotos sind fertig.
+  1  Einige sind es nicht: Die Standardfehlerausgabe nennt sie, den Grund und was
+     hilft. Auch Strg+C endet so, ohne ein halbes Ergebnis zu hinterlassen.
+  2  Die Befehlszeile oder die Einstellungsdatei ist falsch; nichts wurde begonnen.
+
+Beispiele:
+  veilaway hills.jpg --strength 80
+  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
+  veilaway --settings holiday/haze.xml --overwrite
+</translation>
     </message>
     <message>
         <source>See veilaway --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Siehe veilaway --help.</translation>
     </message>
 </context>
 <context>
     <name>NimbraOne2One</name>
     <message>
         <source>_dehazed</source>
-        <translation type="unfinished"></translation>
+        <translation>_entnebelt</translation>
     </message>
 </context>
 <context>
     <name>PhotoLoader</name>
     <message>
         <source>The file can&apos;t be opened. Check that it exists and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht geöffnet werden. Prüfen Sie, ob sie existiert und ob Sie sie lesen dürfen.</translation>
     </message>
     <message>
         <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist unvollständig oder beschädigt. Kopieren Sie sie erneut von der Kamera oder aus einer Sicherung.</translation>
     </message>
     <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsspeicher reicht dafür nicht aus. Schließen Sie andere Programme oder bearbeiten Sie die Fotos einzeln (--jobs 1).</translation>
     </message>
     <message>
         <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist kein Bild in einem bekannten Format oder ein anderes, als die Dateiendung angibt. Lesbar sind JPEG, PNG, TIFF, HDR, EXR, PSD und Kamera-RAW; geben Sie der Datei die passende Endung oder konvertieren Sie sie.</translation>
     </message>
     <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Art von Pixeln kann nicht gelesen werden. Speichern Sie das Foto als RGB mit 8 oder 16 Bit und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>An empty name stands for no photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein leerer Name bezeichnet kein Foto.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verknüpfung führt ins Leere. Geben Sie das Foto selbst an.</translation>
     </message>
     <message>
         <source>There is no such file. Check its name and folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei gibt es nicht. Prüfen Sie Name und Ordner.</translation>
     </message>
     <message>
         <source>This is a folder. Name the photographs in it, for instance &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist ein Ordner. Geben Sie die Fotos darin an, zum Beispiel „%1“.</translation>
     </message>
     <message>
         <source>This is no regular file. Copy the photograph into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine gewöhnliche Datei. Kopieren Sie das Foto in eine solche.</translation>
     </message>
     <message>
         <source>The file can&apos;t be read. Give yourself the permission to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht gelesen werden. Verschaffen Sie sich das Leserecht dafür.</translation>
     </message>
     <message>
         <source>The file is empty. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist leer. Kopieren Sie sie erneut von der Kamera oder aus einer Sicherung.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsspeicher reicht für diese RAW-Datei nicht aus. Schließen Sie andere Programme oder bearbeiten Sie die Fotos einzeln (--jobs 1).</translation>
     </message>
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die RAW-Datei kann nicht entwickelt werden: %1. Kopieren Sie sie erneut oder konvertieren Sie sie in DNG oder TIFF.</translation>
     </message>
 </context>
 <context>
     <name>PhotoPage</name>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>Photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos</translation>
     </message>
     <message>
         <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie die Fotos aus, aus denen der Dunst entfernt werden soll, oder ziehen Sie sie hierher. Sie bleiben unverändert: Jedes Ergebnis wird neben seinem Foto gespeichert.</translation>
     </message>
     <message>
         <source>&amp;Add photographs...</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos &amp;hinzufügen...</translation>
     </message>
     <message>
         <source>&amp;Open a session...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sitzung öffnen...</translation>
     </message>
     <message>
         <source>A settings file with photographs and the strength of each</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Einstellungsdatei mit Fotos und der Stärke für jedes Foto</translation>
     </message>
     <message>
         <source>%1: There are no photographs in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: In diesem Ordner sind keine Fotos.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>Reading %n photograph(s)...</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Foto wird gelesen...</numerusform>
+            <numerusform>%n Fotos werden gelesen...</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n photograph(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Foto</numerusform>
+            <numerusform>%n Fotos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>... und %n weiteres</numerusform>
+            <numerusform>... und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>Left out:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassen:</translation>
     </message>
     <message>
         <source>Add photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos hinzufügen</translation>
     </message>
     <message>
         <source>Photographs (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Open a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung öffnen</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungsdateien (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>Photograph</name>
     <message>
         <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Foto ist zu breit: Dunst kann nur aus Fotos von höchstens %1 Pixeln Breite entfernt werden. Verkleinern Sie es oder zerlegen Sie es in Teile.</translation>
     </message>
 </context>
 <context>
     <name>PluginFile</name>
     <message>
         <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Plug-in „%1“ ist nicht vorhanden. Erstellen oder installieren Sie es, oder geben Sie mit --plugin DATEI an, wo es liegt.</translation>
     </message>
     <message>
         <source>&quot; or &quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>“ oder „</translation>
     </message>
     <message>
         <source>it is a plug-in of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist ein Plug-in anderer Art</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Plug-in „%1“ kann nicht verwendet werden: %2. Installieren Sie es neu, oder geben Sie mit --plugin DATEI ein anderes an.</translation>
     </message>
 </context>
 <context>
     <name>ProgressView</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1: %2 (%3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3 s)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fotos fertig.</translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Fotos fertig, %3 nicht.</translation>
     </message>
     <message>
         <source>reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen</translation>
     </message>
     <message>
         <source>taking haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunst entfernen</translation>
     </message>
     <message>
         <source>saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 <context>
     <name>ResultPage</name>
     <message>
         <source>Open &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner öffnen</translation>
     </message>
     <message>
         <source>&amp;Save session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung s&amp;peichern...</translation>
     </message>
     <message>
         <source>Keep the photographs and the strength of each in a settings file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Fotos und die Stärke für jedes Foto in einer Einstellungsdatei aufbewahren</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse</translation>
     </message>
     <message>
         <source>All photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Fotos sind fertig.</translation>
     </message>
     <message>
         <source>%1 of %2 photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Fotos sind fertig.</translation>
     </message>
     <message>
         <source>Stopped before it began.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor Beginn angehalten.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Von vorn beginnen</translation>
     </message>
     <message>
         <source>Choose other photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Fotos auswählen</translation>
     </message>
 </context>
 <context>
     <name>RunCommand</name>
     <message>
         <source>No --strength given: using your stored default of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein --strength angegeben: Ihre gespeicherte Voreinstellung %1 wird verwendet.</translation>
     </message>
     <message>
         <source>No --strength given and no default stored: using %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein --strength angegeben und keine Voreinstellung gespeichert: %1 wird verwendet.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei „%1“ nennt keine Fotos. Geben Sie welche an.</translation>
     </message>
     <message>
         <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei „%1“ gibt es nicht. Geben Sie Fotos an, um sie anzulegen.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei „%1“ kann dort nicht geschrieben werden. Geben Sie eine in einem anderen Ordner an.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei „%1“ trägt den Namen eines Ergebnisses. Geben Sie ihr einen anderen.</translation>
     </message>
 </context>
 <context>
     <name>RunPage</name>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anhalten</translation>
     </message>
     <message>
         <source>Taking the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunst wird entfernt</translation>
     </message>
     <message>
         <source>Each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedes Ergebnis wird neben seinem Foto gespeichert.</translation>
     </message>
     <message>
         <source>&amp;Replace them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ersetzen</translation>
     </message>
     <message>
         <source>&amp;Keep them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Behalten</translation>
     </message>
     <message>
         <source>Photograph</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) of an earlier run are there already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Ergebnis eines früheren Durchgangs ist schon vorhanden.</numerusform>
+            <numerusform>%n Ergebnisse eines früheren Durchgangs sind schon vorhanden.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet</translation>
     </message>
     <message>
         <source>%v of %m</source>
-        <translation type="unfinished"></translation>
+        <translation>%v von %m</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gelesen</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gespeichert</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehalten</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagen</translation>
     </message>
     <message>
         <source>Stopping. The photographs in hand end first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird angehalten. Die begonnenen Fotos werden noch fertiggestellt.</translation>
     </message>
     <message>
         <source>Its result was there already and has been kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis war schon vorhanden und wurde behalten.</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Behalten</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be used: %2. Repair it, or name another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei „%1“ kann nicht verwendet werden: %2. Reparieren Sie sie oder geben Sie eine andere an.</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist ein Ordner</translation>
     </message>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1, Spalte %2: %3</translation>
     </message>
     <message>
         <source>its outermost element is not &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>ihr äußerstes Element ist nicht &lt;%1&gt;</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1</translation>
     </message>
     <message>
         <source>%1: a photo without a path</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ein Foto ohne Pfad</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; stands in it twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: „%2“ kommt darin zweimal vor</translation>
     </message>
     <message>
         <source>%1: the photo needs &lt;%2 %3=&quot;...&quot;/&gt; with a whole number from 0 to 100</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Das Foto braucht &lt;%2 %3=&quot;...&quot;/&gt; mit einer ganzen Zahl von 0 bis 100</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei „%1“ kann nicht geschrieben werden: %2. Schaffen Sie Platz oder verschaffen Sie sich dort das Schreibrecht.</translation>
     </message>
 </context>
 <context>
     <name>WizardWindow</name>
     <message>
         <source>veilaway</source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway</translation>
     </message>
     <message>
         <source>&amp;Take the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dunst entfernen</translation>
     </message>
     <message>
         <source>Save session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung speichern</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungsdateien (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>XmpCarrier</name>
     <message>
         <source>the result can&apos;t be replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>das Ergebnis kann nicht ersetzt werden</translation>
     </message>
 </context>
 </TS>

@@ -5,112 +5,112 @@
     <name>BatchPlan</name>
     <message>
         <source>It has no suffix, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>La foto no tiene extensión, así que el resultado será un TIFF.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>El formato «%1» no se puede escribir, así que el resultado será un TIFF.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su resultado «%1» es a su vez una de las fotos indicadas. Omita una de las dos.</translation>
     </message>
     <message>
         <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta foto es el resultado de «%1», que también se ha indicado. Omita una de las dos.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su resultado «%1» es el mismo archivo que la foto «%2». Mueva uno de los dos a otro lugar.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su resultado «%1» sería también el de «%2». Cambie el nombre de una de las dos fotos.</translation>
     </message>
     <message>
         <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el lugar del resultado, «%1», hay una carpeta. Mueva la carpeta a otro lugar.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su resultado «%1» ya existe. Indique --overwrite para reemplazarlo.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Copy the photograph to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir el resultado: la carpeta «%1» es de solo lectura. Copie la foto en otra carpeta.</translation>
     </message>
     <message>
         <source>The name of its result would be too long. Give the photograph a shorter name.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre del resultado sería demasiado largo. Dé a la foto un nombre más corto.</translation>
     </message>
 </context>
 <context>
     <name>BatchRunner</name>
     <message>
         <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El resultado se ha guardado, pero no se han podido copiar en él los datos XMP de la foto: %1.</translation>
     </message>
     <message>
         <source>The plug-in failed at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El complemento ha fallado en %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay suficiente memoria.</translation>
     </message>
     <message>
         <source>Stopped; no result was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Detenido; no se ha escrito ningún resultado.</translation>
     </message>
     <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
     </message>
     <message>
         <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Libere espacio en la carpeta «%1» y compruebe que tiene permiso para escribir en ella.</translation>
     </message>
     <message>
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>El complemento ha escrito «%1» en lugar de «%2»</translation>
     </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Después</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength espera un número entero de 0 a 100, no «%1».</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--jobs espera un número entero de 1 a %1, no «%2».</translation>
     </message>
     <message>
         <source>--language knows %1, but not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--language conoce %1, pero no «%2».</translation>
     </message>
     <message>
         <source>--settings wants the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>--settings espera el nombre de un archivo.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 no sirve para el asistente, que pregunta en su ventana.</translation>
     </message>
     <message>
         <source>Name the photographs to take the haze from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique las fotos de las que se debe quitar la bruma.</translation>
     </message>
     <message>
         <source>veilaway takes the haze out of photographs.
@@ -173,439 +173,504 @@ Examples:
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway quita la bruma de las fotos.
+
+Uso:
+  veilaway [run] FOTO... [opciones]
+  veilaway [run] --settings ARCHIVO [opciones]
+  veilaway wizard [FOTO...] [opciones]
+  veilaway --help | --version
+
+Cada resultado se guarda junto a su foto, con el nombre de esta y un sufijo: de
+hills.jpg se obtiene hills_sinbruma.jpg. La foto original no se modifica nunca.
+El sufijo depende del idioma: con --language en, por ejemplo, es _dehazed.
+
+El asistente abre una ventana: elija las fotos, ajuste la potencia de cada una con una
+vista previa en directo, quite la bruma y compare. Admite --settings (el archivo
+contiene después las potencias), --language, --jobs, --share-services y --plugin.
+
+Opciones:
+  --strength N      Cuánta bruma se quita, en tanto por ciento: 0 deja la imagen como
+                    está, 100 la quita toda. Sin esta opción se usa la potencia del
+                    archivo de ajustes; si no la hay, su valor predeterminado guardado
+                    y, en su defecto, 70.
+  --settings ARCHIVO
+                    Conservar la potencia de cada foto en este archivo XML. Si el
+                    archivo existe, se usan sus potencias, salvo que se indique
+                    también --strength; al final contiene las potencias usadas. Sin
+                    FOTO, se procesan todas las fotos del archivo.
+  --language LANG   Idioma de los mensajes y del sufijo: de, en, es, fr, it, ja, pl,
+                    ru, zh_CN o zh_TW. Sin esta opción, el del sistema.
+  --jobs N          Número de fotos que se procesan a la vez. Sin esta opción, tantas
+                    como ocupen todos los núcleos y quepan en la memoria.
+  --overwrite       Reemplazar los resultados que ya existan.
+  --quiet           Informar solo de lo que ha fallado.
+  --json            Escribir por cada foto una línea con un objeto JSON: photo,
+                    result, status (done, failed, stopped), strength, seconds,
+                    message.
+  --share-services  Prestar al complemento los servicios del programa (registro,
+                    reserva de memoria, número de procesadores) en vez de dejar que
+                    los cree.
+  --plugin ARCHIVO  Cargar este archivo de complemento en lugar de Nimbra.so, junto al
+                    programa o en ../lib/nimbra.
+  -h, --help        Mostrar este texto.
+  --version         Mostrar las versiones del programa y del complemento.
+  --                Lo que sigue son fotos, aunque empiecen por un guion.
+
+Formatos:
+  Lectura y escritura: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
+  OpenEXR (exr) y PSD. Un resultado tiene el formato de su foto, su profundidad (8 o
+  16 bits o coma flotante), su perfil de color y sus datos EXIF, IPTC y XMP. La
+  orientación EXIF se conserva, de modo que el resultado se muestra igual que su foto.
+  Solo lectura: RAW de cámara (dng, cr2, cr3, nef, arw, raf, orf, rw2 y otros). El
+  resultado es un TIFF de 16 bits. Las fotos con otra extensión, o sin ella, se
+  convierten también en TIFF. Los archivos XMP adjuntos se quedan como están y no se
+  leen.
+
+Códigos de salida:
+  0  Se han procesado todas las fotos.
+  1  Algunas no: la salida de error estándar dice cuáles, por qué y qué hacer. Ctrl-C
+     también termina así, sin dejar resultados a medias.
+  2  La línea de comandos o el archivo de ajustes no son correctos; no se ha empezado
+     nada.
+
+Ejemplos:
+  veilaway hills.jpg --strength 80
+  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
+  veilaway --settings holiday/haze.xml --overwrite
+</translation>
     </message>
     <message>
         <source>See veilaway --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Consulte veilaway --help.</translation>
     </message>
 </context>
 <context>
     <name>NimbraOne2One</name>
     <message>
         <source>_dehazed</source>
-        <translation type="unfinished"></translation>
+        <translation>_sinbruma</translation>
     </message>
 </context>
 <context>
     <name>PhotoLoader</name>
     <message>
         <source>The file can&apos;t be opened. Check that it exists and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir el archivo. Compruebe que existe y que tiene permiso para leerlo.</translation>
     </message>
     <message>
         <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo está incompleto o dañado. Vuelva a copiarlo desde la cámara o desde una copia de seguridad.</translation>
     </message>
     <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay suficiente memoria para esta foto. Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
     </message>
     <message>
         <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es una imagen de un formato conocido, o su formato no es el que indica la extensión. Se pueden leer JPEG, PNG, TIFF, HDR, EXR, PSD y RAW de cámara; dé al archivo la extensión que le corresponde o conviértalo.</translation>
     </message>
     <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este tipo de píxeles no se puede leer. Guarde la foto como RGB de 8 o 16 bits e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>An empty name stands for no photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre vacío no designa ninguna foto.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>El enlace no lleva a ninguna parte. Indique la propia foto.</translation>
     </message>
     <message>
         <source>There is no such file. Check its name and folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no existe. Compruebe el nombre y la carpeta.</translation>
     </message>
     <message>
         <source>This is a folder. Name the photographs in it, for instance &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto es una carpeta. Indique las fotos que contiene, por ejemplo «%1».</translation>
     </message>
     <message>
         <source>This is no regular file. Copy the photograph into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto no es un archivo normal. Copie la foto en un archivo normal.</translation>
     </message>
     <message>
         <source>The file can&apos;t be read. Give yourself the permission to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer el archivo. Asígnese permiso para leerlo.</translation>
     </message>
     <message>
         <source>The file is empty. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo está vacío. Vuelva a copiarlo desde la cámara o desde una copia de seguridad.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay suficiente memoria para este archivo RAW. Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
     </message>
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede revelar el archivo RAW: %1. Vuelva a copiarlo o conviértalo a DNG o TIFF.</translation>
     </message>
 </context>
 <context>
     <name>PhotoPage</name>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar</translation>
     </message>
     <message>
         <source>Photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos</translation>
     </message>
     <message>
         <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija las fotos de las que se debe quitar la bruma o arrástrelas aquí. Las fotos no se modifican: cada resultado se guarda junto a su foto.</translation>
     </message>
     <message>
         <source>&amp;Add photographs...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir fotos...</translation>
     </message>
     <message>
         <source>&amp;Open a session...</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;brir una sesión...</translation>
     </message>
     <message>
         <source>A settings file with photographs and the strength of each</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo de ajustes con fotos y la potencia de cada una</translation>
     </message>
     <message>
         <source>%1: There are no photographs in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: en esta carpeta no hay fotos.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>Reading %n photograph(s)...</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Leyendo %n foto...</numerusform>
+            <numerusform>Leyendo %n fotos...</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n photograph(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n foto</numerusform>
+            <numerusform>%n fotos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>... y %n más</numerusform>
+            <numerusform>... y %n más</numerusform>
         </translation>
     </message>
     <message>
         <source>Left out:</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitidas:</translation>
     </message>
     <message>
         <source>Add photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir fotos</translation>
     </message>
     <message>
         <source>Photographs (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Open a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una sesión</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de ajustes (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>Photograph</name>
     <message>
         <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>La foto es demasiado ancha: solo se puede quitar la bruma de fotos de hasta %1 píxeles de ancho. Redúzcala o divídala en partes.</translation>
     </message>
 </context>
 <context>
     <name>PluginFile</name>
     <message>
         <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el complemento «%1». Compílelo o instálelo, o indique dónde está con --plugin ARCHIVO.</translation>
     </message>
     <message>
         <source>&quot; or &quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>» o «</translation>
     </message>
     <message>
         <source>it is a plug-in of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>es un complemento de otro tipo</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar el complemento «%1»: %2. Vuelva a instalarlo o indique otro con --plugin ARCHIVO.</translation>
     </message>
 </context>
 <context>
     <name>ProgressView</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1: %2 (%3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3 s)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fotos procesadas.</translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos procesadas: %1 de %2; no procesadas: %3.</translation>
     </message>
     <message>
         <source>reading</source>
-        <translation type="unfinished"></translation>
+        <translation>leyendo</translation>
     </message>
     <message>
         <source>taking haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>quitando la bruma</translation>
     </message>
     <message>
         <source>saving</source>
-        <translation type="unfinished"></translation>
+        <translation>guardando</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 <context>
     <name>ResultPage</name>
     <message>
         <source>Open &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la &amp;carpeta</translation>
     </message>
     <message>
         <source>&amp;Save session...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar la sesión...</translation>
     </message>
     <message>
         <source>Keep the photographs and the strength of each in a settings file</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar las fotos y la potencia de cada una en un archivo de ajustes</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>All photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han procesado todas las fotos.</translation>
     </message>
     <message>
         <source>%1 of %2 photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos procesadas: %1 de %2.</translation>
     </message>
     <message>
         <source>Stopped before it began.</source>
-        <translation type="unfinished"></translation>
+        <translation>Detenido antes de empezar.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volver a empezar</translation>
     </message>
     <message>
         <source>Choose other photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir otras fotos</translation>
     </message>
 </context>
 <context>
     <name>RunCommand</name>
     <message>
         <source>No --strength given: using your stored default of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha indicado --strength: se usa su valor predeterminado guardado, %1.</translation>
     </message>
     <message>
         <source>No --strength given and no default stored: using %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha indicado --strength ni hay un valor predeterminado guardado: se usa %1.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de ajustes «%1» no contiene ninguna foto. Indique alguna.</translation>
     </message>
     <message>
         <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de ajustes «%1» no existe. Indique fotos para crearlo.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de ajustes «%1» no se puede escribir ahí. Indique uno en otra carpeta.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de ajustes «%1» tiene el nombre de un resultado. Dele otro nombre.</translation>
     </message>
 </context>
 <context>
     <name>RunPage</name>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Detener</translation>
     </message>
     <message>
         <source>Taking the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitando la bruma</translation>
     </message>
     <message>
         <source>Each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada resultado se guarda junto a su foto.</translation>
     </message>
     <message>
         <source>&amp;Replace them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reemplazar</translation>
     </message>
     <message>
         <source>&amp;Keep them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conservar</translation>
     </message>
     <message>
         <source>Photograph</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Potencia</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) of an earlier run are there already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ya existe %n resultado de un proceso anterior.</numerusform>
+            <numerusform>Ya existen %n resultados de un proceso anterior.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>En espera</translation>
     </message>
     <message>
         <source>%v of %m</source>
-        <translation type="unfinished"></translation>
+        <translation>%v de %m</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminado</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Detenido</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Stopping. The photographs in hand end first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deteniendo. Antes se terminan las fotos en curso.</translation>
     </message>
     <message>
         <source>Its result was there already and has been kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su resultado ya existía y se ha conservado.</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservado</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be used: %2. Repair it, or name another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar el archivo de ajustes «%1»: %2. Repárelo o indique otro.</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>es una carpeta</translation>
     </message>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1, columna %2: %3</translation>
     </message>
     <message>
         <source>its outermost element is not &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>su elemento raíz no es &lt;%1&gt;</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1</translation>
     </message>
     <message>
         <source>%1: a photo without a path</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: una foto sin ruta</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; stands in it twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: «%2» aparece dos veces</translation>
     </message>
     <message>
         <source>%1: the photo needs &lt;%2 %3=&quot;...&quot;/&gt; with a whole number from 0 to 100</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: la foto necesita &lt;%2 %3=&quot;...&quot;/&gt; con un número entero de 0 a 100</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir el archivo de ajustes «%1»: %2. Libere espacio o asígnese permiso para escribir ahí.</translation>
     </message>
 </context>
 <context>
     <name>WizardWindow</name>
     <message>
         <source>veilaway</source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway</translation>
     </message>
     <message>
         <source>&amp;Take the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la bruma</translation>
     </message>
     <message>
         <source>Save session</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la sesión</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de ajustes (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>XmpCarrier</name>
     <message>
         <source>the result can&apos;t be replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede reemplazar el resultado</translation>
     </message>
 </context>
 </TS>

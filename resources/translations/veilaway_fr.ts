@@ -5,112 +5,112 @@
     <name>BatchPlan</name>
     <message>
         <source>It has no suffix, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>La photo n&apos;a pas d&apos;extension : le résultat sera un TIFF.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le format « %1 » ne peut pas être écrit : le résultat sera un TIFF.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son résultat « %1 » est lui-même l&apos;une des photos indiquées. Retirez l&apos;une des deux.</translation>
     </message>
     <message>
         <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette photo est le résultat de « %1 », également indiquée. Retirez l&apos;une des deux.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son résultat « %1 » est le même fichier que la photo « %2 ». Déplacez l&apos;un des deux.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son résultat « %1 » serait aussi celui de « %2 ». Renommez l&apos;une des deux photos.</translation>
     </message>
     <message>
         <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dossier se trouve à l&apos;emplacement du résultat, « %1 ». Déplacez ce dossier.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son résultat « %1 » existe déjà. Indiquez --overwrite pour le remplacer.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Copy the photograph to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire le résultat : le dossier « %1 » est en lecture seule. Copiez la photo dans un autre dossier.</translation>
     </message>
     <message>
         <source>The name of its result would be too long. Give the photograph a shorter name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du résultat serait trop long. Donnez à la photo un nom plus court.</translation>
     </message>
 </context>
 <context>
     <name>BatchRunner</name>
     <message>
         <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le résultat est enregistré, mais les données XMP de la photo n&apos;ont pas pu y être copiées : %1.</translation>
     </message>
     <message>
         <source>The plug-in failed at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le module a échoué à %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mémoire est insuffisante.</translation>
     </message>
     <message>
         <source>Stopped; no result was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêté ; aucun résultat n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermez d&apos;autres programmes ou traitez les photos une par une (--jobs 1).</translation>
     </message>
     <message>
         <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Libérez de la place dans le dossier « %1 » et vérifiez que vous avez le droit d&apos;y écrire.</translation>
     </message>
     <message>
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Le module a écrit « %1 » au lieu de « %2 »</translation>
     </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Après</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength attend un nombre entier de 0 à 100, et non « %1 ».</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--jobs attend un nombre entier de 1 à %1, et non « %2 ».</translation>
     </message>
     <message>
         <source>--language knows %1, but not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--language connaît %1, mais pas « %2 ».</translation>
     </message>
     <message>
         <source>--settings wants the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>--settings attend le nom d&apos;un fichier.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 ne s&apos;applique pas à l&apos;assistant, qui pose la question dans sa fenêtre.</translation>
     </message>
     <message>
         <source>Name the photographs to take the haze from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquez les photos dont il faut retirer le voile.</translation>
     </message>
     <message>
         <source>veilaway takes the haze out of photographs.
@@ -173,439 +173,506 @@ Examples:
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway retire le voile atmosphérique des photos.
+
+Utilisation :
+  veilaway [run] PHOTO... [options]
+  veilaway [run] --settings FICHIER [options]
+  veilaway wizard [PHOTO...] [options]
+  veilaway --help | --version
+
+Chaque résultat est enregistré à côté de sa photo, sous le nom de celle-ci suivi
+d&apos;un suffixe : hills.jpg devient hills_dehazed.jpg. La photo elle-même n&apos;est jamais
+modifiée. Le suffixe dépend de la langue : _entnebelt avec --language de, par exemple.
+
+L&apos;assistant ouvre une fenêtre : choisissez les photos, réglez la puissance de chacune
+avec un aperçu en direct, retirez le voile et comparez. Il accepte --settings (le
+fichier contient ensuite les puissances), --language, --jobs, --share-services et
+--plugin.
+
+Options :
+  --strength N      Quantité de voile à retirer, en pour cent : 0 laisse l&apos;image telle
+                    quelle, 100 retire tout. Sans cette option, c&apos;est la puissance du
+                    fichier de réglages qui compte, sinon votre valeur par défaut
+                    enregistrée, sinon 70.
+  --settings FICHIER
+                    Conserver la puissance de chaque photo dans ce fichier XML. Si le
+                    fichier existe, ses puissances sont utilisées, sauf si --strength
+                    est aussi indiqué ; à la fin, il contient les puissances
+                    utilisées. Sans PHOTO, toutes les photos du fichier sont traitées.
+  --language LANG   Langue des messages et du suffixe : de, en, es, fr, it, ja, pl,
+                    ru, zh_CN ou zh_TW. Sans cette option, celle du système.
+  --jobs N          Nombre de photos traitées en même temps. Sans cette option, autant
+                    qu&apos;il en faut pour occuper tous les cœurs et qu&apos;en permet la
+                    mémoire.
+  --overwrite       Remplacer les résultats qui existent déjà.
+  --quiet           Ne signaler que les échecs.
+  --json            Écrire pour chaque photo une ligne avec un objet JSON : photo,
+                    result, status (done, failed, stopped), strength, seconds,
+                    message.
+  --share-services  Prêter au module les services du programme (journal, réserve de
+                    mémoire, nombre de processeurs) au lieu de le laisser
+                    créer les siens.
+  --plugin FICHIER  Charger ce fichier de module au lieu de Nimbra.so, à côté du
+                    programme ou dans ../lib/nimbra.
+  -h, --help        Afficher ce texte.
+  --version         Afficher les versions du programme et du module.
+  --                Ce qui suit désigne des photos, même si cela commence par un
+                    tiret.
+
+Formats :
+  En lecture et en écriture : JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr,
+  hdri), OpenEXR (exr) et PSD. Un résultat garde le format de sa photo, sa profondeur
+  (8 ou 16 bits ou virgule flottante), son profil de couleurs, ses données EXIF, IPTC
+  et XMP. L&apos;orientation EXIF est conservée : le résultat s&apos;affiche comme sa photo.
+  En lecture seule : RAW (dng, cr2, cr3, nef, arw, raf, orf, rw2 et autres). Le
+  résultat est un TIFF 16 bits. Les photos avec une autre extension, ou sans
+  extension, donnent aussi un TIFF. Les fichiers XMP annexes restent en place et ne
+  sont pas lus.
+
+Codes de retour :
+  0  Toutes les photos sont traitées.
+  1  Certaines ne le sont pas : la sortie d&apos;erreur standard dit lesquelles, pourquoi
+     et que faire. Ctrl-C termine de même, sans laisser de résultat incomplet.
+  2  La ligne de commande ou le fichier de réglages est incorrect ; rien n&apos;a commencé.
+
+Exemples :
+  veilaway hills.jpg --strength 80
+  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
+  veilaway --settings holiday/haze.xml --overwrite
+</translation>
     </message>
     <message>
         <source>See veilaway --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir veilaway --help.</translation>
     </message>
 </context>
 <context>
     <name>NimbraOne2One</name>
     <message>
         <source>_dehazed</source>
-        <translation type="unfinished"></translation>
+        <translation>_dehazed</translation>
     </message>
 </context>
 <context>
     <name>PhotoLoader</name>
     <message>
         <source>The file can&apos;t be opened. Check that it exists and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;ouvrir le fichier. Vérifiez qu&apos;il existe et que vous avez le droit de le lire.</translation>
     </message>
     <message>
         <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est tronqué ou endommagé. Copiez-le de nouveau depuis l&apos;appareil photo ou une sauvegarde.</translation>
     </message>
     <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>La mémoire est insuffisante pour cette photo. Fermez d&apos;autres programmes ou traitez les photos une par une (--jobs 1).</translation>
     </message>
     <message>
         <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est pas une image d&apos;un format connu, ou son format n&apos;est pas celui qu&apos;annonce l&apos;extension. Les formats lus sont JPEG, PNG, TIFF, HDR, EXR, PSD et RAW ; donnez au fichier l&apos;extension qui lui correspond ou convertissez-le.</translation>
     </message>
     <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce type de pixels ne peut pas être lu. Enregistrez la photo en RVB 8 ou 16 bits et réessayez.</translation>
     </message>
     <message>
         <source>An empty name stands for no photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom vide ne désigne aucune photo.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lien ne mène nulle part. Indiquez la photo elle-même.</translation>
     </message>
     <message>
         <source>There is no such file. Check its name and folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier n&apos;existe pas. Vérifiez son nom et son dossier.</translation>
     </message>
     <message>
         <source>This is a folder. Name the photographs in it, for instance &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>C&apos;est un dossier. Indiquez les photos qu&apos;il contient, par exemple « %1 ».</translation>
     </message>
     <message>
         <source>This is no regular file. Copy the photograph into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n&apos;est pas un fichier ordinaire. Copiez la photo dans un fichier ordinaire.</translation>
     </message>
     <message>
         <source>The file can&apos;t be read. Give yourself the permission to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier. Accordez-vous le droit de le lire.</translation>
     </message>
     <message>
         <source>The file is empty. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est vide. Copiez-le de nouveau depuis l&apos;appareil photo ou une sauvegarde.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>La mémoire est insuffisante pour ce fichier RAW. Fermez d&apos;autres programmes ou traitez les photos une par une (--jobs 1).</translation>
     </message>
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de développer le fichier RAW : %1. Copiez-le de nouveau ou convertissez-le en DNG ou en TIFF.</translation>
     </message>
 </context>
 <context>
     <name>PhotoPage</name>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer</translation>
     </message>
     <message>
         <source>Photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Photos</translation>
     </message>
     <message>
         <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez les photos dont il faut retirer le voile, ou déposez-les ici. Elles restent intactes : chaque résultat est enregistré à côté de sa photo.</translation>
     </message>
     <message>
         <source>&amp;Add photographs...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter des photos...</translation>
     </message>
     <message>
         <source>&amp;Open a session...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir une session...</translation>
     </message>
     <message>
         <source>A settings file with photographs and the strength of each</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier de réglages contenant des photos et la puissance de chacune</translation>
     </message>
     <message>
         <source>%1: There are no photographs in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : ce dossier ne contient aucune photo.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2</translation>
     </message>
     <message numerus="yes">
         <source>Reading %n photograph(s)...</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Lecture de %n photo...</numerusform>
+            <numerusform>Lecture de %n photos...</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n photograph(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n photo</numerusform>
+            <numerusform>%n photos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>... et %n autre</numerusform>
+            <numerusform>... et %n autres</numerusform>
         </translation>
     </message>
     <message>
         <source>Left out:</source>
-        <translation type="unfinished"></translation>
+        <translation>Écartées :</translation>
     </message>
     <message>
         <source>Add photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter des photos</translation>
     </message>
     <message>
         <source>Photographs (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Photos (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Open a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une session</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de réglages (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>Photograph</name>
     <message>
         <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>La photo est trop large : le voile ne peut être retiré que de photos d&apos;une largeur maximale de %1 pixels. Réduisez-la ou découpez-la en plusieurs parties.</translation>
     </message>
 </context>
 <context>
     <name>PluginFile</name>
     <message>
         <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le module « %1 » est introuvable. Compilez-le, installez-le, ou indiquez son emplacement avec --plugin FICHIER.</translation>
     </message>
     <message>
         <source>&quot; or &quot;</source>
-        <translation type="unfinished"></translation>
+        <translation> » ou « </translation>
     </message>
     <message>
         <source>it is a plug-in of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un module d&apos;un autre type</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;utiliser le module « %1 » : %2. Réinstallez-le ou indiquez-en un autre avec --plugin FICHIER.</translation>
     </message>
 </context>
 <context>
     <name>ProgressView</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1: %2 (%3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 (%3 s)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 photos traitées.</translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Photos traitées : %1 sur %2 ; non traitées : %3.</translation>
     </message>
     <message>
         <source>reading</source>
-        <translation type="unfinished"></translation>
+        <translation>lecture</translation>
     </message>
     <message>
         <source>taking haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait du voile</translation>
     </message>
     <message>
         <source>saving</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrement</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
 </context>
 <context>
     <name>ResultPage</name>
     <message>
         <source>Open &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le &amp;dossier</translation>
     </message>
     <message>
         <source>&amp;Save session...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer la session...</translation>
     </message>
     <message>
         <source>Keep the photographs and the strength of each in a settings file</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver les photos et la puissance de chacune dans un fichier de réglages</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats</translation>
     </message>
     <message>
         <source>All photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les photos sont traitées.</translation>
     </message>
     <message>
         <source>%1 of %2 photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Photos traitées : %1 sur %2.</translation>
     </message>
     <message>
         <source>Stopped before it began.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêté avant d&apos;avoir commencé.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
-        <translation type="unfinished"></translation>
+        <translation>Reco&amp;mmencer</translation>
     </message>
     <message>
         <source>Choose other photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir d&apos;autres photos</translation>
     </message>
 </context>
 <context>
     <name>RunCommand</name>
     <message>
         <source>No --strength given: using your stored default of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength non indiqué : votre valeur par défaut enregistrée, %1, est utilisée.</translation>
     </message>
     <message>
         <source>No --strength given and no default stored: using %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength non indiqué et aucune valeur par défaut enregistrée : %1 est utilisé.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de réglages « %1 » ne cite aucune photo. Indiquez-en.</translation>
     </message>
     <message>
         <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de réglages « %1 » n&apos;existe pas. Indiquez des photos pour le créer.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire le fichier de réglages « %1 » à cet endroit. Indiquez-en un dans un autre dossier.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de réglages « %1 » porte le nom d&apos;un résultat. Donnez-lui un autre nom.</translation>
     </message>
 </context>
 <context>
     <name>RunPage</name>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter</translation>
     </message>
     <message>
         <source>Taking the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>Retrait du voile</translation>
     </message>
     <message>
         <source>Each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque résultat est enregistré à côté de sa photo.</translation>
     </message>
     <message>
         <source>&amp;Replace them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remplacer</translation>
     </message>
     <message>
         <source>&amp;Keep them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conserver</translation>
     </message>
     <message>
         <source>Photograph</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) of an earlier run are there already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n résultat d&apos;un traitement précédent existe déjà.</numerusform>
+            <numerusform>%n résultats d&apos;un traitement précédent existent déjà.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente</translation>
     </message>
     <message>
         <source>%v of %m</source>
-        <translation type="unfinished"></translation>
+        <translation>%v sur %m</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêté</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec</translation>
     </message>
     <message>
         <source>Stopping. The photographs in hand end first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt en cours. Le traitement des photos commencées se termine d&apos;abord.</translation>
     </message>
     <message>
         <source>Its result was there already and has been kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son résultat existait déjà et a été conservé.</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservé</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be used: %2. Repair it, or name another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;utiliser le fichier de réglages « %1 » : %2. Réparez-le ou indiquez-en un autre.</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;est un dossier</translation>
     </message>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1, colonne %2 : %3</translation>
     </message>
     <message>
         <source>its outermost element is not &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>son élément racine n&apos;est pas &lt;%1&gt;</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1</translation>
     </message>
     <message>
         <source>%1: a photo without a path</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : une photo sans chemin</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; stands in it twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : « %2 » y figure deux fois</translation>
     </message>
     <message>
         <source>%1: the photo needs &lt;%2 %3=&quot;...&quot;/&gt; with a whole number from 0 to 100</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : la photo requiert &lt;%2 %3=&quot;...&quot;/&gt; avec un nombre entier de 0 à 100</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire le fichier de réglages « %1 » : %2. Libérez de la place ou accordez-vous le droit d&apos;écrire à cet endroit.</translation>
     </message>
 </context>
 <context>
     <name>WizardWindow</name>
     <message>
         <source>veilaway</source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway</translation>
     </message>
     <message>
         <source>&amp;Take the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer le &amp;voile</translation>
     </message>
     <message>
         <source>Save session</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la session</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de réglages (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>XmpCarrier</name>
     <message>
         <source>the result can&apos;t be replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>le résultat ne peut pas être remplacé</translation>
     </message>
 </context>
 </TS>

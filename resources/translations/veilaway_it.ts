@@ -5,112 +5,112 @@
     <name>BatchPlan</name>
     <message>
         <source>It has no suffix, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>La foto non ha estensione, quindi il risultato sarà un TIFF.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il formato &quot;%1&quot; non può essere scritto, quindi il risultato sarà un TIFF.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il suo risultato &quot;%1&quot; è a sua volta una delle foto indicate. Omettere una delle due.</translation>
     </message>
     <message>
         <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa foto è il risultato di &quot;%1&quot;, anch&apos;essa indicata. Omettere una delle due.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il suo risultato &quot;%1&quot; è lo stesso file della foto &quot;%2&quot;. Spostare altrove uno dei due.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il suo risultato &quot;%1&quot; sarebbe anche quello di &quot;%2&quot;. Rinominare una delle due foto.</translation>
     </message>
     <message>
         <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al posto del risultato, &quot;%1&quot;, c&apos;è una cartella. Spostare altrove la cartella.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il suo risultato &quot;%1&quot; esiste già. Indicare --overwrite per sostituirlo.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Copy the photograph to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere il risultato: la cartella &quot;%1&quot; è di sola lettura. Copiare la foto in un&apos;altra cartella.</translation>
     </message>
     <message>
         <source>The name of its result would be too long. Give the photograph a shorter name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome del risultato sarebbe troppo lungo. Dare alla foto un nome più corto.</translation>
     </message>
 </context>
 <context>
     <name>BatchRunner</name>
     <message>
         <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il risultato è stato salvato, ma non è stato possibile copiarvi i dati XMP della foto: %1.</translation>
     </message>
     <message>
         <source>The plug-in failed at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Errore del plugin in %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria insufficiente.</translation>
     </message>
     <message>
         <source>Stopped; no result was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrotto; nessun risultato è stato scritto.</translation>
     </message>
     <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudere altri programmi o elaborare una foto alla volta (--jobs 1).</translation>
     </message>
     <message>
         <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liberare spazio nella cartella &quot;%1&quot; e verificare di avere il permesso di scrivervi.</translation>
     </message>
     <message>
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Il plugin ha scritto &quot;%1&quot; invece di &quot;%2&quot;</translation>
     </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Dopo</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength richiede un numero intero da 0 a 100, non &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--jobs richiede un numero intero da 1 a %1, non &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>--language knows %1, but not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--language riconosce %1, ma non &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>--settings wants the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>--settings richiede il nome di un file.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 non vale per la procedura guidata, che chiede nella sua finestra.</translation>
     </message>
     <message>
         <source>Name the photographs to take the haze from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicare le foto da cui rimuovere la foschia.</translation>
     </message>
     <message>
         <source>veilaway takes the haze out of photographs.
@@ -173,439 +173,500 @@ Examples:
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway rimuove la foschia dalle foto.
+
+Uso:
+  veilaway [run] FOTO... [opzioni]
+  veilaway [run] --settings FILE [opzioni]
+  veilaway wizard [FOTO...] [opzioni]
+  veilaway --help | --version
+
+Ogni risultato viene salvato accanto alla propria foto, con lo stesso nome più un
+suffisso: hills.jpg diventa &quot;hills_senza foschia.jpg&quot;. La foto originale non viene mai
+modificata. Il suffisso segue la lingua: con --language en, per esempio, è _dehazed.
+
+La procedura guidata apre una finestra: scegliere le foto, regolare la potenza di
+ciascuna con un&apos;anteprima in tempo reale, rimuovere la foschia e confrontare. Accetta
+--settings (il file conterrà poi le potenze), --language, --jobs, --share-services e
+--plugin.
+
+Opzioni:
+  --strength N      Quanta foschia rimuovere, in percentuale: 0 lascia l&apos;immagine
+                    com&apos;è, 100 la rimuove tutta. Senza questa opzione vale la potenza
+                    nel file di impostazioni, poi il valore predefinito salvato,
+                    poi 70.
+  --settings FILE   Conserva la potenza di ogni foto in questo file XML. Se il file
+                    esiste, se ne usano le potenze, a meno che non sia indicato anche
+                    --strength; alla fine contiene le potenze usate. Senza FOTO si
+                    elaborano tutte le foto del file.
+  --language LANG   Lingua dei messaggi e del suffisso: de, en, es, fr, it, ja, pl,
+                    ru, zh_CN o zh_TW. Senza questa opzione, quella del sistema.
+  --jobs N          Numero di foto elaborate contemporaneamente. Senza questa opzione,
+                    quante bastano a occupare tutti i core e stanno in memoria.
+  --overwrite       Sostituisce i risultati già esistenti.
+  --quiet           Segnala soltanto gli errori.
+  --json            Scrive per ogni foto una riga con un oggetto JSON: photo, result,
+                    status (done, failed, stopped), strength, seconds, message.
+  --share-services  Presta al plugin i servizi del programma (registro, riserva di
+                    memoria, numero di processori) invece di lasciare che li crei.
+  --plugin FILE     Carica questo file di plugin invece di Nimbra.so accanto al
+                    programma o in ../lib/nimbra.
+  -h, --help        Mostra questo testo.
+  --version         Mostra le versioni del programma e del plugin.
+  --                Ciò che segue sono foto, anche se iniziano con un trattino.
+
+Formati:
+  In lettura e scrittura: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr,
+  hdri), OpenEXR (exr) e PSD. Il risultato ha il formato della foto, la sua profondità
+  (8 o 16 bit o virgola mobile), il profilo colore e i dati EXIF, IPTC e XMP.
+  L&apos;orientamento EXIF viene mantenuto, così il risultato appare come la foto.
+  In sola lettura: RAW (dng, cr2, cr3, nef, arw, raf, orf, rw2 e altri). Il risultato
+  è un TIFF a 16 bit. Anche le foto con un&apos;altra estensione, o senza, diventano un
+  TIFF. I file XMP collaterali restano dove sono e non vengono letti.
+
+Codici di uscita:
+  0  Tutte le foto sono state elaborate.
+  1  Alcune no: lo standard error dice quali, perché e che cosa fare. Anche Ctrl-C
+     termina così, senza lasciare risultati a metà.
+  2  La riga di comando o il file di impostazioni è errato; nulla è stato iniziato.
+
+Esempi:
+  veilaway hills.jpg --strength 80
+  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
+  veilaway --settings holiday/haze.xml --overwrite
+</translation>
     </message>
     <message>
         <source>See veilaway --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vedere veilaway --help.</translation>
     </message>
 </context>
 <context>
     <name>NimbraOne2One</name>
     <message>
         <source>_dehazed</source>
-        <translation type="unfinished"></translation>
+        <translation>_senza foschia</translation>
     </message>
 </context>
 <context>
     <name>PhotoLoader</name>
     <message>
         <source>The file can&apos;t be opened. Check that it exists and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire il file. Verificare che esista e di avere il permesso di leggerlo.</translation>
     </message>
     <message>
         <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file è incompleto o danneggiato. Copiarlo di nuovo dalla fotocamera o da un backup.</translation>
     </message>
     <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria insufficiente per questa foto. Chiudere altri programmi o elaborare una foto alla volta (--jobs 1).</translation>
     </message>
     <message>
         <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è un&apos;immagine in un formato noto, oppure il formato non è quello indicato dall&apos;estensione. Si possono leggere JPEG, PNG, TIFF, HDR, EXR, PSD e RAW; dare al file l&apos;estensione corretta o convertirlo.</translation>
     </message>
     <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo tipo di pixel non può essere letto. Salvare la foto in RGB a 8 o 16 bit e riprovare.</translation>
     </message>
     <message>
         <source>An empty name stands for no photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nome vuoto non indica alcuna foto.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il collegamento non porta a nulla. Indicare direttamente la foto.</translation>
     </message>
     <message>
         <source>There is no such file. Check its name and folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file non esiste. Verificare il nome e la cartella.</translation>
     </message>
     <message>
         <source>This is a folder. Name the photographs in it, for instance &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa è una cartella. Indicare le foto che contiene, per esempio &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>This is no regular file. Copy the photograph into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo non è un file normale. Copiare la foto in un file normale.</translation>
     </message>
     <message>
         <source>The file can&apos;t be read. Give yourself the permission to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere il file. Attribuirsi il permesso di leggerlo.</translation>
     </message>
     <message>
         <source>The file is empty. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file è vuoto. Copiarlo di nuovo dalla fotocamera o da un backup.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Memoria insufficiente per questo file RAW. Chiudere altri programmi o elaborare una foto alla volta (--jobs 1).</translation>
     </message>
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile sviluppare il file RAW: %1. Copiarlo di nuovo o convertirlo in DNG o TIFF.</translation>
     </message>
 </context>
 <context>
     <name>PhotoPage</name>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rimuovi</translation>
     </message>
     <message>
         <source>Photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto</translation>
     </message>
     <message>
         <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegliere le foto da cui rimuovere la foschia o trascinarle qui. Le foto restano intatte: ogni risultato viene salvato accanto alla propria foto.</translation>
     </message>
     <message>
         <source>&amp;Add photographs...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aggiungi foto...</translation>
     </message>
     <message>
         <source>&amp;Open a session...</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;pri una sessione...</translation>
     </message>
     <message>
         <source>A settings file with photographs and the strength of each</source>
-        <translation type="unfinished"></translation>
+        <translation>Un file di impostazioni con le foto e la potenza di ciascuna</translation>
     </message>
     <message>
         <source>%1: There are no photographs in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: la cartella non contiene foto.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>Reading %n photograph(s)...</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Lettura di %n foto...</numerusform>
+            <numerusform>Lettura di %n foto...</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n photograph(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n foto</numerusform>
+            <numerusform>%n foto</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>... e %n altra</numerusform>
+            <numerusform>... e altre %n</numerusform>
         </translation>
     </message>
     <message>
         <source>Left out:</source>
-        <translation type="unfinished"></translation>
+        <translation>Escluse:</translation>
     </message>
     <message>
         <source>Add photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi foto</translation>
     </message>
     <message>
         <source>Photographs (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i file (*)</translation>
     </message>
     <message>
         <source>Open a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri una sessione</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>File di impostazioni (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>Photograph</name>
     <message>
         <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>La foto è troppo larga: la foschia può essere rimossa da foto larghe al massimo %1 pixel. Ridurla o dividerla in parti.</translation>
     </message>
 </context>
 <context>
     <name>PluginFile</name>
     <message>
         <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il plugin &quot;%1&quot; non è presente. Compilarlo o installarlo, oppure indicare con --plugin FILE dove si trova.</translation>
     </message>
     <message>
         <source>&quot; or &quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot; o &quot;</translation>
     </message>
     <message>
         <source>it is a plug-in of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>è un plugin di un altro tipo</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile usare il plugin &quot;%1&quot;: %2. Reinstallarlo o indicarne un altro con --plugin FILE.</translation>
     </message>
 </context>
 <context>
     <name>ProgressView</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1: %2 (%3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3 s)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 foto elaborate.</translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto elaborate: %1 su %2; non elaborate: %3.</translation>
     </message>
     <message>
         <source>reading</source>
-        <translation type="unfinished"></translation>
+        <translation>lettura</translation>
     </message>
     <message>
         <source>taking haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>rimozione della foschia</translation>
     </message>
     <message>
         <source>saving</source>
-        <translation type="unfinished"></translation>
+        <translation>salvataggio</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2</translation>
     </message>
 </context>
 <context>
     <name>ResultPage</name>
     <message>
         <source>Open &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apri la cartella</translation>
     </message>
     <message>
         <source>&amp;Save session...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva la sessione...</translation>
     </message>
     <message>
         <source>Keep the photographs and the strength of each in a settings file</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserva le foto e la potenza di ciascuna in un file di impostazioni</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultati</translation>
     </message>
     <message>
         <source>All photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le foto sono state elaborate.</translation>
     </message>
     <message>
         <source>%1 of %2 photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto elaborate: %1 su %2.</translation>
     </message>
     <message>
         <source>Stopped before it began.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrotto prima di iniziare.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ricomincia</translation>
     </message>
     <message>
         <source>Choose other photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli altre foto</translation>
     </message>
 </context>
 <context>
     <name>RunCommand</name>
     <message>
         <source>No --strength given: using your stored default of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength non indicato: si usa il valore predefinito salvato, %1.</translation>
     </message>
     <message>
         <source>No --strength given and no default stored: using %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength non indicato e nessun valore predefinito salvato: si usa %1.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file di impostazioni &quot;%1&quot; non elenca alcuna foto. Indicarne qualcuna.</translation>
     </message>
     <message>
         <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file di impostazioni &quot;%1&quot; non esiste. Indicare delle foto per crearlo.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere lì il file di impostazioni &quot;%1&quot;. Indicarne uno in un&apos;altra cartella.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file di impostazioni &quot;%1&quot; ha il nome di un risultato. Dargli un altro nome.</translation>
     </message>
 </context>
 <context>
     <name>RunPage</name>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Interrompi</translation>
     </message>
     <message>
         <source>Taking the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimozione della foschia</translation>
     </message>
     <message>
         <source>Each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogni risultato viene salvato accanto alla propria foto.</translation>
     </message>
     <message>
         <source>&amp;Replace them</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ostituisci</translation>
     </message>
     <message>
         <source>&amp;Keep them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mantieni</translation>
     </message>
     <message>
         <source>Photograph</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Potenza</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzamento</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) of an earlier run are there already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Esiste già %n risultato di un&apos;elaborazione precedente.</numerusform>
+            <numerusform>Esistono già %n risultati di un&apos;elaborazione precedente.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa</translation>
     </message>
     <message>
         <source>%v of %m</source>
-        <translation type="unfinished"></translation>
+        <translation>%v di %m</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvataggio</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fatto</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrotto</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Non riuscito</translation>
     </message>
     <message>
         <source>Stopping. The photographs in hand end first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interruzione in corso. Prima si concludono le foto in lavorazione.</translation>
     </message>
     <message>
         <source>Its result was there already and has been kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il suo risultato esisteva già ed è stato mantenuto.</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantenuto</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be used: %2. Repair it, or name another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile usare il file di impostazioni &quot;%1&quot;: %2. Correggerlo o indicarne un altro.</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>è una cartella</translation>
     </message>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1, colonna %2: %3</translation>
     </message>
     <message>
         <source>its outermost element is not &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo elemento radice non è &lt;%1&gt;</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1</translation>
     </message>
     <message>
         <source>%1: a photo without a path</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: una foto senza percorso</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; stands in it twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: &quot;%2&quot; vi compare due volte</translation>
     </message>
     <message>
         <source>%1: the photo needs &lt;%2 %3=&quot;...&quot;/&gt; with a whole number from 0 to 100</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: alla foto serve &lt;%2 %3=&quot;...&quot;/&gt; con un numero intero da 0 a 100</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere il file di impostazioni &quot;%1&quot;: %2. Liberare spazio o attribuirsi il permesso di scrivervi.</translation>
     </message>
 </context>
 <context>
     <name>WizardWindow</name>
     <message>
         <source>veilaway</source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway</translation>
     </message>
     <message>
         <source>&amp;Take the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rimuovi la foschia</translation>
     </message>
     <message>
         <source>Save session</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva la sessione</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>File di impostazioni (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>XmpCarrier</name>
     <message>
         <source>the result can&apos;t be replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>il risultato non può essere sostituito</translation>
     </message>
 </context>
 </TS>

@@ -5,112 +5,112 @@
     <name>BatchPlan</name>
     <message>
         <source>It has no suffix, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdjęcie nie ma rozszerzenia, więc wynik będzie plikiem TIFF.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Formatu „%1” nie można zapisać, więc wynik będzie plikiem TIFF.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wynik „%1” jest zarazem jednym z podanych zdjęć. Należy pominąć jedno z nich.</translation>
     </message>
     <message>
         <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
-        <translation type="unfinished"></translation>
+        <translation>To zdjęcie jest wynikiem dla „%1”, które również podano. Należy pominąć jedno z nich.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wynik „%1” to ten sam plik co zdjęcie „%2”. Jeden z nich należy przenieść gdzie indziej.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wynik „%1” byłby zarazem wynikiem dla „%2”. Należy zmienić nazwę jednego z tych zdjęć.</translation>
     </message>
     <message>
         <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
-        <translation type="unfinished"></translation>
+        <translation>W miejscu wyniku, „%1”, znajduje się folder. Należy go przenieść gdzie indziej.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wynik „%1” już istnieje. Aby go zastąpić, należy podać --overwrite.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Copy the photograph to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać wyniku: folder „%1” jest tylko do odczytu. Należy skopiować zdjęcie do innego folderu.</translation>
     </message>
     <message>
         <source>The name of its result would be too long. Give the photograph a shorter name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwa wyniku byłaby za długa. Należy nadać zdjęciu krótszą nazwę.</translation>
     </message>
 </context>
 <context>
     <name>BatchRunner</name>
     <message>
         <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wynik został zapisany, ale nie udało się skopiować do niego danych XMP zdjęcia: %1.</translation>
     </message>
     <message>
         <source>The plug-in failed at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Błąd wtyczki w %1</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Za mało pamięci.</translation>
     </message>
     <message>
         <source>Stopped; no result was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatrzymano; wynik nie został zapisany.</translation>
     </message>
     <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Należy zamknąć inne programy lub przetwarzać zdjęcia pojedynczo (--jobs 1).</translation>
     </message>
     <message>
         <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Należy zwolnić miejsce w folderze „%1” i sprawdzić, czy można w nim zapisywać.</translation>
     </message>
     <message>
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Wtyczka zapisała „%1” zamiast „%2”</translation>
     </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Przed</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Po</translation>
     </message>
 </context>
 <context>
     <name>CommandLine</name>
     <message>
         <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--strength wymaga liczby całkowitej od 0 do 100, a nie „%1”.</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--jobs wymaga liczby całkowitej od 1 do %1, a nie „%2”.</translation>
     </message>
     <message>
         <source>--language knows %1, but not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--language zna wartości %1, ale nie „%2”.</translation>
     </message>
     <message>
         <source>--settings wants the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>--settings wymaga nazwy pliku.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 nie dotyczy kreatora, który pyta o to w swoim oknie.</translation>
     </message>
     <message>
         <source>Name the photographs to take the haze from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Należy podać zdjęcia, z których ma zostać usunięte zamglenie.</translation>
     </message>
     <message>
         <source>veilaway takes the haze out of photographs.
@@ -173,443 +173,505 @@ Examples:
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway usuwa zamglenie ze zdjęć.
+
+Użycie:
+  veilaway [run] ZDJĘCIE... [opcje]
+  veilaway [run] --settings PLIK [opcje]
+  veilaway wizard [ZDJĘCIE...] [opcje]
+  veilaway --help | --version
+
+Każdy wynik jest zapisywany obok swojego zdjęcia, pod jego nazwą z przyrostkiem:
+z hills.jpg powstaje hills_dehazed.jpg. Samo zdjęcie nigdy nie jest zmieniane.
+Przyrostek zależy od języka: na przykład _entnebelt przy --language de.
+
+Kreator otwiera okno, w którym można wybrać zdjęcia, ustawić poziom dla każdego z nich
+z podglądem na żywo, usunąć zamglenie i porównać wyniki. Przyjmuje --settings (plik
+zawiera potem poziomy), --language, --jobs, --share-services i --plugin.
+
+Opcje:
+  --strength N      Ile zamglenia usunąć, w procentach: 0 pozostawia obraz bez zmian,
+                    100 usuwa całe. Bez tej opcji liczy się poziom z pliku ustawień,
+                    następnie zapisana wartość domyślna, a potem 70.
+  --settings PLIK   Przechowuje poziom dla każdego zdjęcia w tym pliku XML. Jeśli plik
+                    istnieje, używane są poziomy z niego, chyba że podano też
+                    --strength; na koniec zawiera poziomy, których użyto. Bez
+                    argumentu ZDJĘCIE przetwarzane są wszystkie zdjęcia z pliku.
+  --language JĘZYK  Język komunikatów i przyrostka: de, en, es, fr, it, ja, pl, ru,
+                    zh_CN lub zh_TW. Bez tej opcji język systemu.
+  --jobs N          Liczba zdjęć przetwarzanych jednocześnie. Bez tej opcji tyle, ile
+                    zajmie wszystkie rdzenie i zmieści się w pamięci.
+  --overwrite       Zastępuje wyniki, które już istnieją.
+  --quiet           Zgłasza tylko to, co się nie powiodło.
+  --json            Wypisuje dla każdego zdjęcia wiersz z obiektem JSON: photo,
+                    result, status (done, failed, stopped), strength, seconds,
+                    message.
+  --share-services  Użycza wtyczce usług programu (dziennik, pula pamięci, liczba
+                    procesorów), zamiast pozwalać jej tworzyć własne.
+  --plugin PLIK     Wczytuje ten plik wtyczki zamiast Nimbra.so obok programu lub
+                    w ../lib/nimbra.
+  -h, --help        Wyświetla ten tekst.
+  --version         Wyświetla wersje programu i wtyczki.
+  --                Dalsze argumenty to zdjęcia, nawet jeśli zaczynają się od
+                    myślnika.
+
+Formaty:
+  Odczyt i zapis: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
+  OpenEXR (exr) i PSD. Wynik ma format swojego zdjęcia, jego głębię (8 lub 16 bitów
+  albo liczby zmiennoprzecinkowe), profil kolorów oraz dane EXIF, IPTC i XMP.
+  Orientacja EXIF jest zachowana, więc wynik jest wyświetlany tak jak jego zdjęcie.
+  Tylko odczyt: pliki RAW z aparatu (dng, cr2, cr3, nef, arw, raf, orf, rw2 i inne).
+  Wynikiem jest 16-bitowy TIFF. Zdjęcia z innym rozszerzeniem lub bez niego również
+  stają się plikami TIFF. Pliki towarzyszące XMP pozostają na miejscu i nie są
+  czytane.
+
+Kody wyjścia:
+  0  Wszystkie zdjęcia są gotowe.
+  1  Niektóre nie są: standardowe wyjście błędów podaje które, dlaczego i co pomoże.
+     Tak samo kończy się przerwanie przez Ctrl-C, bez pozostawiania niepełnego wyniku.
+  2  Wiersz polecenia lub plik ustawień jest błędny; niczego nie rozpoczęto.
+
+Przykłady:
+  veilaway hills.jpg --strength 80
+  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
+  veilaway --settings holiday/haze.xml --overwrite
+</translation>
     </message>
     <message>
         <source>See veilaway --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobacz veilaway --help.</translation>
     </message>
 </context>
 <context>
     <name>NimbraOne2One</name>
     <message>
         <source>_dehazed</source>
-        <translation type="unfinished"></translation>
+        <translation>_dehazed</translation>
     </message>
 </context>
 <context>
     <name>PhotoLoader</name>
     <message>
         <source>The file can&apos;t be opened. Check that it exists and that you may read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można otworzyć pliku. Należy sprawdzić, czy istnieje i czy można go odczytać.</translation>
     </message>
     <message>
         <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik jest niepełny lub uszkodzony. Należy skopiować go ponownie z aparatu lub z kopii zapasowej.</translation>
     </message>
     <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Za mało pamięci na to zdjęcie. Należy zamknąć inne programy lub przetwarzać zdjęcia pojedynczo (--jobs 1).</translation>
     </message>
     <message>
         <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest obraz w znanym formacie albo ma inny format, niż wskazuje rozszerzenie. Można odczytać JPEG, PNG, TIFF, HDR, EXR, PSD i pliki RAW z aparatu; należy nadać plikowi właściwe rozszerzenie lub go przekonwertować.</translation>
     </message>
     <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można odczytać tego rodzaju pikseli. Należy zapisać zdjęcie jako RGB 8- lub 16-bitowe i spróbować ponownie.</translation>
     </message>
     <message>
         <source>An empty name stands for no photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pusta nazwa nie oznacza żadnego zdjęcia.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dowiązanie prowadzi donikąd. Należy podać samo zdjęcie.</translation>
     </message>
     <message>
         <source>There is no such file. Check its name and folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma takiego pliku. Należy sprawdzić nazwę i folder.</translation>
     </message>
     <message>
         <source>This is a folder. Name the photographs in it, for instance &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>To jest folder. Należy podać zdjęcia, które zawiera, na przykład „%1”.</translation>
     </message>
     <message>
         <source>This is no regular file. Copy the photograph into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest zwykły plik. Należy skopiować zdjęcie do zwykłego pliku.</translation>
     </message>
     <message>
         <source>The file can&apos;t be read. Give yourself the permission to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można odczytać pliku. Należy nadać sobie prawo do jego odczytu.</translation>
     </message>
     <message>
         <source>The file is empty. Copy it anew from the camera or a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik jest pusty. Należy skopiować go ponownie z aparatu lub z kopii zapasowej.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Za mało pamięci na ten plik RAW. Należy zamknąć inne programy lub przetwarzać zdjęcia pojedynczo (--jobs 1).</translation>
     </message>
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można wywołać pliku RAW: %1. Należy skopiować go ponownie lub przekonwertować do DNG albo TIFF.</translation>
     </message>
 </context>
 <context>
     <name>PhotoPage</name>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usuń</translation>
     </message>
     <message>
         <source>Photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdjęcia</translation>
     </message>
     <message>
         <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Należy wybrać zdjęcia, z których ma zostać usunięte zamglenie, lub upuścić je tutaj. Same zdjęcia się nie zmieniają: każdy wynik jest zapisywany obok swojego zdjęcia.</translation>
     </message>
     <message>
         <source>&amp;Add photographs...</source>
-        <translation type="unfinished"></translation>
+        <translation>Dod&amp;aj zdjęcia...</translation>
     </message>
     <message>
         <source>&amp;Open a session...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otwórz sesję...</translation>
     </message>
     <message>
         <source>A settings file with photographs and the strength of each</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik ustawień ze zdjęciami i poziomem dla każdego z nich</translation>
     </message>
     <message>
         <source>%1: There are no photographs in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: w tym folderze nie ma zdjęć.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>Reading %n photograph(s)...</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Wczytywanie %n zdjęcia...</numerusform>
+            <numerusform>Wczytywanie %n zdjęć...</numerusform>
+            <numerusform>Wczytywanie %n zdjęć...</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n photograph(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n zdjęcie</numerusform>
+            <numerusform>%n zdjęcia</numerusform>
+            <numerusform>%n zdjęć</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>... and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>... i jeszcze %n</numerusform>
+            <numerusform>... i jeszcze %n</numerusform>
+            <numerusform>... i jeszcze %n</numerusform>
         </translation>
     </message>
     <message>
         <source>Left out:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pominięto:</translation>
     </message>
     <message>
         <source>Add photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodawanie zdjęć</translation>
     </message>
     <message>
         <source>Photographs (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdjęcia (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie pliki (*)</translation>
     </message>
     <message>
         <source>Open a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwieranie sesji</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pliki ustawień (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>Photograph</name>
     <message>
         <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdjęcie jest za szerokie: zamglenie można usunąć ze zdjęć o szerokości do %1 pikseli. Należy je zmniejszyć lub podzielić na części.</translation>
     </message>
 </context>
 <context>
     <name>PluginFile</name>
     <message>
         <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak wtyczki „%1”. Należy ją zbudować lub zainstalować albo wskazać jej położenie za pomocą --plugin PLIK.</translation>
     </message>
     <message>
         <source>&quot; or &quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>” lub „</translation>
     </message>
     <message>
         <source>it is a plug-in of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>to wtyczka innego rodzaju</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można użyć wtyczki „%1”: %2. Należy zainstalować ją ponownie lub wskazać inną za pomocą --plugin PLIK.</translation>
     </message>
 </context>
 <context>
     <name>ProgressView</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1: %2 (%3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 (%3 s)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gotowe zdjęcia: %1.</translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gotowe zdjęcia: %1 z %2, niegotowe: %3.</translation>
     </message>
     <message>
         <source>reading</source>
-        <translation type="unfinished"></translation>
+        <translation>wczytywanie</translation>
     </message>
     <message>
         <source>taking haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>usuwanie zamglenia</translation>
     </message>
     <message>
         <source>saving</source>
-        <translation type="unfinished"></translation>
+        <translation>zapisywanie</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
 </context>
 <context>
     <name>ResultPage</name>
     <message>
         <source>Open &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz &amp;folder</translation>
     </message>
     <message>
         <source>&amp;Save session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisz &amp;sesję...</translation>
     </message>
     <message>
         <source>Keep the photographs and the strength of each in a settings file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuje zdjęcia i poziom dla każdego z nich w pliku ustawień</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyniki</translation>
     </message>
     <message>
         <source>All photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie zdjęcia są gotowe.</translation>
     </message>
     <message>
         <source>%1 of %2 photographs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gotowe zdjęcia: %1 z %2.</translation>
     </message>
     <message>
         <source>Stopped before it began.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatrzymano przed rozpoczęciem.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
-        <translation type="unfinished"></translation>
+        <translation>Zacznij od &amp;nowa</translation>
     </message>
     <message>
         <source>Choose other photographs</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozwala wybrać inne zdjęcia</translation>
     </message>
 </context>
 <context>
     <name>RunCommand</name>
     <message>
         <source>No --strength given: using your stored default of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie podano --strength: używana jest zapisana wartość domyślna %1.</translation>
     </message>
     <message>
         <source>No --strength given and no default stored: using %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie podano --strength i nie zapisano wartości domyślnej: używana jest wartość %1.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik ustawień „%1” nie zawiera żadnych zdjęć. Należy podać zdjęcia.</translation>
     </message>
     <message>
         <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma pliku ustawień „%1”. Aby go utworzyć, należy podać zdjęcia.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można tam zapisać pliku ustawień „%1”. Należy podać plik w innym folderze.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik ustawień „%1” ma nazwę jednego z wyników. Należy nadać mu inną nazwę.</translation>
     </message>
 </context>
 <context>
     <name>RunPage</name>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zatrzymaj</translation>
     </message>
     <message>
         <source>Taking the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuwanie zamglenia</translation>
     </message>
     <message>
         <source>Each result is written beside its photograph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Każdy wynik jest zapisywany obok swojego zdjęcia.</translation>
     </message>
     <message>
         <source>&amp;Replace them</source>
-        <translation type="unfinished"></translation>
+        <translation>Za&amp;stąp</translation>
     </message>
     <message>
         <source>&amp;Keep them</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;achowaj</translation>
     </message>
     <message>
         <source>Photograph</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdjęcie</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Poziom</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Postęp</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stan</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) of an earlier run are there already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Istnieje już %n wynik wcześniejszego przetwarzania.</numerusform>
+            <numerusform>Istnieją już %n wyniki wcześniejszego przetwarzania.</numerusform>
+            <numerusform>Istnieje już %n wyników wcześniejszego przetwarzania.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Oczekuje</translation>
     </message>
     <message>
         <source>%v of %m</source>
-        <translation type="unfinished"></translation>
+        <translation>%v z %m</translation>
     </message>
     <message>
         <source>Reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Wczytywanie</translation>
     </message>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisywanie</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Gotowe</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatrzymano</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Niepowodzenie</translation>
     </message>
     <message>
         <source>Stopping. The photographs in hand end first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatrzymywanie. Najpierw dokończone zostaną zdjęcia w trakcie przetwarzania.</translation>
     </message>
     <message>
         <source>Its result was there already and has been kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wynik już istniał i został zachowany.</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachowano</translation>
     </message>
 </context>
 <context>
     <name>SettingsFile</name>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be used: %2. Repair it, or name another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można użyć pliku ustawień „%1”: %2. Należy go naprawić lub podać inny.</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>to jest folder</translation>
     </message>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>wiersz %1, kolumna %2: %3</translation>
     </message>
     <message>
         <source>its outermost element is not &lt;%1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>jego elementem głównym nie jest &lt;%1&gt;</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>wiersz %1</translation>
     </message>
     <message>
         <source>%1: a photo without a path</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: zdjęcie bez ścieżki</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; stands in it twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: „%2” występuje w nim dwa razy</translation>
     </message>
     <message>
         <source>%1: the photo needs &lt;%2 %3=&quot;...&quot;/&gt; with a whole number from 0 to 100</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: zdjęcie wymaga &lt;%2 %3=&quot;...&quot;/&gt; z liczbą całkowitą od 0 do 100</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać pliku ustawień „%1”: %2. Należy zwolnić miejsce lub nadać sobie prawo zapisu w tym folderze.</translation>
     </message>
 </context>
 <context>
     <name>WizardWindow</name>
     <message>
         <source>veilaway</source>
-        <translation type="unfinished"></translation>
+        <translation>veilaway</translation>
     </message>
     <message>
         <source>&amp;Take the haze away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usuń zamglenie</translation>
     </message>
     <message>
         <source>Save session</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisywanie sesji</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pliki ustawień (*.xml)</translation>
     </message>
 </context>
 <context>
     <name>XmpCarrier</name>
     <message>
         <source>the result can&apos;t be replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>nie można zastąpić wyniku</translation>
     </message>
 </context>
 </TS>
