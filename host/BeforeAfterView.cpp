@@ -32,14 +32,15 @@ void BeforeAfterView::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QString captions[2] = {tr("Before"), tr("After")};
     const int captionHeight = fontMetrics().height();
-    const int half = (width() - kGap) / 2;
+    const bool both = !pictures[0].isNull() && !pictures[1].isNull();
+    const int half = (width() - kGap) / 2, across = both ? half : width();
     for (int side = 0; side < 2; ++side) {
         if (pictures[side].isNull())
             continue;
-        const QRect room(side * (half + kGap), 0, half, height() - captionHeight - kGap);
+        const QRect room(both ? side * (half + kGap) : 0, 0, across, height() - captionHeight - kGap);
         QRect place(QPoint(), pictures[side].size().scaled(room.size(), Qt::KeepAspectRatio));
         place.moveCenter(room.center());
         painter.drawImage(place, pictures[side]);
-        painter.drawText(QRect(room.left(), place.bottom() + kGap, half, captionHeight), Qt::AlignHCenter, captions[side]);
+        painter.drawText(QRect(room.left(), place.bottom() + kGap, across, captionHeight), Qt::AlignHCenter, captions[side]);
     }
 }

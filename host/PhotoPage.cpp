@@ -17,7 +17,8 @@
 
 namespace {
 
-constexpr int kPath = Qt::UserRole;
+enum Role { Path = Qt::UserRole, Stage };
+enum { Waiting, Checked, Pictured }; ///< How far a photograph has been read; in its Stage.
 constexpr QSize kPicture(160, 120);
 constexpr int kComplaintsShown = 3;
 
@@ -47,7 +48,7 @@ QStringList patterns()
 
 PhotoPage::PhotoPage(HostApplication &host, QWidget *parent)
     : QWizardPage(parent), list(new QListWidget(this)), state(new QLabel(this)), leftOut(new QLabel(this)),
-      removeButton(new QPushButton(tr("&Remove"), this)), reader(host)
+      removeButton(new QPushButton(tr("&Remove"), this)), reader(host, int(kPicture.width() * devicePixelRatioF()))
 {
     setTitle(tr("Photographs"));
     setSubTitle(
@@ -106,6 +107,7 @@ void PhotoPage::add(const QStringList &paths)
 {
     QImage waiting(kPicture, QImage::Format_ARGB32_Premultiplied);
     waiting.fill(QColor(128, 128, 128, 40));
+    const QIcon icon = centred(waiting, devicePixelRatioF());
     for (const QString &given : paths) {
         const QFileInfo info(given);
         if (info.isDir()) {
@@ -121,12 +123,11 @@ void PhotoPage::add(const QStringList &paths)
         const QString path = QDir::cleanPath(info.absoluteFilePath());
         if (items.contains(path))
             continue;
-        auto *item = new QListWidgetItem(centred(waiting, devicePixelRatioF()), info.fileName(), list);
-        item->setData(kPath, path);
+        auto *item = new QListWidgetItem(icon, info.fileName(), list);
+        item->setData(Path, path);
+        item->setData(Stage, Waiting);
         item->setToolTip(QDir::toNativeSeparators(path));
         items.insert(path, item);
-        ++unchecked;
-        ++unread;
         reader.read(path);
     }
     showState();
@@ -137,40 +138,55 @@ QStringList PhotoPage::photographs() const
 {
     QStringList paths;
     for (int row = 0; row < list->count(); ++row)
-        paths << list->item(row)->data(kPath).toString();
+        paths << list->item(row)->data(Path).toString();
     return paths;
 }
 
 bool PhotoPage::isComplete() const
 {
-    return unchecked == 0 && list->count() > 0 && (unread == 0 || pictures > 0);
+    return list->count() > 0 && countAtLeast(Checked) == list->count() && countAtLeast(Pictured) > 0;
+}
+
+int PhotoPage::countAtLeast(int stage) const
+{
+    int count = 0;
+    for (int row = 0; row < list->count(); ++row)
+        count += list->item(row)->data(Stage).toInt() >= stage;
+    return count;
+}
+
+void PhotoPage::clear()
+{
+    complaints.clear();
+    while (list->count() > 0)
+        remove(list->item(0));
+    showState();
+    Q_EMIT completeChanged();
 }
 
 void PhotoPage::onChecked(const QString &path)
 {
-    checkedPaths.insert(path);
-    --unchecked;
+    QListWidgetItem *const item = items.value(path);
+    if (item && item->data(Stage) == Waiting)
+        item->setData(Stage, Checked);
     Q_EMIT completeChanged();
 }
 
 void PhotoPage::onReady(const QString &path, const QImage &picture)
 {
-    --unread;
-    ++pictures;
-    if (QListWidgetItem *item = items.value(path))
+    if (QListWidgetItem *item = items.value(path)) {
         item->setIcon(centred(picture, devicePixelRatioF()));
+        item->setData(Stage, Pictured);
+    }
     showState();
     Q_EMIT completeChanged();
 }
 
 void PhotoPage::onFailed(const QString &path, const QString &reason)
 {
-    --unread;
-    if (!checkedPaths.contains(path))
-        --unchecked;
-    if (QListWidgetItem *item = items.take(path)) {
+    if (QListWidgetItem *item = items.value(path)) {
         complaints << tr("%1: %2").arg(QFileInfo(path).fileName(), reason);
-        delete item;
+        remove(item);
     }
     showState();
     Q_EMIT completeChanged();
@@ -178,17 +194,24 @@ void PhotoPage::onFailed(const QString &path, const QString &reason)
 
 void PhotoPage::removeSelected()
 {
-    for (QListWidgetItem *item : list->selectedItems()) {
-        items.remove(item->data(kPath).toString());
-        delete item;
-    }
+    for (QListWidgetItem *item : list->selectedItems())
+        remove(item);
     showState();
     Q_EMIT completeChanged();
+}
+
+void PhotoPage::remove(QListWidgetItem *item)
+{
+    const QString path = item->data(Path).toString();
+    reader.forget(path);
+    items.remove(path);
+    delete item;
 }
 
 void PhotoPage::showState()
 {
     removeButton->setEnabled(!list->selectedItems().isEmpty());
+    const int unread = list->count() - countAtLeast(Pictured);
     state->setText(unread > 0 ? tr("Reading %n photograph(s)...", nullptr, unread)
                               : tr("%n photograph(s)", nullptr, list->count()));
     QStringList shown = complaints.mid(qMax(0, complaints.size() - kComplaintsShown));
@@ -203,17 +226,22 @@ void PhotoPage::choose()
 {
     const QString folder = list->count() > 0 ? QFileInfo(photographs().constLast()).absolutePath()
                                              : QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    const QStringList chosen = QFileDialog::getOpenFileNames(
+        this, tr("Add photographs"), folder, tr("Photographs (%1)").arg(patterns().join(' ')) + ";;" + tr("All files (*)"));
+    if (chosen.isEmpty())
+        return;
     complaints.clear();
-    add(QFileDialog::getOpenFileNames(this, tr("Add photographs"), folder,
-                                      tr("Photographs (%1)").arg(patterns().join(' ')) + ";;" + tr("All files (*)")));
+    add(chosen);
 }
 
 void PhotoPage::chooseSettings()
 {
     const QString file = QFileDialog::getOpenFileName(this, tr("Open a session"), QString(),
                                                       tr("Settings files (*.xml)") + ";;" + tr("All files (*)"));
-    if (!file.isEmpty())
-        Q_EMIT settingsWanted(file);
+    if (file.isEmpty())
+        return;
+    complaints.clear();
+    Q_EMIT settingsWanted(file);
 }
 
 void PhotoPage::dragEnterEvent(QDragEnterEvent *event)

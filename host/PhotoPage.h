@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QHash>
-#include <QSet>
 #include <QStringList>
 #include <QWizardPage>
 
@@ -23,6 +22,7 @@ public:
 
     /// Adds photographs by path; folders stand for the photographs in them. What is in the list already stays as it is.
     void add(const QStringList &paths);
+    void clear();
     /// Absolute paths in the order of the list.
     QStringList photographs() const;
 
@@ -44,6 +44,8 @@ private:
     void onChecked(const QString &path);
     void onReady(const QString &path, const QImage &picture);
     void onFailed(const QString &path, const QString &reason);
+    int countAtLeast(int stage) const;
+    void remove(QListWidgetItem *item);
     void showState();
 
     QListWidget *list;
@@ -51,10 +53,6 @@ private:
     QLabel *leftOut;
     QPushButton *removeButton;
     QHash<QString, QListWidgetItem *> items; ///< By absolute path; the list owns them.
-    int unchecked = 0;                       ///< Photographs whose heads are still to be read.
-    int unread = 0;                          ///< Photographs whose pictures are still to come, those of removed ones too.
-    int pictures = 0;                        ///< Pictures that have come.
-    QSet<QString> checkedPaths;
-    QStringList complaints;
+    QStringList complaints;                  ///< Since photographs were last chosen.
     PhotoReader reader;
 };

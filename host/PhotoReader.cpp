@@ -8,11 +8,11 @@
 namespace {
 
 constexpr int kPreviewSide = 1024; ///< Longest side on the plug-in's page.
-constexpr int kSmallSide = 160;    ///< Longest side in the list.
 
 } // namespace
 
-PhotoReader::PhotoReader(HostApplication &host, QObject *parent) : QObject(parent), application(host)
+PhotoReader::PhotoReader(HostApplication &host, int pictureSide, QObject *parent)
+    : QObject(parent), application(host), side(pictureSide)
 {
     heads.setMaxThreadCount(1);
     pictures.setMaxThreadCount(1); // more would only hold more full-size photographs at once
@@ -40,15 +40,8 @@ QSize PhotoReader::previewSize(Photograph &photograph)
 QImage PhotoReader::picture(Photograph &photograph, int longestSide)
 {
     const QSize size = previewSize(photograph);
-    const struct Use
-    {
-        Photograph &photograph;
-        QSize size;
-        VImage *image = photograph.acquireScaled(size.width(), size.height(), 1);
-        ~Use() { photograph.releaseScaled(size.width(), size.height(), 1); }
-    } use{photograph, size};
     QImage picture;
-    use.image->ToQImage(picture);
+    photograph.scaledCopy(size.width(), size.height(), ScaledImages::Keep::IfRoom)->ToQImage(picture);
     if (std::max(picture.width(), picture.height()) > longestSide)
         picture = picture.scaled(longestSide, longestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     return picture;
@@ -56,6 +49,11 @@ QImage PhotoReader::picture(Photograph &photograph, int longestSide)
 
 void PhotoReader::attempt(const QString &path, const std::function<void(Photograph &)> &work)
 {
+    {
+        const std::lock_guard lock(mutex);
+        if (!wanted.contains(path))
+            return;
+    }
     try {
         work(*application.photograph(path));
     } catch (const VException &failure) {
@@ -65,8 +63,18 @@ void PhotoReader::attempt(const QString &path, const std::function<void(Photogra
     }
 }
 
+void PhotoReader::forget(const QString &path)
+{
+    const std::lock_guard lock(mutex);
+    wanted.remove(path);
+}
+
 void PhotoReader::read(const QString &path)
 {
+    {
+        const std::lock_guard lock(mutex);
+        wanted.insert(path);
+    }
     heads.start([this, path] {
         attempt(path, [&](Photograph &photograph) {
             const QString complaint = PhotoLoader::complaint(path);
@@ -74,11 +82,11 @@ void PhotoReader::read(const QString &path)
                 throw VException(complaint, V_LOCATION);
             // A head without a size is none; what is wrong with the file, its decoding says best.
             if (photograph.width() <= 0 || photograph.height() <= 0)
-                picture(photograph, kSmallSide);
+                picture(photograph, side);
             Q_EMIT checked(path);
             pictures.start([this, path] {
                 attempt(path, [&](Photograph &same) {
-                    const QImage small = picture(same, kSmallSide);
+                    const QImage small = picture(same, side);
                     Q_EMIT ready(path, small);
                 });
             });

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <mutex>
 
 #include <QImage>
 #include <QObject>
+#include <QSet>
 #include <QSize>
 #include <QString>
 #include <QThreadPool>
@@ -18,12 +20,15 @@ class PhotoReader : public QObject
     Q_OBJECT
 
 public:
-    explicit PhotoReader(HostApplication &host, QObject *parent = nullptr);
+    /// The pictures announced have a longest side of `pictureSide`.
+    PhotoReader(HostApplication &host, int pictureSide, QObject *parent = nullptr);
     /// Drops what has not begun and waits for the photograph in hand.
     ~PhotoReader() override;
 
     /// Reads the photograph at this path (absolute): announces `checked` and later `ready`, or `failed` once in place of either.
     void read(const QString &path);
+    /// Spares what has not begun of the reading of this photograph.
+    void forget(const QString &path);
     /// A picture of a photograph as a viewer shows it, with its longest side at most this long. Blocks while it decodes; any
     /// thread. Throws VException.
     static QImage picture(Photograph &photograph, int longestSide);
@@ -41,6 +46,9 @@ private:
     void attempt(const QString &path, const std::function<void(Photograph &)> &work);
 
     HostApplication &application;
+    const int side;
+    std::mutex mutex;
+    QSet<QString> wanted; ///< Under the mutex.
     QThreadPool heads;
     QThreadPool pictures;
 };

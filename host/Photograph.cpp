@@ -117,6 +117,12 @@ ScaledImages::Image Photograph::makeScaled(int width, int height)
     return upright;
 }
 
+ScaledImages::Image Photograph::scaledCopy(int width, int height, ScaledImages::Keep wish)
+{
+    const auto make = [&] { return makeScaled(width, height); };
+    return copies ? copies->obtain({file, width, height}, make, wish) : make();
+}
+
 VImage *Photograph::acquireScaled(int width, int height, int)
 {
     const std::pair size(width, height);
@@ -128,10 +134,11 @@ VImage *Photograph::acquireScaled(int width, int height, int)
         }
     }
     ScaledImages::Image image;
-    patiently([&] {
-        const auto make = [&] { return makeScaled(width, height); };
-        image = copies ? copies->obtain({file, width, height}, make) : make();
-    });
+    try {
+        patiently([&] { image = scaledCopy(width, height, ScaledImages::Keep::Always); });
+    } catch (const VException &failure) {
+        throw VException(displayName() + ": " + failure.message, V_LOCATION);
+    }
     const std::lock_guard lock(mutex);
     Scaled &entry = scaled[size];
     if (!entry.image)

@@ -40,12 +40,16 @@ public:
     /// Frees the full image whatever holds it: a run that failed never releases.
     void dropFull();
 
+    /// The reduced copy that acquireScaled hands out, shared with all who use it. Blocks while it decodes.
+    ScaledImages::Image scaledCopy(int width, int height, ScaledImages::Keep wish);
+
     QString displayName() override;
     int height() override;
     int width() override;
     int channelCount() override;
     int bitsPerChannel() override;
     bool needsTiffOutput() override;
+    /// On the interface thread the window goes on painting meanwhile. What it throws names the photograph.
     VImage *acquireScaled(int width, int height, int flag) override;
     void releaseScaled(int width, int height, int flag) override;
     VImage *acquireFull(int flag) override;

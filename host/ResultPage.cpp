@@ -15,6 +15,7 @@
 
 #include "BeforeAfterView.h"
 #include "PhotoReader.h"
+#include "RunPage.h"
 #include "VException.h"
 
 namespace {
@@ -103,11 +104,12 @@ void ResultPage::showCurrent()
     const BatchItem &item = batch[std::size_t(row)];
     const BatchOutcome &outcome = results[std::size_t(row)];
     const bool done = outcome.status == BatchOutcome::Status::Done;
+    const bool there = done || outcome.message == RunPage::keptText();
     text->setText(done && outcome.message.isEmpty() ? QDir::toNativeSeparators(item.result)
                   : outcome.message.isEmpty()       ? tr("Stopped before it began.")
                                                     : outcome.message);
     pool.clear();
-    pool.start([this, row, path = item.path, resultPath = done ? item.result : QString()] {
+    pool.start([this, row, path = item.path, resultPath = there ? item.result : QString()] {
         QImage before, after;
         try {
             before = PhotoReader::picture(*application.photograph(path), kPictureSide);
@@ -116,7 +118,7 @@ void ResultPage::showCurrent()
                 after = PhotoReader::picture(result, kPictureSide);
             }
         } catch (const VException &) {
-            // Half of the view stays empty; what became of the photograph stands below it.
+            // What became of the photograph stands below the view.
         } catch (const std::exception &) {
         }
         QMetaObject::invokeMethod(
@@ -133,5 +135,5 @@ void ResultPage::openFolder()
 {
     const int row = list->currentRow();
     if (row >= 0)
-        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(batch[std::size_t(row)].result).absolutePath()));
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(batch[std::size_t(row)].path).absolutePath()));
 }

@@ -15,6 +15,7 @@ enum Column { Photo, Strength, Progress, State, Columns };
 
 // The engine takes most of the time of a photograph.
 constexpr int kStageStart[] = {5, 20, 85};
+constexpr int kBarHeight = 10;
 
 } // namespace
 
@@ -111,9 +112,14 @@ void RunPage::fillTable()
         auto *strength = new QTableWidgetItem(tr("%1 %").arg(item.strength));
         strength->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         table->setItem(row, Strength, strength);
-        auto *bar = new QProgressBar;
+        auto *cell = new QWidget;
+        auto *bar = new QProgressBar(cell);
         bar->setTextVisible(false);
-        table->setCellWidget(row, Progress, bar);
+        bar->setFixedHeight(kBarHeight);
+        auto *place = new QHBoxLayout(cell);
+        place->setContentsMargins(4, 0, 4, 0);
+        place->addWidget(bar);
+        table->setCellWidget(row, Progress, cell);
         table->setItem(row, State, new QTableWidgetItem(tr("Waiting")));
     }
     overall->setRange(0, qMax(1, table->rowCount()));
@@ -159,10 +165,16 @@ void RunPage::finished(int item, const BatchOutcome &outcome)
         this, [this, item, outcome] { showOutcome(item, outcome); }, Qt::QueuedConnection);
 }
 
+void RunPage::showProgress(int item, int percent)
+{
+    table->cellWidget(item, Progress)->findChild<QProgressBar *>()->setValue(percent);
+}
+
 void RunPage::showStage(int item, BatchRunner::Stage stage)
 {
     const QString texts[] = {tr("Reading"), tr("Taking the haze away"), tr("Saving")};
-    static_cast<QProgressBar *>(table->cellWidget(item, Progress))->setValue(kStageStart[int(stage)]);
+    showProgress(item, kStageStart[int(stage)]);
+    table->scrollToItem(table->item(item, Photo));
     table->item(item, State)->setText(texts[int(stage)]);
 }
 
@@ -170,7 +182,7 @@ void RunPage::showOutcome(int item, const BatchOutcome &outcome)
 {
     results[std::size_t(item)] = outcome;
     const bool done = outcome.status == BatchOutcome::Status::Done;
-    static_cast<QProgressBar *>(table->cellWidget(item, Progress))->setValue(done ? 100 : 0);
+    showProgress(item, done ? 100 : 0);
     QTableWidgetItem *state = table->item(item, State);
     state->setText(done                                              ? tr("Done")
                    : outcome.status == BatchOutcome::Status::Stopped ? tr("Stopped")

@@ -48,6 +48,7 @@ private:
     void stageBegins(int item, BatchRunner::Stage stage) override;
     void finished(int item, const BatchOutcome &outcome) override;
     void start(std::vector<BatchItem> items);
+    void showProgress(int item, int percent);
     void showStage(int item, BatchRunner::Stage stage);
     void showOutcome(int item, const BatchOutcome &outcome);
     void end();

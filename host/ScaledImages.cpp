@@ -1,6 +1,6 @@
 #include "ScaledImages.h"
 
-ScaledImages::Image ScaledImages::obtain(const Key &key, const std::function<Image()> &make)
+ScaledImages::Image ScaledImages::obtain(const Key &key, const std::function<Image()> &make, Keep wish)
 {
     {
         std::unique_lock lock(mutex);
@@ -20,14 +20,16 @@ ScaledImages::Image ScaledImages::obtain(const Key &key, const std::function<Ima
     };
     const std::unique_ptr<void, decltype(finish)> end(this, finish);
     Image image = make();
-    keep(key, image);
+    keep(key, image, wish);
     return image;
 }
 
-void ScaledImages::keep(const Key &key, const Image &image)
+void ScaledImages::keep(const Key &key, const Image &image, Keep wish)
 {
     const std::size_t size = std::size_t(image->BytesPerLine()) * std::size_t(image->Height());
     const std::lock_guard lock(mutex);
+    if (wish == Keep::IfRoom && held + size > limit)
+        return;
     recent.push_front({key, image, size});
     places[key] = recent.begin();
     held += size;

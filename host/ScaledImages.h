@@ -21,12 +21,14 @@ class ScaledImages
 public:
     using Image = std::shared_ptr<VImage>;
     using Key = std::tuple<QString, int, int>; ///< Absolute path, width, height.
+    /// IfRoom is for what may never be asked for again: it pushes nothing out.
+    enum class Keep { Always, IfRoom };
 
     /// `mostBytes` bounds what is kept; a copy in use lives on besides.
     explicit ScaledImages(std::size_t mostBytes) : limit(mostBytes) {}
 
     /// The copy under `key`, made by `make` if there is none. What `make` throws leaves; nothing is kept then.
-    Image obtain(const Key &key, const std::function<Image()> &make);
+    Image obtain(const Key &key, const std::function<Image()> &make, Keep wish = Keep::Always);
 
     /// Bytes that are kept just now.
     std::size_t bytes() const;
@@ -38,7 +40,7 @@ private:
         Image image;
         std::size_t bytes;
     };
-    void keep(const Key &key, const Image &image);
+    void keep(const Key &key, const Image &image, Keep wish);
 
     const std::size_t limit;
     mutable std::mutex mutex; ///< Over all that follows.

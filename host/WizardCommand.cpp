@@ -3,7 +3,6 @@
 #include <memory>
 
 #include <QApplication>
-#include <QMessageBox>
 
 #include "PluginFile.h"
 #include "ProgressView.h"
@@ -33,7 +32,7 @@ int WizardCommand::run()
         photographs = settings->photographs();
 
     WizardWindow window(application, plugin->process(), std::move(settings), line.jobs);
-    application.reportTo([&](const QString &message) { QMessageBox::warning(&window, window.windowTitle(), message); });
+    application.reportTo([&](const QString &message) { window.complain(message); });
     window.addPhotographs(photographs);
     window.show();
     QApplication::exec();

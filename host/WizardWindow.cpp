@@ -1,9 +1,10 @@
 #include "WizardWindow.h"
 
-#include <QAbstractButton>
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 #include "BatchPlan.h"
@@ -25,6 +26,7 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
     if (!session)
         session = std::make_unique<SettingsFile>(QDir::current().filePath(QStringLiteral("veilaway.xml")), process.name());
     setWindowTitle(tr("veilaway"));
+    setWindowIcon(process.icon());
     setWizardStyle(QWizard::ClassicStyle);
     setOptions(QWizard::NoBackButtonOnStartPage | QWizard::NoBackButtonOnLastPage | QWizard::NoCancelButtonOnLastPage);
     // The two buttons of the plug-in's page have no face of their own.
@@ -41,6 +43,13 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
 
     connect(photoPage, &PhotoPage::settingsWanted, this, &WizardWindow::openSession);
     connect(resultPage, &ResultPage::saveWanted, this, &WizardWindow::saveSessionAs);
+    connect(resultPage, &ResultPage::startOverWanted, this, &WizardWindow::startOver);
+}
+
+void WizardWindow::complain(const QString &message)
+{
+    if (!QApplication::activeModalWidget())
+        QMessageBox::warning(this, windowTitle(), message);
 }
 
 void WizardWindow::addPhotographs(const QStringList &paths)
@@ -53,12 +62,15 @@ void WizardWindow::openSession(const QString &file)
     try {
         auto opened = std::make_unique<SettingsFile>(file, one2one.name());
         opened->load();
+        for (const QString &path : photoPage->photographs()) // what it doesn't name stays as it is
+            if (const QDomElement kept = session->element(path); !kept.isNull() && opened->element(path).isNull())
+                opened->setElement(path, kept);
         session = std::move(opened);
         hasFile = true;
         onPage.clear();
         photoPage->add(session->photographs());
     } catch (const VException &failure) {
-        QMessageBox::warning(this, windowTitle(), failure.message);
+        complain(failure.message);
     }
 }
 
@@ -68,18 +80,23 @@ bool WizardWindow::saveSession(SettingsFile &file)
         file.save();
         return true;
     } catch (const VException &failure) {
-        QMessageBox::warning(this, windowTitle(), failure.message);
+        complain(failure.message);
         return false;
     }
 }
 
 void WizardWindow::saveSessionAs()
 {
-    const QString name = QFileDialog::getSaveFileName(this, tr("Save session"), session->path(), tr("Settings files (*.xml)"));
-    if (name.isEmpty())
+    const QStringList paths = photoPage->photographs();
+    const QDir folder = hasFile ? QFileInfo(session->path()).dir() : QFileInfo(paths.value(0)).dir();
+    QFileDialog dialog(this, tr("Save session"), folder.path(), tr("Settings files (*.xml)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("xml"));
+    dialog.selectFile(QFileInfo(session->path()).fileName());
+    if (dialog.exec() != QDialog::Accepted)
         return;
-    auto copy = std::make_unique<SettingsFile>(name, one2one.name());
-    for (const QString &path : photoPage->photographs())
+    auto copy = std::make_unique<SettingsFile>(dialog.selectedFiles().value(0), one2one.name());
+    for (const QString &path : paths)
         copy->setElement(path, session->element(path));
     if (saveSession(*copy)) {
         session = std::move(copy);
@@ -101,8 +118,15 @@ void WizardWindow::preparePluginPage()
         else
             strengths << QVariant();
     const HostApplication::Presets presets(application, one2one.guid(), kStrengthKey, strengths);
-    one2one.setImages(paths);
     onPage = paths;
+    try {
+        one2one.setImages(paths);
+    } catch (const VException &failure) {
+        // A photograph that went away meanwhile. The page holds the others, but an exception would leave the window half
+        // switched.
+        QMetaObject::invokeMethod(
+            this, [this, failure] { complain(failure.message); }, Qt::QueuedConnection);
+    }
 }
 
 void WizardWindow::takeStrengths()
@@ -150,9 +174,24 @@ bool WizardWindow::validateCurrentPage()
     return QWizard::validateCurrentPage();
 }
 
+void WizardWindow::startOver()
+{
+    if (!hasFile)
+        session = std::make_unique<SettingsFile>(session->path(), one2one.name());
+    photoPage->clear();
+    onPage.clear();
+    restart();
+}
+
+void WizardWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Escape) // too easily pressed to end the program
+        QWizard::keyPressEvent(event);
+}
+
 void WizardWindow::done(int result)
 {
-    if (currentId() == Work && runPage->isRunning()) {
+    if (runPage->isRunning()) {
         // What is in hand has to end before the window may go.
         runPage->stop();
         connect(runPage, &RunPage::ended, this, [this, result] { QWizard::done(result); });

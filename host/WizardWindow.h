@@ -26,6 +26,8 @@ public:
     WizardWindow(HostApplication &host, VIPluginOne2One &process, std::unique_ptr<SettingsFile> settings, int jobs);
 
     void addPhotographs(const QStringList &paths);
+    /// Tells the user, unless a dialog is open already.
+    void complain(const QString &message);
 
     void done(int result) override;
 
@@ -33,10 +35,12 @@ protected:
     void initializePage(int id) override;
     void cleanupPage(int id) override;
     bool validateCurrentPage() override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void openSession(const QString &file);
     void saveSessionAs();
+    void startOver();
     bool saveSession(SettingsFile &file);
     void preparePluginPage();
     void takeStrengths();

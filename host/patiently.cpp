@@ -23,7 +23,9 @@ void patiently(const std::function<void()> &work)
         }
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
+    QApplication::setOverrideCursor(Qt::BusyCursor);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
+    QApplication::restoreOverrideCursor();
     worker.join();
     if (failure)
         std::rethrow_exception(failure);
