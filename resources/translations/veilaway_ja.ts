@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>The plug-in failed at %1</source>
-        <translation>プラグインの処理が次の場所で失敗しました: %1</translation>
+        <translation>プラグインの処理が次の場所で失敗しました: %1。</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>プラグインは「%2」ではなく「%1」に書き込みました</translation>
+        <translation>プラグインは「%2」ではなく「%1」に書き込みました。</translation>
     </message>
 </context>
 <context>

@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>The plug-in failed at %1</source>
-        <translation>外掛程式在下列位置發生錯誤：%1</translation>
+        <translation>外掛程式在下列位置發生錯誤：%1。</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>外掛程式寫入的是「%1」，而不是「%2」</translation>
+        <translation>外掛程式寫入的是「%1」，而不是「%2」。</translation>
     </message>
 </context>
 <context>
