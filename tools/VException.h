@@ -14,8 +14,8 @@
 class VException
 {
 public:
-    /// First what went wrong, then where (V_LOCATION). Takes copies of its own: a literal's text ends with the file it stands in, and
-    /// the host may read a failure after it has unloaded the plug-in.
+    /// First what went wrong, then where (V_LOCATION). Takes copies of its own: a literal's text ends with the file it stands in,
+    /// and the host may read a failure after it has unloaded the plug-in.
     VException(const QString &messageText, const QString &locationText)
         : location(locationText.constData(), locationText.size()), message(messageText.constData(), messageText.size())
     {
