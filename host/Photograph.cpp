@@ -108,7 +108,13 @@ ScaledImages::Image Photograph::makeScaled(int width, int height)
     VImage lying;
     VImage &small = orientation == 1 ? *upright : lying;
     // Decoding takes no lock: meanwhile the photograph answers all other questions.
-    const std::unique_ptr<DecodedPhoto> photo = PhotoLoader::decode(file);
+    std::shared_ptr<DecodedPhoto> photo;
+    {
+        const std::lock_guard lock(mutex);
+        photo = full;
+    }
+    if (!photo)
+        photo = PhotoLoader::decode(file);
     photo->image().Resample(small, lyingWidth, lyingHeight);
     if (orientation != 1)
         orient(lying, orientation, *upright);

@@ -79,7 +79,7 @@ private:
     std::mutex mutex; ///< Over all that follows.
     std::optional<PhotoFacts> head;
     std::optional<Form> form;
-    std::unique_ptr<DecodedPhoto> full;
+    std::shared_ptr<DecodedPhoto> full;
     int fullUses = 0;
     std::map<std::pair<int, int>, Scaled> scaled;
 };
