@@ -5,39 +5,39 @@
     <name>BatchPlan</name>
     <message>
         <source>It has no suffix, so the result is a TIFF.</source>
-        <translation>La photo n&apos;a pas d&apos;extension : le résultat sera un TIFF.</translation>
+        <translation>La photo n&apos;a pas d&apos;extension&#xa0;: le résultat sera un TIFF.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
-        <translation>Le format « %1 » ne peut pas être écrit : le résultat sera un TIFF.</translation>
+        <translation>Le format «&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: le résultat sera un TIFF.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation>Son résultat « %1 » est lui-même l&apos;une des photos indiquées. Retirez l&apos;une des deux.</translation>
+        <translation>Son résultat «&#xa0;%1&#xa0;» est lui-même l&apos;une des photos indiquées. Retirez l&apos;une des deux.</translation>
     </message>
     <message>
         <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
-        <translation>Cette photo est le résultat de « %1 », également indiquée. Retirez l&apos;une des deux.</translation>
+        <translation>Cette photo est le résultat de «&#xa0;%1&#xa0;», également indiquée. Retirez l&apos;une des deux.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
-        <translation>Son résultat « %1 » est le même fichier que la photo « %2 ». Déplacez l&apos;un des deux.</translation>
+        <translation>Son résultat «&#xa0;%1&#xa0;» est le même fichier que la photo «&#xa0;%2&#xa0;». Déplacez l&apos;un des deux.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
-        <translation>Son résultat « %1 » serait aussi celui de « %2 ». Renommez l&apos;une des deux photos.</translation>
+        <translation>Son résultat «&#xa0;%1&#xa0;» serait aussi celui de «&#xa0;%2&#xa0;». Renommez l&apos;une des deux photos.</translation>
     </message>
     <message>
         <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
-        <translation>Un dossier se trouve à l&apos;emplacement du résultat, « %1 ». Déplacez ce dossier.</translation>
+        <translation>Un dossier se trouve à l&apos;emplacement du résultat, «&#xa0;%1&#xa0;». Déplacez ce dossier.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
-        <translation>Son résultat « %1 » existe déjà. Indiquez --overwrite pour le remplacer.</translation>
+        <translation>Son résultat «&#xa0;%1&#xa0;» existe déjà. Indiquez --overwrite pour le remplacer.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Copy the photograph to another folder.</source>
-        <translation>Impossible d&apos;écrire le résultat : le dossier « %1 » est en lecture seule. Copiez la photo dans un autre dossier.</translation>
+        <translation>Impossible d&apos;écrire le résultat&#xa0;: le dossier «&#xa0;%1&#xa0;» est en lecture seule. Copiez la photo dans un autre dossier.</translation>
     </message>
     <message>
         <source>The name of its result would be too long. Give the photograph a shorter name.</source>
@@ -48,7 +48,7 @@
     <name>BatchRunner</name>
     <message>
         <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
-        <translation>Le résultat est enregistré, mais les données XMP de la photo n&apos;ont pas pu y être copiées : %1.</translation>
+        <translation>Le résultat est enregistré, mais les données XMP de la photo n&apos;ont pas pu y être copiées&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The plug-in failed at %1</source>
@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Stopped; no result was written.</source>
-        <translation>Arrêté ; aucun résultat n&apos;a été écrit.</translation>
+        <translation>Arrêté&#xa0;; aucun résultat n&apos;a été écrit.</translation>
     </message>
     <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -68,11 +68,11 @@
     </message>
     <message>
         <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
-        <translation>Libérez de la place dans le dossier « %1 » et vérifiez que vous avez le droit d&apos;y écrire.</translation>
+        <translation>Libérez de la place dans le dossier «&#xa0;%1&#xa0;» et vérifiez que vous avez le droit d&apos;y écrire.</translation>
     </message>
     <message>
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>Le module a écrit « %1 » au lieu de « %2 »</translation>
+        <translation>Le module a écrit «&#xa0;%1&#xa0;» au lieu de «&#xa0;%2&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -90,15 +90,15 @@
     <name>CommandLine</name>
     <message>
         <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation>--strength attend un nombre entier de 0 à 100, et non « %1 ».</translation>
+        <translation>--strength attend un nombre entier de 0 à 100, et non «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation>--jobs attend un nombre entier de 1 à %1, et non « %2 ».</translation>
+        <translation>--jobs attend un nombre entier de 1 à %1, et non «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>--language knows %1, but not &quot;%2&quot;.</source>
-        <translation>--language connaît %1, mais pas « %2 ».</translation>
+        <translation>--language connaît %1, mais pas «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>--settings wants the name of a file.</source>
@@ -175,39 +175,39 @@ Examples:
 </source>
         <translation>veilaway retire le voile atmosphérique des photos.
 
-Utilisation :
+Utilisation&#xa0;:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FICHIER [options]
   veilaway wizard [PHOTO...] [options]
   veilaway --help | --version
 
 Chaque résultat est enregistré à côté de sa photo, sous le nom de celle-ci suivi
-d&apos;un suffixe : hills.jpg devient hills_dehazed.jpg. La photo elle-même n&apos;est jamais
-modifiée. Le suffixe dépend de la langue : _entnebelt avec --language de, par exemple.
+d&apos;un suffixe&#xa0;: hills.jpg devient hills_dehazed.jpg. La photo elle-même n&apos;est jamais
+modifiée. Le suffixe dépend de la langue&#xa0;: _entnebelt avec --language de, par exemple.
 
-L&apos;assistant ouvre une fenêtre : choisissez les photos, réglez la puissance de chacune
+L&apos;assistant ouvre une fenêtre&#xa0;: choisissez les photos, réglez la puissance de chacune
 avec un aperçu en direct, retirez le voile et comparez. Il accepte --settings (le
 fichier contient ensuite les puissances), --language, --jobs, --share-services et
 --plugin.
 
-Options :
-  --strength N      Quantité de voile à retirer, en pour cent : 0 laisse l&apos;image telle
+Options&#xa0;:
+  --strength N      Quantité de voile à retirer, en pour cent&#xa0;: 0 laisse l&apos;image telle
                     quelle, 100 retire tout. Sans cette option, c&apos;est la puissance du
                     fichier de réglages qui compte, sinon votre valeur par défaut
                     enregistrée, sinon 70.
   --settings FICHIER
                     Conserver la puissance de chaque photo dans ce fichier XML. Si le
                     fichier existe, ses puissances sont utilisées, sauf si --strength
-                    est aussi indiqué ; à la fin, il contient les puissances
+                    est aussi indiqué&#xa0;; à la fin, il contient les puissances
                     utilisées. Sans PHOTO, toutes les photos du fichier sont traitées.
-  --language LANG   Langue des messages et du suffixe : de, en, es, fr, it, ja, pl,
+  --language LANG   Langue des messages et du suffixe&#xa0;: de, en, es, fr, it, ja, pl,
                     ru, zh_CN ou zh_TW. Sans cette option, celle du système.
   --jobs N          Nombre de photos traitées en même temps. Sans cette option, autant
                     qu&apos;il en faut pour occuper tous les cœurs et qu&apos;en permet la
                     mémoire.
   --overwrite       Remplacer les résultats qui existent déjà.
   --quiet           Ne signaler que les échecs.
-  --json            Écrire pour chaque photo une ligne avec un objet JSON : photo,
+  --json            Écrire pour chaque photo une ligne avec un objet JSON&#xa0;: photo,
                     result, status (done, failed, stopped), strength, seconds,
                     message.
   --share-services  Prêter au module les services du programme (journal, réserve de
@@ -220,23 +220,23 @@ Options :
   --                Ce qui suit désigne des photos, même si cela commence par un
                     tiret.
 
-Formats :
-  En lecture et en écriture : JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr,
+Formats&#xa0;:
+  En lecture et en écriture&#xa0;: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr,
   hdri), OpenEXR (exr) et PSD. Un résultat garde le format de sa photo, sa profondeur
   (8 ou 16 bits ou virgule flottante), son profil de couleurs, ses données EXIF, IPTC
-  et XMP. L&apos;orientation EXIF est conservée : le résultat s&apos;affiche comme sa photo.
-  En lecture seule : RAW (dng, cr2, cr3, nef, arw, raf, orf, rw2 et autres). Le
+  et XMP. L&apos;orientation EXIF est conservée&#xa0;: le résultat s&apos;affiche comme sa photo.
+  En lecture seule&#xa0;: RAW (dng, cr2, cr3, nef, arw, raf, orf, rw2 et autres). Le
   résultat est un TIFF 16 bits. Les photos avec une autre extension, ou sans
   extension, donnent aussi un TIFF. Les fichiers XMP annexes restent en place et ne
   sont pas lus.
 
-Codes de retour :
+Codes de retour&#xa0;:
   0  Toutes les photos sont traitées.
-  1  Certaines ne le sont pas : la sortie d&apos;erreur standard dit lesquelles, pourquoi
+  1  Certaines ne le sont pas&#xa0;: la sortie d&apos;erreur standard dit lesquelles, pourquoi
      et que faire. Ctrl-C termine de même, sans laisser de résultat incomplet.
-  2  La ligne de commande ou le fichier de réglages est incorrect ; rien n&apos;a commencé.
+  2  La ligne de commande ou le fichier de réglages est incorrect&#xa0;; rien n&apos;a commencé.
 
-Exemples :
+Exemples&#xa0;:
   veilaway hills.jpg --strength 80
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
@@ -270,7 +270,7 @@ Exemples :
     </message>
     <message>
         <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
-        <translation>Ce n&apos;est pas une image d&apos;un format connu, ou son format n&apos;est pas celui qu&apos;annonce l&apos;extension. Les formats lus sont JPEG, PNG, TIFF, HDR, EXR, PSD et RAW ; donnez au fichier l&apos;extension qui lui correspond ou convertissez-le.</translation>
+        <translation>Ce n&apos;est pas une image d&apos;un format connu, ou son format n&apos;est pas celui qu&apos;annonce l&apos;extension. Les formats lus sont JPEG, PNG, TIFF, HDR, EXR, PSD et RAW&#xa0;; donnez au fichier l&apos;extension qui lui correspond ou convertissez-le.</translation>
     </message>
     <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
@@ -290,7 +290,7 @@ Exemples :
     </message>
     <message>
         <source>This is a folder. Name the photographs in it, for instance &quot;%1&quot;.</source>
-        <translation>C&apos;est un dossier. Indiquez les photos qu&apos;il contient, par exemple « %1 ».</translation>
+        <translation>C&apos;est un dossier. Indiquez les photos qu&apos;il contient, par exemple «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>This is no regular file. Copy the photograph into one.</source>
@@ -310,7 +310,7 @@ Exemples :
     </message>
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
-        <translation>Impossible de développer le fichier RAW : %1. Copiez-le de nouveau ou convertissez-le en DNG ou en TIFF.</translation>
+        <translation>Impossible de développer le fichier RAW&#xa0;: %1. Copiez-le de nouveau ou convertissez-le en DNG ou en TIFF.</translation>
     </message>
 </context>
 <context>
@@ -325,7 +325,7 @@ Exemples :
     </message>
     <message>
         <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
-        <translation>Choisissez les photos dont il faut retirer le voile, ou déposez-les ici. Elles restent intactes : chaque résultat est enregistré à côté de sa photo.</translation>
+        <translation>Choisissez les photos dont il faut retirer le voile, ou déposez-les ici. Elles restent intactes&#xa0;: chaque résultat est enregistré à côté de sa photo.</translation>
     </message>
     <message>
         <source>&amp;Add photographs...</source>
@@ -341,11 +341,11 @@ Exemples :
     </message>
     <message>
         <source>%1: There are no photographs in this folder.</source>
-        <translation>%1 : ce dossier ne contient aucune photo.</translation>
+        <translation>%1&#xa0;: ce dossier ne contient aucune photo.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>Reading %n photograph(s)...</source>
@@ -370,7 +370,7 @@ Exemples :
     </message>
     <message>
         <source>Left out:</source>
-        <translation>Écartées :</translation>
+        <translation>Écartées&#xa0;:</translation>
     </message>
     <message>
         <source>Add photographs</source>
@@ -397,18 +397,18 @@ Exemples :
     <name>Photograph</name>
     <message>
         <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation>La photo est trop large : le voile ne peut être retiré que de photos d&apos;une largeur maximale de %1 pixels. Réduisez-la ou découpez-la en plusieurs parties.</translation>
+        <translation>La photo est trop large&#xa0;: le voile ne peut être retiré que de photos d&apos;une largeur maximale de %1 pixels. Réduisez-la ou découpez-la en plusieurs parties.</translation>
     </message>
 </context>
 <context>
     <name>PluginFile</name>
     <message>
         <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
-        <translation>Le module « %1 » est introuvable. Compilez-le, installez-le, ou indiquez son emplacement avec --plugin FICHIER.</translation>
+        <translation>Le module «&#xa0;%1&#xa0;» est introuvable. Compilez-le, installez-le, ou indiquez son emplacement avec --plugin FICHIER.</translation>
     </message>
     <message>
         <source>&quot; or &quot;</source>
-        <translation> » ou « </translation>
+        <translation>&#xa0;» ou «&#xa0;</translation>
     </message>
     <message>
         <source>it is a plug-in of another kind</source>
@@ -416,7 +416,7 @@ Exemples :
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
-        <translation>Impossible d&apos;utiliser le module « %1 » : %2. Réinstallez-le ou indiquez-en un autre avec --plugin FICHIER.</translation>
+        <translation>Impossible d&apos;utiliser le module «&#xa0;%1&#xa0;»&#xa0;: %2. Réinstallez-le ou indiquez-en un autre avec --plugin FICHIER.</translation>
     </message>
 </context>
 <context>
@@ -427,7 +427,7 @@ Exemples :
     </message>
     <message>
         <source>%1: %2 (%3 s)</source>
-        <translation>%1 : %2 (%3 s)</translation>
+        <translation>%1&#xa0;: %2 (%3 s)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
@@ -435,7 +435,7 @@ Exemples :
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
-        <translation>Photos traitées : %1 sur %2 ; non traitées : %3.</translation>
+        <translation>Photos traitées&#xa0;: %1 sur %2&#xa0;; non traitées&#xa0;: %3.</translation>
     </message>
     <message>
         <source>reading</source>
@@ -478,7 +478,7 @@ Exemples :
     </message>
     <message>
         <source>%1 of %2 photographs are done.</source>
-        <translation>Photos traitées : %1 sur %2.</translation>
+        <translation>Photos traitées&#xa0;: %1 sur %2.</translation>
     </message>
     <message>
         <source>Stopped before it began.</source>
@@ -497,27 +497,27 @@ Exemples :
     <name>RunCommand</name>
     <message>
         <source>No --strength given: using your stored default of %1.</source>
-        <translation>--strength non indiqué : votre valeur par défaut enregistrée, %1, est utilisée.</translation>
+        <translation>--strength non indiqué&#xa0;: votre valeur par défaut enregistrée, %1, est utilisée.</translation>
     </message>
     <message>
         <source>No --strength given and no default stored: using %1.</source>
-        <translation>--strength non indiqué et aucune valeur par défaut enregistrée : %1 est utilisé.</translation>
+        <translation>--strength non indiqué et aucune valeur par défaut enregistrée&#xa0;: %1 est utilisé.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
-        <translation>Le fichier de réglages « %1 » ne cite aucune photo. Indiquez-en.</translation>
+        <translation>Le fichier de réglages «&#xa0;%1&#xa0;» ne cite aucune photo. Indiquez-en.</translation>
     </message>
     <message>
         <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
-        <translation>Le fichier de réglages « %1 » n&apos;existe pas. Indiquez des photos pour le créer.</translation>
+        <translation>Le fichier de réglages «&#xa0;%1&#xa0;» n&apos;existe pas. Indiquez des photos pour le créer.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
-        <translation>Impossible d&apos;écrire le fichier de réglages « %1 » à cet endroit. Indiquez-en un dans un autre dossier.</translation>
+        <translation>Impossible d&apos;écrire le fichier de réglages «&#xa0;%1&#xa0;» à cet endroit. Indiquez-en un dans un autre dossier.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
-        <translation>Le fichier de réglages « %1 » porte le nom d&apos;un résultat. Donnez-lui un autre nom.</translation>
+        <translation>Le fichier de réglages «&#xa0;%1&#xa0;» porte le nom d&apos;un résultat. Donnez-lui un autre nom.</translation>
     </message>
 </context>
 <context>
@@ -567,7 +567,7 @@ Exemples :
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -614,7 +614,7 @@ Exemples :
     <name>SettingsFile</name>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be used: %2. Repair it, or name another one.</source>
-        <translation>Impossible d&apos;utiliser le fichier de réglages « %1 » : %2. Réparez-le ou indiquez-en un autre.</translation>
+        <translation>Impossible d&apos;utiliser le fichier de réglages «&#xa0;%1&#xa0;»&#xa0;: %2. Réparez-le ou indiquez-en un autre.</translation>
     </message>
     <message>
         <source>it is a folder</source>
@@ -622,7 +622,7 @@ Exemples :
     </message>
     <message>
         <source>line %1, column %2: %3</source>
-        <translation>ligne %1, colonne %2 : %3</translation>
+        <translation>ligne %1, colonne %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>its outermost element is not &lt;%1&gt;</source>
@@ -634,19 +634,19 @@ Exemples :
     </message>
     <message>
         <source>%1: a photo without a path</source>
-        <translation>%1 : une photo sans chemin</translation>
+        <translation>%1&#xa0;: une photo sans chemin</translation>
     </message>
     <message>
         <source>%1: &quot;%2&quot; stands in it twice</source>
-        <translation>%1 : « %2 » y figure deux fois</translation>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» y figure deux fois</translation>
     </message>
     <message>
         <source>%1: the photo needs &lt;%2 %3=&quot;...&quot;/&gt; with a whole number from 0 to 100</source>
-        <translation>%1 : la photo requiert &lt;%2 %3=&quot;...&quot;/&gt; avec un nombre entier de 0 à 100</translation>
+        <translation>%1&#xa0;: la photo requiert &lt;%2 %3=&quot;...&quot;/&gt; avec un nombre entier de 0 à 100</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
-        <translation>Impossible d&apos;écrire le fichier de réglages « %1 » : %2. Libérez de la place ou accordez-vous le droit d&apos;écrire à cet endroit.</translation>
+        <translation>Impossible d&apos;écrire le fichier de réglages «&#xa0;%1&#xa0;»&#xa0;: %2. Libérez de la place ou accordez-vous le droit d&apos;écrire à cet endroit.</translation>
     </message>
 </context>
 <context>
