@@ -11,6 +11,7 @@ constexpr std::size_t kHugePage = std::size_t(2) << 20;
 // A region is address space until it is touched, so that it may be large; a piece is what a thread may leave unused.
 constexpr std::size_t kRegionBytes = std::size_t(64) << 20;
 constexpr std::size_t kPieceBytes = std::size_t(256) << 10;
+constexpr std::size_t kLargeBlock = 1024;
 
 unsigned numberOfThisThread()
 {
@@ -49,13 +50,14 @@ void *SparseArena::allocate(std::size_t bytes, std::size_t alignment)
         ~Opener() { flag.clear(std::memory_order_release); }
     } opener{slot.taken};
 
-    void *block = take(slot.piece, bytes, alignment);
+    Piece &piece = bytes < kLargeBlock ? slot.small : slot.large;
+    void *block = take(piece, bytes, alignment);
     if (block == nullptr) {
-        // A large block leaves the thread its piece.
+        // A block of more than a piece leaves the thread what it has.
         Piece fresh = cut(bytes);
         block = take(fresh, bytes, alignment);
-        if (fresh.end - fresh.next > slot.piece.end - slot.piece.next)
-            slot.piece = fresh;
+        if (fresh.end - fresh.next > piece.end - piece.next)
+            piece = fresh;
     }
     return block;
 }

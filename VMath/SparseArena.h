@@ -1,14 +1,17 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstddef>
 #include <mutex>
 #include <new>
+#include <utility>
 #include <vector>
 
 /// Memory that only grows and is given back in one piece, for the many small blocks of one assembly. Safe on several threads:
-/// each has a piece of its own to take blocks from. Where the system has huge pages, the memory lies on them.
+/// each has pieces of its own to take blocks from. Where the system has huge pages, the memory lies on them. All bytes of a block
+/// are 0. Small blocks and large ones lie apart, so that a large one that is never written takes address space only.
 class SparseArena
 {
 public:
@@ -26,11 +29,12 @@ private:
         char *next = nullptr;
         char *end = nullptr;
     };
-    /// The piece of those threads that have this number; mostly that is one, and the flag is never fought for.
+    /// The pieces of those threads that have this number; mostly that is one, and the flag is never fought for.
     struct alignas(64) Slot
     {
         std::atomic_flag taken = ATOMIC_FLAG_INIT;
-        Piece piece;
+        Piece small;
+        Piece large;
     };
     struct Region
     {
@@ -47,6 +51,16 @@ private:
     Piece rest;      ///< What is left of the last region.
     std::vector<Region> regions;
 };
+
+/// Whether a new U without arguments is all zero, tried at load.
+template<typename U>
+inline const bool kZeroByDefault = [] {
+    alignas(U) std::array<unsigned char, sizeof(U)> bytes{};
+    U *const probe = ::new (bytes.data()) U();
+    const bool zero = std::all_of(bytes.begin(), bytes.end(), [](unsigned char byte) { return byte == 0; });
+    probe->~U();
+    return zero;
+}();
 
 /// The arena as a container's allocator. Blocks are not given back one by one. Neither are elements destroyed: whatever a
 /// container on an arena holds must own nothing outside of the arena.
@@ -69,6 +83,16 @@ public:
         return static_cast<T *>(arena->allocate(count * sizeof(T), alignof(T)));
     }
     void deallocate(T *, std::size_t) {}
+    /// An element whose default is all zero is there already: writing it would be the first touch of its page.
+    template<typename U, typename... Arguments>
+    void construct(U *place, Arguments &&...arguments)
+    {
+        if constexpr (sizeof...(Arguments) == 0) {
+            if (kZeroByDefault<U>)
+                return;
+        }
+        ::new (static_cast<void *>(place)) U(std::forward<Arguments>(arguments)...);
+    }
     template<typename U>
     void destroy(U *)
     {

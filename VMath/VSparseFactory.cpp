@@ -27,7 +27,7 @@ std::int32_t *allocateIndices(std::int32_t count)
 
 VSparseFactory::VSparseFactory(bool symmetricMatrix) : symmetric(symmetricMatrix), rows(SparseAllocator<Row>(arena))
 {
-    rows.grow_to_at_least(std::size_t(rowCapacity), Row(Row::allocator_type(arena)));
+    growRows(std::size_t(rowCapacity));
 }
 
 VSparseFactory::~VSparseFactory()
@@ -39,6 +39,14 @@ VSparseFactory::~VSparseFactory()
     rowCapacity = 0;
 }
 
+void VSparseFactory::growRows(std::size_t count)
+{
+    // A table that is asked for in advance is made of default buckets, which the arena need not write.
+    constexpr std::size_t kBuckets = 256;
+    while (rows.size() < count)
+        rows.emplace_back(kBuckets, Row::allocator_type(arena));
+}
+
 void VSparseFactory::OpenCell(int row, int column, CellAccessor &cell)
 {
     if (row >= rowCount) {
@@ -47,7 +55,7 @@ void VSparseFactory::OpenCell(int row, int column, CellAccessor &cell)
             std::int64_t capacity = rowCapacity;
             while (capacity <= row)
                 capacity *= 2;
-            rows.grow_to_at_least(std::size_t(capacity), Row(Row::allocator_type(arena)));
+            growRows(std::size_t(capacity));
             rowCapacity = std::int32_t(std::min<std::int64_t>(capacity, std::numeric_limits<std::int32_t>::max()));
         }
         rowCount = row + 1;
@@ -96,13 +104,19 @@ void VSparseFactory::ToCsr(VSparseMatrix &target) const
     for (std::int32_t row = 0; row < rowCount; ++row) {
         auto *const first = scratch.data() + std::size_t(omp_get_thread_num()) * longest;
         auto *last = first;
-        for (const auto &cell : rows[std::size_t(row)])
-            *last++ = {cell.first, cell.second};
+        const Row &rowCells = rows[std::size_t(row)];
+        // Counted, so that the walk ends at the last cell: on its way to the end it would read all buckets.
+        auto cell = rowCells.begin();
+        for (std::size_t left = rowCells.size(); left > 0; --left) {
+            *last++ = {cell->first, cell->second};
+            if (left > 1)
+                ++cell;
+        }
         std::sort(first, last, [](const auto &left, const auto &right) { return left.first < right.first; });
         std::size_t position = std::size_t(target.rowStarts[row]) - 1;
-        for (const auto *cell = first; cell != last; ++cell, ++position) {
-            target.columnIndices[position] = cell->first + 1;
-            target.values[position] = cell->second;
+        for (const auto *sorted = first; sorted != last; ++sorted, ++position) {
+            target.columnIndices[position] = sorted->first + 1;
+            target.values[position] = sorted->second;
         }
     }
 }

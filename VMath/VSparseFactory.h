@@ -18,9 +18,19 @@ class VSparseFactory
     SparseArena arena; // before the rows, which live in it
 
 public:
-    /// One row: column to value. A row's first growth takes a table of 4 KB, so that the allocator is where the time goes.
-    using Row = tbb::concurrent_hash_map<std::int32_t, float, tbb::tbb_hash_compare<std::int32_t>,
-                                         SparseAllocator<std::pair<const std::int32_t, float>>>;
+    /// A row's second cell brings a table of 256 buckets, which is 4 KB to write for a dozen of cells. Columns are therefore
+    /// hashed to the two buckets that lie in the row itself, as long as that table is enough; in longer rows they spread.
+    struct ColumnHash
+    {
+        static std::size_t hash(std::int32_t column)
+        {
+            const std::size_t spread = std::size_t(std::uint32_t(column)) * 0x9E3779B97F4A7C15u;
+            return spread >> 32 << 8 | (std::uint32_t(column) & 1u);
+        }
+        static bool equal(std::int32_t left, std::int32_t right) { return left == right; }
+    };
+    /// One row: column to value.
+    using Row = tbb::concurrent_hash_map<std::int32_t, float, ColumnHash, SparseAllocator<std::pair<const std::int32_t, float>>>;
     /// Write access to one cell, locked while this holds it; `->second` is the value. Declared empty, filled by OpenCell.
     using CellAccessor = Row::accessor;
 
@@ -44,4 +54,7 @@ public:
     std::int32_t rowCapacity = 8; ///< Rows that `rows` holds; only doubles.
     tbb::concurrent_vector<Row, SparseAllocator<Row>> rows;
     void (VSparseFactory::*cellAccess)(int row, int column, CellAccessor &cell) = &VSparseFactory::OpenCell;
+
+private:
+    void growRows(std::size_t count);
 };

@@ -6,6 +6,7 @@
 #include <limits>
 #include <memory>
 #include <new>
+#include <optional>
 #include <vector>
 
 #include "HazeJointRows.h"
@@ -257,19 +258,20 @@ bool VImage::HazeMatting(float *darkMap)
         throw VException(invalidBitmap(), V_LOCATION);
     const std::size_t unknowns = pixelCount(*this);
     const std::unique_ptr<float[]> x(new float[unknowns]);
-    VSparseFactory factory(/*symmetricMatrix=*/true);
+    std::optional<VSparseFactory> factory(std::in_place, /*symmetricMatrix=*/true);
     // The rows of the factory grow here, on one thread; in parallel they must not.
     for (std::size_t i = 0; i < unknowns; ++i) {
         darkMap[i] = static_cast<float>(static_cast<double>(darkMap[i]) * kLambda);
         const int p = static_cast<int>(i);
         VSparseFactory::CellAccessor cell;
-        (factory.*factory.cellAccess)(p, p, cell);
+        ((*factory).*factory->cellAccess)(p, p, cell);
         cell->second = kLambdaCell;
     }
-    addMattingLaplacian(*this, factory);
+    addMattingLaplacian(*this, *factory);
     try {
         VSparseMatrix matrix;
-        factory.ToCsr(matrix);
+        factory->ToCsr(matrix);
+        factory.reset(); // its memory is several times that of the matrix
         matrix.Solve(darkMap, x.get());
         std::copy_n(x.get(), unknowns, darkMap);
     } catch (...) {

@@ -69,7 +69,7 @@ TEST(VSparseFactory, StoresEveryOpenedCellInOrder)
 {
     VSparseFactory factory(true);
     VSparseFactory::CellAccessor cell;
-    for (const int column : {900, 3, 256, 2, 512}) // 2 + 254 k: they meet in one bucket of a young row
+    for (const int column : {900, 3, 256, 2, 512})
         setCell(factory, 2, column, float(column));
     factory.OpenCell(0, 4, cell); // opened only
     EXPECT_EQ(cell->second, 0.0F);
@@ -95,6 +95,36 @@ TEST(VSparseFactory, StoresEveryOpenedCellInOrder)
     matrix.Reset();
     EXPECT_EQ(matrix.rowStarts, nullptr);
     EXPECT_EQ(matrix.rowCount, 0);
+}
+
+TEST(VSparseFactory, HoldsRowsOfAnyLength)
+{
+    // A row's table grows from 256 cells on; each count is one behind a growth or before it.
+    const int lengths[] = {1, 2, 255, 256, 257, 511, 513, 5000};
+    VSparseFactory factory(false);
+    int row = 0;
+    for (const int length : lengths) {
+        for (int i = 0; i < length; ++i)
+            setCell(factory, row, (i * 7919) % length * 3, float(i));
+        for (int i = 0; i < length; ++i) { // they are found again
+            VSparseFactory::CellAccessor cell;
+            factory.OpenCell(row, (i * 7919) % length * 3, cell);
+            cell->second += 1.0F;
+        }
+        ++row;
+    }
+    VSparseMatrix matrix;
+    factory.ToCsr(matrix);
+    row = 0;
+    for (const int length : lengths) {
+        const int start = matrix.rowStarts[row] - 1;
+        ASSERT_EQ(matrix.rowStarts[++row] - 1 - start, length);
+        for (int i = 0; i < length; ++i) {
+            const int place = (i * 7919) % length;
+            ASSERT_EQ(matrix.columnIndices[start + place], place * 3 + 1) << length;
+            ASSERT_EQ(matrix.values[start + place], float(i) + 1.0F) << length;
+        }
+    }
 }
 
 TEST(VSparseFactory, WithoutCellsThereIsNotEnoughMemory)
