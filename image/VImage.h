@@ -61,6 +61,8 @@ public:
     /// The record, or null for an empty image.
     GflBitmap *Bitmap() const { return bitmap; }
 
+    // A host that links the image record alone has the operations above. Those that follow are the plug-in's.
+
     /// Converts the rectangle of this image with the corner (x, y) into the rectangle of `target` with the corner (targetX,
     /// targetY); both are width x height pixels. `target` exists already, in any of the nine forms; this image has any of them.
     ///

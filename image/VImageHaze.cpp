@@ -15,6 +15,7 @@
 #include "VSparseFactory.h"
 #include "ipp.h"
 #include "ippVersions.h"
+#include "kernel32.h"
 #include "threadCount.h"
 
 namespace {
@@ -325,6 +326,7 @@ float *VImage::HazeJointUpsample(float *lowMap, VImage *lowImage)
         throw VException(invalidBitmap(), V_LOCATION);
 
     std::unique_ptr<float[]> map(new float[pixelCount(*this)]);
+    AdviseHugePages(map.get(), pixelCount(*this) * sizeof(float));
     const HazeJointRows rows(*this, *lowImage, lowMap);
     const int height = Height();
     const int parts = std::max(1, std::min(teamSize(), height));

@@ -2,9 +2,13 @@
 
 #include <cstdlib>
 
+#include "kernel32.h"
+
 void *gflAllocCallback(std::size_t bytes, void *)
 {
-    return std::malloc(bytes);
+    void *block = std::malloc(bytes);
+    AdviseHugePages(block, bytes);
+    return block;
 }
 
 void *gflReallocCallback(void *block, std::size_t bytes, void *)
