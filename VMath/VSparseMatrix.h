@@ -16,7 +16,7 @@ public:
     void Reset();
 
     /// Solves A x = b directly, in single precision with iterative refinement. `b` and `x` hold `rowCount` floats each and do not
-    /// overlap; the matrix stays as it is. Runs on the calling thread and keeps nothing.
+    /// overlap; the matrix stays as it is. Keeps nothing, after a failure neither. mkl.h says on which threads it runs.
     ///
     /// Throws VException "PARDISO error during symbolic factorization: %1", "... numerical factorization: %1" or "... solution:
     /// %1" with the solver's own code, a negative number (mkl.h).

@@ -7,11 +7,11 @@
 
 Library::Library(QObject *parent) : QObject(parent)
 {
-    setObjectName(QStringLiteral("Nimbra"));
+    setObjectName(QString::fromLatin1("Nimbra"));
     VIApplication *const app = hostApplication();
     if (!app)
         return;
-    app->loadTranslator(QStringLiteral("%1_%2.qm").arg(QStringLiteral("Nimbra")).arg(app->locale().name()));
+    app->loadTranslator(QString::fromLatin1("%1_%2.qm").arg(QString::fromLatin1("Nimbra")).arg(app->locale().name()));
     startImageLibrary(app->imageLibraryContext());
     startInterfaceLibrary(app->interfaceLibraryContext());
 }
@@ -33,7 +33,7 @@ QList<QPointer<QObject>> Library::processes(int create)
 
 QString Library::name()
 {
-    return QStringLiteral("Nimbra");
+    return QString::fromLatin1("Nimbra");
 }
 
 QString Library::author()
@@ -63,5 +63,5 @@ QIcon Library::icon()
 
 QString Library::guid()
 {
-    return QStringLiteral("8E04C3B7-2AF1-4D96-A37C-F1B86C05D24E");
+    return QString::fromLatin1("8E04C3B7-2AF1-4D96-A37C-F1B86C05D24E");
 }

@@ -17,7 +17,7 @@
 
 namespace {
 
-const QString kStrengthKey = QStringLiteral("hazeRemove");
+const QString kStrengthKey = QString::fromLatin1("hazeRemove");
 
 unsigned short typeOfChannels(int channels)
 {
@@ -40,7 +40,7 @@ int depthOfBits(int bits)
 
 NimbraOne2One::NimbraOne2One(QObject *parent) : QObject(parent), defaultSettings(NimbraOne2One::createSettings(QDomElement()))
 {
-    setObjectName(QStringLiteral("NimbraOne2One"));
+    setObjectName(QString::fromLatin1("NimbraOne2One"));
 }
 
 NimbraOne2One::~NimbraOne2One()
@@ -60,7 +60,7 @@ void NimbraOne2One::destroyRecords()
 
 QString NimbraOne2One::name()
 {
-    return QStringLiteral("Veilaway");
+    return QString::fromLatin1("Veilaway");
 }
 
 QString NimbraOne2One::author()
@@ -115,9 +115,9 @@ VISettingsHandle NimbraOne2One::createSettings(QDomElement element)
 {
     auto settings = std::make_unique<HazeState>();
     if (VIApplication *const app = hostApplication())
-        settings->strength = app->value(pluginIdentity::processGuid(), kStrengthKey, QVariant(QStringLiteral("0"))).toInt();
+        settings->strength = app->value(pluginIdentity::processGuid(), kStrengthKey, QVariant(QString::fromLatin1("0"))).toInt();
     if (!element.isNull())
-        settings->strength = element.attribute(kStrengthKey, QStringLiteral("0")).toInt();
+        settings->strength = element.attribute(kStrengthKey, QString::fromLatin1("0")).toInt();
     return settings.release();
 }
 
@@ -144,7 +144,7 @@ void NimbraOne2One::destroySettings(VISettingsHandle settings)
 
 QIcon NimbraOne2One::beforeAfterIcon()
 {
-    return QIcon(QStringLiteral(":/%1/Resources/NimbraBeforeAfter.png").arg(pluginIdentity::processGuid()));
+    return QIcon(QString::fromLatin1(":/%1/Resources/NimbraBeforeAfter.png").arg(pluginIdentity::processGuid()));
 }
 
 void NimbraOne2One::run(QString inputPath, VISettingsHandle settings, QString *outputPath)
@@ -155,7 +155,7 @@ void NimbraOne2One::run(QString inputPath, VISettingsHandle settings, QString *o
     const QFileInfo input(inputPath);
     QString extension = input.suffix().toLower();
     if (def->needsTiffOutput())
-        extension = QStringLiteral("tiff");
+        extension = QString::fromLatin1("tiff");
     *outputPath = input.absolutePath() + QDir::separator() + input.completeBaseName() + tr("_dehazed") + '.' + extension;
 
     VImage working;

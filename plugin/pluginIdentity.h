@@ -7,29 +7,29 @@ namespace pluginIdentity {
 
 inline QString author()
 {
-    return QStringLiteral("Camille Ombre");
+    return QString::fromLatin1("Camille Ombre");
 }
 
 inline QString company()
 {
-    return QStringLiteral("Ombre");
+    return QString::fromLatin1("Ombre");
 }
 
 inline QString version()
 {
-    return QStringLiteral("3.0.0.400");
+    return QString::fromLatin1("3.0.0.400");
 }
 
 /// GUID of the process: the group of its stored settings and the folder of the plug-in's pictures.
 inline QString processGuid()
 {
-    return QStringLiteral("51D2A7E4-93C6-4F08-B1E5-6A0C7D3E9F21");
+    return QString::fromLatin1("51D2A7E4-93C6-4F08-B1E5-6A0C7D3E9F21");
 }
 
 /// A path that no resource answers, so that the icon is empty.
 inline QString iconPath()
 {
-    return QStringLiteral(":/%1/Resources/Nimbra.png").arg(processGuid());
+    return QString::fromLatin1(":/%1/Resources/Nimbra.png").arg(processGuid());
 }
 
 } // namespace pluginIdentity

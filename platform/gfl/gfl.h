@@ -24,7 +24,8 @@ enum GflCode : int {
 constexpr std::uint32_t GFL_SAVE_ICC_PROFILE = 0x00000008; ///< Save flag: write the colour profile that is attached.
 constexpr std::uint32_t GFL_LOAD_METADATA = 0x00000400;    ///< Load flag: read colour profile, IPTC and EXIF.
 /// Load flag: the same, and leave the pixels unread. The header is tested as ever, the bitmap has the file's size and form and
-/// null `data`, and the work does not grow with the picture. Damage among the pixels goes unnoticed.
+/// null `data`, and the work does not grow with the picture. A JPEG, PNG or TIFF that was cut short is still told; other damage
+/// among the pixels goes unnoticed.
 constexpr std::uint32_t GFL_LOAD_METADATA_ONLY = 0x00000800;
 
 constexpr std::int16_t GFL_DEFAULT = -1; ///< In `compression` and `quality`: what the format does best; see GflSaveParams.
@@ -59,6 +60,11 @@ struct GflLoadParams
     float rawRedScaling;
     float rawBlueScaling;
 };
+
+static_assert(offsetof(GflSaveParams, formatIndex) == 4 && offsetof(GflSaveParams, compression) == 8 &&
+              offsetof(GflSaveParams, quality) == 10);
+static_assert(offsetof(GflLoadParams, rawUseAutomaticBalance) == 64 && offsetof(GflLoadParams, rawAutoBright) == 67 &&
+              offsetof(GflLoadParams, rawGamma) == 68 && sizeof(GflLoadParams) == 84);
 
 struct GflFileInformation
 {

@@ -270,6 +270,32 @@ void writeSegments(Writer &writer, const WriteRequest &request)
                 [&] { jpeg_write_icc_profile(&writer.info, request.icc.data(), static_cast<unsigned>(request.icc.size())); });
 }
 
+/// Whether the mark of the end stands behind the start of the pixels: a file that was cut short has lost it.
+bool endsWhole(const InputFile &file)
+{
+    std::uint64_t scan = 2;
+    std::uint8_t head[4];
+    while (file.readAt(scan, head, sizeof head) == sizeof head && head[0] == 0xFF) {
+        const bool fill = head[1] == 0xFF;
+        const bool startOfScan = head[1] == 0xDA;
+        scan += fill ? 1u : 2u + unsigned(head[2]) * 256u + head[3];
+        if (startOfScan)
+            break;
+    }
+    // From behind, in pieces that overlap by a byte: what follows the mark is seldom more than padding.
+    constexpr std::uint64_t kPiece = 65536;
+    Bytes piece(kPiece + 1);
+    for (std::uint64_t end = file.size(); end > scan;) {
+        const std::uint64_t start = end - std::min(kPiece, end - scan);
+        const std::size_t count = file.readAt(start, piece.data(), std::size_t(std::min(end + 1, file.size()) - start));
+        for (std::size_t i = count; i-- > 1;)
+            if (piece[i] == 0xD9 && piece[i - 1] == 0xFF)
+                return true;
+        end = start;
+    }
+    return false;
+}
+
 } // namespace
 
 BitmapPointer readJpeg(const ReadRequest &request)
@@ -306,6 +332,8 @@ BitmapPointer readJpeg(const ReadRequest &request)
     bitmap.record().yDpi = dpiFrom(info.Y_density * unit);
     if (request.metadata)
         readSegments(reader, attachMetadata(bitmap.record()));
+    if (!request.pixels && !endsWhole(request.file))
+        throw Failure{GFL_ERROR_FILE_READ};
     if (request.pixels)
         readPixels(reader, bitmap, request.file.size());
     return bitmap.take();

@@ -183,8 +183,9 @@ void takeText(const Bytes &chunk, bool packed, Metadata &metadata)
     }
 }
 
-// Goes from chunk to chunk over the file, so that the pixels are passed by and not unpacked.
-void collect(const InputFile &file, Metadata &metadata)
+/// Goes from chunk to chunk over the file, so that the pixels are passed by and not unpacked. Returns whether the last one is
+/// there.
+bool collect(const InputFile &file, Metadata &metadata)
 {
     std::uint64_t at = sizeof kSignature;
     std::uint8_t head[8];
@@ -192,7 +193,9 @@ void collect(const InputFile &file, Metadata &metadata)
         const std::uint32_t length = big32(head);
         const std::string type(head + 4, head + 8);
         const bool wanted = type == "iCCP" || type == "eXIf" || type == "zTXt" || type == "tEXt";
-        if (type == "IEND" || length > file.size() - at)
+        if (type == "IEND")
+            return true;
+        if (length > file.size() - at)
             break;
         if (wanted && length <= kLargestText) {
             const Bytes chunk = file.bytesAt(at + 8, length);
@@ -207,6 +210,7 @@ void collect(const InputFile &file, Metadata &metadata)
         }
         at += std::uint64_t(12) + length;
     }
+    return false;
 }
 
 // ---- writing
@@ -452,8 +456,8 @@ BitmapPointer readPng(const ReadRequest &request)
         bitmap.record().xDpi = dpiFrom(xPerUnit * kMetresPerInch);
         bitmap.record().yDpi = dpiFrom(yPerUnit * kMetresPerInch);
     }
-    if (request.metadata)
-        collect(request.file, attachMetadata(bitmap.record()));
+    if (request.metadata && !collect(request.file, attachMetadata(bitmap.record())))
+        throw Failure{GFL_ERROR_FILE_READ};
     if (request.pixels)
         readPixels(reader, bitmap);
     return bitmap.take();

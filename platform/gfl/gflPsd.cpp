@@ -5,7 +5,7 @@
 #include "gflMetadata.h"
 
 // The merged picture of a Photoshop file: header, palette, image resources, layers (passed by), then the channels one after the
-// other, as they are or in runs of bytes. Source: Adobe Photoshop File Formats Specification.
+// other, as they are or in runs of bytes. Source: Adobe Photoshop File Formats description.
 namespace gfl {
 namespace {
 

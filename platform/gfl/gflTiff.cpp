@@ -665,6 +665,18 @@ void mergeDirectories(OutputFile &file, const Bytes &exif)
     checked(file.trySeek(start + 2));
 }
 
+/// Whether the file reaches as far as its strips or tiles.
+bool holdsAllPieces(const InputFile &file, TIFF *tiff)
+{
+    const std::uint32_t pieces = TIFFIsTiled(tiff) != 0 ? TIFFNumberOfTiles(tiff) : TIFFNumberOfStrips(tiff);
+    for (std::uint32_t piece = 0; piece < pieces; ++piece) {
+        const std::uint64_t start = TIFFGetStrileOffset(tiff, piece);
+        if (start > file.size() || TIFFGetStrileByteCount(tiff, piece) > file.size() - start)
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 BitmapPointer readTiff(const ReadRequest &request)
@@ -684,6 +696,8 @@ BitmapPointer readTiff(const ReadRequest &request)
             readOurs(request.file, layout, bitmap);
         else
             readByLibrary(open, request.file, layout, bitmap);
+    } else if (!holdsAllPieces(request.file, open.get())) {
+        throw Failure{GFL_ERROR_FILE_READ};
     }
     return bitmap.take();
 }

@@ -68,7 +68,7 @@ enum class IppiInterpolation { Linear = 2, Super = 8 };
 /// A resize from one size to another, prepared by ippiResizeInit in a block of ippiResizeGetSize bytes; holds only numbers.
 struct IppiResizeSpec;
 
-/// Bytes of the specification; 0 if a side is not positive.
+/// Bytes of such a block; 0 if a side is not positive.
 std::size_t ippiResizeGetSize(IppiSize source, IppiSize target, IppiInterpolation method);
 
 /// Linear: pixel centres of both grids are aligned, the border is replicated. Super: each target pixel is the mean of the source

@@ -13,6 +13,8 @@
 
 #include "VCpuTopology.h"
 #include "VIApplication.h"
+#include "VIPluginLibrary.h"
+#include "VIPluginOne2One.h"
 #include "VImageCacheRegistry.h"
 #include "VImageSettings.h"
 #include "VLog.h"
@@ -100,7 +102,18 @@ protected:
         loader.setLoadHints({}); // the default keeps the file loaded
         ASSERT_TRUE(loader.instance()) << qPrintable(loader.errorString());
         EXPECT_TRUE(QFile::exists(":/Translation/Nimbra_de.qm"));
+        // What the host keeps of it must not lie in the file's memory.
+        auto *library = qobject_cast<VIPluginLibrary *>(loader.instance());
+        auto *process = qobject_cast<VIPluginOne2One *>(library->processes(1).last());
+        const QString name = process->name();
+        const QString guid = qobject_cast<VIAbout *>(loader.instance())->guid();
+        const VISettingsHandle settings = process->createSettings(QDomElement());
+        QDomElement element = process->settingsToElement(settings);
+        process->destroySettings(settings);
         ASSERT_TRUE(loader.unload());
+        EXPECT_EQ(name, "Veilaway");
+        EXPECT_EQ(guid, "8E04C3B7-2AF1-4D96-A37C-F1B86C05D24E");
+        EXPECT_EQ(element.attribute("hazeRemove"), "0");
         EXPECT_FALSE(QFile::exists(":/Translation/Nimbra_de.qm"));
     }
 };

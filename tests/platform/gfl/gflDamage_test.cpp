@@ -39,6 +39,28 @@ bool isReadCode(int code)
     return code == GFL_NO_ERROR || code == GFL_ERROR_FILE_READ || code == GFL_ERROR_NO_MEMORY || code == GFL_ERROR_UNKNOWN_FORMAT;
 }
 
+TEST_F(GflDamageTest, AFileCutShortIsToldWithoutItsPixels)
+{
+    GflLoadParams params;
+    gflGetDefaultLoadParams(&params);
+    params.flags |= GFL_LOAD_METADATA_ONLY;
+    for (const Seed &seed : {kSeeds[0], kSeeds[1], kSeeds[2], kSeeds[4]}) {
+        SCOPED_TRACE(std::string(seed.format) + " " + std::to_string(seed.compression));
+        FileBytes bytes = seedFile(seed);
+        const std::string name = path(std::string("cut.") + seed.suffix);
+        const auto code = [&] {
+            writeFile(name, bytes);
+            GflBitmap *bitmap = nullptr;
+            const int result = gflLoadBitmapUTF8(name.c_str(), &bitmap, &params, nullptr);
+            gflFreeBitmap(bitmap);
+            return result;
+        };
+        EXPECT_EQ(code(), GFL_NO_ERROR);
+        bytes.resize(bytes.size() - bytes.size() / 8);
+        EXPECT_EQ(code(), GFL_ERROR_FILE_READ);
+    }
+}
+
 TEST_F(GflDamageTest, AFileCutShortIsAnErrorUnlessAllItsPixelsAreThere)
 {
     for (const Seed &seed : kSeeds) {
