@@ -104,7 +104,8 @@ private:
     {
         std::size_t out = 0;
         for (std::size_t i = 0; i < packed.size() && out < row.size();) {
-            const int code = static_cast<std::int8_t>(packed[i++]);
+            const int byte = packed[i++];
+            const int code = byte < 128 ? byte : byte - 256;
             if (code == -128)
                 continue;
             const std::size_t count = static_cast<std::size_t>(code < 0 ? 1 - code : code + 1);
