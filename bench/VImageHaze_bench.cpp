@@ -206,8 +206,7 @@ void WholeEngine(benchmark::State &state)
     }
 }
 
-void registerAll()
-{
+[[maybe_unused]] const bool registered = [] {
     const std::pair<const char *, void (*)(benchmark::State &)> stages[] = {{"Copy", Copy},
                                                                             {"DarkChannel", DarkChannel},
                                                                             {"Matting", Matting},
@@ -229,16 +228,7 @@ void registerAll()
                     ->UseRealTime();
         }
     }
-}
+    return true;
+}();
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    registerAll();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -133,5 +133,3 @@ BENCHMARK_CAPTURE(reduce, to_100000_pixels, false)->Apply(sizes);
 BENCHMARK_CAPTURE(reduce, by_half, true)->Apply(sizes);
 
 } // namespace
-
-BENCHMARK_MAIN();

@@ -117,5 +117,3 @@ BENCHMARK_CAPTURE(solve, grid, false)->Arg(1)->Arg(2)->UseRealTime()->MeasurePro
 BENCHMARK_CAPTURE(solve, joined, true)->Arg(1)->UseRealTime()->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-BENCHMARK_MAIN();
