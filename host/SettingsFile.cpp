@@ -131,6 +131,11 @@ void SettingsFile::setElement(const QString &photograph, const QDomElement &elem
         return;
     }
     entry.removeChild(entry.firstChildElement(tag));
-    entry.appendChild(document.importNode(element, /*deep=*/true));
+    // Not by importNode: the copy of an attribute writes to the document that made it, which may be gone.
+    QDomElement own = document.createElement(element.tagName());
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.count(); ++i)
+        own.setAttribute(attributes.item(i).nodeName(), attributes.item(i).nodeValue());
+    entry.appendChild(own);
     changed = true;
 }

@@ -36,6 +36,7 @@ public:
     QStringList photographs() const;
     /// The settings of this photograph (absolute path); null if there are none.
     QDomElement element(const QString &photograph) const;
+    /// Copies the element's attributes; its document need not exist any more.
     void setElement(const QString &photograph, const QDomElement &element);
 
     static std::optional<int> strengthOf(const QDomElement &element);
