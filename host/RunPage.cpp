@@ -173,9 +173,9 @@ void RunPage::showProgress(int item, int percent)
 void RunPage::showStage(int item, BatchRunner::Stage stage)
 {
     const QString texts[] = {tr("Reading"), tr("Taking the haze away"), tr("Saving")};
-    showProgress(item, kStageStart[int(stage)]);
     table->scrollToItem(table->item(item, Photo));
     table->item(item, State)->setText(texts[int(stage)]);
+    showProgress(item, kStageStart[int(stage)]);
 }
 
 void RunPage::showOutcome(int item, const BatchOutcome &outcome)
