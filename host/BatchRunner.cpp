@@ -50,12 +50,12 @@ qint64 freeMemory()
 }
 
 /// What one photograph takes at most. Two moments of the engine can be the highest: the sparse system, whose size is the same for
-/// every photograph (measured: 640 MB), beside the source and the working image of 16 bytes a pixel; and the last step, with map
+/// every photograph (measured: 150 MB), beside the source and the working image of 16 bytes a pixel; and the last step, with map
 /// and guides in its place.
 qint64 memoryFor(const PhotoFacts &facts)
 {
     const qint64 pixels = qint64(facts.width) * facts.height;
-    return std::max(pixels * 22 + (qint64(640) << 20), pixels * 36);
+    return std::max(pixels * 22 + (qint64(200) << 20), pixels * 36);
 }
 
 constexpr QChar kIdeographicStop(0x3002); ///< Ends a sentence in Chinese and Japanese.
