@@ -52,7 +52,9 @@ QString drawn(std::int64_t megapixels)
         int side = 1;
         while (std::int64_t{6} * (side + 1) * (side + 1) <= megapixels * 1000000)
             ++side;
-        drawScene(3 * side, 2 * side, /*haze=*/true).save(path, nullptr, 92);
+        drawScene(600, 400, /*haze=*/true)
+            .scaled(3 * side, 2 * side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+            .save(path, nullptr, 92);
     }
     return path;
 }

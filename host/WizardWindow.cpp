@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 
 #include "BatchPlan.h"
@@ -41,9 +42,27 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
     setPage(Results, resultPage);
     resize(960, 700);
 
+    connect(this, &QWizard::currentIdChanged, this, &WizardWindow::fitSubTitle);
     connect(photoPage, &PhotoPage::settingsWanted, this, &WizardWindow::openSession);
     connect(resultPage, &ResultPage::saveWanted, this, &WizardWindow::saveSessionAs);
     connect(resultPage, &ResultPage::startOverWanted, this, &WizardWindow::startOver);
+}
+
+void WizardWindow::fitSubTitle()
+{
+    // Above its pages the wizard has room for two lines and cuts off the rest.
+    if (!currentPage())
+        return;
+    const QString text = currentPage()->subTitle();
+    for (QLabel *label : findChildren<QLabel *>())
+        if (!text.isEmpty() && label->text() == text)
+            label->setMinimumHeight(label->heightForWidth(label->width()));
+}
+
+void WizardWindow::resizeEvent(QResizeEvent *event)
+{
+    QWizard::resizeEvent(event);
+    fitSubTitle();
 }
 
 void WizardWindow::complain(const QString &message)

@@ -36,8 +36,10 @@ protected:
     void cleanupPage(int id) override;
     bool validateCurrentPage() override;
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void fitSubTitle();
     void openSession(const QString &file);
     void saveSessionAs();
     void startOver();
