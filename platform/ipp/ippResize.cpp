@@ -112,21 +112,35 @@ IPP_INLINE void sumRows(const unsigned char *source, std::ptrdiff_t step, const 
     const auto row = [&](int tap) { return reinterpret_cast<const Sample *>(source + step * (taps.first + tap)); };
     const auto weight = [&](int tap) { return static_cast<Sum>(weights[tap]); };
 
-    // Four rows at a time, so that the sums are seldom loaded and stored.
     const Sum total = static_cast<Sum>(weightSum);
+    // In 64 bits one division at the end is enough, and exact.
+    const auto mean = [total](Sum sum) { return std::is_same_v<Sample, float> ? sum / total : sum; };
     const Sample *a = row(0);
     const Sum weightA = weight(0);
-    int tap = 1;
     if (taps.count == 1) {
         for (std::size_t i = 0; i < samples; ++i)
-            sums[i] = static_cast<Sum>(a[i]) * weightA;
-    } else {
-        const Sample *b = row(1);
-        const Sum weightB = weight(1);
-        for (std::size_t i = 0; i < samples; ++i)
-            sums[i] = static_cast<Sum>(a[i]) * weightA + static_cast<Sum>(b[i]) * weightB;
-        tap = 2;
+            sums[i] = mean(static_cast<Sum>(a[i]) * weightA);
+        return;
     }
+    const Sample *b = row(1);
+    const Sum weightB = weight(1);
+    if (taps.count == 2) {
+        for (std::size_t i = 0; i < samples; ++i)
+            sums[i] = mean(static_cast<Sum>(a[i]) * weightA + static_cast<Sum>(b[i]) * weightB);
+        return;
+    }
+    if (taps.count == 3) {
+        const Sample *c = row(2);
+        const Sum weightC = weight(2);
+        for (std::size_t i = 0; i < samples; ++i)
+            sums[i] =
+                mean(static_cast<Sum>(a[i]) * weightA + static_cast<Sum>(b[i]) * weightB + static_cast<Sum>(c[i]) * weightC);
+        return;
+    }
+    for (std::size_t i = 0; i < samples; ++i)
+        sums[i] = static_cast<Sum>(a[i]) * weightA + static_cast<Sum>(b[i]) * weightB;
+    // Four rows at a time, so that the sums are seldom loaded and stored.
+    int tap = 2;
     for (; tap + 4 <= taps.count; tap += 4) {
         const Sample *r0 = row(tap), *r1 = row(tap + 1), *r2 = row(tap + 2), *r3 = row(tap + 3);
         const Sum w0 = weight(tap), w1 = weight(tap + 1), w2 = weight(tap + 2), w3 = weight(tap + 3);
@@ -140,9 +154,9 @@ IPP_INLINE void sumRows(const unsigned char *source, std::ptrdiff_t step, const 
         for (std::size_t i = 0; i < samples; ++i)
             sums[i] = sums[i] + static_cast<Sum>(last[i]) * lastWeight;
     }
-    if constexpr (std::is_same_v<Sample, float>) // in 64 bits one division at the end is enough, and exact
+    if constexpr (std::is_same_v<Sample, float>)
         for (std::size_t i = 0; i < samples; ++i)
-            sums[i] = sums[i] / total;
+            sums[i] = mean(sums[i]);
 }
 
 template<typename Sample, int Channels>
