@@ -102,6 +102,7 @@ int main(int argc, char **argv)
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder));
     HostedApplication<QApplication> application(argc, argv, QLocale(QLocale::English), /*lendServices=*/true);
     QApplication::setQuitOnLastWindowClosed(false);
+    application.setUsual(QStringLiteral("hazeRemove"), 70); // at 0 the engine has nothing to do
     host = &application;
     PluginFile file{QString()};
     plugin = &file;
