@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <cstdint>
 
-#include <sys/mman.h>
+#include "kernel32.h"
 
 namespace {
 
-constexpr std::size_t kHugePage = std::size_t(2) << 20;
 // A region is address space until it is touched, so that it may be large; a piece is what a thread may leave unused.
 constexpr std::size_t kRegionBytes = std::size_t(64) << 20;
 constexpr std::size_t kPieceBytes = std::size_t(256) << 10;
@@ -25,7 +24,7 @@ unsigned numberOfThisThread()
 SparseArena::~SparseArena()
 {
     for (const Region &region : regions)
-        munmap(region.memory, region.bytes);
+        ReleaseMemory(region.memory, region.bytes);
 }
 
 void *SparseArena::take(Piece &piece, std::size_t bytes, std::size_t alignment)
@@ -72,17 +71,13 @@ SparseArena::Piece SparseArena::cut(std::size_t bytes)
 
     const std::lock_guard<std::mutex> guard(lock);
     if (std::size_t(rest.end - rest.next) < wanted) {
-        // One huge page more than needed, to start on the border of one.
-        const std::size_t usable = std::max(kRegionBytes, wanted);
-        const std::size_t mapped = usable + kHugePage;
+        const std::size_t size = std::max(kRegionBytes, wanted);
         regions.reserve(regions.size() + 1);
-        void *memory = mmap(nullptr, mapped, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-        if (memory == MAP_FAILED)
+        auto *const start = static_cast<char *>(ReserveMemory(size));
+        if (!start)
             throw std::bad_alloc();
-        regions.push_back({static_cast<char *>(memory), mapped});
-        char *start = static_cast<char *>(memory) + (-reinterpret_cast<std::uintptr_t>(memory) & (kHugePage - 1));
-        madvise(start, usable, MADV_HUGEPAGE); // a wish: without huge pages it is only slower
-        rest = {start, start + usable};
+        regions.push_back({start, size});
+        rest = {start, start + size};
     }
     const Piece piece{rest.next, rest.next + wanted};
     rest.next += wanted;

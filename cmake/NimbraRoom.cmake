@@ -43,7 +43,7 @@ function(nimbra_test name)
     target_link_libraries(${name} PRIVATE nimbra_options ${TEST_LINK} GTest::gmock_main)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES LABELS "${TEST_LABELS}" TIMEOUT 600 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=use_tls=0:suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp;ASAN_OPTIONS=allocator_may_return_null=1;${TEST_ENVIRONMENT}")
+        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=use_tls=0:print_suppressions=0:suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp;ASAN_OPTIONS=allocator_may_return_null=1;${TEST_ENVIRONMENT}")
     if(NIMBRA_SANITIZE STREQUAL "thread")
         set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT
             "TSAN_OPTIONS=ignore_noninstrumented_modules=1:allocator_may_return_null=1" "OMP_TOOL_LIBRARIES=/usr/lib/llvm-14/lib/libarcher.so")

@@ -23,6 +23,12 @@ bool QueryPerformanceFrequency(std::int64_t *ticksPerSecond);
 /// every 4 KB. Without effect on blocks below 32 MB, on a null, and where the system has none.
 void AdviseHugePages(void *block, std::size_t bytes);
 
+/// Address space of `bytes` bytes (a multiple of 4096), all 0, that takes memory only where it is touched, on huge pages where
+/// the system has them. It starts on the border of one. Null if it can't be had. The caller gives it back with ReleaseMemory,
+/// with the same size.
+void *ReserveMemory(std::size_t bytes);
+void ReleaseMemory(void *memory, std::size_t bytes);
+
 /// Lets another thread run; false if there was none to run.
 bool SwitchToThread();
 

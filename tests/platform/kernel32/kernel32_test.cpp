@@ -132,4 +132,19 @@ TEST(Kernel32, FindsTheTightestQuota)
     }
 }
 
+TEST(Kernel32, reserved_memory_is_zero_up_to_its_last_byte_and_costs_nothing_untouched)
+{
+    constexpr std::size_t kBytes = (std::size_t(1) << 36) + 4096; // more than most machines have
+    auto *const memory = static_cast<char *>(ReserveMemory(kBytes));
+    ASSERT_TRUE(memory);
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(memory) % (2u << 20), 0u);
+    for (const std::size_t place : {std::size_t(0), kBytes / 2, kBytes - 1}) {
+        EXPECT_EQ(memory[place], 0);
+        memory[place] = 1;
+    }
+    ReleaseMemory(memory, kBytes);
+    EXPECT_FALSE(ReserveMemory(SIZE_MAX - 4095));
+    ReleaseMemory(nullptr, 4096);
+}
+
 } // namespace
