@@ -4,6 +4,7 @@
 #include <bitset>
 #include <cerrno>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -13,6 +14,7 @@
 #include <vector>
 
 #include <sched.h>
+#include <sys/mman.h>
 #include <sys/statvfs.h>
 #include <time.h>
 #include <unistd.h>
@@ -121,6 +123,13 @@ double quotaOf(const std::string &folder)
     if (std::ifstream(folder + "/cpu.cfs_quota_us") >> share && std::ifstream(folder + "/cpu.cfs_period_us") >> period)
         return share <= 0 || period <= 0 ? -1 : share / period;
     return -1;
+}
+
+constexpr std::size_t kHugePage = std::size_t(2) << 20;
+
+std::size_t gapBefore(const void *block)
+{
+    return -reinterpret_cast<std::uintptr_t>(block) & (kHugePage - 1);
 }
 
 } // namespace
@@ -305,4 +314,39 @@ std::uint32_t GetProcessorQuota(const char *processGroups, const char *mountPoin
         }
     }
     return tightest < 0 ? 0 : static_cast<std::uint32_t>(std::min(std::ceil(tightest), 1e6));
+}
+
+void AdviseHugePages(void *block, std::size_t bytes)
+{
+    // The C library maps blocks of this size one by one, so that the wish ends with the block.
+    constexpr std::size_t kOwnMapping = std::size_t(32) << 20;
+    if (!block || bytes < kOwnMapping)
+        return;
+    const std::size_t gap = gapBefore(block);
+    madvise(static_cast<char *>(block) + gap, (bytes - gap) & ~(kHugePage - 1), MADV_HUGEPAGE);
+}
+
+void *ReserveMemory(std::size_t bytes)
+{
+    // One huge page more than needed; what lies before the border and behind the end goes back at once.
+    if (bytes > SIZE_MAX - kHugePage)
+        return nullptr;
+    const std::size_t mapped = bytes + kHugePage;
+    void *const memory = mmap(nullptr, mapped, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (memory == MAP_FAILED)
+        return nullptr;
+    const std::size_t gap = gapBefore(memory);
+    char *const start = static_cast<char *>(memory) + gap;
+    if (gap > 0)
+        munmap(memory, gap);
+    if (gap < kHugePage)
+        munmap(start + bytes, kHugePage - gap);
+    madvise(start, bytes, MADV_HUGEPAGE); // a wish: without huge pages it is only slower
+    return start;
+}
+
+void ReleaseMemory(void *memory, std::size_t bytes)
+{
+    if (memory)
+        munmap(memory, bytes);
 }
