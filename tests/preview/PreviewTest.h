@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+
 #include <QEventLoop>
 #include <QTimer>
 
@@ -18,11 +20,10 @@ public:
     explicit PanelWatch(UIHazePreview &panelToWatch) : panel(panelToWatch)
     {
         panel.installEventFilter(this); // tells of each change of "isComplete"
-        // Behind the panel's own connection, so that the panel has answered by then.
-        connect(&panel.thread, &QThread::finished, this, [this] {
-            ++runs;
-            check();
-        });
+        // Counted on the worker itself, before it works: what is queued here comes at any time after the panel has answered.
+        connect(
+            &panel.thread, &QThread::started, this, [this] { ++runs; }, Qt::DirectConnection);
+        connect(&panel.thread, &QThread::finished, this, &PanelWatch::check);
     }
 
     bool isComplete() const { return panel.property("isComplete").toBool(); }
@@ -39,7 +40,7 @@ public:
         return held;
     }
 
-    int runs = 0;
+    std::atomic<int> runs{0}; ///< Begun so far.
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override
