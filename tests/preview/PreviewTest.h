@@ -1,7 +1,5 @@
 #pragma once
 
-#include <atomic>
-
 #include <QEventLoop>
 #include <QTimer>
 
@@ -19,11 +17,12 @@ class PanelWatch : public QObject
 public:
     explicit PanelWatch(UIHazePreview &panelToWatch) : panel(panelToWatch)
     {
-        panel.installEventFilter(this); // tells of each change of "isComplete"
-        // Counted on the worker itself, before it works: what is queued here comes at any time after the panel has answered.
-        connect(
-            &panel.thread, &QThread::started, this, [this] { ++runs; }, Qt::DirectConnection);
-        connect(&panel.thread, &QThread::finished, this, &PanelWatch::check);
+        // Behind the panel's own connection: the panel has answered by then, and nothing but this tells of it, so that no wait
+        // ends between an answer and its count.
+        connect(&panel.thread, &QThread::finished, this, [this] {
+            ++runs;
+            check();
+        });
     }
 
     bool isComplete() const { return panel.property("isComplete").toBool(); }
@@ -40,15 +39,7 @@ public:
         return held;
     }
 
-    std::atomic<int> runs{0}; ///< Begun so far.
-
-protected:
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        if (event->type() == QEvent::DynamicPropertyChange)
-            QTimer::singleShot(0, this, [this] { check(); });
-        return QObject::eventFilter(object, event);
-    }
+    int runs = 0;
 
 private:
     void check()

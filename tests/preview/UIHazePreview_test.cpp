@@ -186,7 +186,7 @@ TEST_F(Panel, alt_shows_the_map)
     EXPECT_TRUE(watch.isComplete());
     EXPECT_TRUE(wait->isVisible()) << "the run goes on";
     EXPECT_TRUE(panel->afterPixmap.isNull());
-    ASSERT_TRUE(watch.until([&] { return !panel->afterImage.isNull(); }));
+    ASSERT_TRUE(watch.until([&] { return watch.runs == 1; }));
     EXPECT_EQ(panel->afterImage, expectedAt(60));
 
     QTest::keyPress(panel, Qt::Key_Alt);
@@ -265,8 +265,9 @@ TEST_F(Panel, a_parent_without_the_slot_costs_nothing)
         auto *const lone = new UIHazePreview(&process, other);
         lone->setImage(landscape(kWidth, kHeight));
         lone->settings = &record;
+        PanelWatch loneWatch(*lone);
         lone->computePreview();
-        EXPECT_TRUE(PanelWatch(*lone).finish());
+        EXPECT_TRUE(loneWatch.finish());
         delete lone;
     }
 }
