@@ -13,8 +13,9 @@
 #include "drawScene.h"
 #include "workingForm.h"
 
-// Draws the plug-in's pictures from the sample landscape: draw_resources FOLDER writes NimbraBeforeAfter.png and iconwait_01.png
-// to iconwait_12.png. The folder in the tree is resources/pictures.
+// Draws the plug-in's pictures from the sample landscape, and the program's icon: draw_resources FOLDER writes
+// NimbraBeforeAfter.png, iconwait_01.png to iconwait_12.png, and veilaway_16.png to veilaway_256.png. The folder in the tree is
+// resources/pictures.
 
 namespace {
 
@@ -26,6 +27,7 @@ constexpr int kHalf = 128;
 constexpr double kCorner = 10.0;
 constexpr int kIcon = 64;
 constexpr int kFrames = 12;
+constexpr int kProgramIcons[] = {16, 24, 32, 48, 64, 128, 256};
 constexpr double kPi = 3.14159265358979323846;
 
 /// The engine's own result for the hazy scene.
@@ -111,6 +113,52 @@ QImage waitFrame(int frame, const QImage &hazy, const QImage &clear)
     return image;
 }
 
+/// The program's icon: mountains, over which a veil is half drawn aside. In hundredths of the icon's side.
+QImage programIcon(int side)
+{
+    constexpr double kUnits = 100.0;
+    QImage image = transparent(side, side);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(side / kUnits, side / kUnits);
+    QPainterPath frame;
+    frame.addRoundedRect(QRectF(3, 3, 94, 94), 20, 20);
+    const auto fill = [&](const QPainterPath &shape, const QColor &top, const QColor &bottom) {
+        QLinearGradient gradient(0, 0, 0, kUnits);
+        gradient.setColorAt(0, top);
+        gradient.setColorAt(1, bottom);
+        painter.fillPath(shape & frame, gradient);
+    };
+    const auto ridge = [](const QVector<QPointF> &line) {
+        QPainterPath shape;
+        shape.addPolygon(QPolygonF(line));
+        shape.closeSubpath();
+        return shape;
+    };
+
+    fill(frame, QColor(36, 112, 196), QColor(158, 208, 244));
+    QPainterPath sun;
+    sun.addEllipse(QPointF(76, 25), 9.5, 9.5);
+    painter.fillPath(sun, QColor(255, 214, 84));
+    fill(ridge({{0, 78}, {17, 55}, {28, 64}, {53, 30}, {80, 62}, {89, 54}, {100, 68}, {100, 100}, {0, 100}}), QColor(40, 62, 110),
+         QColor(74, 112, 160));
+    painter.fillPath(ridge({{53, 30}, {62.5, 41.3}, {56.5, 45}, {52, 41}, {46.2, 45}, {44, 42.2}}), QColor(250, 252, 255));
+    QPainterPath meadow(QPointF(0, 84));
+    meadow.cubicTo({25, 66}, {45, 74}, {60, 80});
+    meadow.cubicTo({75, 86}, {85, 80}, {100, 72});
+    meadow.lineTo(100, 100);
+    meadow.lineTo(0, 100);
+    fill(meadow, QColor(60, 150, 70), QColor(26, 104, 52));
+
+    QPainterPath veil(QPointF(0, 0));
+    veil.lineTo(56, 0);
+    veil.cubicTo({66, 30}, {28, 50}, {44, 74});
+    veil.cubicTo({50, 83}, {46, 92}, {40, 100});
+    veil.lineTo(0, 100);
+    fill(veil, QColor(236, 240, 244, 205), QColor(236, 240, 244, 205));
+    return image;
+}
+
 bool save(const QImage &image, const QString &path)
 {
     if (image.save(path, "PNG", /*quality=*/0))
@@ -135,6 +183,8 @@ int main(int argc, char **argv)
         for (int frame = 0; frame < kFrames; ++frame)
             written &= save(waitFrame(frame, scaledView(hazy, 2 * kIcon), scaledView(clear, 2 * kIcon)),
                             QStringLiteral("%1/iconwait_%2.png").arg(folder).arg(frame + 1, 2, 10, QChar('0')));
+        for (const int side : kProgramIcons)
+            written &= save(programIcon(side), QStringLiteral("%1/veilaway_%2.png").arg(folder).arg(side));
         return written ? 0 : 1;
     } catch (const VException &failure) {
         std::fprintf(stderr, "draw_resources: %s\n", qPrintable(failure.message));
