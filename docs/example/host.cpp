@@ -1,9 +1,15 @@
-// A host in one file: it lends the plug-in one photograph and has the haze taken out of it.
-// usage: host /absolute/path/of/Nimbra.so /absolute/path/of/photograph
+// A whole host in one file: it has the haze taken out of photographs, at the stored strength or, with --edit, as strongly as a
+// person chooses on the plug-in's own page. docs/host-contract.md says what each call promises.
+// usage: host [--edit [--accept]] PLUGIN PHOTOGRAPH...    absolute paths; --accept closes the page as soon as its preview stands
 #include <QApplication>
+#include <QFileInfo>
 #include <QPluginLoader>
+#include <QSettings>
+#include <QTranslator>
+#include <QWizard>
 #include <cstdio>
 #include <cstring>
+#include <map>
 
 #include "ImageDef.h"
 #include "VException.h"
@@ -12,73 +18,131 @@
 #include "VIPluginOne2One.h"
 #include "VImage.h"
 
+/// Does something that may fail, and says why it did.
+template<class Work>
+bool attempt(Work work)
+{
+    try {
+        work();
+        return true;
+    } catch (const VException &failure) { // no std::exception
+        std::fprintf(stderr, "host: %s\n", qPrintable(failure.message));
+    } catch (const std::exception &failure) { // no memory
+        std::fprintf(stderr, "host: %s\n", failure.what());
+    }
+    return false;
+}
+
+/// One photograph, its pixels decoded at an acquire and freed at the release. Eight bits a sample are enough for an example.
 struct Photograph : ImageDef
 {
-    explicit Photograph(const QString &path)
-    {
-        const QImage picture = QImage(path).convertToFormat(QImage::Format_RGBA8888);
-        image.Create(picture.width(), picture.height(), VImage::Rgba, 8);
-        for (int y = 0; y < picture.height(); ++y)
-            std::memcpy(image.PixelAddress(0, y), picture.constScanLine(y), static_cast<std::size_t>(picture.width()) * 4);
-    }
-    QString displayName() override { return {}; }
-    int height() override { return image.Height(); }
-    int width() override { return image.Width(); }
+    explicit Photograph(const QString &path) : file(path), size(QImage(path).size()) {}
+    QString displayName() override { return QFileInfo(file).fileName(); }
+    int width() override { return size.width(); }
+    int height() override { return size.height(); }
     int channelCount() override { return 3; }
     int bitsPerChannel() override { return 8; }
-    bool needsTiffOutput() override { return false; }
-    VImage *acquireScaled(int, int, int) override { return nullptr; } // for the page only
-    void releaseScaled(int, int, int) override {}
-    VImage *acquireFull(int) override { return &image; }
-    void releaseFull(int) override {}
-    VImage image;
+    bool needsTiffOutput() override { return !QStringList{"jpg", "png"}.contains(QFileInfo(file).suffix().toLower()); }
+    VImage *acquireFull(int) override { return decode(full, size); }
+    void releaseFull(int) override { full.Free(); }
+    VImage *acquireScaled(int width, int height, int) override { return decode(scaled, QSize(width, height)); }
+    void releaseScaled(int, int, int) override { scaled.Free(); }
+
+    VImage *decode(VImage &image, QSize wanted) const
+    {
+        QImage picture(file);
+        if (picture.isNull())
+            throw VException("Can't read " + file, V_LOCATION); // comes back out of the plug-in's call
+        picture = picture.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGB888);
+        image.Create(picture.width(), picture.height(), VImage::Rgb, 8);
+        for (int y = 0; y < picture.height(); ++y)
+            std::memcpy(image.PixelAddress(0, y), picture.constScanLine(y), std::size_t(picture.width()) * 3);
+        return &image;
+    }
+    const QString file;
+    const QSize size;
+    QDomElement settings; // null: the stored default
+    VImage full, scaled;
 };
 
 struct Host : QApplication, VIApplication
 {
     using QApplication::QApplication;
-    void *qt_metacast(const char *name) override
+    void *qt_metacast(const char *name) override // so the plug-in finds its host
     {
         return std::strcmp(name, "VIApplication") == 0 ? static_cast<VIApplication *>(this) : QApplication::qt_metacast(name);
     }
-    QVariant value(const QString &, const QString &, const QVariant &fallback) override { return fallback; }
-    void setValue(const QString &, const QString &, const QVariant &) override {}
-    QLocale locale() override { return QLocale::c(); }
-    void loadTranslator(const QString &) override {}
-    ImageDef *imageDef(const QString &) override { return photograph; }
-    VImageContext *imageLibraryContext() override { return nullptr; }
+    bool notify(QObject *receiver, QEvent *event) override // the page reads photographs too, and catches nothing
+    {
+        bool known = false;
+        return attempt([&] { known = QApplication::notify(receiver, event); }) && known;
+    }
+    QVariant value(const QString &group, const QString &key, const QVariant &) override // any thread
+    {
+        return QSettings("Example", "host").value(group + '/' + key, 70); // the plug-in's own fallback is 0
+    }
+    void setValue(const QString &group, const QString &key, const QVariant &value) override
+    {
+        QSettings("Example", "host").setValue(group + '/' + key, value);
+    }
+    QLocale locale() override { return QLocale(); }
+    void loadTranslator(const QString &fileName) override
+    {
+        if (translator.load(fileName, ":/Translation"))
+            installTranslator(&translator);
+    }
+    ImageDef *imageDef(const QString &path) override { return &photographs.at(path); }
+    VImageContext *imageLibraryContext() override { return nullptr; } // the plug-in makes its own
     VUIContext *interfaceLibraryContext() override { return nullptr; }
-    ImageDef *photograph = nullptr;
+
+    std::map<QString, Photograph> photographs;
+    QTranslator translator;
 };
+
+/// Shows the page and takes the settings from it; false if the person cancels.
+bool edit(Host &host, VIPluginOne2One &process, const QStringList &paths, bool acceptAtOnce)
+{
+    QWizard wizard;
+    QWizardPage *const page = process.wizardPage();
+    wizard.addPage(page); // and owns it from now on
+    if (acceptAtOnce)     // the page is complete when its preview stands
+        QObject::connect(page, &QWizardPage::completeChanged, [&] { page->isComplete() ? wizard.accept() : void(); });
+    if (!attempt([&] { process.setImages(paths); }) || wizard.exec() != QDialog::Accepted)
+        return false;
+    process.saveDefaults();
+    for (auto &[path, photograph] : host.photographs)
+        photograph.settings = process.settingsFor(path);
+    return true;
+}
 
 int main(int argc, char **argv)
 {
     Host host(argc, argv);
-    const QStringList words = QApplication::arguments();
-    QPluginLoader loader(words.value(1));
+    QStringList paths = QApplication::arguments().mid(1);
+    const bool wantsPage = paths.removeAll("--edit") > 0, acceptAtOnce = paths.removeAll("--accept") > 0;
+    QPluginLoader loader(paths.isEmpty() ? QString() : paths.takeFirst());
     auto *library = qobject_cast<VIPluginLibrary *>(loader.instance());
     if (!library) {
-        std::fprintf(stderr, "%s\n", qPrintable(loader.errorString()));
+        std::fprintf(stderr, "host: %s\n", qPrintable(loader.errorString()));
         return 1;
     }
+    auto *process = qobject_cast<VIPluginOne2One *>(library->processes(1).constLast().data());
+    for (const QString &path : qAsConst(paths))
+        host.photographs.try_emplace(path, path);
+
+    if (wantsPage && !edit(host, *process, paths, acceptAtOnce))
+        return 1;
     int failures = 0;
-    {
-        auto *process = qobject_cast<VIPluginOne2One *>(library->processes(1).constLast().data());
-        Photograph photograph(words.value(2));
-        host.photograph = &photograph;
-        QDomDocument settings;
-        settings.setContent(QString("<Veilaway hazeRemove=\"70\"/>")); // or as settingsToElement gave it
-        VISettingsHandle handle = process->createSettings(settings.documentElement());
+    for (auto &[path, photograph] : host.photographs) { // a run works on the thread that calls it, which may be any
+        const VISettingsHandle settings = process->createSettings(photograph.settings);
         QString result;
-        try {
-            process->run(words.value(2), handle, &result);
+        if (attempt([&, &path = path] { process->run(path, settings, &result); }))
             std::printf("%s\n", qPrintable(result));
-        } catch (const VException &failure) {
-            std::fprintf(stderr, "%s\n", qPrintable(failure.message));
-            failures = 1;
-        }
-        process->destroySettings(handle);
+        else
+            ++failures;
+        photograph.releaseFull(1); // a run that failed may have left that to the host
+        process->destroySettings(settings);
     }
-    loader.unload();
-    return failures;
+    loader.unload(); // deletes the library object, and the process with it
+    return failures == 0 ? 0 : 1;
 }
