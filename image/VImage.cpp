@@ -10,6 +10,7 @@
 
 #ifndef NIMBRA_IMAGE_RECORD_ONLY
 #    include <memory>
+#    include <new>
 
 #    include "VImageSettings.h"
 #    include "VTempManager.h"
@@ -179,8 +180,8 @@ struct ExifRelease
     void operator()(GflExif *exif) const { gflFreeEXIF2(exif); }
 };
 
-/// Scales all of `source` into all of `target`. False, with the target as it was, for a form that is not processed, an empty side
-/// or no memory.
+/// Scales all of `source` into all of `target`. False, with the target as it was, for a form that is not processed or an empty
+/// side. Throws std::bad_alloc.
 bool resize(const GflBitmap &source, GflBitmap &target)
 {
     const unsigned short type = source.type;
@@ -192,9 +193,11 @@ bool resize(const GflBitmap &source, GflBitmap &target)
     const IppiSize to{target.width, target.height};
     const auto method = to.width > from.width || to.height > from.height ? IppiInterpolation::Linear : IppiInterpolation::Super;
     const std::size_t specBytes = ippiResizeGetSize(from, to, method);
-    const IppsBlock<IppiResizeSpec> spec(specBytes ? static_cast<IppiResizeSpec *>(ippsMalloc(specBytes)) : nullptr);
-    if (!spec)
+    if (specBytes == 0)
         return false;
+    const IppsBlock<IppiResizeSpec> spec(static_cast<IppiResizeSpec *>(ippsMalloc(specBytes)));
+    if (!spec)
+        throw std::bad_alloc(); // a black image would be taken for the picture
     ippiResizeInit(from, to, method, {bits, channels}, spec.get());
 
     const std::int64_t pixels = std::int64_t{from.width} * from.height + std::int64_t{to.width} * to.height;
@@ -203,7 +206,7 @@ bool resize(const GflBitmap &source, GflBitmap &target)
     const IppsBlock<unsigned char> buffers(
         static_cast<unsigned char *>(ippsMalloc(bufferBytes * static_cast<std::size_t>(team))));
     if (!buffers)
-        return false;
+        throw std::bad_alloc();
 #    pragma omp parallel for schedule(static) num_threads(team)
     for (int part = 0; part < team; ++part) {
         const auto rowOf = [&](int index) { return static_cast<int>(std::int64_t{to.height} * index / team); };
@@ -253,19 +256,27 @@ void InitLoadParameters(GflLoadParams &params)
     params.flags |= GFL_LOAD_METADATA | GFL_LOAD_METADATA_ONLY;
 }
 
-/// Colour profile, IPTC and EXIF of a file, each if it has it.
-void copyMetadata(const GflBitmap *source, GflBitmap *target, GflSaveParams &params)
+/// Colour profile, IPTC and EXIF of a file, each if it has it. False if memory for one is missing, which the layer doesn't say.
+bool copyMetadata(const GflBitmap *source, GflBitmap *target, GflSaveParams &params)
 {
     if (gflBitmapHasICCProfile(source)) {
         gflBitmapCopyICCProfile(source, target);
         params.flags |= GFL_SAVE_ICC_PROFILE;
+        if (!gflBitmapHasICCProfile(target))
+            return false;
     }
-    if (gflBitmapHasIPTC(source))
+    if (gflBitmapHasIPTC(source)) {
         gflBitmapSetIPTC(target, gflBitmapGetIPTC(source));
+        if (!gflBitmapHasIPTC(target))
+            return false;
+    }
     if (gflBitmapHasEXIF(source)) {
         const std::unique_ptr<GflExif, ExifRelease> exif(gflBitmapGetEXIF2(source));
         gflBitmapSetEXIF2(target, exif.get());
+        if (!gflBitmapHasEXIF(target))
+            return false;
     }
+    return true;
 }
 
 } // namespace
@@ -304,8 +315,10 @@ void VImage::Save(QString fileName, QString format, int quality, QString metadat
         throwGflError(gflLoadBitmapUTF8(metadataSource.toUtf8().constData(), &read, &loadParams, &information), metadataSource,
                       V_LOCATION);
         const std::unique_ptr<GflBitmap, BitmapRelease> source(read);
-        copyMetadata(source.get(), bitmap, saveParams);
+        const bool copied = copyMetadata(source.get(), bitmap, saveParams);
         gflFreeFileInformation(&information);
+        if (!copied)
+            throwGflError(GFL_ERROR_NO_MEMORY, metadataSource, V_LOCATION);
     }
     saveParams.formatIndex = gflGetFormatIndexByName(format.toLocal8Bit().constData());
 

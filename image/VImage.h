@@ -85,7 +85,7 @@ public:
 
     /// Scales the whole image into `target`, in the same form: bilinear if either side grows, otherwise by area averaging; the
     /// same size gives a deep copy. Alpha is scaled like a colour. An image of another form gives a zeroed target. Throws a
-    /// VException with an empty message for an empty image, and what Create throws.
+    /// VException with an empty message for an empty image, what Create throws, and std::bad_alloc.
     void Resample(VImage &target, int width, int height) const;
 
     /// Writes the image to `fileName`. `format` is "jpeg", "png", "tiff", "hdri", "exr" or "psd" in any case, or "jpg", "tif",
