@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include <QApplication>
+#include <QIcon>
 #include <QLocale>
 #include <QTextCodec>
 
@@ -22,11 +23,21 @@ QLocale wantedLocale(const QString &language)
     return HostApplication::localeFor(language.isEmpty() ? system : language).value_or(QLocale(QLocale::English));
 }
 
+/// What the licences of linked libraries want said where the user finds it. docs/licences.md tells which.
+constexpr char kNotices[] = R"(
+Copyright 2026 the Nimbra developers. There is NO WARRANTY, to the extent that the law permits.
+The program and the plug-in with their libraries are under the GNU General Public License, version 3. They use MUMPS, Copyright
+1991-2022 CERFACS, CNRS, ENS Lyon, INP Toulouse, Inria, Mumps Technologies, University of Bordeaux, and SCOTCH, Copyright 2004,
+2007, 2008, 2010-2012 ENSEIRB, INRIA & CNRS, both governed by the CeCILL-C licence (http://www.cecill.info). This software is based
+in part on the work of the Independent JPEG Group.
+)";
+
 int showVersion(const CommandLine &line)
 {
     std::printf("veilaway %s\n", NIMBRA_VERSION);
     try {
         std::printf("%s\n", PluginFile(line.pluginFile).identity().toUtf8().constData());
+        std::fputs(kNotices, stdout);
         return ExitAllDone;
     } catch (const VException &failure) {
         ProgressView::complain(failure.message);
@@ -63,6 +74,8 @@ int main(int argc, char **argv)
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
         HostedApplication<QApplication> application(argc, argv, locale, line.shareServices);
         settle(application);
+        QApplication::setDesktopFileName(QStringLiteral("veilaway"));
+        QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("veilaway")));
         return WizardCommand(line, application).run();
     }
     HostedApplication<QCoreApplication> application(argc, argv, locale, line.shareServices);

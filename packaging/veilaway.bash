@@ -1,0 +1,64 @@
+# Completion of veilaway's command line for bash. It needs nothing of the bash-completion package but being loaded by it.
+_veilaway_files() # SUFFIX...: folders and files of these suffixes, in either case of letters
+{
+    local name suffix
+    compopt -o filenames
+    while IFS= read -r name; do
+        if [[ -d ${name/#\~/$HOME} ]]; then
+            COMPREPLY+=("$name")
+            continue
+        fi
+        for suffix; do
+            [[ ${name,,} == *.$suffix ]] && COMPREPLY+=("$name")
+        done
+    done < <(compgen -f -- "${COMP_WORDS[COMP_CWORD]}")
+}
+
+_veilaway()
+{
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} i
+    COMPREPLY=()
+    local wizard=0 names=0
+    [[ ${COMP_WORDS[1]} == wizard && $COMP_CWORD -gt 1 ]] && wizard=1
+    for ((i = 1; i < COMP_CWORD; ++i)); do
+        [[ ${COMP_WORDS[i]} == -- ]] && names=1
+    done
+
+    if [[ $names == 0 ]]; then
+        case $before in
+            --strength)
+                mapfile -t COMPREPLY < <(compgen -W '0 10 20 30 40 50 60 70 80 90 100' -- "$word")
+                return
+                ;;
+            --language)
+                mapfile -t COMPREPLY < <(compgen -W 'de en es fr it ja pl ru zh_CN zh_TW' -- "$word")
+                return
+                ;;
+            --jobs)
+                mapfile -t COMPREPLY < <(compgen -W '1 2 4 8' -- "$word")
+                return
+                ;;
+            --settings)
+                _veilaway_files xml
+                return
+                ;;
+            --plugin)
+                _veilaway_files so
+                return
+                ;;
+        esac
+        if [[ $word == -* ]]; then
+            local options='--settings --language --jobs --share-services --plugin'
+            [[ $wizard == 1 ]] || options+=' --strength --overwrite --quiet --json --help --version'
+            mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+            return
+        fi
+    fi
+    if [[ $COMP_CWORD == 1 ]]; then
+        mapfile -t COMPREPLY < <(compgen -W 'run wizard' -- "$word")
+    fi
+    _veilaway_files jpg jpeg png tif tiff hdr hdri exr psd \
+        3fr ari arw bay cap cr2 cr3 crw dcr dcs dng erf fff iiq k25 kdc mef mos mrw nef nrw orf pef ptx raf raw rw2 rwl rwz \
+        sr2 srf srw x3f
+}
+complete -F _veilaway veilaway
