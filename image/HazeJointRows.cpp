@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 #include "HazeWeights.h"
@@ -13,6 +14,8 @@ namespace {
 constexpr int kChannels = 4; ///< R, G, B, A.
 constexpr int kRadius = 1;
 constexpr int kBand = 64; ///< Rows that are done tile after tile, so that few pages of memory are in use at a time.
+constexpr int kTile = HazeJointRows::kTile;
+constexpr int kSide = HazeJointRows::kSide;
 using Neighbours = HazeJointRows::Neighbours;
 using Scratch = HazeJointRows::Scratch;
 
@@ -27,6 +30,23 @@ const float *rowOf(const VImage &image, int y)
     return reinterpret_cast<const float *>(image.PixelAddress(0, y));
 }
 
+/// Four pixels in, one vector a component out.
+using FourFloats = float __attribute__((vector_size(16)));
+IPP_INLINE void transpose(const HazeJointRows::Neighbour *const pixels[4], FourFloats components[4])
+{
+    FourFloats pixel[4];
+    for (int i = 0; i < 4; ++i)
+        std::memcpy(&pixel[i], pixels[i], sizeof pixel[i]);
+    const FourFloats low01 = __builtin_shufflevector(pixel[0], pixel[1], 0, 4, 1, 5);
+    const FourFloats low23 = __builtin_shufflevector(pixel[2], pixel[3], 0, 4, 1, 5);
+    const FourFloats high01 = __builtin_shufflevector(pixel[0], pixel[1], 2, 6, 3, 7);
+    const FourFloats high23 = __builtin_shufflevector(pixel[2], pixel[3], 2, 6, 3, 7);
+    components[0] = __builtin_shufflevector(low01, low23, 0, 1, 4, 5);
+    components[1] = __builtin_shufflevector(low01, low23, 2, 3, 6, 7);
+    components[2] = __builtin_shufflevector(high01, high23, 0, 1, 4, 5);
+    components[3] = __builtin_shufflevector(high01, high23, 2, 3, 6, 7);
+}
+
 /// Entry of the range weights for a difference; not-a-number and infinity are as far as can be.
 IPP_INLINE std::uint32_t entryOf(float here, float there)
 {
@@ -35,26 +55,73 @@ IPP_INLINE std::uint32_t entryOf(float here, float there)
     return static_cast<std::uint32_t>(static_cast<std::int32_t>(magnitude < kNone ? magnitude : kNone));
 }
 
-/// Adds the neighbours at one offset to the sums of a tile.
-IPP_INLINE void addNeighbours(const Neighbours &neighbours, double spatial, int columns, Scratch &scratch)
+/// The products of red's and green's weight, for the differences that are common in photographs: one look-up instead of two.
+constexpr int kPairBits = 6;
+constexpr std::uint32_t kPairEntries = 1u << kPairBits;
+constexpr auto kPairWeights = [] {
+    std::array<double, std::size_t(kPairEntries) * kPairEntries> products{};
+    for (std::size_t red = 0; red < kPairEntries; ++red) {
+        for (std::size_t green = 0; green < kPairEntries; ++green)
+            products[red * kPairEntries + green] = kHazeRangeWeights[red] * kHazeRangeWeights[green];
+    }
+    return products;
+}();
+constexpr int kBlueShift = 18; ///< Behind the pair entry, which any red and green fit below.
+constexpr int kBlock = 64;     ///< Columns that take the pair table all together or not at all.
+static_assert((kRangeEntries << kPairBits) + kRangeEntries < 1 << kBlueShift && kTile % kBlock == 0);
+
+/// Range weights of a tile for the neighbours at one offset.
+IPP_INLINE void lookUp(const Neighbours &neighbours, double *ranges, Scratch &scratch)
 {
-    for (int x = 0; x < columns; ++x) {
-        const std::uint32_t red = entryOf(scratch.colour[0][x], neighbours.colour[0][x]);
-        const std::uint32_t green = entryOf(scratch.colour[1][x], neighbours.colour[1][x]);
-        scratch.redGreen[x] = red | green << 16;
-        scratch.blue[x] = entryOf(scratch.colour[2][x], neighbours.colour[2][x]);
+    std::uint32_t reach[kTile / kBlock]; // kPairEntries where the pair table doesn't do
+    for (int block = 0; block < kTile / kBlock; ++block) {
+        std::uint32_t farthest = 0;
+        for (int x = block * kBlock; x < (block + 1) * kBlock; ++x) {
+            const std::uint32_t red = entryOf(scratch.colour[0][x], neighbours.colour[0][x]);
+            const std::uint32_t green = entryOf(scratch.colour[1][x], neighbours.colour[1][x]);
+            const std::uint32_t blue = entryOf(scratch.colour[2][x], neighbours.colour[2][x]);
+            farthest = (red | green) >= kPairEntries ? kPairEntries : farthest;
+            scratch.pairBlue[x] = ((red << kPairBits) + green) | blue << kBlueShift;
+            scratch.redGreen[x] = red | green << 16;
+        }
+        reach[block] = farthest;
     }
     const double *const weights = kHazeRangeWeights.data();
-    // What bounds this loop are its loads. Gathering ones are slower still.
-#pragma clang loop vectorize(disable) unroll_count(4)
-    for (int x = 0; x < columns; ++x) {
-        const std::uint32_t pair = scratch.redGreen[x];
-        scratch.ranges[x] = weights[pair & 0xffffu] * weights[pair >> 16] * weights[scratch.blue[x]];
+    const double *const pairWeights = kPairWeights.data();
+    // What bounds these loops are their loads. Gathering ones are slower still.
+    for (int block = 0; block < kTile / kBlock; ++block) {
+        const int first = block * kBlock;
+        if (reach[block] < kPairEntries) {
+#pragma clang loop vectorize(disable) unroll_count(8)
+            for (int x = first; x < first + kBlock; ++x) {
+                const std::uint32_t entries = scratch.pairBlue[x];
+                ranges[x] = pairWeights[entries & 0xffffu] * weights[entries >> kBlueShift];
+            }
+        } else {
+#pragma clang loop vectorize(disable) unroll_count(8)
+            for (int x = first; x < first + kBlock; ++x) {
+                const std::uint32_t entries = scratch.redGreen[x];
+                ranges[x] = weights[entries & 0xffffu] * weights[entries >> 16] * weights[scratch.pairBlue[x] >> kBlueShift];
+            }
+        }
     }
-    for (int x = 0; x < columns; ++x) {
-        const auto weight = static_cast<float>(scratch.ranges[x] * spatial);
-        scratch.sumWeights[x] += weight;
-        scratch.sumValues[x] += neighbours.map[x] * weight;
+}
+
+/// Adds the neighbours in one coarse row to the sums of a tile, from left to right.
+IPP_INLINE void addNeighbours(const Neighbours *row, const double *spatial, Scratch &scratch)
+{
+    for (int i = 0; i < kSide; ++i)
+        lookUp(row[i], scratch.ranges[i], scratch);
+    for (int x = 0; x < kTile; ++x) {
+        float sumWeights = scratch.sumWeights[x];
+        float sumValues = scratch.sumValues[x];
+        for (int i = 0; i < kSide; ++i) {
+            const auto weight = static_cast<float>(scratch.ranges[i][x] * spatial[i]);
+            sumWeights += weight;
+            sumValues += row[i].map[x] * weight;
+        }
+        scratch.sumWeights[x] = sumWeights;
+        scratch.sumValues[x] = sumValues;
     }
 }
 
@@ -66,15 +133,10 @@ IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, cons
         for (int c = 0; c < 3; ++c)
             scratch.colour[c][x] = pixel[x * kChannels + c];
     }
-    std::fill_n(scratch.sumWeights, columns, 0.0f);
-    std::fill_n(scratch.sumValues, columns, 0.0f);
-    for (int i = 0; i < rowCount; ++i) {
-        for (int dx = -kRadius; dx <= kRadius; ++dx) {
-            const double spatial =
-                kHazeSpatialWeights[static_cast<std::size_t>(firstOffset + i + 2)][static_cast<std::size_t>(dx + 2)];
-            addNeighbours(rows[i][dx + kRadius], spatial, columns, scratch);
-        }
-    }
+    std::fill_n(scratch.sumWeights, kTile, 0.0f);
+    std::fill_n(scratch.sumValues, kTile, 0.0f);
+    for (int i = 0; i < rowCount; ++i)
+        addNeighbours(rows[i], &kHazeSpatialWeights[static_cast<std::size_t>(firstOffset + i + 2)][2 - kRadius], scratch);
     for (int x = 0; x < columns; ++x) {
         const float sumWeights = scratch.sumWeights[x];
         const float mean = scratch.sumValues[x] / sumWeights;
@@ -86,29 +148,49 @@ IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, cons
 
 HazeJointRows::HazeJointRows(const VImage &fineImage, const VImage &coarseImage, const float *map)
     : fine(fineImage), coarse(coarseImage), coarseMap(map),
-      rowScale(static_cast<float>(coarseImage.Height()) / static_cast<float>(fineImage.Height())),
+      rowScale(static_cast<float>(coarseImage.Height()) / static_cast<float>(fineImage.Height())), tileColumns(kTile),
       centres(static_cast<std::size_t>(std::max(0, fineImage.Width())))
 {
     const float columnScale = static_cast<float>(coarse.Width()) / static_cast<float>(fine.Width());
+    if (columnScale > 1.0f)
+        tileColumns = std::max(1, static_cast<int>(kTile / columnScale));
     for (std::size_t x = 0; x < centres.size(); ++x)
         centres[x] = centreOf(static_cast<int>(x), columnScale);
 }
 
-void HazeJointRows::spread(int coarseRow, int firstColumn, int columns, Neighbours neighbours[kSide]) const
+void HazeJointRows::spread(int coarseRow, int firstColumn, int columns, Scratch &scratch) const
 {
     const float *const pixels = rowOf(coarse, coarseRow);
     const float *const values = coarseMap + static_cast<std::size_t>(coarseRow) * static_cast<std::size_t>(coarse.Width());
     const int *const centre = centres.data() + firstColumn;
     const auto coarseWidth = static_cast<unsigned>(coarse.Width());
-    for (int dx = -kRadius; dx <= kRadius; ++dx) {
-        Neighbours &target = neighbours[dx + kRadius];
-        for (int x = 0; x < columns; ++x) {
-            const int column = centre[x] + dx;
-            const float *const pixel = pixels + static_cast<std::ptrdiff_t>(column) * kChannels;
-            const bool counts = static_cast<unsigned>(column) < coarseWidth && pixel[3] != 0.0f;
+    const int first = centre[0] - kRadius;
+    const int reached = centre[columns - 1] + kRadius - first + 1;
+    for (int i = 0; i < reached; ++i) {
+        const int column = first + i;
+        const float *const pixel = pixels + static_cast<std::ptrdiff_t>(column) * kChannels;
+        const bool counts = static_cast<unsigned>(column) < coarseWidth && pixel[3] != 0.0f;
+        for (int c = 0; c < 3; ++c)
+            scratch.coarse[i].colour[c] = counts ? pixel[c] : std::numeric_limits<float>::quiet_NaN();
+        scratch.coarse[i].map = counts ? values[column] : 0.0f;
+    }
+    Neighbours *const target = scratch.rows[coarseRow % kSide];
+    int places[kTile];
+    for (int x = 0; x < kTile; ++x)
+        places[x] = centre[std::min(x, columns - 1)] - centre[0];
+    // Single floats would wait for each other on their way to memory.
+    for (int x = 0; x < columns; x += 4) {
+        const Neighbour *four[4];
+        for (int i = 0; i < 4; ++i)
+            four[i] = scratch.coarse + places[x + i];
+        for (int i = 0; i < kSide; ++i) {
+            FourFloats components[4];
+            transpose(four, components);
             for (int c = 0; c < 3; ++c)
-                target.colour[c][x] = counts ? pixel[c] : std::numeric_limits<float>::quiet_NaN();
-            target.map[x] = counts ? values[column] : 0.0f;
+                std::memcpy(target[i].colour[c] + x, &components[c], sizeof components[c]);
+            std::memcpy(target[i].map + x, &components[3], sizeof components[3]);
+            for (const Neighbour *&pixel : four)
+                ++pixel;
         }
     }
 }
@@ -117,8 +199,9 @@ void HazeJointRows::write(float *map, int firstRow, int lastRow, Scratch &scratc
 {
     const int width = fine.Width();
     for (int band = firstRow; band < lastRow; band += kBand) {
-        for (int firstColumn = 0; firstColumn < width; firstColumn += kTile)
-            writeTile(map, band, std::min(band + kBand, lastRow), firstColumn, std::min(kTile, width - firstColumn), scratch);
+        for (int firstColumn = 0; firstColumn < width; firstColumn += tileColumns)
+            writeTile(map, band, std::min(band + kBand, lastRow), firstColumn, std::min(tileColumns, width - firstColumn),
+                      scratch);
     }
 }
 
@@ -133,7 +216,7 @@ void HazeJointRows::writeTile(float *map, int firstRow, int lastRow, int firstCo
         for (int row = first; row <= last; ++row) {
             const int slot = row % kSide;
             if (held[slot] != row) {
-                spread(row, firstColumn, columns, scratch.rows[slot]);
+                spread(row, firstColumn, columns, scratch);
                 held[slot] = row;
             }
             rows[row - first] = scratch.rows[slot];
