@@ -3,94 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
 #include <vector>
+
+#include "sceneMath.h"
 
 namespace {
 
+using namespace sceneMath;
+
 constexpr float kPi = 3.14159265f;
-
-struct Vector
-{
-    float x = 0, y = 0, z = 0;
-};
-
-Vector operator+(Vector a, Vector b)
-{
-    return {a.x + b.x, a.y + b.y, a.z + b.z};
-}
-Vector operator*(Vector a, float f)
-{
-    return {a.x * f, a.y * f, a.z * f};
-}
-Vector operator*(Vector a, Vector b)
-{
-    return {a.x * b.x, a.y * b.y, a.z * b.z};
-}
-float dot(Vector a, Vector b)
-{
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-Vector normalised(Vector a)
-{
-    return a * (1 / std::sqrt(dot(a, a)));
-}
-float mix(float a, float b, float part)
-{
-    return a + (b - a) * part;
-}
-Vector mix(Vector a, Vector b, float part)
-{
-    return a * (1 - part) + b * part;
-}
-float smoothstep(float from, float to, float value)
-{
-    const float part = std::clamp((value - from) / (to - from), 0.0f, 1.0f);
-    return part * part * (3 - 2 * part);
-}
-
-// A number in 0..1 for each cell of the plane; wraps in unsigned arithmetic on purpose.
-float cellValue(int x, int z, std::uint32_t seed)
-{
-    std::uint32_t bits =
-        static_cast<std::uint32_t>(x) * 0x8da6b343u ^ static_cast<std::uint32_t>(z) * 0xd8163841u ^ seed * 0xcb1ab31fu;
-    bits = (bits ^ bits >> 15) * 0x2c1b3c6du;
-    bits = (bits ^ bits >> 12) * 0x297a2d39u;
-    return static_cast<float>((bits ^ bits >> 15) >> 8) / 16777216.0f;
-}
-
-float noise(float x, float z, std::uint32_t seed)
-{
-    const float floorX = std::floor(x), floorZ = std::floor(z);
-    const int cellX = static_cast<int>(floorX), cellZ = static_cast<int>(floorZ);
-    const float u = smoothstep(0, 1, x - floorX), v = smoothstep(0, 1, z - floorZ);
-    return mix(mix(cellValue(cellX, cellZ, seed), cellValue(cellX + 1, cellZ, seed), u),
-               mix(cellValue(cellX, cellZ + 1, seed), cellValue(cellX + 1, cellZ + 1, seed), u), v);
-}
-
-// Sum of noises of halving wavelength, in 0..1. Wavelengths below `smallest` are left out: nobody would see them from that far.
-float fractal(float x, float z, float wavelength, float smallest, int octaves, std::uint32_t seed, bool ridged = false)
-{
-    float sum = 0, weight = 0.5f, total = 0;
-    x /= wavelength;
-    z /= wavelength;
-    for (int i = 0; i < octaves && (wavelength > smallest || i < 2); ++i) {
-        float value = noise(x, z, seed + static_cast<std::uint32_t>(i));
-        if (ridged) {
-            value = 1 - std::fabs(2 * value - 1);
-            value *= value;
-        }
-        sum += weight * value;
-        total += weight;
-        weight *= 0.5f;
-        wavelength *= 0.5f;
-        // Each octave is turned, or the cells' edges would add up to visible lines.
-        const float turned = 2 * (0.8f * x - 0.6f * z);
-        z = 2 * (0.6f * x + 0.8f * z);
-        x = turned;
-    }
-    return sum / total;
-}
 
 struct House
 {
@@ -374,7 +295,7 @@ float encoded(float linear)
 }
 
 constexpr float kBeta = 1 / 3200.0f;
-constexpr Vector kAirlight{0.86f, 0.85f, 0.83f};
+constexpr Vector kAirlight{kSceneAirlight[0], kSceneAirlight[1], kSceneAirlight[2]};
 
 Vector finished(Vector linear, float transmission)
 {
@@ -384,7 +305,7 @@ Vector finished(Vector linear, float transmission)
 
 } // namespace
 
-QImage drawScene(int width, int height, bool haze)
+QImage drawScene(int width, int height, bool haze, std::vector<float> *transmission)
 {
     if (width < 1 || height < 1)
         return {};
@@ -396,6 +317,8 @@ QImage drawScene(int width, int height, bool haze)
     const float eye = groundHeight(0, 0, 0.1f) + 11;
     const float growth = std::max(0.0012f, 1.1f / focal);
 
+    if (transmission)
+        transmission->assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0.0f);
     QImage image(width, height, QImage::Format_RGB32);
     image.bits(); // detaches before the threads write
     uchar *const bits = image.bits();
@@ -403,6 +326,13 @@ QImage drawScene(int width, int height, bool haze)
 #pragma omp parallel for schedule(dynamic, 8)
     for (int column = 0; column < width; ++column) {
         std::vector<Vector> sum(static_cast<std::size_t>(height));
+        const auto add = [&](int row, Vector colour, float clear) {
+            const auto y = static_cast<std::size_t>(row / kSamples);
+            sum[y] = sum[y] + finished(colour, haze ? clear : 1);
+            if (transmission)
+                (*transmission)[y * static_cast<std::size_t>(width) + static_cast<std::size_t>(column)] +=
+                    clear / (kSamples * kSamples);
+        };
         for (int sample = 0; sample < kSamples; ++sample) {
             const float across =
                 (static_cast<float>(column * kSamples + sample) + 0.5f - 0.5f * static_cast<float>(width * kSamples)) / focal;
@@ -427,8 +357,7 @@ QImage drawScene(int width, int height, bool haze)
                         colour = surfaceColour(across * distance, y, distance, smallest, place);
                     }
                     const float way = distance * std::sqrt(1 + across * across + rise(row) * rise(row));
-                    Vector &pixel = sum[static_cast<std::size_t>(row / kSamples)];
-                    pixel = pixel + finished(colour, haze ? std::exp(-kBeta * way) : 1);
+                    add(row, colour, std::exp(-kBeta * way));
                     --row;
                 }
                 near = far;
@@ -436,8 +365,7 @@ QImage drawScene(int width, int height, bool haze)
             }
             for (; row >= 0; --row) {
                 const float up = std::max(rise(row), 0.0f);
-                Vector &pixel = sum[static_cast<std::size_t>(row / kSamples)];
-                pixel = pixel + finished(skyColour(across, up), haze ? std::exp(-0.42f / (up + 0.10f)) : 1);
+                add(row, skyColour(across, up), std::exp(-0.42f / (up + 0.10f)));
             }
         }
         for (int y = 0; y < height; ++y) {
