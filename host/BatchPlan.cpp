@@ -42,6 +42,11 @@ QString BatchPlan::resultName(const QString &photograph, bool needsTiff)
            QCoreApplication::translate("NimbraOne2One", "_dehazed") + '.' + suffix;
 }
 
+QString BatchPlan::isThere(const QString &result)
+{
+    return tr("Its result \"%1\" is there already. Give --overwrite to replace it.").arg(result);
+}
+
 std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostApplication &host, const Wishes &wishes)
 {
     std::vector<BatchItem> items;
@@ -59,6 +64,7 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         if (!inputs.emplace(placeOf(item.path), items.size()).second)
             continue;
         item.recordable = true;
+        item.replaces = wishes.overwrite;
         const bool tiff = host.imageDef(item.path)->needsTiffOutput();
         item.result = resultName(item.path, tiff);
         const QString suffix = QFileInfo(item.path).suffix();
@@ -100,7 +106,7 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         } else if (result.isDir()) {
             item.refusal = tr("Where its result belongs, at \"%1\", a folder stands. Move the folder away.").arg(item.result);
         } else if (!wishes.overwrite && (result.exists() || result.isSymLink())) {
-            item.refusal = tr("Its result \"%1\" is there already. Give --overwrite to replace it.").arg(item.result);
+            item.refusal = isThere(item.result);
         } else if (!QFileInfo(result.absolutePath()).isWritable()) {
             item.refusal =
                 tr("Its result can't be written: the folder \"%1\" is read-only. Copy the photograph to another folder.")

@@ -30,4 +30,6 @@ public:
 
     /// The name that the process will give to the result, in the language that is installed.
     static QString resultName(const QString &photograph, bool needsTiff);
+    /// The refusal of a photograph whose result stands already.
+    static QString isThere(const QString &result);
 };

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include "BatchPlan.h"
 #include "VException.h"
 #include "XmpCarrier.h"
 
@@ -56,6 +57,11 @@ qint64 memoryFor(const PhotoFacts &facts)
 {
     const qint64 pixels = qint64(facts.width) * facts.height;
     return std::max(pixels * 22 + (qint64(200) << 20), pixels * 36);
+}
+
+bool stands(const QString &file)
+{
+    return QFileInfo::exists(file) || QFileInfo(file).isSymLink();
 }
 
 constexpr QChar kIdeographicStop(0x3002); ///< Ends a sentence in Chinese and Japanese.
@@ -104,7 +110,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         outcome.message = item.refusal;
         return outcome;
     }
-    const bool stoodBefore = QFileInfo::exists(item.result) || QFileInfo(item.result).isSymLink();
+    const bool stoodBefore = stands(item.result);
     Stage stage = Stage::Reading;
     bool outOfMemory = false;
     try {
@@ -123,12 +129,18 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     } catch (const std::exception &failure) {
         outcome.message = QString::fromLocal8Bit(failure.what());
     }
-    // The write check of a failed save may have left an empty file.
-    if (!stoodBefore)
+    // The write check of a failed save may have left an empty file. A whole one is another program's.
+    if (!stoodBefore && QFileInfo(item.result).size() == 0)
         QFile::remove(item.result);
     if (stopping) {
         outcome.status = BatchOutcome::Status::Stopped;
         outcome.message = tr("Stopped; no result was written.");
+        return outcome;
+    }
+    // The engine reads the photograph once more when it saves.
+    if (stage == Stage::Saving && outcome.message.contains('"' + item.path + '"')) {
+        outcome.message = tr("The photograph was changed, moved or deleted while the haze was being taken away. Put it back and "
+                             "begin again.");
         return outcome;
     }
     outcome.message = outcome.message.trimmed().replace('\n', ", ");
@@ -168,6 +180,10 @@ void BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
     photograph.watch([&](Photograph::Use use) {
         if (stopping)
             endRun();
+        if (use == Photograph::Use::Released && !item.replaces && stands(item.result)) {
+            stage = Stage::Reading; // nothing but the name is in the way
+            throw VException(BatchPlan::isThere(item.result), V_LOCATION);
+        }
         stage = use == Photograph::Use::Reading ? Stage::Reading : use == Photograph::Use::Read ? Stage::Dehazing : Stage::Saving;
         const std::lock_guard lock(reportMutex);
         watcher.stageBegins(index, stage);

@@ -22,6 +22,7 @@ struct BatchItem
     int strength = 0;        ///< In `settings`.
     QString refusal;         ///< Not empty: it fails with this sentence, before any work.
     QString note;            ///< For the user to know, or empty.
+    bool replaces = false;   ///< A file that stands where the result belongs gives way.
     bool recordable = false; ///< The photograph itself is there, so that a settings file may name it.
 };
 

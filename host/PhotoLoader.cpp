@@ -71,6 +71,8 @@ QString PhotoLoader::complaint(const QString &path)
     const QFileInfo info(path);
     if (path.isEmpty())
         return tr("An empty name stands for no photograph.");
+    if (!info.exists() && path.contains(QChar::ReplacementCharacter))
+        return tr("Its name or that of a folder holds letters that are not UTF-8. Rename it.");
     if (!info.exists())
         return info.isSymLink() ? tr("The link leads nowhere. Name the photograph itself.")
                                 : tr("There is no such file. Check its name and folder.");

@@ -5,11 +5,14 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QSet>
+#include <QTextStream>
+#include <QXmlStreamReader>
 
 #include "VException.h"
 
 namespace {
 
+constexpr int kDepth = 100; ///< Elements within elements; ours are three.
 const QString kRoot = QStringLiteral("veilaway");
 const QString kEntry = QStringLiteral("photo");
 const QString kPath = QStringLiteral("path");
@@ -20,7 +23,6 @@ const QString kStrength = QStringLiteral("hazeRemove");
 SettingsFile::SettingsFile(const QString &path, const QString &processName)
     : file(QFileInfo(path).absoluteFilePath()), tag(processName)
 {
-    document.appendChild(document.createProcessingInstruction("xml", "version=\"1.0\" encoding=\"UTF-8\""));
     document.appendChild(document.createElement(kRoot));
 }
 
@@ -55,10 +57,19 @@ void SettingsFile::load()
     QFile input(file);
     if (QFileInfo(file).isDir() || !input.open(QIODevice::ReadOnly))
         throw broken(QFileInfo(file).isDir() ? tr("it is a folder") : input.errorString());
+    // The tree below is built and freed by recursion: a file may not choose how deep that goes.
+    QXmlStreamReader reader(&input);
+    for (int depth = 0; !reader.atEnd() && !reader.hasError();) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        depth += token == QXmlStreamReader::StartElement ? 1 : token == QXmlStreamReader::EndElement ? -1 : 0;
+        if (depth > kDepth)
+            reader.raiseError(QStringLiteral("nested too deeply"));
+    }
     QDomDocument read;
-    QString error;
-    int line = 0, column = 0;
-    if (!read.setContent(&input, /*namespaceProcessing=*/false, &error, &line, &column))
+    QString error = reader.errorString();
+    int line = static_cast<int>(reader.lineNumber()), column = static_cast<int>(reader.columnNumber());
+    input.seek(0);
+    if (reader.hasError() || !read.setContent(&input, /*namespaceProcessing=*/false, &error, &line, &column))
         throw broken(tr("line %1, column %2: %3").arg(line).arg(column).arg(error));
     if (read.documentElement().tagName() != kRoot)
         throw broken(tr("its outermost element is not <%1>").arg(kRoot));
@@ -83,8 +94,13 @@ void SettingsFile::save()
     if (!changed)
         return;
     QSaveFile output(file);
-    const QByteArray text = document.toByteArray(/*indent=*/4);
-    if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size() || !output.commit())
+    QByteArray text;
+    QTextStream stream(&text);
+    stream.setCodec("UTF-8"); // and a declaration to match, whatever the one of the file that was read is worth
+    document.save(stream, /*indent=*/4, QDomNode::EncodingFromTextStream);
+    stream.flush();
+    // Flushed here: where the disk is full, a commit of what is still in the buffer succeeds, with an empty file.
+    if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size() || !output.flush() || !output.commit())
         throw VException(
             tr("The settings file \"%1\" can't be written: %2. Make room, or give yourself the permission to write there.")
                 .arg(file, output.errorString()),

@@ -1,5 +1,6 @@
 #include "XmpCarrier.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <optional>
 
@@ -102,9 +103,13 @@ bool setPacket(const QString &path, const std::string &packet)
 QString copyTo(QIODevice &target, QIODevice &source)
 {
     QByteArray block(1 << 20, Qt::Uninitialized);
-    for (qint64 got; (got = source.read(block.data(), block.size())) != 0;)
-        if (got < 0 || target.write(block.constData(), got) != got)
-            return got < 0 ? source.errorString() : target.errorString();
+    for (qint64 got; (got = source.read(block.data(), block.size())) != 0;) {
+        if (got < 0)
+            return source.errorString();
+        const qint64 written = target.write(block.constData(), got);
+        if (written != got) // what went in in part is no error to Qt
+            return written < 0 ? target.errorString() : qt_error_string(ENOSPC);
+    }
     return QString();
 }
 

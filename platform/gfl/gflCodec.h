@@ -169,8 +169,9 @@ private:
     std::uint64_t bufferStart;
 };
 
-/// A file that is written beside its target and takes its place with commit(); without one it is removed. A symbolic link stays,
-/// and what it points at is replaced. The new file has the mode of the old one, or that of any newly created file.
+/// A file that is written beside its target and takes its place with commit(); without one it is gone. Until then it has no name,
+/// or, where the file system knows only files with names, a hidden one. A symbolic link stays, and what it points at is replaced.
+/// The new file has the mode of the old one, or that of any newly created file.
 class OutputFile
 {
 public:
@@ -193,9 +194,12 @@ public:
 
 private:
     bool flush() noexcept;
+    /// Calls `make` with hidden names beside the target, until it makes one of them or fails for good.
+    template<class Make>
+    bool underFreshName(Make make);
 
     std::string target;
-    std::string temporary;
+    std::string temporary; ///< Empty: the file has no name.
     int descriptor = -1;
     Bytes buffer;
     std::size_t used = 0;

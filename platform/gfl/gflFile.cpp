@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -34,6 +36,18 @@ bool writeAll(int descriptor, const std::uint8_t *bytes, std::size_t count, std:
     }
     return true;
 }
+
+std::string folderOf(const std::string &file)
+{
+    return file.substr(0, file.find_last_of('/') + 1);
+}
+
+/// The path of an open file that may have no name. On the heap it could fail.
+struct OpenPath
+{
+    explicit OpenPath(int descriptor) { std::snprintf(text, sizeof text, "/proc/self/fd/%d", descriptor); }
+    char text[32];
+};
 
 } // namespace
 
@@ -150,16 +164,19 @@ OutputFile::OutputFile(const char *fileName) : buffer(kBufferBytes)
     if (exists && (!S_ISREG(old.st_mode) || ::access(target.c_str(), W_OK) != 0))
         throw Failure{GFL_ERROR_FILE_CREATE};
 
-    // Of a fixed length, so that the longest file name works too.
-    static std::atomic<unsigned> serial{0};
-    const std::string folder = target.substr(0, target.find_last_of('/') + 1);
-    constexpr int kAttempts = 100;
-    for (int attempt = 0; attempt < kAttempts && descriptor < 0; ++attempt) {
-        temporary = folder + ".gfl-" + std::to_string(::getpid()) + "-" + std::to_string(serial++) + ".tmp";
-        descriptor = ::open(temporary.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (descriptor < 0 && errno != EEXIST && errno != EINTR)
-            break;
+    // Where the file system can keep a file without a name, nothing is left of it when the process is killed. It gets its name by
+    // way of /proc.
+    const std::string folder = folderOf(target);
+    descriptor = ::open(folder.empty() ? "." : folder.c_str(), O_RDWR | O_TMPFILE | O_CLOEXEC, 0666);
+    if (descriptor >= 0 && ::access(OpenPath(descriptor).text, F_OK) != 0) {
+        ::close(descriptor);
+        descriptor = -1;
     }
+    if (descriptor < 0)
+        underFreshName([this](const char *name) {
+            descriptor = ::open(name, O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+            return descriptor >= 0;
+        });
     if (descriptor < 0)
         throw Failure{GFL_ERROR_FILE_CREATE};
     if (exists)
@@ -168,10 +185,27 @@ OutputFile::OutputFile(const char *fileName) : buffer(kBufferBytes)
 
 OutputFile::~OutputFile()
 {
-    if (descriptor >= 0) {
+    if (descriptor >= 0)
         ::close(descriptor);
+    if (!temporary.empty())
         ::unlink(temporary.c_str());
+}
+
+template<class Make>
+bool OutputFile::underFreshName(Make make)
+{
+    // Of a fixed length, so that the longest file name works too.
+    static std::atomic<unsigned> serial{0};
+    constexpr int kAttempts = 100;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        temporary = folderOf(target) + ".gfl-" + std::to_string(::getpid()) + "-" + std::to_string(serial++) + ".tmp";
+        if (make(temporary.c_str()))
+            return true;
+        if (errno != EEXIST && errno != EINTR)
+            break;
     }
+    temporary.clear();
+    return false;
 }
 
 bool OutputFile::flush() noexcept
@@ -235,12 +269,20 @@ void OutputFile::commit()
 {
     if (!flush())
         throw Failure{GFL_ERROR_FILE_WRITE};
-    const int closed = ::close(descriptor); // a network file system may report a full disk only here
-    descriptor = -1;
-    if (closed != 0 || ::rename(temporary.c_str(), target.c_str()) != 0) {
-        ::unlink(temporary.c_str());
-        throw Failure{GFL_ERROR_FILE_WRITE};
+    if (temporary.empty()) {
+        const auto link = [this](const char *name) {
+            return ::linkat(AT_FDCWD, OpenPath(descriptor).text, AT_FDCWD, name, AT_SYMLINK_FOLLOW) == 0;
+        };
+        if (link(target.c_str()))
+            return;
+        // What stands there can only be replaced by a file that has a name.
+        if (errno != EEXIST || !underFreshName(link))
+            throw Failure{GFL_ERROR_FILE_WRITE};
     }
+    const int closed = ::close(std::exchange(descriptor, -1)); // a network file system may report a full disk only here
+    if (closed != 0 || ::rename(temporary.c_str(), target.c_str()) != 0)
+        throw Failure{GFL_ERROR_FILE_WRITE};
+    temporary.clear();
 }
 
 } // namespace gfl

@@ -74,6 +74,10 @@
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
         <translation>Das Plug-in hat „%1“ statt „%2“ geschrieben</translation>
     </message>
+    <message>
+        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <translation>Das Foto wurde geändert, verschoben oder gelöscht, während der Dunst entfernt wurde. Legen Sie es zurück und beginnen Sie von vorn.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -305,6 +309,10 @@ Beispiele:
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
         <translation>Die RAW-Datei kann nicht entwickelt werden: %1. Kopieren Sie sie erneut oder konvertieren Sie sie in DNG oder TIFF.</translation>
+    </message>
+    <message>
+        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
+        <translation>Sein Name oder der eines Ordners enthält Zeichen, die kein UTF-8 sind. Benennen Sie es um.</translation>
     </message>
 </context>
 <context>

@@ -74,6 +74,10 @@
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
         <translation>El complemento ha escrito «%1» en lugar de «%2»</translation>
     </message>
+    <message>
+        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <translation>La foto se modificó, se movió o se borró mientras se quitaba la bruma. Vuelva a ponerla en su sitio y empiece de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -309,6 +313,10 @@ Ejemplos:
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
         <translation>No se puede revelar el archivo RAW: %1. Vuelva a copiarlo o conviértalo a DNG o TIFF.</translation>
+    </message>
+    <message>
+        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
+        <translation>Su nombre o el de una carpeta contiene caracteres que no son UTF-8. Cámbiele el nombre.</translation>
     </message>
 </context>
 <context>

@@ -74,6 +74,10 @@
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
         <translation>Le module a écrit «&#xa0;%1&#xa0;» au lieu de «&#xa0;%2&#xa0;»</translation>
     </message>
+    <message>
+        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <translation>La photo a été modifiée, déplacée ou supprimée pendant que le voile était retiré. Remettez-la en place et recommencez.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -311,6 +315,10 @@ Exemples&#xa0;:
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
         <translation>Impossible de développer le fichier RAW&#xa0;: %1. Copiez-le de nouveau ou convertissez-le en DNG ou en TIFF.</translation>
+    </message>
+    <message>
+        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
+        <translation>Son nom ou celui d&apos;un dossier contient des caractères qui ne sont pas de l&apos;UTF-8. Renommez-la.</translation>
     </message>
 </context>
 <context>

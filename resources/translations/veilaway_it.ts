@@ -74,6 +74,10 @@
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
         <translation>Il plugin ha scritto &quot;%1&quot; invece di &quot;%2&quot;</translation>
     </message>
+    <message>
+        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <translation>La foto è stata modificata, spostata o cancellata mentre si toglieva la foschia. Rimettetela al suo posto e ricominciate.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -305,6 +309,10 @@ Esempi:
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
         <translation>Impossibile sviluppare il file RAW: %1. Copiarlo di nuovo o convertirlo in DNG o TIFF.</translation>
+    </message>
+    <message>
+        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
+        <translation>Il suo nome o quello di una cartella contiene caratteri che non sono UTF-8. Rinominatela.</translation>
     </message>
 </context>
 <context>

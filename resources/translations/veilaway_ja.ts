@@ -74,6 +74,10 @@
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
         <translation>プラグインは「%2」ではなく「%1」に書き込みました。</translation>
     </message>
+    <message>
+        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <translation>かすみを取り除いている間に写真が変更、移動、または削除されました。元に戻してからやり直してください。</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -306,6 +310,10 @@ Examples:
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
         <translation>カメラ RAW ファイルを現像できません: %1。コピーし直すか、DNG または TIFF に変換してください。</translation>
+    </message>
+    <message>
+        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
+        <translation>名前またはフォルダの名前に UTF-8 ではない文字が含まれています。名前を変更してください。</translation>
     </message>
 </context>
 <context>

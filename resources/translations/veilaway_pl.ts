@@ -74,6 +74,10 @@
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
         <translation>Wtyczka zapisała „%1” zamiast „%2”</translation>
     </message>
+    <message>
+        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <translation>Zdjęcie zostało zmienione, przeniesione lub usunięte podczas usuwania mgły. Przywróć je i zacznij od nowa.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -306,6 +310,10 @@ Przykłady:
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
         <translation>Nie można wywołać pliku RAW: %1. Należy skopiować go ponownie lub przekonwertować do DNG albo TIFF.</translation>
+    </message>
+    <message>
+        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
+        <translation>Jego nazwa lub nazwa folderu zawiera znaki, które nie są UTF-8. Zmień nazwę.</translation>
     </message>
 </context>
 <context>

@@ -74,6 +74,10 @@
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
         <translation>Модуль записал «%1» вместо «%2»</translation>
     </message>
+    <message>
+        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <translation>Снимок был изменён, перемещён или удалён, пока убиралась дымка. Верните его на место и начните заново.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -306,6 +310,10 @@ Examples:
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
         <translation>RAW-файл не удаётся проявить: %1. Скопируйте его заново или преобразуйте в DNG или TIFF.</translation>
+    </message>
+    <message>
+        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
+        <translation>В его имени или в имени папки есть знаки не в кодировке UTF-8. Переименуйте его.</translation>
     </message>
 </context>
 <context>

@@ -74,6 +74,10 @@
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
         <translation>插件写入的是“%1”，而不是“%2”。</translation>
     </message>
+    <message>
+        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <translation>去除雾霾期间，照片被更改、移动或删除。请将其放回原处，然后重新开始。</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -299,6 +303,10 @@ _dehazed。
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
         <translation>无法解码此相机 RAW 文件：%1。请重新复制，或转换为 DNG 或 TIFF。</translation>
+    </message>
+    <message>
+        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
+        <translation>其名称或文件夹名称含有非 UTF-8 字符。请重命名。</translation>
     </message>
 </context>
 <context>

@@ -74,6 +74,10 @@
         <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
         <translation>外掛程式寫入的是「%1」，而不是「%2」。</translation>
     </message>
+    <message>
+        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <translation>去除霧霾期間，照片被更改、移動或刪除。請將其放回原處，然後重新開始。</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -299,6 +303,10 @@ _dehazed。
     <message>
         <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
         <translation>無法解碼此相機 RAW 檔案：%1。請重新複製，或轉換為 DNG 或 TIFF。</translation>
+    </message>
+    <message>
+        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
+        <translation>其名稱或資料夾名稱含有非 UTF-8 字元。請重新命名。</translation>
     </message>
 </context>
 <context>

@@ -132,9 +132,10 @@ void TestFolder::raw(const QString &name, int width, int height) const
                     numbers<quint32>({0}) + values);
 }
 
-Said TestFolder::start(const QString &program, const QStringList &arguments, const QStringList &environment) const
+std::unique_ptr<QProcess> TestFolder::launch(const QString &program, const QStringList &arguments,
+                                             const QStringList &environment) const
 {
-    QProcess process;
+    auto process = std::make_unique<QProcess>();
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"LANG", "LANGUAGE", "LC_MESSAGES", "LC_CTYPE", "DISPLAY", "QT_QPA_PLATFORM"})
         variables.remove(name);
@@ -143,13 +144,24 @@ Said TestFolder::start(const QString &program, const QStringList &arguments, con
     variables.insert("V", VEILAWAY);
     for (const QString &variable : environment)
         variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
-    process.setProcessEnvironment(variables);
-    process.setWorkingDirectory(folder.path());
-    process.start(program, arguments);
-    if (!process.waitForFinished(300000))
-        return {-1, QString(), "The program did not end: " + process.errorString()};
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2, process.readAllStandardOutput(),
-            process.readAllStandardError()};
+    process->setProcessEnvironment(variables);
+    process->setWorkingDirectory(folder.path());
+    process->start(program, arguments);
+    return process;
+}
+
+std::unique_ptr<QProcess> TestFolder::launch(const QStringList &arguments) const
+{
+    return launch(VEILAWAY, arguments, {});
+}
+
+Said TestFolder::start(const QString &program, const QStringList &arguments, const QStringList &environment) const
+{
+    const auto process = launch(program, arguments, environment);
+    if (!process->waitForFinished(300000))
+        return {-1, QString(), "The program did not end: " + process->errorString()};
+    return {process->exitStatus() == QProcess::NormalExit ? process->exitCode() : -2, process->readAllStandardOutput(),
+            process->readAllStandardError()};
 }
 
 Said TestFolder::run(const QStringList &arguments, const QStringList &environment) const

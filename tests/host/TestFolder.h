@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include <QByteArray>
@@ -39,7 +40,11 @@ public:
     /// The same through the shell, "$V" being the program.
     Said shell(const QString &script, const QStringList &environment = {}) const;
 
+    /// The program under way.
+    std::unique_ptr<QProcess> launch(const QStringList &arguments) const;
+
 private:
+    std::unique_ptr<QProcess> launch(const QString &program, const QStringList &arguments, const QStringList &environment) const;
     Said start(const QString &program, const QStringList &arguments, const QStringList &environment) const;
     QTemporaryDir folder;
 };

@@ -224,6 +224,8 @@ TEST_F(Allocation, a_file_is_read_whole_and_written_whole_or_not_at_all)
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
+    const auto openFiles = [] { return QDir("/proc/self/fd").entryList(QDir::Files | QDir::System).size(); };
+    const int filesBefore = openFiles();
     for (const char *suffix : {"jpg", "png", "tif", "hdr", "exr", "psd"}) {
         SCOPED_TRACE(suffix);
         const bool carries = QString(suffix) != "hdr" && QString(suffix) != "exr";
@@ -254,6 +256,7 @@ TEST_F(Allocation, a_file_is_read_whole_and_written_whole_or_not_at_all)
             [&](End end) {
                 EXPECT_EQ(content(target), end == End::Done ? whole : older ? sourceBytes : QByteArray());
                 EXPECT_EQ(content(source), sourceBytes);
+                EXPECT_EQ(openFiles(), filesBefore);
                 EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), QFile::exists(target) ? 2 : 1);
             });
 

@@ -1,0 +1,451 @@
+// What goes wrong around the program: full and write-protected places, photographs that go away, a killed program, two at once,
+// odd names. Each time the sources stay whole, a result is whole or absent, and nothing else is left.
+
+#include <chrono>
+#include <csignal>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include <sys/inotify.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <exiv2/exiv2.hpp>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "BatchPlan.h"
+#include "BatchRunner.h"
+#include "HostApplication.h"
+#include "PhotoLoader.h"
+#include "PluginFile.h"
+#include "SettingsFile.h"
+#include "TestFolder.h"
+#include "gfl.h"
+
+namespace {
+
+const QStringList kSuffixes{"jpg", "png", "tif", "hdr", "exr", "psd"};
+
+using Stage = BatchRunner::Stage;
+
+/// A batch in this process, in which things happen at exact moments.
+class BatchFaults : public testing::Test, protected BatchRunner::Observer
+{
+protected:
+    /// What becomes of one photograph if `act` happens when this stage begins.
+    BatchOutcome outcomeOf(const QString &path, Stage stage, const std::function<void()> &act, bool overwrite = false)
+    {
+        SettingsFile settings(folder.path("none.xml"), "Veilaway");
+        BatchPlan::Wishes wishes{0, 0, overwrite, "Veilaway", &settings};
+        when = stage;
+        happens = act;
+        BatchRunner runner(host, plugin.process(), *this);
+        runner.run(BatchPlan::make({path}, host, wishes), 1);
+        return last;
+    }
+    void stageBegins(int, Stage stage) override
+    {
+        if (stage == when)
+            happens();
+    }
+    void finished(int, const BatchOutcome &outcome) override { last = outcome; }
+
+    TestFolder folder;
+
+private:
+    int argumentCount = 1;
+    char programName[5] = "test";
+    char *arguments[2] = {programName, nullptr};
+    HostedApplication<QCoreApplication> host{argumentCount, arguments, QLocale(QLocale::English), /*lendServices=*/false};
+    PluginFile plugin{QString()};
+    Stage when = Stage::Reading;
+    std::function<void()> happens;
+    BatchOutcome last;
+};
+
+/// No file may grow beyond this while it lives: to a program, a full disk.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit now{bytes, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &now);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before); }
+
+private:
+    rlimit before{};
+};
+
+} // namespace
+
+TEST_F(BatchFaults, a_photograph_that_changes_meanwhile)
+{
+    const auto bytesOf = [this](const char *suffix) {
+        folder.photograph(QStringLiteral("other.") + suffix);
+        const QByteArray bytes = folder.content(QStringLiteral("other.") + suffix);
+        QFile::remove(folder.path(QStringLiteral("other.") + suffix));
+        return bytes;
+    };
+    const QByteArray jpeg = bytesOf("jpg"), tiff = bytesOf("tif");
+    QString path;
+    const auto gone = [&] { QFile::remove(path); };
+    const auto fill = [&](const QByteArray &bytes) {
+        return [&] {
+            gone();
+            QFile file(path);
+            file.open(QIODevice::WriteOnly);
+            file.write(bytes);
+        };
+    };
+    const char kChanged[] = "changed, moved or deleted";
+    const struct
+    {
+        const char *name, *suffix;
+        Stage stage;
+        std::function<void()> act;
+        const char *said;
+    } rows[] = {
+        {"deleted", "png", Stage::Dehazing, gone, kChanged},
+        {"another type", "png", Stage::Dehazing, fill(jpeg), kChanged},
+        {"cut short", "tif", Stage::Dehazing, fill(tiff.left(400)), kChanged},
+        {"empty", "jpg", Stage::Dehazing, fill(""), kChanged},
+        {"a folder", "tif", Stage::Dehazing, [&] { gone(), QDir().mkdir(path); }, kChanged},
+        {"a pipe", "png", Stage::Dehazing, [&] { gone(), mkfifo(QFile::encodeName(path).constData(), 0600); }, kChanged},
+        {"deleted sooner", "png", Stage::Reading, gone, "can't be opened"},
+        {"another type sooner", "tif", Stage::Reading, fill(jpeg), "known format"},
+        {"a pipe sooner", "jpg", Stage::Reading, [&] { gone(), mkfifo(QFile::encodeName(path).constData(), 0600); },
+         "can't be opened"},
+        {"folder deleted", "png", Stage::Saving, [&] { QDir(QFileInfo(path).path()).removeRecursively(); }, kChanged},
+        {"folder renamed", "tif", Stage::Saving, [&] { QDir().rename(QFileInfo(path).path(), QFileInfo(path).path() + "-away"); },
+         kChanged},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        const QString name = QString(row.name).replace(' ', '_');
+        QDir(folder.path(".")).mkdir(name);
+        path = folder.path(name + "/photo." + row.suffix);
+        folder.photograph(name + "/photo." + row.suffix);
+        const BatchOutcome outcome = outcomeOf(path, row.stage, row.act);
+        EXPECT_EQ(int(outcome.status), int(BatchOutcome::Status::Failed));
+        EXPECT_TRUE(outcome.message.contains(row.said)) << outcome.message;
+        for (const QString &place : {name, name + "-away"}) {
+            const QStringList left =
+                QDir(folder.path(place)).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+            EXPECT_TRUE(left.isEmpty() || left == QStringList(QStringLiteral("photo.") + row.suffix)) << left.join(' ');
+        }
+    }
+}
+
+TEST_F(BatchFaults, a_disk_that_is_full_when_the_result_is_written)
+{
+    for (const QString &suffix : kSuffixes)
+        for (const bool older : {false, true}) {
+            const QString name = QString("photo%1.").arg(older) + suffix,
+                          result = QString("photo%1_dehazed.").arg(older) + suffix;
+            folder.photograph(name, 90, 60, VImage::Rgb, suffix == "hdr" || suffix == "exr" ? 32 : 8);
+            if (older)
+                folder.write(result, "older");
+            const QByteArray source = folder.content(name);
+            const QStringList before = folder.files();
+            std::unique_ptr<FullDisk> full;
+            const BatchOutcome outcome = outcomeOf(
+                folder.path(name), Stage::Saving, [&] { full = std::make_unique<FullDisk>(512); }, /*overwrite=*/true);
+            full.reset();
+            EXPECT_EQ(int(outcome.status), int(BatchOutcome::Status::Failed)) << result;
+            EXPECT_TRUE(outcome.message.contains("Make room")) << outcome.message;
+            EXPECT_EQ(folder.files(), before);
+            EXPECT_EQ(folder.content(result), older ? "older" : "");
+            EXPECT_EQ(folder.content(name), source);
+        }
+}
+
+TEST_F(BatchFaults, another_program_is_done_first)
+{
+    const auto other = [this] { folder.write("photo_dehazed.png", "the other's"); };
+    folder.photograph("photo.png");
+    const BatchOutcome outcome = outcomeOf(folder.path("photo.png"), Stage::Dehazing, other);
+    EXPECT_EQ(int(outcome.status), int(BatchOutcome::Status::Failed));
+    EXPECT_TRUE(outcome.message.endsWith("is there already. Give --overwrite to replace it.")) << outcome.message;
+    EXPECT_EQ(folder.content("photo_dehazed.png"), "the other's");
+
+    // Nor is it lost when this program fails afterwards, whatever it was told.
+    QFile::remove(folder.path("photo_dehazed.png"));
+    std::unique_ptr<FullDisk> full;
+    const auto otherAndFull = [&] {
+        other();
+        full = std::make_unique<FullDisk>(64);
+    };
+    EXPECT_EQ(int(outcomeOf(folder.path("photo.png"), Stage::Saving, otherAndFull, /*overwrite=*/true).status),
+              int(BatchOutcome::Status::Failed));
+    full.reset();
+    EXPECT_EQ(folder.content("photo_dehazed.png"), "the other's");
+
+    EXPECT_EQ(int(outcomeOf(folder.path("photo.png"), Stage::Dehazing, other, /*overwrite=*/true).status),
+              int(BatchOutcome::Status::Done));
+    EXPECT_GT(folder.content("photo_dehazed.png").size(), 100);
+}
+
+namespace {
+
+class ProgramFaults : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr); }
+    static void TearDownTestSuite() { gflLibraryExit(); }
+
+    /// A photograph with an XMP packet, which the program carries over when the result stands already.
+    void photographWithXmp(const QString &name, int width, int height)
+    {
+        folder.photograph(name, width, height);
+        const auto image = Exiv2::ImageFactory::open(QFile::encodeName(folder.path(name)).toStdString());
+        image->readMetadata();
+        image->xmpData()["Xmp.xmp.Rating"] = "4";
+        image->writeMetadata();
+    }
+    bool isWhole(const QString &name)
+    {
+        try {
+            return PhotoLoader::decode(folder.path(name)) != nullptr;
+        } catch (const VException &) {
+            return false;
+        }
+    }
+    /// The script in a private view of the file system, where it may mount; -1 where the system allows none.
+    Said inPrivateMounts(const QString &script)
+    {
+        const QString unshare = geteuid() == 0 ? "unshare -m" : "unshare -rm";
+        if (folder.shell(unshare + " mount -t tmpfs none /mnt").code != 0)
+            return {-1, QString(), QString()};
+        return folder.shell(unshare + " /bin/sh -c '" + script + "'");
+    }
+
+    TestFolder folder;
+};
+
+#define SKIP_WITHOUT_MOUNTS(said)                                                                                                \
+    if ((said).code == -1)                                                                                                       \
+    GTEST_SKIP() << "no private mounts here (a container without them, or no unshare): not tested"
+
+} // namespace
+
+TEST_F(ProgramFaults, a_file_system_without_room)
+{
+    QStringList photographs;
+    for (const QString &suffix : kSuffixes) {
+        photographs << "p." + suffix;
+        folder.photograph(photographs.last(), 200, 150, VImage::Rgb,
+                          suffix == "tif"                      ? 16
+                          : suffix == "hdr" || suffix == "exr" ? 32
+                                                               : 8);
+    }
+    photographWithXmp("x.tif", 100, 80); // 24 KB
+    folder.write("s.xml", "<veilaway/>");
+    const Said said = inPrivateMounts("mkdir box; mount -t tmpfs -o size=4m none box; cp *.* box; cd box; "
+                                      "cat /dev/zero >full 2>/dev/null; "
+                                      "\"$V\" p.* --strength 0; echo =$?; "                          // nothing fits
+                                      "\"$V\" ../x.tif --strength 0 --settings s.xml; echo =$?; "    // the settings don't
+                                      "truncate -s -36K full; \"$V\" x.tif --strength 0; echo =$?; " // the result does, once
+                                      "rm full; mkdir ../left; cp -a . ../left");
+    SKIP_WITHOUT_MOUNTS(said);
+    EXPECT_EQ(said.out.count("=1\n"), 2) << said.out << said.err;
+    EXPECT_TRUE(said.out.endsWith("=0\n")) << said.out;
+    for (const QString &photograph : photographs)
+        EXPECT_TRUE(said.err.contains(QRegularExpression(
+            QStringLiteral("veilaway: %1: [^\n]*Not enough free space on \"[^\n]*box\"[^\n]*\\. Make room[^\n]*\n")
+                .arg(photograph))))
+            << said.err;
+    EXPECT_TRUE(said.err.contains("s.xml\" can't be written")) << said.err;
+    EXPECT_TRUE(said.err.contains(
+        "x.tif: The result is there, but the photograph's XMP could not be copied into it: No space left on device"))
+        << said.err;
+    EXPECT_THAT(QDir(folder.path("left")).entryList(QDir::Files | QDir::Hidden),
+                testing::UnorderedElementsAreArray(photographs + QStringList{"x.tif", "x_dehazed.tif", "s.xml"}));
+    EXPECT_EQ(folder.content("left/s.xml"), "<veilaway/>");
+    EXPECT_TRUE(isWhole("left/x_dehazed.tif"));
+    for (const QString &photograph : photographs)
+        EXPECT_EQ(folder.content("left/" + photograph), folder.content(photograph)) << photograph;
+}
+
+TEST_F(ProgramFaults, write_protection)
+{
+    folder.photograph("a.png");
+    folder.photograph("b.jpg");
+    folder.write("b_dehazed.jpg", "older");
+    // A superuser is stopped by a read-only mount only.
+    const Said said = inPrivateMounts("mkdir ro; cp a.png ro; mount --bind ro ro; mount -o remount,ro,bind ro; "
+                                      "mount --bind b_dehazed.jpg b_dehazed.jpg; mount -o remount,ro,bind b_dehazed.jpg; "
+                                      "\"$V\" ro/a.png b.jpg --strength 0 --overwrite; echo =$?; "
+                                      "\"$V\" a.png --strength 0 --settings ro/s.xml; echo =$?");
+    SKIP_WITHOUT_MOUNTS(said);
+    EXPECT_EQ(said.out, "=1\n=2\n") << said.err;
+    EXPECT_TRUE(
+        said.err.contains(QRegularExpression("ro/a.png: [^\n]*ro\" is read-only. Copy the photograph to another folder.\n")))
+        << said.err;
+    EXPECT_TRUE(said.err.contains(QRegularExpression("b.jpg: [^\n]*b_dehazed.jpg\"\\. Make room[^\n]*may write there.\n")))
+        << said.err;
+    EXPECT_TRUE(said.err.contains("ro/s.xml\" can't be written there")) << said.err;
+    EXPECT_EQ(folder.content("b_dehazed.jpg"), "older");
+    EXPECT_THAT(folder.files(), testing::ElementsAre("a.png", "b.jpg", "b_dehazed.jpg"));
+}
+
+TEST_F(ProgramFaults, killed_at_any_moment)
+{
+    folder.photograph("a.png", 600, 400, VImage::Rgb, 16);
+    folder.photograph("b.tif", 400, 300, VImage::Rgb, 32);
+    photographWithXmp("c.jpg", 400, 300);
+    const QStringList run{"--strength", "0", "--overwrite", "--jobs", "2", "--settings", "s.xml", "a.png", "b.tif", "c.jpg"};
+    const std::vector<QString> sources{"a.png", "b.tif", "c.jpg"}, results{"a_dehazed.png", "b_dehazed.tif", "c_dehazed.jpg"};
+    QElapsedTimer timer;
+    timer.start();
+    ASSERT_EQ(folder.run(run).code, 0);
+    const qint64 wholeRun = timer.elapsed();
+    std::vector<QByteArray> sourceBytes, resultBytes;
+    for (std::size_t i = 0; i < 3; ++i) {
+        sourceBytes.push_back(folder.content(sources[i]));
+        resultBytes.push_back(folder.content(results[i]));
+    }
+    const QByteArray settings = folder.content("s.xml");
+
+    constexpr int kSteps = 8;
+    int killed = 0;
+    for (int step = 0; step < 2 * kSteps; ++step) {
+        SCOPED_TRACE(step);
+        const bool older = step % 2 == 1;
+        QFile::remove(folder.path("s.xml"));
+        for (const QString &result : results) {
+            QFile::remove(folder.path(result));
+            if (older)
+                folder.write(result, "older");
+        }
+        // By turns at a share of the time that a run takes, and right behind one of the last calls that concern the folder.
+        const int watch = inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
+        const auto process = folder.launch(run);
+        if (step < kSteps) {
+            process->waitForFinished(int(wholeRun * step / kSteps));
+        } else {
+            inotify_add_watch(watch, QFile::encodeName(folder.path(".")).constData(), IN_CREATE | IN_MOVED_TO | IN_CLOSE_WRITE);
+            char event[4096];
+            for (int left = step - kSteps + 1; left > 0 && !process->waitForFinished(0);)
+                if (read(watch, event, sizeof(inotify_event) + NAME_MAX + 1) > 0)
+                    --left;
+        }
+        close(watch);
+        process->kill();
+        process->waitForFinished();
+        killed += process->exitStatus() == QProcess::CrashExit;
+
+        for (std::size_t i = 0; i < 3; ++i) {
+            EXPECT_EQ(folder.content(sources[i]), sourceBytes[i]);
+            const QByteArray result = folder.content(results[i]);
+            EXPECT_TRUE(result == resultBytes[i] || result == (older ? "older" : "") ||
+                        (results[i] == "c_dehazed.jpg" && isWhole(results[i]))) // its XMP comes last
+                << results[i] << ' ' << result.size();
+        }
+        EXPECT_TRUE(folder.content("s.xml").isEmpty() || folder.content("s.xml") == settings);
+        for (const QString &name : folder.files())
+            EXPECT_TRUE(name.startsWith("s.xml") || std::count(sources.begin(), sources.end(), name) ||
+                        std::count(results.begin(), results.end(), name))
+                << name;
+    }
+    EXPECT_GE(killed, kSteps) << "the runs ended too soon for the test to tell";
+    EXPECT_EQ(folder.run(run).code, 0);
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_EQ(folder.content(results[i]), resultBytes[i]);
+}
+
+TEST_F(ProgramFaults, two_programs_on_one_photograph)
+{
+    folder.photograph("a.tif", 300, 200, VImage::Rgb, 16);
+    ASSERT_EQ(folder.run({"a.tif", "--strength", "0"}).code, 0);
+    const QByteArray source = folder.content("a.tif"), whole = folder.content("a_dehazed.tif");
+    for (int round = 0; round < 6; ++round) {
+        const bool overwrite = round % 2;
+        QFile::remove(folder.path("a_dehazed.tif"));
+        const Said said =
+            folder.shell(QString("one() { \"$V\" a.tif --strength 0 --quiet --settings s.xml %1; echo =$?; }; one & one; wait")
+                             .arg(overwrite ? "--overwrite" : ""));
+        if (overwrite) {
+            EXPECT_EQ(said.out, "=0\n=0\n") << said.err;
+        } else {
+            EXPECT_TRUE(said.out.contains("=0\n")) << said.err;
+            EXPECT_EQ(said.out.count("=1\n"), said.err.count("is there already. Give --overwrite")) << said.err;
+        }
+        EXPECT_EQ(folder.content("a.tif"), source);
+        EXPECT_EQ(folder.content("a_dehazed.tif"), whole);
+        EXPECT_TRUE(folder.content("s.xml").endsWith("</veilaway>\n"));
+        EXPECT_THAT(folder.files(), testing::ElementsAre("a.tif", "a_dehazed.tif", "s.xml"));
+    }
+}
+
+TEST_F(ProgramFaults, names_of_any_letters)
+{
+    const QStringList names{" two  blanks ", "quotes\"'`", "line\nfeed\r\ttab", "%1 %2 %%",
+                            "$(x);*?[a]\\",  "<a>&amp;",   "bell\a\x1b",        QStringLiteral("Ж霧é e\u0301 \U0001F32B"),
+                            "-dash"};
+    QStringList photographs, results;
+    for (const QString &name : names) {
+        photographs << name + ".png";
+        results << folder.path(name + "_dehazed.png");
+        folder.photograph(photographs.last(), 16, 12);
+    }
+    const QStringList options{"--strength", "0", "--json", "--settings", "s.xml"};
+    const auto resultsIn = [](const Said &said) {
+        QStringList named;
+        for (const QString &line : said.out.split('\n', Qt::SkipEmptyParts))
+            named << QJsonDocument::fromJson(line.toUtf8()).object()["result"].toString();
+        return named;
+    };
+    const Said first = folder.run(options + QStringList{"--"} + photographs);
+    EXPECT_EQ(first.code, 0) << first.err;
+    EXPECT_THAT(resultsIn(first), testing::UnorderedElementsAreArray(results));
+    // And back out of the settings file.
+    const Said again = folder.run({"--settings", "s.xml", "--json", "--overwrite"});
+    EXPECT_EQ(again.code, 0) << again.err;
+    EXPECT_THAT(resultsIn(again), testing::UnorderedElementsAreArray(results));
+    for (const QString &result : results)
+        EXPECT_TRUE(QFile::exists(result)) << result;
+    EXPECT_EQ(folder.files().size(), 2 * names.size() + 1);
+}
+
+TEST_F(ProgramFaults, a_name_that_is_no_utf_8_is_refused)
+{
+    // It does not come through the interface of the plug-in.
+    folder.photograph("plain.png", 16, 12);
+    const Said said = folder.shell("n=$(printf 'odd\\377.png'); mkdir \"$n.d\"; cp plain.png \"$n\"; cp plain.png \"$n.d\"; "
+                                   "\"$V\" \"$n\" plain.png --strength 0; echo =$?; "
+                                   "cd \"$n.d\"; \"$V\" plain.png --strength 0; echo =$?; ls; cd ..; rm -r \"$n\" \"$n.d\"");
+    EXPECT_TRUE(said.out.endsWith("=1\nplain.png\n")) << said.out;
+    EXPECT_EQ(said.out.count("=1\n"), 2);
+    EXPECT_EQ(said.err.count(QRegularExpression("veilaway: (odd.*|plain).png: Its name or that of a folder[^\n]*Rename it.\n")),
+              2)
+        << said.err;
+    EXPECT_THAT(folder.files(), testing::ElementsAre("plain.png", "plain_dehazed.png"));
+}
+
+TEST_F(ProgramFaults, a_photograph_that_the_solver_can_not_take_is_written_as_it_was)
+{
+    VImage image(40, 30, VImage::Rgb, 32, /*clear=*/true);
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 40; ++x)
+            std::fill_n(reinterpret_cast<float *>(image.PixelAddress(x, y)), 3, 0.2f + 0.02f * float(y));
+    reinterpret_cast<float *>(image.PixelAddress(20, 15))[1] = std::numeric_limits<float>::quiet_NaN();
+    image.Save(folder.path("nan.tif"), "tif", -1, QString());
+    const Said said = folder.run({"nan.tif", "--strength", "90"});
+    EXPECT_EQ(said.code, 0) << said.err;
+    const auto result = PhotoLoader::decode(folder.path("nan_dehazed.tif"));
+    for (int y = 0; y < 30; ++y)
+        ASSERT_EQ(std::memcmp(result->image().PixelAddress(0, y), image.PixelAddress(0, y), 40 * 12), 0) << y;
+}
