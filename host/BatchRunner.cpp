@@ -1,18 +1,22 @@
 #include "BatchRunner.h"
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <limits>
 #include <memory>
 #include <new>
+#include <optional>
 #include <thread>
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QThread>
 
 #include "BatchPlan.h"
+#include "TransposedRun.h"
 #include "VException.h"
 #include "XmpCarrier.h"
 
@@ -50,13 +54,23 @@ qint64 freeMemory()
     return std::max<qint64>(bytes, 0);
 }
 
-/// What one photograph takes at most. Two moments of the engine can be the highest: the sparse system, whose size is the same for
-/// every photograph (measured: 150 MB), beside the source and the working image of 16 bytes a pixel; and the last step, with map
-/// and guides in its place.
-qint64 memoryFor(const PhotoFacts &facts)
+/// What one photograph takes at most, `facts` being those that the engine sees, for source pixels of `sourceBytes`. The source
+/// and the working image of 16 bytes a pixel are there throughout. Beside them there is first the sparse system, whose size is
+/// the same for every photograph (measured: 150 MB), and at last the map of 4 bytes a pixel, with guide and map of the level
+/// before: the copy of 100,000 pixels, doubled for as long as it stays narrower. To turn a picture takes it twice, or 12 bytes a
+/// pixel of coefficients, which is less than all that.
+qint64 memoryFor(const PhotoFacts &facts, int sourceBytes, int strength)
 {
+    constexpr int kWorkingBytes = 16, kMapBytes = 4;
     const qint64 pixels = qint64(facts.width) * facts.height;
-    return std::max(pixels * 22 + (qint64(200) << 20), pixels * 36);
+    const qint64 images = pixels * (sourceBytes + kWorkingBytes);
+    if (strength == 0 || pixels == 0)
+        return images;
+    qint64 level = std::max(1, int(std::sqrt(100000.0 * facts.width / facts.height)));
+    while (level * 2 < facts.width)
+        level *= 2;
+    const qint64 levelPixels = level * level * facts.height / facts.width;
+    return images + std::max(qint64(200) << 20, pixels * kMapBytes + levelPixels * (kWorkingBytes + kMapBytes));
 }
 
 bool stands(const QString &file)
@@ -159,13 +173,19 @@ void BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
 {
     if (stopping)
         endRun();
-    Photograph &photograph = *application.photograph(item.path);
-    const PhotoFacts facts = photograph.facts();
+    Photograph &original = *application.photograph(item.path);
+    const PhotoFacts facts = original.facts();
     const int limit = item.strength > 0 ? kRefusedWidth : 0;
-    if (limit > 0 && facts.width >= limit)
-        throw VException(Photograph::tooWide(limit), V_LOCATION);
+    const bool wide = limit > 0 && facts.width >= limit;
+    if (wide && facts.height >= limit)
+        throw VException(Photograph::tooLarge(limit), V_LOCATION);
 
-    const qint64 bytes = memoryFor(facts);
+    std::optional<TransposedRun> turned;
+    if (wide)
+        turned.emplace(application, item.path);
+    Photograph &photograph = turned ? turned->photograph() : original;
+
+    const qint64 bytes = memoryFor(photograph.facts(), PhotoLoader::pixelBytes(item.path), item.strength);
     reserve(bytes);
     VISettingsHandle settings = nullptr;
     const auto finish = [&](void *) {
@@ -192,6 +212,10 @@ void BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
         const std::lock_guard lock(reportMutex); // two elements may belong to one document
         settings = one2one.createSettings(item.settings);
     }
+    if (turned) {
+        turned->run(one2one, settings, item.result);
+        return;
+    }
     QString written;
     one2one.run(item.path, settings, &written);
     if (written != item.result || QFileInfo(written).size() == 0)
@@ -202,6 +226,15 @@ void BatchRunner::reserve(qint64 bytes)
 {
     std::unique_lock lock(memoryMutex);
     memoryFreed.wait(lock, [&] { return running == 0 || memoryLeft >= bytes; });
+    if (running == 0)
+        memoryForOne = freeMemory();
+    if (bytes > memoryForOne) {
+        const QLocale locale = application.locale();
+        const auto size = [&](qint64 count) { return locale.formattedDataSize(count, 1, QLocale::DataSizeSIFormat); };
+        throw VException(tr("It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.")
+                             .arg(size(bytes), size(memoryForOne)),
+                         V_LOCATION);
+    }
     ++running;
     memoryLeft -= bytes;
 }

@@ -35,7 +35,8 @@ struct BatchOutcome
 };
 
 /// Runs a process over many photographs, several at a time, so that reading, engine and writing of neighbours overlap. It goes on
-/// after a failure, and a failed or stopped photograph leaves no result behind, but an older one as it was.
+/// after a failure, and a failed or stopped photograph leaves no result behind, but an older one as it was. A photograph that
+/// would take more memory than is free when nothing else is in hand is refused.
 class BatchRunner
 {
     Q_DECLARE_TR_FUNCTIONS(BatchRunner)
@@ -64,7 +65,8 @@ public:
     /// Takes a stop back, before the next batch.
     void resume() { stopping = false; }
 
-    /// Wider photographs come back from the engine unchanged, since the size of its analysis copy wraps: they are refused.
+    /// From this width on photographs come back from the engine unchanged, since the size of its analysis copy wraps. They are
+    /// handed to it with rows for columns, and refused where their height is no smaller.
     static constexpr int kRefusedWidth = 21475;
 
 private:
@@ -80,8 +82,9 @@ private:
     std::atomic<bool> stopping{false};
     std::atomic<std::size_t> next{0};
     std::mutex reportMutex;
-    std::mutex memoryMutex; ///< Over the next three.
+    std::mutex memoryMutex; ///< Over the next four.
     std::condition_variable memoryFreed;
     qint64 memoryLeft = 0;
+    qint64 memoryForOne = 0; ///< What was free when last no photograph was in hand.
     int running = 0;
 };

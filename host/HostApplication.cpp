@@ -148,3 +148,17 @@ Photograph *HostApplication::photograph(const QString &path)
         entry = std::make_unique<Photograph>(key, &scaledImages);
     return entry.get();
 }
+
+Photograph *HostApplication::addTransposed(const QString &path)
+{
+    const std::lock_guard lock(photographMutex);
+    auto &entry = photographs[QFileInfo(path).absoluteFilePath()];
+    entry = std::make_unique<Photograph>(path, nullptr, /*rowsForColumns=*/true);
+    return entry.get();
+}
+
+void HostApplication::forget(const QString &path)
+{
+    const std::lock_guard lock(photographMutex);
+    photographs.erase(QFileInfo(path).absoluteFilePath());
+}

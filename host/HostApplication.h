@@ -58,6 +58,10 @@ public:
 
     /// The photograph behind imageDef.
     Photograph *photograph(const QString &path);
+    /// From now on the photograph at this path, which no one has asked for before, is shown with rows for columns.
+    Photograph *addTransposed(const QString &path);
+    /// Destroys the photograph of this path, which no one uses any longer.
+    void forget(const QString &path);
 
     QVariant value(const QString &group, const QString &key, const QVariant &fallback) override;
     void setValue(const QString &group, const QString &key, const QVariant &value) override;

@@ -1,12 +1,11 @@
 #include "PhotoLoader.h"
 
-#include <array>
-#include <cstring>
+#include <algorithm>
+#include <utility>
 
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
-#include <QtEndian>
 #include <exiv2/exiv2.hpp>
 
 #include "VException.h"
@@ -14,35 +13,21 @@
 
 namespace {
 
-/// Size of a Radiance picture: its header ends with an empty line, then comes "-Y <height> +X <width>".
-void sizeOfRadiance(const QByteArray &head, PhotoFacts &facts)
+struct Release
 {
-    const int end = head.indexOf("\n\n");
-    if (end < 0)
-        return;
-    const QList<QByteArray> words = head.mid(end + 2, 80).split('\n').first().simplified().split(' ');
-    if (words.size() != 4)
-        return;
-    const bool upright = words[0].endsWith('Y');
-    facts.width = words[upright ? 3 : 1].toInt();
-    facts.height = words[upright ? 1 : 3].toInt();
-}
+    void operator()(GflBitmap *record) const { gflFreeBitmap(record); }
+};
+using Record = std::unique_ptr<GflBitmap, Release>;
 
-/// Size of an OpenEXR picture: its attributes are name, type, byte count, value; "dataWindow" holds xMin, yMin, xMax, yMax.
-void sizeOfExr(const QByteArray &head, PhotoFacts &facts)
+/// A picture as the codec layer reads it: a code of the layer, and null on an error.
+std::pair<int, Record> load(const QString &path, std::uint32_t flags)
 {
-    const int at = head.indexOf(QByteArray("dataWindow\0box2i\0", 17));
-    if (at < 0 || at + 17 + 4 + 16 > head.size())
-        return;
-    std::array<qint32, 4> window{};
-    for (int i = 0; i < 4; ++i)
-        window[std::size_t(i)] = qFromLittleEndian<qint32>(head.constData() + at + 21 + 4 * i);
-    const qint64 width = qint64(window[2]) - window[0] + 1;
-    const qint64 height = qint64(window[3]) - window[1] + 1;
-    if (width > 0 && height > 0 && width <= INT_MAX && height <= INT_MAX) {
-        facts.width = int(width);
-        facts.height = int(height);
-    }
+    GflLoadParams params;
+    gflGetDefaultLoadParams(&params);
+    params.flags = flags;
+    GflBitmap *bitmap = nullptr;
+    const int code = gflLoadBitmapUTF8(path.toUtf8().constData(), &bitmap, &params, nullptr);
+    return {code, Record(bitmap)};
 }
 
 QString reasonFor(int code)
@@ -106,26 +91,33 @@ PhotoFacts PhotoLoader::describe(const QString &path)
         return describeRaw(path);
 
     PhotoFacts facts;
-    QFile file(path);
-    const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(64 * 1024) : QByteArray();
-    if (head.startsWith("#?"))
-        sizeOfRadiance(head, facts);
-    else if (head.startsWith("\x76\x2f\x31\x01"))
-        sizeOfExr(head, facts);
-    else
-        try {
-            const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
-            image->readMetadata();
-            facts.width = std::max(image->pixelWidth(), 0);
-            facts.height = std::max(image->pixelHeight(), 0);
-            const Exiv2::ExifData &exif = image->exifData();
-            const auto found = exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
-            const long orientation = found != exif.end() && found->count() > 0 ? found->toLong() : 1;
-            facts.orientation = orientation >= 1 && orientation <= 8 ? int(orientation) : 1;
-        } catch (const std::exception &) {
-            // What the file lacks its decoding will say, in better words.
-        }
+    try {
+        const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
+        image->readMetadata();
+        facts.width = std::max(image->pixelWidth(), 0);
+        facts.height = std::max(image->pixelHeight(), 0);
+        const Exiv2::ExifData &exif = image->exifData();
+        const auto found = exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
+        const long orientation = found != exif.end() && found->count() > 0 ? found->toLong() : 1;
+        facts.orientation = orientation >= 1 && orientation <= 8 ? int(orientation) : 1;
+    } catch (const std::exception &) {
+        // What the file lacks its decoder will say, in better words.
+    }
+    if (facts.width > 0 && facts.height > 0)
+        return facts;
+    // A format that the metadata library doesn't know: Radiance, OpenEXR, TIFF in its large form.
+    if (const Record head = load(path, GFL_LOAD_METADATA_ONLY).second) {
+        facts.width = head->width;
+        facts.height = head->height;
+    }
     return facts;
+}
+
+int PhotoLoader::pixelBytes(const QString &path)
+{
+    constexpr int kRgb16 = 6; // as camera raw is developed
+    const Record head = isRaw(path) ? nullptr : load(path, GFL_LOAD_METADATA_ONLY).second;
+    return head ? head->bytesPerPixel : kRgb16;
 }
 
 std::unique_ptr<DecodedPhoto> PhotoLoader::decode(const QString &path)
@@ -135,14 +127,11 @@ std::unique_ptr<DecodedPhoto> PhotoLoader::decode(const QString &path)
         developRaw(path, photo->pixels);
         return photo;
     }
-    GflLoadParams params;
-    gflGetDefaultLoadParams(&params);
-    GflBitmap *bitmap = nullptr;
-    const int code = gflLoadBitmapUTF8(path.toUtf8().constData(), &bitmap, &params, nullptr);
-    photo->bitmap.reset(bitmap);
+    auto [code, bitmap] = load(path, /*flags=*/0);
     if (code != GFL_NO_ERROR || !bitmap)
         throw VException(reasonFor(code), V_LOCATION);
     photo->pixels.Create(bitmap->width, bitmap->height, bitmap->type, bitmap->bitsPerComponent, /*clear=*/false, bitmap->data,
                          int(bitmap->bytesPerLine));
+    photo->bitmap.reset(bitmap.release());
     return photo;
 }

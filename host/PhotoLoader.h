@@ -46,6 +46,9 @@ public:
     /// Reads the head of the file only. Throws where `complaint` has something to say, and for camera raw that can't be opened.
     static PhotoFacts describe(const QString &path);
 
+    /// Bytes that a pixel takes in the image of `decode`, from the head of the file; 6 where that doesn't say.
+    static int pixelBytes(const QString &path);
+
     /// Reads the whole photograph. Pictures keep the depth and channels of their file; camera raw becomes 16-bit RGB or grey in
     /// sRGB, with the camera's white balance.
     static std::unique_ptr<DecodedPhoto> decode(const QString &path);

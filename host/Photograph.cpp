@@ -7,6 +7,7 @@
 
 #include "VException.h"
 #include "patiently.h"
+#include "transpose.h"
 
 namespace {
 
@@ -36,18 +37,24 @@ void orient(const VImage &source, int orientation, VImage &target)
 
 } // namespace
 
-QString Photograph::tooWide(int limit)
+QString Photograph::tooLarge(int limit)
 {
-    return tr("It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into "
-              "parts.")
+    return tr("It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or "
+              "cut it into parts.")
         .arg(limit - 1);
 }
 
 PhotoFacts Photograph::facts()
 {
     const std::lock_guard lock(mutex);
-    if (!head)
+    if (!head) {
         head = PhotoLoader::describe(file);
+        if (transposed) {
+            constexpr int kMirroredAtTheDiagonal[] = {1, 4, 3, 2, 5, 8, 7, 6};
+            std::swap(head->width, head->height);
+            head->orientation = kMirroredAtTheDiagonal[head->orientation - 1];
+        }
+    }
     return *head;
 }
 
@@ -68,9 +75,19 @@ int Photograph::height()
     return liesOnItsSide(known.orientation) ? known.width : known.height;
 }
 
-std::unique_ptr<DecodedPhoto> Photograph::decode()
+std::unique_ptr<DecodedPhoto> Photograph::load() const
 {
     auto photo = PhotoLoader::decode(file);
+    if (!transposed)
+        return photo;
+    auto turned = std::make_unique<DecodedPhoto>();
+    transpose(photo->image(), turned->image());
+    return turned;
+}
+
+std::unique_ptr<DecodedPhoto> Photograph::decode()
+{
+    auto photo = load();
     form = Form{photo->image().Bitmap()->componentsPerPixel, photo->image().BitsPerComponent()};
     return photo;
 }
@@ -114,7 +131,7 @@ ScaledImages::Image Photograph::makeScaled(int width, int height)
         photo = full;
     }
     if (!photo)
-        photo = PhotoLoader::decode(file);
+        photo = load();
     photo->image().Resample(small, lyingWidth, lyingHeight);
     if (orientation != 1)
         orient(lying, orientation, *upright);
@@ -171,7 +188,7 @@ VImage *Photograph::acquireFull(int)
         std::unique_ptr<DecodedPhoto> fresh = full ? nullptr : decode();
         image = full ? &full->image() : &fresh->image();
         if (refusedWidth > 0 && image->Width() >= refusedWidth)
-            throw VException(tooWide(refusedWidth), V_LOCATION);
+            throw VException(tooLarge(refusedWidth), V_LOCATION);
         if (fresh)
             full = std::move(fresh);
         ++fullUses;

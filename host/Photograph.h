@@ -26,8 +26,12 @@ public:
     enum class Use { Reading, Read, Released };
     using Watcher = std::function<void(Use)>;
 
-    /// `keptCopies`, which may be null, outlives the photograph and keeps its scaled images beyond their release.
-    explicit Photograph(const QString &path, ScaledImages *keptCopies = nullptr) : file(path), copies(keptCopies) {}
+    /// `keptCopies`, which may be null, outlives the photograph and keeps its scaled images beyond their release. With
+    /// `rowsForColumns` everything is as if the file were stored so: facts, sizes, images and orientation.
+    explicit Photograph(const QString &path, ScaledImages *keptCopies = nullptr, bool rowsForColumns = false)
+        : file(path), copies(keptCopies), transposed(rowsForColumns)
+    {
+    }
 
     const QString &path() const { return file; }
     /// The head of the file, read at the first call.
@@ -36,7 +40,7 @@ public:
     void watch(Watcher next) { watcher = std::move(next); }
     /// acquireFull refuses wider photographs; 0, the default, refuses none.
     void refuseFrom(int width) { refusedWidth = width; }
-    static QString tooWide(int limit);
+    static QString tooLarge(int limit);
     /// Frees the full image whatever holds it: a run that failed never releases.
     void dropFull();
 
@@ -67,12 +71,14 @@ private:
         int bits;
     };
 
-    std::unique_ptr<DecodedPhoto> decode(); ///< And notes the form. With `mutex` held.
+    std::unique_ptr<DecodedPhoto> load() const;
+    std::unique_ptr<DecodedPhoto> decode(); ///< Loads and notes the form. With `mutex` held.
     ScaledImages::Image makeScaled(int width, int height);
     Form knownForm();
 
     const QString file;
     ScaledImages *const copies;
+    const bool transposed;
     Watcher watcher;
     int refusedWidth = 0;
 

@@ -202,6 +202,20 @@ int gflSaveBitmapUTF8(const char *fileName, const GflBitmap *bitmap, const GflSa
     });
 }
 
+int gflTransposeJpegUTF8(const char *sourceName, const char *targetName)
+{
+    if (!sourceName || !targetName)
+        return GFL_ERROR_BAD_PARAMETERS;
+    return gfl::coded([&] {
+        const gfl::InputFile source(sourceName);
+        if (gfl::formatOf(source) != gflGetFormatIndexByName("jpeg"))
+            throw gfl::Failure{GFL_ERROR_UNKNOWN_FORMAT};
+        gfl::OutputFile target(targetName);
+        gfl::transposeJpeg(source, target);
+        target.commit();
+    });
+}
+
 void gflFreeFileInformation(GflFileInformation *information)
 {
     if (information)

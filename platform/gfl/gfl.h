@@ -100,6 +100,11 @@ int gflLoadBitmapUTF8(const char *fileName, GflBitmap **bitmap, const GflLoadPar
 /// stood under the name as it was.
 int gflSaveBitmapUTF8(const char *fileName, const GflBitmap *bitmap, const GflSaveParams *params);
 
+/// Writes the JPEG file `sourceName` anew with rows for columns: pixel (x, y) of the one is pixel (y, x) of the other. Nothing is
+/// decoded, so that nothing is lost, and doing it twice gives the same picture again; every segment of metadata goes along as it
+/// stands. `targetName` is written as by gflSaveBitmapUTF8. UNKNOWN_FORMAT for any other kind of file.
+int gflTransposeJpegUTF8(const char *sourceName, const char *targetName);
+
 void gflFreeFileInformation(GflFileInformation *information);
 
 bool gflBitmapHasICCProfile(const GflBitmap *bitmap);

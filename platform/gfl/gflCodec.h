@@ -237,6 +237,7 @@ struct WriteRequest
 };
 
 void writeJpeg(const WriteRequest &request);
+void transposeJpeg(const InputFile &source, OutputFile &target);
 void writePng(const WriteRequest &request);
 void writeTiff(const WriteRequest &request);
 void writeHdr(const WriteRequest &request);

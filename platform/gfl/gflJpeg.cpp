@@ -163,17 +163,21 @@ void inksToRgb(const std::uint8_t *inks, std::uint8_t *rgb, int width, bool inve
     }
 }
 
+// Before the library holds all coefficients of a file: each block takes a bit at least, or a fraction of one when the file is
+// arithmetically coded.
+void checkClaim(const jpeg_decompress_struct &info, std::uint64_t fileBytes)
+{
+    const std::uint64_t blocks = std::uint64_t(info.image_width) * info.image_height / 64;
+    if (blocks > fileBytes * 8 * (info.arith_code ? 64 : 1) + 1024)
+        throw Failure{GFL_ERROR_FILE_READ};
+}
+
 void readPixels(Reader &reader, NewBitmap &bitmap, std::uint64_t fileBytes)
 {
     jpeg_decompress_struct &info = reader.info;
     const bool inks = info.out_color_space == JCS_CMYK;
-    if (jpeg_has_multiple_scans(&info)) {
-        // The library holds all coefficients of such a file. Each block takes a bit at least, or a fraction of one when the file
-        // is arithmetically coded.
-        const std::uint64_t blocks = std::uint64_t(info.image_width) * info.image_height / 64;
-        if (blocks > fileBytes * 8 * (info.arith_code ? 64 : 1) + 1024)
-            throw Failure{GFL_ERROR_FILE_READ};
-    }
+    if (jpeg_has_multiple_scans(&info))
+        checkClaim(info, fileBytes);
     info.progress = &reader.progress;
     guarded(reader.error, [&] { jpeg_start_decompress(&info); });
 
@@ -268,6 +272,53 @@ void writeSegments(Writer &writer, const WriteRequest &request)
     if (!request.icc.empty() && request.icc.size() <= 255 * std::size_t(65519))
         guarded(writer.error,
                 [&] { jpeg_write_icc_profile(&writer.info, request.icc.data(), static_cast<unsigned>(request.icc.size())); });
+}
+
+/// Copies the segments as they stand, but for the two that the library writes itself.
+void copySegments(const Reader &reader, Writer &writer)
+{
+    const auto is = [](const jpeg_marker_struct &marker, int code, const char *name) {
+        return marker.marker == code && marker.data_length >= 5 && std::memcmp(marker.data, name, 5) == 0;
+    };
+    for (const jpeg_marker_struct *marker = reader.info.marker_list; marker; marker = marker->next)
+        if (!(writer.info.write_JFIF_header && is(*marker, JPEG_APP0, "JFIF")) &&
+            !(writer.info.write_Adobe_marker && is(*marker, JPEG_APP0 + 14, "Adobe")))
+            guarded(writer.error, [&] { jpeg_write_marker(&writer.info, marker->marker, marker->data, marker->data_length); });
+}
+
+/// Block (x, y) of the target is block (y, x) of the source with its frequencies mirrored likewise. Blocks at the edges are
+/// filled up to their full size in either file, and so stay at the edge. The target's rows have to be asked for in order.
+void transposeBlocks(jpeg_decompress_struct &info, const jpeg_component_info &component, jvirt_barray_ptr source,
+                     jvirt_barray_ptr target)
+{
+    auto *common = reinterpret_cast<j_common_ptr>(&info);
+    for (JDIMENSION x = 0; x < component.width_in_blocks; ++x) {
+        JBLOCKROW to = *info.mem->access_virt_barray(common, target, x, 1, TRUE);
+        for (JDIMENSION y = 0; y < component.height_in_blocks; ++y, ++to) {
+            const JCOEF *from = (*info.mem->access_virt_barray(common, source, y, 1, FALSE))[x];
+            for (int i = 0; i < DCTSIZE; ++i)
+                for (int j = 0; j < DCTSIZE; ++j)
+                    (*to)[i * DCTSIZE + j] = from[j * DCTSIZE + i];
+        }
+    }
+}
+
+JDIMENSION roundedUp(JDIMENSION count, int step)
+{
+    const auto unit = static_cast<JDIMENSION>(step);
+    return (count + unit - 1) / unit * unit;
+}
+
+void transposeParameters(jpeg_compress_struct &info)
+{
+    std::swap(info.image_width, info.image_height);
+    std::swap(info.X_density, info.Y_density);
+    for (int c = 0; c < info.num_components; ++c)
+        std::swap(info.comp_info[c].h_samp_factor, info.comp_info[c].v_samp_factor);
+    for (JQUANT_TBL *table : info.quant_tbl_ptrs)
+        for (int i = 0; table && i < DCTSIZE; ++i)
+            for (int j = 0; j < i; ++j)
+                std::swap(table->quantval[i * DCTSIZE + j], table->quantval[j * DCTSIZE + i]);
 }
 
 /// Whether the mark of the end stands behind the start of the pixels: a file that was cut short has lost it.
@@ -376,6 +427,49 @@ void writeJpeg(const WriteRequest &request)
         guarded(writer.error, [&] { jpeg_write_scanlines(&info, &row, 1); });
     }
     guarded(writer.error, [&] { jpeg_finish_compress(&info); });
+}
+
+void transposeJpeg(const InputFile &source, OutputFile &target)
+{
+    Reader reader(source);
+    Writer writer(target);
+    jpeg_decompress_struct &in = reader.info;
+    jpeg_compress_struct &out = writer.info;
+    guarded(reader.error, [&] {
+        jpeg_create_decompress(&in);
+        in.src = &reader.source.manager;
+        in.progress = &reader.progress;
+        for (int application = 0; application < 16; ++application)
+            jpeg_save_markers(&in, JPEG_APP0 + application, 0xFFFF);
+        jpeg_save_markers(&in, JPEG_COM, 0xFFFF);
+        jpeg_read_header(&in, TRUE);
+    });
+    checkClaim(in, source.size());
+    // The library makes these with its own, at the call that reads all coefficients.
+    jvirt_barray_ptr turned[MAX_COMPONENTS] = {};
+    guarded(reader.error, [&] {
+        for (int c = 0; c < in.num_components; ++c) {
+            const jpeg_component_info &component = in.comp_info[c];
+            turned[c] = in.mem->request_virt_barray(reinterpret_cast<j_common_ptr>(&in), JPOOL_IMAGE, FALSE,
+                                                    roundedUp(component.height_in_blocks, component.v_samp_factor),
+                                                    roundedUp(component.width_in_blocks, component.h_samp_factor),
+                                                    static_cast<JDIMENSION>(component.h_samp_factor));
+        }
+        jvirt_barray_ptr *stored = jpeg_read_coefficients(&in);
+        for (int c = 0; c < in.num_components; ++c)
+            transposeBlocks(in, in.comp_info[c], stored[c], turned[c]);
+    });
+    guarded(writer.error, [&] {
+        jpeg_create_compress(&out);
+        out.dest = &writer.target->manager;
+        jpeg_copy_critical_parameters(&in, &out);
+        out.write_JFIF_header = in.saw_JFIF_marker; // inks without Adobe's mean something else than with it
+        out.write_Adobe_marker = in.saw_Adobe_marker;
+        transposeParameters(out);
+        jpeg_write_coefficients(&out, turned);
+    });
+    copySegments(reader, writer);
+    guarded(writer.error, [&] { jpeg_finish_compress(&out); });
 }
 
 } // namespace gfl

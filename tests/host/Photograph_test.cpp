@@ -8,6 +8,21 @@
 #include "VException.h"
 #include "gfl.h"
 
+namespace {
+
+/// The digits that a small grey picture holds, row by row or column by column.
+std::string digits(const VImage &image, bool byColumns)
+{
+    std::string seen;
+    const int lines = byColumns ? image.Width() : image.Height(), length = byColumns ? image.Height() : image.Width();
+    for (int line = 0; line < lines; ++line)
+        for (int i = 0; i < length; ++i)
+            seen += char('0' + *image.PixelAddress(byColumns ? line : i, byColumns ? i : line));
+    return seen;
+}
+
+} // namespace
+
 TEST(Photograph, scaled_images_are_turned_as_a_viewer_shows_them)
 {
     gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr);
@@ -24,17 +39,18 @@ TEST(Photograph, scaled_images_are_turned_as_a_viewer_shows_them)
             file->exifData()["Exif.Image.Orientation"] = uint16_t(orientation);
             file->writeMetadata();
         }
-        Photograph photograph(folder.path("a.tif"));
-        const bool side = orientation >= 5;
-        EXPECT_EQ(photograph.width(), side ? 2 : 3);
-        EXPECT_EQ(photograph.height(), side ? 3 : 2);
-        VImage *scaled = photograph.acquireScaled(photograph.width(), photograph.height(), 1);
-        std::string seen;
-        for (int y = 0; y < scaled->Height(); ++y)
-            for (int x = 0; x < scaled->Width(); ++x)
-                seen += char('0' + *scaled->PixelAddress(x, y));
-        EXPECT_EQ(seen, shown[orientation - 1]) << orientation;
-        photograph.releaseScaled(photograph.width(), photograph.height(), 1);
+        for (const bool transposed : {false, true}) {
+            Photograph photograph(folder.path("a.tif"), nullptr, transposed);
+            const bool tall = (orientation >= 5) != transposed;
+            EXPECT_EQ(photograph.width(), tall ? 2 : 3);
+            EXPECT_EQ(photograph.height(), tall ? 3 : 2);
+            const VImage *scaled = photograph.acquireScaled(photograph.width(), photograph.height(), 1);
+            EXPECT_EQ(digits(*scaled, transposed), shown[orientation - 1]) << orientation << transposed;
+            photograph.releaseScaled(photograph.width(), photograph.height(), 1);
+            EXPECT_EQ(digits(*photograph.acquireFull(1), transposed), "123456"); // as stored
+            EXPECT_EQ(photograph.facts().width, transposed ? 2 : 3);
+            photograph.releaseFull(1);
+        }
     }
     gflLibraryExit();
 }

@@ -12,9 +12,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "HazeState.h"
 #include "PhotoLoader.h"
+#include "RemoveHaze.h"
 #include "TestFolder.h"
 #include "gfl.h"
+#include "transpose.h"
+#include "workingForm.h"
 
 namespace {
 
@@ -151,6 +155,9 @@ TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
     folder.write("empty.png", "");
     folder.write("text.jpg", "no picture");
     folder.photograph("wide.png", 21475, 2, VImage::Grey);
+    const QByteArray radiance("#?RADIANCE\nFORMAT=32-bit_rle_rgbe\n\n-Y ");
+    folder.write("large.hdr", radiance + "21475 +X 21475\n");
+    folder.write("vast.hdr", radiance + "4000000 +X 20000\n");
     folder.photograph("cut.png");
     folder.write("cut.png", folder.content("cut.png").left(150));
     folder.photograph("liar.png");
@@ -168,7 +175,8 @@ TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
         {"blocked.png", "folder"},
         {"empty.png", "empty"},
         {"text.jpg", "known format"},
-        {"wide.png", "21474"},
+        {"large.hdr", "21474"},
+        {"vast.hdr", "TB of memory, and [0-9.]+ .B are free"},
         {"cut.png", "damaged"},
         {"liar.jpg", "suffix"},
         {"dangling.png", "link"},
@@ -197,9 +205,80 @@ TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
     EXPECT_EQ(folder.content("hard.png"), hard);
     EXPECT_EQ(folder.content("hard_dehazed.png"), hard);
 
-    // Without haze to take away, width is no matter; what an old result was gives way when it is told to.
+    // Without haze to take away, size is no matter; what an old result was gives way when it is told to.
     EXPECT_EQ(folder.run({"wide.png", "there.png", "--overwrite", "--strength", "0"}).code, 0);
     EXPECT_NE(folder.content("there_dehazed.png"), "older");
+}
+
+TEST_F(Veilaway, a_wide_photograph_gets_what_the_engine_makes_of_it_with_rows_for_columns)
+{
+    constexpr int kWidth = 21475, kHeight = 13;
+    const struct
+    {
+        const char *name;
+        unsigned short type;
+        int bits;
+    } cases[] = {
+        {"a.jpg", VImage::Rgb, 8},   {"c.png", VImage::Rgba, 16}, {"d.tif", VImage::Rgba, 8}, {"e.tiff", VImage::Grey, 16},
+        {"f.psd", VImage::Rgba, 16}, {"g.exr", VImage::Rgb, 32},  {"h.hdr", VImage::Rgb, 32},
+    };
+    QStringList arguments{"--strength", "90", "--jobs", "2"};
+    for (const auto &photo : cases) {
+        folder.photograph(photo.name, kWidth, kHeight, photo.type, photo.bits);
+        if (photo.bits < 32) { // the others hold no block of EXIF
+            const auto file = Exiv2::ImageFactory::open(QFile::encodeName(folder.path(photo.name)).toStdString());
+            file->readMetadata();
+            file->exifData()["Exif.Image.Orientation"] = uint16_t(6);
+            file->exifData()["Exif.Photo.PixelXDimension"] = uint32_t(kWidth);
+            file->writeMetadata();
+        }
+        arguments << photo.name;
+    }
+    // A shell's limit on the size of files stands for a full disk.
+    folder.write("a_dehazed.jpg", "older");
+    const QStringList before = folder.files();
+    const Said full = folder.shell("ulimit -f 8; \"$V\" a.jpg d.tif --overwrite --strength 90");
+    EXPECT_EQ(full.code, 1);
+    EXPECT_TRUE(contains(full.err, "Make room"));
+    EXPECT_FALSE(full.err.contains("/.veilaway")) << full.err;
+    EXPECT_EQ(folder.files(), before);
+    EXPECT_EQ(folder.content("a_dehazed.jpg"), "older");
+
+    const Said answer = folder.run(arguments + QStringList{"--overwrite"});
+    EXPECT_EQ(answer.code, 0) << answer.err;
+    EXPECT_EQ(answer.err.count('\n'), 1) << answer.err;
+    EXPECT_EQ(QDir(folder.path("")).entryList({".veilaway*"}, QDir::AllEntries | QDir::Hidden), QStringList());
+    for (const auto &photo : cases) {
+        VImage turned, working;
+        transpose(PhotoLoader::decode(folder.path(photo.name))->image(), turned);
+        toWorkingForm(turned, working);
+        HazeState state{};
+        state.strength = 90;
+        RemoveHaze(working, state);
+        const std::unique_ptr<float[]> map(state.transmission);
+        VImage reference, upright;
+        working.ConvertTo(reference, photo.type, photo.bits);
+        transpose(reference, upright);
+        const QString suffix = QString(photo.name).section('.', 1).toLower();
+        upright.Save(folder.path("reference." + suffix), suffix, -1, folder.path(photo.name));
+
+        const QString result = QString(photo.name).section('.', 0, 0) + "_dehazed." + suffix;
+        const QByteArray bytes = folder.content(result), wanted = folder.content("reference." + suffix);
+        if (!suffix.startsWith('j')) {
+            EXPECT_EQ(bytes, wanted) << result;
+            continue;
+        }
+        // Up to its tables, which hold steps for the other direction, the metadata is the same; pixels are rounded elsewhere.
+        const int tables = wanted.indexOf("\xff\xdb");
+        EXPECT_EQ(bytes.left(tables), wanted.left(tables)) << result;
+        const auto seen = PhotoLoader::decode(folder.path(result)),
+                   want = PhotoLoader::decode(folder.path("reference." + suffix));
+        int furthest = 0;
+        for (int y = 0; y < kHeight; ++y)
+            for (int x = 0; x < kWidth; ++x)
+                furthest = std::max(furthest, std::abs(*seen->image().PixelAddress(x, y) - *want->image().PixelAddress(x, y)));
+        EXPECT_LE(furthest, 24) << result; // a step of the finest pattern
+    }
 }
 
 TEST_F(Veilaway, a_failed_save_leaves_no_file_and_the_older_result)

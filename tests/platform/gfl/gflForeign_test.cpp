@@ -339,7 +339,29 @@ struct JpegCase
     bool adobe;
     bool progressive;
     int components;
+    int across = 1; ///< Sampling factors of the first component.
+    int down = 1;
 };
+
+/// Rows for columns, in the coefficients: the same picture the other way, and the very same one when it is done twice.
+void expectTransposes(const std::string &name, const GflBitmap &picture)
+{
+    Picture turned, again;
+    const std::string turnedName = name + ".turned.jpg", againName = name + ".again.jpg";
+    ASSERT_EQ(gflTransposeJpegUTF8(name.c_str(), turnedName.c_str()), GFL_NO_ERROR);
+    ASSERT_EQ(gflTransposeJpegUTF8(turnedName.c_str(), againName.c_str()), GFL_NO_ERROR);
+    ASSERT_EQ(load(turnedName, turned), GFL_NO_ERROR);
+    ASSERT_EQ(load(againName, again), GFL_NO_ERROR);
+    ASSERT_EQ(turned->width, picture.height);
+    ASSERT_EQ(turned->height, picture.width);
+    constexpr double kRounding = 3 / 255.0; // of the transform's two passes, whose order has changed, and of thin colours
+    for (int y = 0; y < picture.height; ++y)
+        for (int x = 0; x < picture.width; ++x)
+            for (int k = 0; k < picture.componentsPerPixel; ++k) {
+                ASSERT_NEAR(fractionAt(*turned, y, x, k), fractionAt(picture, x, y, k), kRounding) << x << " " << y << " " << k;
+                ASSERT_EQ(fractionAt(*again, x, y, k), fractionAt(picture, x, y, k)) << x << " " << y << " " << k;
+            }
+}
 
 TEST_F(GflTest, JpegFilesOfManyForms)
 {
@@ -349,30 +371,39 @@ TEST_F(GflTest, JpegFilesOfManyForms)
                               {JCS_CMYK, JCS_CMYK, false, false, 3},
                               {JCS_RGB, JCS_RGB, true, false, 3},
                               {JCS_RGB, JCS_YCbCr, false, true, 3},
+                              {JCS_RGB, JCS_YCbCr, false, false, 3, 2, 2},
+                              {JCS_RGB, JCS_YCbCr, false, true, 3, 2, 1},
+                              {JCS_RGB, JCS_YCbCr, false, false, 3, 1, 2},
                               {JCS_GRAYSCALE, JCS_GRAYSCALE, false, true, 1}}) {
-        SCOPED_TRACE(std::to_string(c.stored) + (c.adobe ? " Adobe" : "") + (c.progressive ? " progressive" : ""));
+        SCOPED_TRACE(std::to_string(c.across) + std::to_string(c.down) + " " + std::to_string(c.stored) +
+                     (c.adobe ? " Adobe" : "") + (c.progressive ? " progressive" : ""));
         jpeg_compress_struct info{};
         jpeg_error_mgr errors;
         info.err = jpeg_std_error(&errors);
         jpeg_create_compress(&info);
         std::FILE *file = std::fopen(path("a.jpg").c_str(), "wb");
         jpeg_stdio_dest(&info, file);
-        info.image_width = 40;
-        info.image_height = 24;
+        info.image_width = 41; // blocks at the edges that are not full
+        info.image_height = 27;
         info.in_color_space = c.space;
         info.input_components = c.space == JCS_CMYK ? 4 : c.space == JCS_RGB ? 3 : 1;
         jpeg_set_defaults(&info);
         jpeg_set_colorspace(&info, c.stored);
         jpeg_set_quality(&info, 100, TRUE);
         info.write_Adobe_marker = c.adobe;
+        info.comp_info[0].h_samp_factor = c.across;
+        info.comp_info[0].v_samp_factor = c.down;
+        for (int k = 1; k < info.num_components; ++k)
+            info.comp_info[k].h_samp_factor = info.comp_info[k].v_samp_factor = 1;
         if (c.progressive)
             jpeg_simple_progression(&info);
         jpeg_start_compress(&info, TRUE);
         const std::uint8_t values[] = {200, 100, 50, 220};
-        for (int y = 0; y < 24; ++y) {
+        for (int y = 0; y < 27; ++y) {
             FileBytes row;
-            for (int x = 0; x < 40; ++x)
-                row.insert(row.end(), values, values + info.input_components);
+            for (int x = 0; x < 41; ++x)
+                for (int k = 0; k < info.input_components; ++k)
+                    row.push_back(static_cast<std::uint8_t>(values[k] + (x - 20) - (y - 12)));
             JSAMPROW pointer = row.data();
             jpeg_write_scanlines(&info, &pointer, 1);
         }
@@ -389,7 +420,22 @@ TEST_F(GflTest, JpegFilesOfManyForms)
             const double want = c.space != JCS_CMYK ? ink : c.adobe ? ink * key : (1 - ink) * (1 - key);
             EXPECT_NEAR(fractionAt(*read, 20, 12, k), want, 4 / 255.0) << k;
         }
+        expectTransposes(path("a.jpg"), *read);
     }
+    FileBytes whole = photograph();
+    const FileBytes remark{0xFF, 0xFE, 0, 5, 'F', 'o', 'g'};
+    whole.insert(whole.begin() + 2, remark.begin(), remark.end());
+    const auto turned = [&](const std::string &name, const FileBytes &bytes) {
+        writeFile(path(name), bytes);
+        return gflTransposeJpegUTF8(path(name).c_str(), path("b.jpg").c_str());
+    };
+    EXPECT_EQ(turned("cut.jpg", FileBytes(whole.begin(), whole.end() - 100)), GFL_ERROR_FILE_READ);
+    EXPECT_EQ(turned("a.png", {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'}), GFL_ERROR_UNKNOWN_FORMAT);
+    EXPECT_FALSE(std::filesystem::exists(path("b.jpg")));
+    ASSERT_EQ(turned("a.jpg", whole), GFL_NO_ERROR);
+    const FileBytes written = readFile(path("b.jpg"));
+    for (const FileBytes &piece : {remark, exifBlock(/*bigEndian=*/true), iptcBlock(), profileBlock()})
+        EXPECT_NE(std::search(written.begin(), written.end(), piece.begin(), piece.end()), written.end()) << piece.size();
 }
 
 void append(FileBytes &bytes, const std::string &text)

@@ -1,0 +1,58 @@
+#include "TransposedRun.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include "VException.h"
+#include "gfl.h"
+#include "throwGflError.h"
+#include "transpose.h"
+
+TransposedRun::TransposedRun(HostApplication &host, const QString &path) : application(host), source(path)
+{
+    // A memory card's file system may have no links.
+    for (const QString &place : {QFileInfo(path).absolutePath(), QDir::tempPath()}) {
+        folder = std::make_unique<QTemporaryDir>(place + QStringLiteral("/.veilaway-XXXXXX"));
+        link = folder->filePath(QFileInfo(path).fileName());
+        if (folder->isValid() && QFile::link(path, link)) {
+            transposed = application.addTransposed(link);
+            return;
+        }
+    }
+    throw VException(tr("No temporary folder can be made for it: %1.").arg(folder->errorString()), V_LOCATION);
+}
+
+TransposedRun::~TransposedRun()
+{
+    application.forget(link);
+}
+
+void TransposedRun::run(VIPluginOne2One &process, VISettingsHandle settings, const QString &result)
+{
+    const QString expected = folder->filePath(QFileInfo(result).fileName());
+    QString written;
+    try {
+        process.run(link, settings, &written);
+        if (written != expected || QFileInfo(written).size() == 0)
+            throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, expected), V_LOCATION);
+        turnBack(written, result);
+    } catch (const VException &failure) {
+        const QString message = failure.message;
+        throw VException(QString(message).replace(folder->path(), QFileInfo(result).absolutePath()), failure.location);
+    }
+}
+
+void TransposedRun::turnBack(const QString &written, const QString &result) const
+{
+    const int code = gflTransposeJpegUTF8(written.toUtf8().constData(), result.toUtf8().constData());
+    if (code != GFL_ERROR_UNKNOWN_FORMAT) {
+        throwGflError(code, result, V_LOCATION);
+        return;
+    }
+    std::unique_ptr<DecodedPhoto> photo = PhotoLoader::decode(written);
+    VImage upright;
+    transpose(photo->image(), upright);
+    photo.reset();
+    upright.Save(result, QFileInfo(result).suffix(), /*quality=*/-1, source);
+}
