@@ -1,0 +1,121 @@
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <utility>
+
+#include "FuzzTarget.h"
+#include "XmpCarrier.h"
+#include "gfl.h"
+
+// Photographs of every format, with their metadata: a result code and nothing worse, and whatever was read can be written.
+namespace {
+
+constexpr std::size_t kMemory = 64 << 20; // what a picture may take here
+int fresh = 0;                            // what new memory is filled with
+
+void *takeMemory(std::size_t bytes, void *)
+{
+    void *const block = bytes > kMemory ? nullptr : std::malloc(bytes);
+    return block ? std::memset(block, fresh, bytes) : nullptr;
+}
+void *changeMemory(void *block, std::size_t bytes, void *)
+{
+    return bytes > kMemory ? nullptr : std::realloc(block, bytes);
+}
+void giveMemory(void *block, void *)
+{
+    std::free(block);
+}
+
+struct FreeBitmap
+{
+    void operator()(GflBitmap *bitmap) const { gflFreeBitmap(bitmap); }
+};
+using Picture = std::unique_ptr<GflBitmap, FreeBitmap>;
+
+std::pair<int, Picture> load(const std::string &name, std::uint32_t flags, GflFileInformation *information = nullptr)
+{
+    GflLoadParams params;
+    gflGetDefaultLoadParams(&params);
+    params.flags = flags;
+    GflBitmap *bitmap = nullptr;
+    const int code = gflLoadBitmapUTF8(name.c_str(), &bitmap, &params, information);
+    require((code == GFL_NO_ERROR) == (bitmap != nullptr), "a picture, or a code that says why not");
+    return {code, Picture(bitmap)};
+}
+
+/// A pixel with all the metadata of the picture.
+Picture pixelWith(const GflBitmap &source)
+{
+    Picture pixel(static_cast<GflBitmap *>(std::calloc(1, sizeof(GflBitmap))));
+    pixel->type = 0x0010;
+    pixel->width = pixel->height = 1;
+    pixel->bytesPerLine = pixel->lineAlignment = 4;
+    pixel->bitsPerComponent = 8;
+    pixel->componentsPerPixel = pixel->bytesPerPixel = 3;
+    pixel->transparentIndex = -1;
+    pixel->data = std::calloc(1, 4);
+    gflBitmapCopyICCProfile(&source, pixel.get());
+    gflBitmapSetIPTC(pixel.get(), gflBitmapGetIPTC(&source));
+    GflExif *const exif = gflBitmapGetEXIF2(&source);
+    gflBitmapSetEXIF2(pixel.get(), exif);
+    gflFreeEXIF2(exif);
+    return pixel;
+}
+
+std::uint32_t digestOf(const GflBitmap &bitmap)
+{
+    std::uint32_t value = 0;
+    for (int y = 0; y < bitmap.height; ++y)
+        value = value * 31 +
+                digest(static_cast<const std::uint8_t *>(bitmap.data) + std::size_t(bitmap.bytesPerLine) * std::size_t(y),
+                       std::size_t(bitmap.width) * bitmap.bytesPerPixel);
+    return value;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t count)
+{
+    static const ScratchFolder folder;
+    static const int started = gflLibraryInitEx(takeMemory, changeMemory, giveMemory, nullptr);
+    require(started == GFL_NO_ERROR, "the layer starts");
+    const std::uint32_t choice = digest(bytes, count);
+
+    const std::string source = folder.write("source", bytes, count);
+    GflFileInformation head{}, body{};
+    const Picture described = load(source, GFL_LOAD_METADATA_ONLY, &head).second;
+    const Picture picture = load(source, GFL_LOAD_METADATA, &body).second;
+    if (picture) {
+        // A file that lacks no more than its end mark is read, but not described.
+        require(!described ||
+                    (head.width == body.width && head.height == body.height && head.bitsPerComponent == body.bitsPerComponent &&
+                     head.componentsPerPixel == body.componentsPerPixel),
+                "the description is that of the picture");
+        const std::uint32_t samples = digestOf(*picture);
+        fresh ^= 0xFF;
+        if (choice % 8 == 1)
+            require(digestOf(*load(source, GFL_LOAD_METADATA).second) == samples, "every sample comes from the file");
+    }
+    if (choice % 16 == 0) // what there is of metadata in a camera's raw file
+        load(folder.write("source.nef", bytes, count), GFL_LOAD_METADATA_ONLY);
+    if (!described || choice / 16 % 4 != 0)
+        return 0;
+
+    const bool whole = picture && std::int64_t{picture->width} * picture->height <= 4096;
+    const Picture carrier = whole ? Picture() : pixelWith(*described);
+    GflSaveParams params;
+    gflGetDefaultSaveParams(&params);
+    params.flags = GFL_SAVE_ICC_PROFILE;
+    params.formatIndex = static_cast<std::int32_t>(choice / 64 % 6);
+    const std::string result = folder.path("result");
+    require(gflSaveBitmapUTF8(result.c_str(), whole ? picture.get() : carrier.get(), &params) == GFL_NO_ERROR,
+            "what was read can be written");
+    require(load(result, GFL_LOAD_METADATA).first == GFL_NO_ERROR, "what was written can be read");
+    if (choice / 384 % 4 == 0) {
+        carryXmp(QString::fromStdString(source), QString::fromStdString(result));
+        require(load(result, GFL_LOAD_METADATA).first == GFL_NO_ERROR, "and with its XMP too");
+    }
+    return 0;
+}
