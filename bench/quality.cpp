@@ -120,7 +120,7 @@ public:
             value = std::isnan(value) ? 0.0f : value;
         add(VImage(width, height, VImage::Grey, 32, /*clear=*/false, map.data(), width * 4));
     }
-    void save(const QString &file) { sheet.Save(file, "jpeg", 10, {}); }
+    void save(const QString &file) { sheet.Save(file, "jpeg", 8, {}); }
 
 private:
     static constexpr int kColumns = 4;

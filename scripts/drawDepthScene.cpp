@@ -98,7 +98,7 @@ void grow(std::vector<Twig> &twigs, float u, float v, float angle, float length,
 // Bare branches, down to a pixel or two, before hills and sky.
 Hit twigs(float u, float v)
 {
-    constexpr int kBins = 128; // columns of the picture, each with the twigs that reach into it
+    constexpr int kBins = 512; // columns of the picture, each with the twigs that reach into it
     static const std::vector<std::vector<Twig>> bins = [] {
         std::vector<Twig> all;
         grow(all, -0.02f, 0.75f, -0.5f, 0.28f, 0.020f, 1);
@@ -351,10 +351,9 @@ void drawRow(const Design &design, DepthScene &scene, int y)
         Vector hazy, truth;
         float transmission = 0;
         for (int sample = 0; sample < kSamples * kSamples; ++sample) {
-            const float u = kAspect * (static_cast<float>(x * kSamples + sample % kSamples) + 0.5f) /
-                            static_cast<float>(scene.width * kSamples);
-            const float v =
-                (static_cast<float>(y * kSamples + sample / kSamples) + 0.5f) / static_cast<float>(scene.height * kSamples);
+            const int column = x * kSamples + sample % kSamples, row = y * kSamples + sample / kSamples;
+            const float u = kAspect * (static_cast<float>(column) + 0.5f) / static_cast<float>(scene.width * kSamples);
+            const float v = (static_cast<float>(row) + 0.5f) / static_cast<float>(scene.height * kSamples);
             const Vector airlight = design.glow ? design.airlight + design.glow(u, v) : design.airlight;
             const Hit hit = design.at(u, v);
             const float clear = std::exp(-hit.depth);
