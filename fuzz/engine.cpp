@@ -263,7 +263,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t cou
         stages(aim, source.image);
     else
         recover(data, source.image, samples);
-    if (alone && aim % 200000 == 0)
+    if (alone && aim % 1000000 == 0)
         wholeWay(source.image);
     return 0;
 }

@@ -10,6 +10,8 @@
 #include <vector>
 
 // After <cstdio>, which jpeglib.h takes for granted.
+#include <OpenEXR/ImfRgbaFile.h>
+#include <OpenEXR/ImfTiledRgbaFile.h>
 #include <jpeglib.h>
 #include <png.h>
 #include <tiffio.h>
@@ -266,6 +268,22 @@ void writePngs(const std::string &folder)
         }
 }
 
+/// EXR files in luminance and chroma, and in tiles.
+void writeExrs(const std::string &folder)
+{
+    const std::vector<Imf::Rgba> pixels(6 * 4, Imf::Rgba(0.5f, 0.25f, 2.0f, 1.0f));
+    for (const auto channels : {Imf::WRITE_Y, Imf::WRITE_YC, Imf::WRITE_YCA}) {
+        Imf::RgbaOutputFile file((folder + "/chroma" + std::to_string(channels) + ".exr").c_str(), 6, 4, channels);
+        file.setFrameBuffer(pixels.data(), 1, 6);
+        file.writePixels(4);
+    }
+    Imf::TiledRgbaOutputFile file((folder + "/tiled.exr").c_str(), 6, 4, 4, 4, Imf::MIPMAP_LEVELS);
+    for (int level = 0; level < file.numLevels(); ++level) {
+        file.setFrameBuffer(pixels.data(), 1, 6);
+        file.writeTiles(0, file.numXTiles(level) - 1, 0, file.numYTiles(level) - 1, level);
+    }
+}
+
 Bytes bigEndian(std::initializer_list<std::pair<unsigned, int>> numbers)
 {
     Bytes bytes;
@@ -356,6 +374,7 @@ try {
     writeTiffs(loading);
     writeJpegs(loading);
     writePngs(loading);
+    writeExrs(loading);
     writeByHand(loading);
     writeTexts(folder);
 } catch (const std::exception &failure) {

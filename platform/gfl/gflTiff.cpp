@@ -683,11 +683,12 @@ BitmapPointer readTiff(const ReadRequest &request)
 {
     const OpenTiff open(request.file);
     const Layout layout = readLayout(open.get());
-    // A row of a fax takes a bit at least; the library makes white ones, without a word, of what the file lacks.
+    // A fax has one bit a pixel, and a row of it takes a bit at least; the library makes white rows, without a word, of what the
+    // file lacks.
     const auto compression = field<std::uint16_t>(open.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
     const bool fax =
         (compression >= COMPRESSION_CCITTRLE && compression <= COMPRESSION_CCITTFAX4) || compression == COMPRESSION_CCITTRLEW;
-    if (fax && layout.height > 8 * request.file.size())
+    if (fax && (layout.bits != 1 || layout.samples != 1 || layout.height > 8 * request.file.size()))
         throw Failure{GFL_ERROR_FILE_READ};
     NewBitmap bitmap(request.file, layout.width, layout.height, layout.form);
     const double perInch = field<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_INCH         ? 1.0
