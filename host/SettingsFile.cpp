@@ -1,5 +1,7 @@
 #include "SettingsFile.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -17,6 +19,14 @@ const QString kRoot = QStringLiteral("veilaway");
 const QString kEntry = QStringLiteral("photo");
 const QString kPath = QStringLiteral("path");
 const QString kStrength = QStringLiteral("hazeRemove");
+
+/// False for a text with letters that XML can't hold, in whatever spelling.
+bool fitsXml(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar letter) {
+        return letter >= ' ' ? letter < QChar(0xFFFE) : letter == '\t' || letter == '\n' || letter == '\r';
+    });
+}
 
 } // namespace
 
@@ -93,11 +103,20 @@ void SettingsFile::save()
 {
     if (!changed)
         return;
+    QDomDocument fit = document.cloneNode().toDocument();
+    QString unfit;
+    for (QDomElement entry = fit.documentElement().firstChildElement(kEntry), next; !entry.isNull(); entry = next) {
+        next = entry.nextSiblingElement(kEntry);
+        if (const QString path = entry.attribute(kPath); !fitsXml(path)) {
+            unfit = path;
+            fit.documentElement().removeChild(entry);
+        }
+    }
     QSaveFile output(file);
     QByteArray text;
     QTextStream stream(&text);
     stream.setCodec("UTF-8"); // and a declaration to match, whatever the one of the file that was read is worth
-    document.save(stream, /*indent=*/4, QDomNode::EncodingFromTextStream);
+    fit.save(stream, /*indent=*/4, QDomNode::EncodingFromTextStream);
     stream.flush();
     // Flushed here: where the disk is full, a commit of what is still in the buffer succeeds, with an empty file.
     if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size() || !output.flush() || !output.commit())
@@ -106,6 +125,11 @@ void SettingsFile::save()
                 .arg(file, output.errorString()),
             V_LOCATION);
     changed = false;
+    if (!unfit.isEmpty())
+        throw VException(
+            tr("The settings file \"%1\" can't hold the photograph \"%2\": its name has control characters. Rename it.")
+                .arg(file, unfit),
+            V_LOCATION);
 }
 
 QString SettingsFile::absolute(const QDomElement &entry) const

@@ -650,6 +650,10 @@ Beispiele:
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
         <translation>Die Einstellungsdatei „%1“ kann nicht geschrieben werden: %2. Schaffen Sie Platz oder verschaffen Sie sich dort das Schreibrecht.</translation>
     </message>
+    <message>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <translation>Die Einstellungsdatei „%1“ kann das Foto „%2“ nicht aufnehmen: Sein Name enthält Steuerzeichen. Benennen Sie es um.</translation>
+    </message>
 </context>
 <context>
     <name>WizardWindow</name>

@@ -654,6 +654,10 @@ Ejemplos:
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
         <translation>No se puede escribir el archivo de ajustes «%1»: %2. Libere espacio o asígnese permiso para escribir ahí.</translation>
     </message>
+    <message>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <translation>El archivo de ajustes «%1» no puede incluir la foto «%2»: su nombre contiene caracteres de control. Cámbiele el nombre.</translation>
+    </message>
 </context>
 <context>
     <name>WizardWindow</name>

@@ -656,6 +656,10 @@ Exemples&#xa0;:
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
         <translation>Impossible d&apos;écrire le fichier de réglages «&#xa0;%1&#xa0;»&#xa0;: %2. Libérez de la place ou accordez-vous le droit d&apos;écrire à cet endroit.</translation>
     </message>
+    <message>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <translation>Le fichier de réglages « %1 » ne peut pas contenir la photo « %2 » : son nom contient des caractères de contrôle. Renommez-la.</translation>
+    </message>
 </context>
 <context>
     <name>WizardWindow</name>

@@ -650,6 +650,10 @@ Esempi:
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
         <translation>Impossibile scrivere il file di impostazioni &quot;%1&quot;: %2. Liberare spazio o attribuirsi il permesso di scrivervi.</translation>
     </message>
+    <message>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <translation>Il file delle impostazioni &quot;%1&quot; non può contenere la foto &quot;%2&quot;: il suo nome ha caratteri di controllo. Rinominatela.</translation>
+    </message>
 </context>
 <context>
     <name>WizardWindow</name>

@@ -647,6 +647,10 @@ Examples:
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
         <translation>設定ファイル「%1」を書き込めません: %2。空き容量を増やすか、書き込みの許可を設定してください。</translation>
     </message>
+    <message>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <translation>設定ファイル「%1」に写真「%2」を記録できません。名前に制御文字が含まれています。名前を変更してください。</translation>
+    </message>
 </context>
 <context>
     <name>WizardWindow</name>

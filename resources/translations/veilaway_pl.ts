@@ -655,6 +655,10 @@ Przykłady:
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
         <translation>Nie można zapisać pliku ustawień „%1”: %2. Należy zwolnić miejsce lub nadać sobie prawo zapisu w tym folderze.</translation>
     </message>
+    <message>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <translation>Plik ustawień „%1” nie może zawierać zdjęcia „%2”: jego nazwa zawiera znaki sterujące. Zmień nazwę.</translation>
+    </message>
 </context>
 <context>
     <name>WizardWindow</name>

@@ -655,6 +655,10 @@ Examples:
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
         <translation>Файл настроек «%1» нельзя записать: %2. Освободите место или разрешите себе запись в эту папку.</translation>
     </message>
+    <message>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <translation>Файл настроек «%1» не может содержать снимок «%2»: в его имени есть управляющие символы. Переименуйте его.</translation>
+    </message>
 </context>
 <context>
     <name>WizardWindow</name>

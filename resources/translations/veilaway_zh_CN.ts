@@ -640,6 +640,10 @@ _dehazed。
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
         <translation>无法写入设置文件“%1”：%2。请腾出空间，或为自己授予在该处写入的权限。</translation>
     </message>
+    <message>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <translation>设置文件“%1”无法记录照片“%2”：其名称含有控制字符。请重命名。</translation>
+    </message>
 </context>
 <context>
     <name>WizardWindow</name>

@@ -640,6 +640,10 @@ _dehazed。
         <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
         <translation>無法寫入設定檔「%1」：%2。請騰出空間，或為自己授予在該處寫入的權限。</translation>
     </message>
+    <message>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <translation>設定檔「%1」無法記錄照片「%2」：其名稱含有控制字元。請重新命名。</translation>
+    </message>
 </context>
 <context>
     <name>WizardWindow</name>

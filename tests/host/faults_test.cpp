@@ -103,7 +103,7 @@ TEST_F(BatchFaults, a_photograph_that_changes_meanwhile)
     QString path;
     const auto gone = [&] { QFile::remove(path); };
     const auto fill = [&](const QByteArray &bytes) {
-        return [&] {
+        return [&path, gone, bytes] {
             gone();
             QFile file(path);
             file.open(QIODevice::WriteOnly);
@@ -392,8 +392,13 @@ TEST_F(ProgramFaults, two_programs_on_one_photograph)
 
 TEST_F(ProgramFaults, names_of_any_letters)
 {
-    const QStringList names{" two  blanks ", "quotes\"'`", "line\nfeed\r\ttab", "%1 %2 %%",
-                            "$(x);*?[a]\\",  "<a>&amp;",   "bell\a\x1b",        QStringLiteral("Ж霧é e\u0301 \U0001F32B"),
+    const QStringList names{" two  blanks ",
+                            "quotes\"'`",
+                            "line\nfeed\r\ttab",
+                            "%1 %2 %%",
+                            "$(x);*?[a]\\",
+                            "<a>&amp;",
+                            QStringLiteral("Ж霧é e\u0301 \U0001F32B"),
                             "-dash"};
     QStringList photographs, results;
     for (const QString &name : names) {
@@ -418,6 +423,17 @@ TEST_F(ProgramFaults, names_of_any_letters)
     for (const QString &result : results)
         EXPECT_TRUE(QFile::exists(result)) << result;
     EXPECT_EQ(folder.files().size(), 2 * names.size() + 1);
+}
+
+TEST_F(ProgramFaults, a_name_that_the_settings_can_not_hold)
+{
+    folder.photograph("bell\a.png", 16, 12);
+    folder.photograph("plain.png", 16, 12);
+    const Said said = folder.run({"bell\a.png", "plain.png", "--strength", "0", "--settings", "s.xml"});
+    EXPECT_EQ(said.code, 1);
+    EXPECT_TRUE(said.err.contains("s.xml\" can't hold the photograph \"bell?.png\"")) << said.err;
+    EXPECT_TRUE(QFile::exists(folder.path("bell\a_dehazed.png")));
+    EXPECT_EQ(folder.run({"--settings", "s.xml", "--overwrite"}).code, 0) << "of the others it keeps the strength";
 }
 
 TEST_F(ProgramFaults, a_name_that_is_no_utf_8_is_refused)
