@@ -11,24 +11,20 @@
 namespace gfl {
 namespace {
 
-// The XMP toolkit beneath exiv2 starts once a process, and takes turns by this lock.
+// The XMP toolkit beneath exiv2 serves one thread at a time. A lock function for it is the application's to give, once a process:
+// one of this layer would be left behind when a plug-in is unloaded. So the reads of this layer take turns by themselves.
 std::mutex xmpMutex;
 
-void lockXmp(void *, bool lock)
-{
-    if (lock)
-        xmpMutex.lock();
-    else
-        xmpMutex.unlock();
-}
-
+/// No message of exiv2 on the console of a program that knows nothing of it, for as long as this file is loaded.
 void startExiv2()
 {
-    static std::once_flag once;
-    std::call_once(once, [] {
-        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
-        Exiv2::XmpParser::initialize(lockXmp, nullptr);
-    });
+    struct Muted
+    {
+        Muted() { Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute); }
+        ~Muted() { Exiv2::LogMsg::setLevel(before); }
+        const Exiv2::LogMsg::Level before = Exiv2::LogMsg::level();
+    };
+    static const Muted muted;
 }
 
 std::uint32_t number(const std::uint8_t *bytes, int count, bool bigEndian)
@@ -245,7 +241,10 @@ FileMetadata metadataFromFile(const std::string &fileName, bool raw)
         const auto image = Exiv2::ImageFactory::open(std::filesystem::absolute(fileName).string(), /*useCurl=*/false);
         if (!image.get())
             throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
-        image->readMetadata();
+        {
+            const std::lock_guard lock(xmpMutex);
+            image->readMetadata();
+        }
         result.width = static_cast<int>(image->pixelWidth());
         result.height = static_cast<int>(image->pixelHeight());
         Exiv2::ExifData &data = image->exifData();

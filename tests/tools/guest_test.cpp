@@ -4,17 +4,22 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDomDocument>
 #include <QFile>
 #include <QPluginLoader>
 #include <QPointer>
+#include <QTemporaryDir>
 
 #include <dlfcn.h>
+#include <exiv2/exiv2.hpp>
 #include <gmock/gmock.h>
 
+#include "ImageDef.h"
 #include "VCpuTopology.h"
 #include "VIApplication.h"
 #include "VIPluginLibrary.h"
 #include "VIPluginOne2One.h"
+#include "VImage.h"
 #include "VImageCacheRegistry.h"
 #include "VImageSettings.h"
 #include "VLog.h"
@@ -66,10 +71,46 @@ Q_DECL_EXPORT bool qRegisterResourceData(int version, const unsigned char *tree,
 
 namespace {
 
+/// A small hazy slope.
+class Photograph : public ImageDef
+{
+public:
+    Photograph() : image(48, 32, VImage::Rgb, 8)
+    {
+        for (int y = 0; y < 32; ++y)
+            for (int i = 0; i < 48 * 3; ++i)
+                image.PixelAddress(0, y)[i] = static_cast<unsigned char>(210 - 3 * y + (i / 5 + y) % 4 * y);
+    }
+    QString displayName() override { return {}; }
+    int height() override { return image.Height(); }
+    int width() override { return image.Width(); }
+    int channelCount() override { return 3; }
+    int bitsPerChannel() override { return 8; }
+    bool needsTiffOutput() override { return false; }
+    VImage *acquireScaled(int, int, int) override { return nullptr; }
+    void releaseScaled(int, int, int) override {}
+    VImage *acquireFull(int) override { return &image; }
+    void releaseFull(int) override {}
+
+    VImage image;
+};
+
 class Host : public QCoreApplication, public VIApplication
 {
 public:
     using QCoreApplication::QCoreApplication;
+
+    /// The photograph's file, a TIFF with XMP, since there the metadata library is asked for all that it can do.
+    QString writePhotograph()
+    {
+        const QString path = folder.filePath("photo.tif");
+        photograph.image.Save(path, "tif", -1, QString());
+        const auto file = Exiv2::ImageFactory::open(path.toStdString());
+        file->readMetadata();
+        file->xmpData()["Xmp.xmp.Rating"] = "4";
+        file->writeMetadata();
+        return path;
+    }
 
     void *qt_metacast(const char *name) override
     {
@@ -79,11 +120,15 @@ public:
     void setValue(const QString &, const QString &, const QVariant &) override {}
     QLocale locale() override { return QLocale(QLocale::German, QLocale::Germany); }
     void loadTranslator(const QString &) override {}
-    ImageDef *imageDef(const QString &) override { return nullptr; }
+    ImageDef *imageDef(const QString &) override { return &photograph; }
     VImageContext *imageLibraryContext() override { return lends ? &imageContext : nullptr; }
     VUIContext *interfaceLibraryContext() override { return lends ? &interfaceContext : nullptr; }
 
     bool lends = false;
+
+private:
+    QTemporaryDir folder;
+    Photograph photograph;
 };
 
 std::size_t entriesOf(const char *folder)
@@ -95,7 +140,7 @@ std::size_t entriesOf(const char *folder)
 class Guest : public testing::TestWithParam<bool>
 {
 protected:
-    static void loadOnce()
+    static void loadOnce(const QString &photograph = QString())
     {
         registered.clear();
         QPluginLoader loader(QStringLiteral(PLUGIN_FILE));
@@ -110,6 +155,16 @@ protected:
         const VISettingsHandle settings = process->createSettings(QDomElement());
         QDomElement element = process->settingsToElement(settings);
         process->destroySettings(settings);
+        if (!photograph.isEmpty()) {
+            QDomDocument document;
+            QDomElement strong = document.createElement("Veilaway");
+            strong.setAttribute("hazeRemove", 80);
+            const VISettingsHandle own = process->createSettings(strong);
+            QString result;
+            process->run(photograph, own, &result);
+            process->destroySettings(own);
+            EXPECT_TRUE(QFile::exists(result));
+        }
         ASSERT_TRUE(loader.unload());
         EXPECT_EQ(name, "Veilaway");
         EXPECT_EQ(guid, "8E04C3B7-2AF1-4D96-A37C-F1B86C05D24E");
@@ -132,13 +187,25 @@ TEST_P(Guest, LeavesNothingBehind)
     const QPointer<VLog> log = logInstance;
     threadCount = 3; // the host's own wish
 
-    loadOnce(); // what the system itself keeps from the first time on
+    const QString photograph = host.writePhotograph();
+    Exiv2::XmpParser::terminate(); // as for a host that has not used it yet
+    const auto messages = Exiv2::LogMsg::level();
+    loadOnce(photograph); // what the system itself keeps from the first time on
     const std::size_t threads = entriesOf("/proc/self/task");
     const std::size_t files = entriesOf("/proc/self/fd");
     for (int round = 0; round < 10; ++round)
-        loadOnce();
+        loadOnce(round == 5 ? photograph : QString());
     EXPECT_EQ(entriesOf("/proc/self/task"), threads);
     EXPECT_EQ(entriesOf("/proc/self/fd"), files);
+
+    // The metadata library goes on without the plug-in.
+    EXPECT_EQ(Exiv2::LogMsg::level(), messages);
+    Exiv2::XmpProperties::registerNs("http://example.org/host/", "host");
+    Exiv2::XmpData xmp;
+    xmp["Xmp.host.word"] = "fog";
+    std::string packet;
+    EXPECT_EQ(Exiv2::XmpParser::encode(packet, xmp), 0);
+    Exiv2::XmpParser::terminate();
 
     EXPECT_EQ(QDir::searchPaths("Data").value(0), "/host");
     EXPECT_EQ(QDir::searchPaths("UI"), QStringList(GetParam() ? "/host" : ":/UI"));
