@@ -1,3 +1,6 @@
+#include <utility>
+#include <vector>
+
 #include <QCheckBox>
 #include <QFrame>
 #include <QGridLayout>
@@ -7,6 +10,7 @@
 
 #include <gmock/gmock.h>
 
+#include "HandOverLocker.h"
 #include "PreviewTest.h"
 #include "QAnimatedLabel.h"
 #include "RemoveHaze.h"
@@ -270,6 +274,57 @@ TEST_F(Panel, a_parent_without_the_slot_costs_nothing)
         EXPECT_TRUE(loneWatch.finish());
         delete lone;
     }
+}
+
+TEST_F(Panel, a_storm_of_changes_with_images_that_come_and_go)
+{
+    constexpr int kChanges = 1000;
+    struct Slot
+    {
+        int width, height;
+        HazeState state; ///< Owns its map.
+    };
+    std::vector<Slot> slots = {{kWidth, kHeight, {}}, {33, 71, {}}, {90, 20, {}}, {50, 50, {}}};
+    for (Slot &slot : slots)
+        slot.state = recordWithMap(slot.width, slot.height);
+#ifndef NIMBRA_THREAD_SANITIZER // for which an estimate takes half a minute
+    delete[] std::exchange(slots.back().state.transmission, nullptr);
+#endif
+    std::vector<float *> maps;
+    for (const Slot &slot : slots)
+        maps.push_back(slot.state.transmission);
+    std::vector<int> wanted(slots.size(), 0);
+    std::size_t current = slots.size();
+    for (int change = 0; change < kChanges; ++change) {
+        if (change % 17 == 0) { // as the page does it
+            current = std::size_t(change / 17) % slots.size();
+            panel->setImage(landscape(slots[current].width, slots[current].height));
+            panel->settings = &slots[current].state;
+            strength->setValue(slots[current].state.strength);
+            panel->beforeImage = screenImage(*panel->previewImage);
+            panel->computePreview();
+        }
+        const int runsBefore = watch.runs;
+        wanted[current] = 1 + (wanted[current] + 37) % 100;
+        strength->setValue(wanted[current]);
+        if (change % 5 == 0)
+            QCoreApplication::processEvents();
+        if (change % 50 == 0)
+            ASSERT_TRUE(watch.until([&] { return watch.runs > runsBefore; }));
+    }
+    ASSERT_TRUE(watch.finish());
+    EXPECT_GE(watch.runs, kChanges / 50);
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+        EXPECT_EQ(slots[i].state.strength, wanted[i]);
+        if (maps[i])
+            EXPECT_EQ(slots[i].state.transmission, maps[i]);
+    }
+    ASSERT_NE(slots[current].state.transmission, nullptr);
+    RemoveHaze(*panel->previewImage, slots[current].state); // the picture is done with
+    EXPECT_EQ(panel->afterImage, screenImage(*panel->previewImage));
+    panel->releaseRecord();
+    for (const Slot &slot : slots)
+        delete[] slot.state.transmission;
 }
 
 TEST_F(Panel, closing_during_a_run)
