@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "VException.h"
+#include "VTempManager.h"
 #include "gfl.h"
 #include "throwGflError.h"
 #include "transpose.h"
@@ -20,7 +21,11 @@ TransposedRun::TransposedRun(HostApplication &host, const QString &path) : appli
             return;
         }
     }
-    throw VException(tr("No temporary folder can be made for it: %1.").arg(folder->errorString()), V_LOCATION);
+    throw VException(
+        tr("No temporary folder with a link to it can be made, neither beside it nor in \"%1\". Make room there, and "
+           "see that you may write there.")
+            .arg(QDir::tempPath()),
+        V_LOCATION);
 }
 
 TransposedRun::~TransposedRun()
@@ -38,14 +43,16 @@ void TransposedRun::run(VIPluginOne2One &process, VISettingsHandle settings, con
             throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, expected), V_LOCATION);
         turnBack(written, result);
     } catch (const VException &failure) {
-        const QString message = failure.message;
-        throw VException(QString(message).replace(folder->path(), QFileInfo(result).absolutePath()), failure.location);
+        QString message = failure.message;
+        throw VException(message.replace(folder->path(), QFileInfo(result).absolutePath()), failure.location);
     }
 }
 
 void TransposedRun::turnBack(const QString &written, const QString &result) const
 {
     const int code = gflTransposeJpegUTF8(written.toUtf8().constData(), result.toUtf8().constData());
+    if (code == GFL_ERROR_FILE_CREATE || code == GFL_ERROR_FILE_WRITE) // the reason is a clearer sentence than the code
+        checkFileWritable(result, QFileInfo(written).size(), V_LOCATION);
     if (code != GFL_ERROR_UNKNOWN_FORMAT) {
         throwGflError(code, result, V_LOCATION);
         return;
