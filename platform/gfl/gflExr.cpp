@@ -151,6 +151,15 @@ void checkClaims(const InputFile &file)
             stream.read(bytes, 8);
             if (8 + std::uint64_t(little32(bytes)) * little32(bytes + 4) * 4 != size)
                 throw Failure{GFL_ERROR_FILE_READ};
+        } else if (type == "floatvector" && size % 4 != 0) {
+            throw Failure{GFL_ERROR_FILE_READ};
+        } else if (type == "stringvector") {
+            while (stream.offset() < next) {
+                stream.read(bytes, 4);
+                stream.seek(stream.offset() + little32(bytes));
+            }
+            if (stream.offset() != next)
+                throw Failure{GFL_ERROR_FILE_READ};
         } else if (name == "dataWindow" && size == 16) {
             stream.read(bytes, 16);
             width = std::int64_t(std::int32_t(little32(bytes + 8))) - std::int32_t(little32(bytes)) + 1;
@@ -164,12 +173,13 @@ void checkClaims(const InputFile &file)
         } else if (type == "chlist") {
             constexpr std::uint64_t kPerChannel = 18; // at least, for a name of one letter
             mostChannels = size / kPerChannel + 1;
-            while (stream.offset() < next && !text().empty()) {
+            bool ended = false; // by an empty name, which the library reads even behind the attribute's end
+            while (stream.offset() < next && !(ended = text().empty())) {
                 stream.read(bytes, 16); // type, flags, x and y sampling
                 const double samples = std::max(1.0, double(little32(bytes + 8))) * std::max(1.0, double(little32(bytes + 12)));
                 pixelBytes += (little32(bytes) == Imf::HALF ? 2 : 4) / samples;
             }
-            if (stream.offset() != next)
+            if (!ended || stream.offset() != next)
                 throw Failure{GFL_ERROR_FILE_READ};
         }
         stream.seek(next);
