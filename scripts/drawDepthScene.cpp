@@ -313,6 +313,7 @@ struct Design
     Vector airlight;
     float noise = 0; ///< Standard deviation of the sensor's noise where the picture is white.
     bool (*inside)(float u, float v) = nullptr;
+    bool filled = false; ///< What is outside, under alpha 0, is the scene and not black.
     Vector (*glow)(float u, float v) = nullptr;
 };
 
@@ -329,11 +330,12 @@ constexpr Design kDesigns[] = {
     {"roofs, evening air", roofs, {0.93f, 0.71f, 0.47f}},
     {"wide sky", wideSky, {0.82f, 0.86f, 0.90f}},
     {"ridges, noise", ridges, kWhite, 0.025f},
-    {"ridges, panorama", ridges, kWhite, 0, insidePanorama},
+    {"ridges, black border", ridges, kWhite, 0, insidePanorama},
+    {"ridges, filled border", ridges, kWhite, 0, insidePanorama, /*filled=*/true},
     {"landscape", nullptr, {kSceneAirlight[0], kSceneAirlight[1], kSceneAirlight[2]}},
     {"even fog, no sky", fogFromAbove, kWhite},
     {"white walls", whiteWalls, kWhite},
-    {"night, lamps", night, {0.10f, 0.11f, 0.14f}, 0, nullptr, lampLight},
+    {"night, lamps", night, {0.10f, 0.11f, 0.14f}, 0, nullptr, /*filled=*/false, lampLight},
 };
 
 void store(Vector colour, float alpha, float *pixel)
@@ -366,7 +368,7 @@ void drawRow(const Design &design, DepthScene &scene, int y)
         const float v = (static_cast<float>(y) + 0.5f) / static_cast<float>(scene.height);
         const float alpha = !design.inside || design.inside(u, v) ? 1.0f : 0.0f;
         const std::size_t at = static_cast<std::size_t>(y) * static_cast<std::size_t>(scene.width) + static_cast<std::size_t>(x);
-        store(hazy * alpha, alpha, &scene.hazy[4 * at]);
+        store(design.filled ? hazy : hazy * alpha, alpha, &scene.hazy[4 * at]);
         store(truth * alpha, alpha, &scene.truth[4 * at]);
         scene.transmission[at] = alpha > 0 ? transmission : std::numeric_limits<float>::quiet_NaN();
     }

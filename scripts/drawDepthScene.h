@@ -15,7 +15,7 @@ struct DepthScene
 {
     int width = 0;
     int height = 0;
-    std::vector<float> hazy;         ///< R, G, B, A a pixel, 0..1, row by row; A is 0 or 1, and colours under 0 are black.
+    std::vector<float> hazy;         ///< R, G, B, A a pixel, 0..1, row by row; A is 0 or 1; the border scenes have 0.
     std::vector<float> truth;        ///< The same without haze and noise.
     std::vector<float> transmission; ///< One a pixel, 0..1; 0 in the sky, not a number where A is 0.
     std::array<float, 3> airlight{}; ///< Far from any lamp, where there are lamps.

@@ -100,7 +100,7 @@ TEST(PictureMeasures, SceneIsMixedFromItsParts)
                     ++faults;
         }
         EXPECT_EQ(faults, 0u) << qPrintable(name);
-        EXPECT_EQ(transparent > 0, name.contains("panorama")) << qPrintable(name);
+        EXPECT_EQ(transparent > 0, name.contains("border")) << qPrintable(name);
     }
     EXPECT_TRUE(drawDepthScene("nothing of ours", 60, 40).hazy.empty());
 }
