@@ -36,21 +36,42 @@ qint64 numberIn(const char *file)
     return whole ? number : -1;
 }
 
+/// The sum of the numbers behind these words at the beginning of a line.
+qint64 sumIn(const char *file, const std::vector<QByteArray> &words)
+{
+    qint64 sum = 0;
+    QFile input(file);
+    if (input.open(QIODevice::ReadOnly))
+        for (const QByteArray &line : input.readAll().split('\n'))
+            if (const QList<QByteArray> parts = line.simplified().split(' ');
+                parts.size() > 1 && std::count(words.begin(), words.end(), parts[0]) > 0)
+                sum += parts[1].toLongLong();
+    return sum;
+}
+
 /// Bytes that may be taken without pushing anything out: the system's own estimate, less where a container's limit is nearer. Two
 /// gigabytes where neither can be read.
 qint64 freeMemory()
 {
-    qint64 bytes = qint64(2) << 30;
-    QFile input("/proc/meminfo");
-    if (input.open(QIODevice::ReadOnly))
-        for (const QByteArray &line : input.readAll().split('\n'))
-            if (line.startsWith("MemAvailable:"))
-                bytes = line.mid(13).simplified().split(' ').first().toLongLong() * 1024;
-    for (const auto &[limit, used] :
-         {std::pair("/sys/fs/cgroup/memory.max", "/sys/fs/cgroup/memory.current"),
-          std::pair("/sys/fs/cgroup/memory/memory.limit_in_bytes", "/sys/fs/cgroup/memory/memory.usage_in_bytes")})
-        if (numberIn(limit) >= 0 && numberIn(used) >= 0)
-            bytes = std::min(bytes, numberIn(limit) - numberIn(used));
+    const qint64 available = sumIn("/proc/meminfo", {"MemAvailable:"}) * 1024;
+    qint64 bytes = available > 0 ? available : qint64(2) << 30;
+    const struct
+    {
+        const char *limit, *used, *details;
+        std::vector<QByteArray> givingWay; // the pages of files count as used
+    } groups[] = {
+        {"/sys/fs/cgroup/memory.max",
+         "/sys/fs/cgroup/memory.current",
+         "/sys/fs/cgroup/memory.stat",
+         {"inactive_file", "active_file"}},
+        {"/sys/fs/cgroup/memory/memory.limit_in_bytes",
+         "/sys/fs/cgroup/memory/memory.usage_in_bytes",
+         "/sys/fs/cgroup/memory/memory.stat",
+         {"total_inactive_file", "total_active_file"}},
+    };
+    for (const auto &group : groups)
+        if (const qint64 limit = numberIn(group.limit), used = numberIn(group.used); limit >= 0 && used >= 0)
+            bytes = std::min(bytes, limit - used + sumIn(group.details, group.givingWay));
     return std::max<qint64>(bytes, 0);
 }
 

@@ -78,6 +78,10 @@
         <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
         <translation>Das Foto wurde geändert, verschoben oder gelöscht, während der Dunst entfernt wurde. Legen Sie es zurück und beginnen Sie von vorn.</translation>
     </message>
+    <message>
+        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <translation>Das Foto braucht etwa %1 Arbeitsspeicher, frei sind %2. Schließen Sie andere Programme oder verkleinern Sie das Foto.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -398,8 +402,8 @@ Beispiele:
 <context>
     <name>Photograph</name>
     <message>
-        <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation>Das Foto ist zu breit: Dunst kann nur aus Fotos von höchstens %1 Pixeln Breite entfernt werden. Verkleinern Sie es oder zerlegen Sie es in Teile.</translation>
+        <source>It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or cut it into parts.</source>
+        <translation>Das Foto ist zu groß: Dunst kann nur aus Fotos entfernt werden, deren Breite oder Höhe höchstens %1 Pixel beträgt. Verkleinern Sie es oder zerlegen Sie es in Teile.</translation>
     </message>
 </context>
 <context>
@@ -653,6 +657,17 @@ Beispiele:
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
         <translation>Die Einstellungsdatei „%1“ kann das Foto „%2“ nicht aufnehmen: Sein Name enthält Steuerzeichen. Benennen Sie es um.</translation>
+    </message>
+</context>
+<context>
+    <name>TransposedRun</name>
+    <message>
+        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <translation>Weder neben dem Foto noch in „%1“ kann ein temporärer Ordner mit einer Verknüpfung angelegt werden. Schaffen Sie dort Platz und prüfen Sie, ob Sie dort schreiben dürfen.</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>Das Plug-in hat „%1“ statt „%2“ geschrieben</translation>
     </message>
 </context>
 <context>

@@ -78,6 +78,10 @@
         <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
         <translation>La foto se modificó, se movió o se borró mientras se quitaba la bruma. Vuelva a ponerla en su sitio y empiece de nuevo.</translation>
     </message>
+    <message>
+        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <translation>La foto necesita unos %1 de memoria y hay %2 libres. Cierre otros programas o reduzca la foto.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -402,8 +406,8 @@ Ejemplos:
 <context>
     <name>Photograph</name>
     <message>
-        <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation>La foto es demasiado ancha: solo se puede quitar la bruma de fotos de hasta %1 píxeles de ancho. Redúzcala o divídala en partes.</translation>
+        <source>It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or cut it into parts.</source>
+        <translation>La foto es demasiado grande: solo se puede quitar la bruma de fotos cuyo ancho o alto no supere los %1 píxeles. Redúzcala o divídala en partes.</translation>
     </message>
 </context>
 <context>
@@ -657,6 +661,17 @@ Ejemplos:
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
         <translation>El archivo de ajustes «%1» no puede incluir la foto «%2»: su nombre contiene caracteres de control. Cámbiele el nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>TransposedRun</name>
+    <message>
+        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <translation>No se puede crear una carpeta temporal con un enlace a la foto, ni junto a ella ni en «%1». Libere espacio allí y compruebe que tiene permiso para escribir.</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>El complemento ha escrito «%1» en lugar de «%2»</translation>
     </message>
 </context>
 <context>

@@ -78,6 +78,10 @@
         <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
         <translation>La photo a été modifiée, déplacée ou supprimée pendant que le voile était retiré. Remettez-la en place et recommencez.</translation>
     </message>
+    <message>
+        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <translation>La photo demande environ %1 de mémoire, et %2 sont libres. Fermez d&apos;autres programmes ou réduisez la photo.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -404,8 +408,8 @@ Exemples&#xa0;:
 <context>
     <name>Photograph</name>
     <message>
-        <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation>La photo est trop large&#xa0;: le voile ne peut être retiré que de photos d&apos;une largeur maximale de %1 pixels. Réduisez-la ou découpez-la en plusieurs parties.</translation>
+        <source>It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or cut it into parts.</source>
+        <translation>La photo est trop grande&#xa0;: le voile ne peut être retiré que de photos dont la largeur ou la hauteur ne dépasse pas %1 pixels. Réduisez-la ou découpez-la en plusieurs parties.</translation>
     </message>
 </context>
 <context>
@@ -658,7 +662,18 @@ Exemples&#xa0;:
     </message>
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
-        <translation>Le fichier de réglages « %1 » ne peut pas contenir la photo « %2 » : son nom contient des caractères de contrôle. Renommez-la.</translation>
+        <translation>Le fichier de réglages «&#xa0;%1&#xa0;» ne peut pas contenir la photo «&#xa0;%2&#xa0;»&#xa0;: son nom contient des caractères de contrôle. Renommez-la.</translation>
+    </message>
+</context>
+<context>
+    <name>TransposedRun</name>
+    <message>
+        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <translation>Aucun dossier temporaire avec un lien vers la photo ne peut être créé, ni à côté d&apos;elle ni dans «&#xa0;%1&#xa0;». Libérez-y de la place et vérifiez que vous avez le droit d&apos;y écrire.</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>Le module a écrit «&#xa0;%1&#xa0;» au lieu de «&#xa0;%2&#xa0;»</translation>
     </message>
 </context>
 <context>

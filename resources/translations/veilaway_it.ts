@@ -78,6 +78,10 @@
         <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
         <translation>La foto è stata modificata, spostata o cancellata mentre si toglieva la foschia. Rimettetela al suo posto e ricominciate.</translation>
     </message>
+    <message>
+        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <translation>La foto richiede circa %1 di memoria e ne sono liberi %2. Chiudere altri programmi o ridurre la foto.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -398,8 +402,8 @@ Esempi:
 <context>
     <name>Photograph</name>
     <message>
-        <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation>La foto è troppo larga: la foschia può essere rimossa da foto larghe al massimo %1 pixel. Ridurla o dividerla in parti.</translation>
+        <source>It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or cut it into parts.</source>
+        <translation>La foto è troppo grande: la foschia può essere rimossa da foto la cui larghezza o altezza sia al massimo di %1 pixel. Ridurla o dividerla in parti.</translation>
     </message>
 </context>
 <context>
@@ -653,6 +657,17 @@ Esempi:
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
         <translation>Il file delle impostazioni &quot;%1&quot; non può contenere la foto &quot;%2&quot;: il suo nome ha caratteri di controllo. Rinominatela.</translation>
+    </message>
+</context>
+<context>
+    <name>TransposedRun</name>
+    <message>
+        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <translation>Non è possibile creare una cartella temporanea con un collegamento alla foto, né accanto ad essa né in &quot;%1&quot;. Liberare spazio e verificare di avere il permesso di scrivervi.</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>Il plugin ha scritto &quot;%1&quot; invece di &quot;%2&quot;</translation>
     </message>
 </context>
 <context>

@@ -78,6 +78,10 @@
         <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
         <translation>かすみを取り除いている間に写真が変更、移動、または削除されました。元に戻してからやり直してください。</translation>
     </message>
+    <message>
+        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <translation>この写真には約 %1 のメモリが必要ですが、空きは %2 です。ほかのプログラムを終了するか、写真を縮小してください。</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -396,8 +400,8 @@ Examples:
 <context>
     <name>Photograph</name>
     <message>
-        <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation>幅が大きすぎます。ヘイズを除去できるのは幅 %1 ピクセルまでの写真です。縮小するか、分割してください。</translation>
+        <source>It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or cut it into parts.</source>
+        <translation>写真が大きすぎます。ヘイズを除去できるのは、幅または高さが %1 ピクセル以下の写真です。縮小するか、分割してください。</translation>
     </message>
 </context>
 <context>
@@ -650,6 +654,17 @@ Examples:
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
         <translation>設定ファイル「%1」に写真「%2」を記録できません。名前に制御文字が含まれています。名前を変更してください。</translation>
+    </message>
+</context>
+<context>
+    <name>TransposedRun</name>
+    <message>
+        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <translation>写真と同じ場所にも「%1」にも、写真へのリンクを含む一時フォルダーを作成できません。空き容量があり、書き込みが許可されていることを確認してください。</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>プラグインは「%2」ではなく「%1」に書き込みました。</translation>
     </message>
 </context>
 <context>

@@ -78,6 +78,10 @@
         <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
         <translation>Zdjęcie zostało zmienione, przeniesione lub usunięte podczas usuwania mgły. Przywróć je i zacznij od nowa.</translation>
     </message>
+    <message>
+        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <translation>Zdjęcie wymaga około %1 pamięci, a wolne jest %2. Należy zamknąć inne programy lub zmniejszyć zdjęcie.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -402,8 +406,8 @@ Przykłady:
 <context>
     <name>Photograph</name>
     <message>
-        <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation>Zdjęcie jest za szerokie: zamglenie można usunąć ze zdjęć o szerokości do %1 pikseli. Należy je zmniejszyć lub podzielić na części.</translation>
+        <source>It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or cut it into parts.</source>
+        <translation>Zdjęcie jest za duże: zamglenie można usunąć ze zdjęć, których szerokość lub wysokość nie przekracza %1 pikseli. Należy je zmniejszyć lub podzielić na części.</translation>
     </message>
 </context>
 <context>
@@ -658,6 +662,17 @@ Przykłady:
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
         <translation>Plik ustawień „%1” nie może zawierać zdjęcia „%2”: jego nazwa zawiera znaki sterujące. Zmień nazwę.</translation>
+    </message>
+</context>
+<context>
+    <name>TransposedRun</name>
+    <message>
+        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <translation>Nie można utworzyć folderu tymczasowego z dowiązaniem do zdjęcia ani obok niego, ani w „%1”. Należy zwolnić tam miejsce i sprawdzić, czy można tam zapisywać.</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>Wtyczka zapisała „%1” zamiast „%2”</translation>
     </message>
 </context>
 <context>

@@ -78,6 +78,10 @@
         <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
         <translation>Снимок был изменён, перемещён или удалён, пока убиралась дымка. Верните его на место и начните заново.</translation>
     </message>
+    <message>
+        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <translation>Для фотографии нужно около %1 памяти, а свободно %2. Закройте другие программы или уменьшите фотографию.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -402,8 +406,8 @@ Examples:
 <context>
     <name>Photograph</name>
     <message>
-        <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation>Фотография слишком широкая: дымку можно убрать с фотографий шириной до %1 пикс. Уменьшите её или разрежьте на части.</translation>
+        <source>It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or cut it into parts.</source>
+        <translation>Фотография слишком велика: дымку можно убрать с фотографий, ширина или высота которых не больше %1 пикс. Уменьшите её или разрежьте на части.</translation>
     </message>
 </context>
 <context>
@@ -574,7 +578,7 @@ Examples:
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -658,6 +662,17 @@ Examples:
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
         <translation>Файл настроек «%1» не может содержать снимок «%2»: в его имени есть управляющие символы. Переименуйте его.</translation>
+    </message>
+</context>
+<context>
+    <name>TransposedRun</name>
+    <message>
+        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <translation>Временную папку со ссылкой на фотографию нельзя создать ни рядом с ней, ни в «%1». Освободите там место и проверьте, разрешена ли вам запись.</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>Модуль записал «%1» вместо «%2»</translation>
     </message>
 </context>
 <context>

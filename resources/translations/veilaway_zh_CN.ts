@@ -78,6 +78,10 @@
         <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
         <translation>去除雾霾期间，照片被更改、移动或删除。请将其放回原处，然后重新开始。</translation>
     </message>
+    <message>
+        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <translation>此照片约需 %1 内存，而可用内存为 %2。请关闭其他程序，或缩小照片。</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -389,8 +393,8 @@ _dehazed。
 <context>
     <name>Photograph</name>
     <message>
-        <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation>照片过宽：只能为宽度不超过 %1 像素的照片去除薄雾。请缩小照片，或将其裁成几部分。</translation>
+        <source>It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or cut it into parts.</source>
+        <translation>照片过大：只能为宽度或高度不超过 %1 像素的照片去除薄雾。请缩小照片，或将其裁成几部分。</translation>
     </message>
 </context>
 <context>
@@ -643,6 +647,17 @@ _dehazed。
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
         <translation>设置文件“%1”无法记录照片“%2”：其名称含有控制字符。请重命名。</translation>
+    </message>
+</context>
+<context>
+    <name>TransposedRun</name>
+    <message>
+        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <translation>在照片旁边和“%1”中都无法创建包含照片链接的临时文件夹。请在那里腾出空间，并确认您有权写入。</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>插件写入的是“%1”，而不是“%2”。</translation>
     </message>
 </context>
 <context>

@@ -78,6 +78,10 @@
         <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
         <translation>去除霧霾期間，照片被更改、移動或刪除。請將其放回原處，然後重新開始。</translation>
     </message>
+    <message>
+        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <translation>此照片約需 %1 記憶體，而可用記憶體為 %2。請關閉其他程式，或縮小照片。</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -389,8 +393,8 @@ _dehazed。
 <context>
     <name>Photograph</name>
     <message>
-        <source>It is too wide: haze can be taken from photographs of up to %1 pixels in width. Scale it down, or cut it into parts.</source>
-        <translation>照片過寬：只能為寬度不超過 %1 像素的照片去除薄霧。請縮小照片，或將其裁成幾個部分。</translation>
+        <source>It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or cut it into parts.</source>
+        <translation>照片過大：只能為寬度或高度不超過 %1 像素的照片去除薄霧。請縮小照片，或將其裁成幾個部分。</translation>
     </message>
 </context>
 <context>
@@ -643,6 +647,17 @@ _dehazed。
     <message>
         <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
         <translation>設定檔「%1」無法記錄照片「%2」：其名稱含有控制字元。請重新命名。</translation>
+    </message>
+</context>
+<context>
+    <name>TransposedRun</name>
+    <message>
+        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <translation>在照片旁邊和「%1」中都無法建立含有照片連結的暫存資料夾。請在那裡騰出空間，並確認您有權寫入。</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>外掛程式寫入的是「%1」，而不是「%2」。</translation>
     </message>
 </context>
 <context>
