@@ -465,6 +465,9 @@ void transposeJpeg(const InputFile &source, OutputFile &target)
         jpeg_copy_critical_parameters(&in, &out);
         out.write_JFIF_header = in.saw_JFIF_marker; // inks without Adobe's mean something else than with it
         out.write_Adobe_marker = in.saw_Adobe_marker;
+        // With tables of its own every coefficient has a code, or is refused; the standard ones lack some, which nobody would
+        // notice.
+        out.optimize_coding = TRUE;
         transposeParameters(out);
         jpeg_write_coefficients(&out, turned);
     });
