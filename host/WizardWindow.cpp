@@ -27,7 +27,6 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
     if (!session)
         session = std::make_unique<SettingsFile>(QDir::current().filePath(QStringLiteral("veilaway.xml")), process.name());
     setWindowTitle(tr("veilaway"));
-    setWindowIcon(process.icon());
     setWizardStyle(QWizard::ClassicStyle);
     setOptions(QWizard::NoBackButtonOnStartPage | QWizard::NoBackButtonOnLastPage | QWizard::NoCancelButtonOnLastPage);
     // The two buttons of the plug-in's page have no face of their own.

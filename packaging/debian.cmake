@@ -7,3 +7,5 @@ execute_process(COMMAND gzip -9n "${doc}/changelog" "${usr}/share/man/man1/veila
 file(MAKE_DIRECTORY "${usr}/share/lintian/overrides")
 file(COPY_FILE "${CMAKE_CURRENT_LIST_DIR}/lintian-overrides" "${usr}/share/lintian/overrides/veilaway")
 execute_process(COMMAND strip --strip-debug --remove-section=.comment --enable-deterministic-archives "${usr}/lib/libNimbraImage.a" COMMAND_ERROR_IS_FATAL ANY)
+# Whatever the umask of the clone was.
+file(CHMOD "${doc}/changelog.gz" "${usr}/share/lintian/overrides/veilaway" PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
