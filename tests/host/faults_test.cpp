@@ -366,6 +366,34 @@ TEST_F(ProgramFaults, killed_at_any_moment)
         EXPECT_EQ(folder.content(results[i]), resultBytes[i]);
 }
 
+#if !defined(__has_feature)
+#    define __has_feature(feature) 0
+#endif
+#if !__has_feature(address_sanitizer) && !__has_feature(thread_sanitizer) // they need address space without end
+TEST_F(ProgramFaults, too_little_memory)
+{
+    folder.photograph("a.tif", 300, 200);
+    ASSERT_EQ(folder.run({"a.tif", "--strength", "60"}).code, 0);
+    const QByteArray whole = folder.content("a_dehazed.tif");
+    int failed = 0;
+    // From where the run-time of OpenMP gets its threads: without them it ends the process by itself.
+    for (int megabytes = 220;; megabytes += 50) {
+        QFile::remove(folder.path("a_dehazed.tif"));
+        const Said said = folder.shell(QString("ulimit -v %1; \"$V\" a.tif --strength 60 --quiet").arg(megabytes * 1024),
+                                       {"OMP_THREAD_LIMIT=2", "MALLOC_ARENA_MAX=1"}); // each thread takes address space
+        if (said.code == 0)
+            break;
+        ++failed;
+        ASSERT_TRUE(said.code == 1 &&
+                    said.err.contains(QRegularExpression("a.tif: [^\n]*ot enough memory.*Close other programs")))
+            << megabytes << ": " << said.code << ' ' << said.err;
+        EXPECT_THAT(folder.files(), testing::ElementsAre("a.tif"));
+    }
+    EXPECT_GT(failed, 1);
+    EXPECT_EQ(folder.content("a_dehazed.tif"), whole);
+}
+#endif
+
 TEST_F(ProgramFaults, two_programs_on_one_photograph)
 {
     folder.photograph("a.tif", 300, 200, VImage::Rgb, 16);
