@@ -67,19 +67,23 @@ void SettingsFile::load()
     QFile input(file);
     if (QFileInfo(file).isDir() || !input.open(QIODevice::ReadOnly))
         throw broken(QFileInfo(file).isDir() ? tr("it is a folder") : input.errorString());
-    // The tree below is built and freed by recursion: a file may not choose how deep that goes.
-    QXmlStreamReader reader(&input);
-    for (int depth = 0; !reader.atEnd() && !reader.hasError();) {
+    // The tree is built and freed by recursion: a file may not choose how deep that goes.
+    const QByteArray text = input.readAll();
+    QXmlStreamReader reader(text);
+    for (int depth = 0; !reader.atEnd();) {
         const QXmlStreamReader::TokenType token = reader.readNext();
         depth += token == QXmlStreamReader::StartElement ? 1 : token == QXmlStreamReader::EndElement ? -1 : 0;
         if (depth > kDepth)
             reader.raiseError(QStringLiteral("nested too deeply"));
     }
+    if (reader.hasError())
+        throw broken(tr("line %1, column %2: %3").arg(reader.lineNumber()).arg(reader.columnNumber()).arg(reader.errorString()));
+    // By this reader, since the document's own one cuts letters beyond U+FFFF short where they are written as numbers.
     QDomDocument read;
-    QString error = reader.errorString();
-    int line = static_cast<int>(reader.lineNumber()), column = static_cast<int>(reader.columnNumber());
-    input.seek(0);
-    if (reader.hasError() || !read.setContent(&input, /*namespaceProcessing=*/false, &error, &line, &column))
+    QString error;
+    int line = 0, column = 0;
+    QXmlStreamReader again(text);
+    if (!read.setContent(&again, /*namespaceProcessing=*/false, &error, &line, &column))
         throw broken(tr("line %1, column %2: %3").arg(line).arg(column).arg(error));
     if (read.documentElement().tagName() != kRoot)
         throw broken(tr("its outermost element is not <%1>").arg(kRoot));

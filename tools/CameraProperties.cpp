@@ -1,5 +1,7 @@
 #include "CameraProperties.h"
 
+#include <QtNumeric>
+
 #include "propertyRows.h"
 
 namespace {
@@ -25,7 +27,7 @@ QVector<CameraProperties::Row> CameraProperties::read(const QByteArray &text)
         const int comment = cells[2].indexOf(QLatin1Char('#'));
         bool isNumber = false;
         const double scale = cells[2].left(comment).trimmed().toDouble(&isNumber);
-        if (isNumber && scale > 0 && !cells[1].isEmpty())
+        if (isNumber && qIsFinite(scale) && scale > 0 && !cells[1].isEmpty())
             rows.append({cells[0], cells[1], scale});
     }
     return rows;

@@ -1,5 +1,7 @@
 #include "LensIDProperties.h"
 
+#include <QtNumeric>
+
 #include "propertyRows.h"
 
 namespace {
@@ -11,7 +13,7 @@ QVector<double> numbersOf(const QString &identifier)
     for (const QString &word : identifier.simplified().split(QLatin1Char(' '))) {
         bool isNumber = false;
         numbers.append(word.toDouble(&isNumber));
-        if (!isNumber)
+        if (!isNumber || !qIsFinite(numbers.last())) // "nan" would never be found again
             return {};
     }
     return numbers;
