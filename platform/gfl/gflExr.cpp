@@ -109,15 +109,47 @@ std::int64_t fixedSize(const std::string &type)
     return -1;
 }
 
+int linesPerChunk(int packing)
+{
+    switch (packing) {
+    case Imf::NO_COMPRESSION:
+    case Imf::RLE_COMPRESSION:
+    case Imf::ZIPS_COMPRESSION:
+        return 1;
+    case Imf::ZIP_COMPRESSION:
+    case Imf::PXR24_COMPRESSION:
+        return 16;
+    case Imf::DWAB_COMPRESSION:
+        return 256;
+    default:
+        return 32;
+    }
+}
+
+/// Throws FILE_READ if a chunk of pixels is empty or not all in the file: the library makes pixels of an empty one from memory
+/// that nobody has written. `table` is where the chunks' offsets stand, `place` the bytes of a chunk before its size.
+void checkChunks(const InputFile &file, std::uint64_t table, std::uint64_t chunks, std::uint64_t place)
+{
+    const Bytes offsets = file.bytesAt(table, chunks * 8);
+    for (std::size_t i = 0; i < offsets.size(); i += 8) {
+        const std::uint64_t offset = little32(&offsets[i]) | std::uint64_t(little32(&offsets[i + 4])) << 32;
+        std::uint8_t size[4];
+        if (offset == 0 || offset > file.size() || file.readAt(offset + place, size, sizeof size) != sizeof size ||
+            little32(size) == 0 || little32(size) > file.size() - offset - place - sizeof size)
+            throw Failure{GFL_ERROR_FILE_READ};
+    }
+}
+
 /// Walks over the header's attributes before the library sees them: it allocates what they claim. Throws FILE_READ if the file is
-/// too short for its attributes, its table of chunks or one chunk's pixels.
-void checkClaims(const InputFile &file)
+/// too short for its attributes, its table of chunks or one chunk's pixels; with `pixels`, if any chunk lacks its own.
+void checkClaims(const InputFile &file, bool pixels)
 {
     InputStream stream(file, 4);
     std::uint8_t bytes[16];
     stream.read(bytes, 4);
-    constexpr std::uint32_t kSeveralOrDeep = 0x800 | 0x1000;
-    if (little32(bytes) & kSeveralOrDeep)
+    constexpr std::uint32_t kTiled = 0x200, kSeveralOrDeep = 0x800 | 0x1000;
+    const std::uint32_t version = little32(bytes);
+    if (version & kSeveralOrDeep)
         throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
 
     const auto text = [&] {
@@ -224,6 +256,11 @@ void checkClaims(const InputFile &file)
     };
     if (double(width) * double(height) * pixelBytes > mostPerByte() * double(file.size()))
         throw Failure{GFL_ERROR_FILE_READ};
+    const auto lines = static_cast<std::uint64_t>(linesPerChunk(packing));
+    if (pixels && ((version & kTiled) != 0) != tiled)
+        throw Failure{GFL_ERROR_FILE_READ};
+    if (pixels) // before the size: the first line, or the tile's place and level
+        checkChunks(file, stream.offset(), tiled ? chunks : (h + lines - 1) / lines, tiled ? 16 : 4);
 }
 
 /// The names of the channels that make up the picture: three, or one, or none for luminance with subsampled colour.
@@ -379,7 +416,7 @@ void readChroma(const InputFile &source, bool alpha, NewBitmap &bitmap)
 
 BitmapPointer readExr(const ReadRequest &request)
 {
-    checkClaims(request.file);
+    checkClaims(request.file, request.pixels);
     InputAdapter stream(request.file);
     Imf::InputFile file(stream, kNoThreads);
     const Imf::Header &header = file.header();
