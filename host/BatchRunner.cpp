@@ -119,8 +119,11 @@ void BatchRunner::run(const std::vector<BatchItem> &items, int jobs)
     if (jobs <= 0)
         jobs = std::min(QThread::idealThreadCount(), kMostJobs);
     std::vector<std::thread> team;
-    for (std::size_t i = 1; i < std::min(items.size(), std::size_t(std::max(jobs, 1))); ++i)
-        team.emplace_back([&] { work(items); });
+    try {
+        for (std::size_t i = 1; i < std::min(items.size(), std::size_t(std::max(jobs, 1))); ++i)
+            team.emplace_back([&] { work(items); });
+    } catch (const std::exception &) { // no more threads to be had: those that there are do it
+    }
     work(items);
     for (std::thread &member : team)
         member.join();

@@ -369,7 +369,7 @@ TEST_F(ProgramFaults, killed_at_any_moment)
 #if !defined(__has_feature)
 #    define __has_feature(feature) 0
 #endif
-#if !__has_feature(address_sanitizer) && !__has_feature(thread_sanitizer) // they need address space without end
+#if !__has_feature(address_sanitizer) && !__has_feature(thread_sanitizer) // they need address space without end, and /proc
 TEST_F(ProgramFaults, too_little_memory)
 {
     folder.photograph("a.tif", 300, 200);
@@ -391,6 +391,34 @@ TEST_F(ProgramFaults, too_little_memory)
     }
     EXPECT_GT(failed, 1);
     EXPECT_EQ(folder.content("a_dehazed.tif"), whole);
+}
+
+TEST_F(ProgramFaults, too_few_threads)
+{
+    for (const char *name : {"a.png", "b.png", "c.png"})
+        folder.photograph(name);
+    // Their stacks take all the address space.
+    const Said said = folder.shell("ulimit -s 200000; ulimit -v 500000; \"$V\" ?.png --strength 0 --jobs 3 --quiet",
+                                   {"OMP_THREAD_LIMIT=1", "MALLOC_ARENA_MAX=1"});
+    EXPECT_EQ(said.code, 0) << said.err;
+    EXPECT_EQ(folder.files().size(), 6);
+}
+
+TEST_F(ProgramFaults, a_file_system_where_every_file_has_a_name)
+{
+    folder.photograph("new.tif", 300, 200);
+    folder.photograph("old.tif", 300, 200);
+    folder.write("old_dehazed.tif", "older");
+    // An unnamed file gets its name through /proc.
+    const Said said =
+        inPrivateMounts("mount -t tmpfs none /proc; "
+                        "rm -f *_dehazed.tif; (ulimit -f 8; $V new.tif --strength 0); echo =$?; ls -A; "
+                        "echo older >old_dehazed.tif; $V new.tif old.tif --strength 0 --overwrite --quiet; echo =$?");
+    SKIP_WITHOUT_MOUNTS(said);
+    EXPECT_EQ(said.out, "=1\nnew.tif\nold.tif\n=0\n") << said.err;
+    EXPECT_EQ(folder.files().size(), 4);
+    EXPECT_TRUE(isWhole("new_dehazed.tif"));
+    EXPECT_EQ(folder.content("old_dehazed.tif"), folder.content("new_dehazed.tif"));
 }
 #endif
 
