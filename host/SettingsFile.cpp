@@ -174,12 +174,16 @@ void SettingsFile::setElement(const QString &photograph, const QDomElement &elem
     } else if (entry.firstChildElement(tag).attribute(kStrength) == element.attribute(kStrength)) {
         return;
     }
-    entry.removeChild(entry.firstChildElement(tag));
     // Not by importNode: the copy of an attribute writes to the document that made it, which may be gone.
     QDomElement own = document.createElement(element.tagName());
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.count(); ++i)
         own.setAttribute(attributes.item(i).nodeName(), attributes.item(i).nodeValue());
-    entry.appendChild(own);
+    // In its place: the first one counts, and there may be others.
+    const QDomElement old = entry.firstChildElement(tag);
+    if (old.isNull())
+        entry.appendChild(own);
+    else
+        entry.replaceChild(own, old);
     changed = true;
 }

@@ -13,6 +13,7 @@
 #include <OpenEXR/ImfRgbaFile.h>
 #include <OpenEXR/ImfStandardAttributes.h>
 #include <OpenEXR/ImfStringAttribute.h>
+#include <libdeflate.h>
 
 #include "gflMetadata.h"
 
@@ -109,40 +110,9 @@ std::int64_t fixedSize(const std::string &type)
     return -1;
 }
 
-int linesPerChunk(int packing)
-{
-    switch (packing) {
-    case Imf::NO_COMPRESSION:
-    case Imf::RLE_COMPRESSION:
-    case Imf::ZIPS_COMPRESSION:
-        return 1;
-    case Imf::ZIP_COMPRESSION:
-    case Imf::PXR24_COMPRESSION:
-        return 16;
-    case Imf::DWAB_COMPRESSION:
-        return 256;
-    default:
-        return 32;
-    }
-}
-
-/// Throws FILE_READ if a chunk of pixels is empty or not all in the file: the library makes pixels of an empty one from memory
-/// that nobody has written. `table` is where the chunks' offsets stand, `place` the bytes of a chunk before its size.
-void checkChunks(const InputFile &file, std::uint64_t table, std::uint64_t chunks, std::uint64_t place)
-{
-    const Bytes offsets = file.bytesAt(table, chunks * 8);
-    for (std::size_t i = 0; i < offsets.size(); i += 8) {
-        const std::uint64_t offset = little32(&offsets[i]) | std::uint64_t(little32(&offsets[i + 4])) << 32;
-        std::uint8_t size[4];
-        if (offset == 0 || offset > file.size() || file.readAt(offset + place, size, sizeof size) != sizeof size ||
-            little32(size) == 0 || little32(size) > file.size() - offset - place - sizeof size)
-            throw Failure{GFL_ERROR_FILE_READ};
-    }
-}
-
 /// Walks over the header's attributes before the library sees them: it allocates what they claim. Throws FILE_READ if the file is
-/// too short for its attributes, its table of chunks or one chunk's pixels; with `pixels`, if any chunk lacks its own.
-void checkClaims(const InputFile &file, bool pixels)
+/// too short for its attributes, its table of chunks or one chunk's pixels. Returns where that table begins.
+std::uint64_t checkClaims(const InputFile &file)
 {
     InputStream stream(file, 4);
     std::uint8_t bytes[16];
@@ -256,11 +226,97 @@ void checkClaims(const InputFile &file, bool pixels)
     };
     if (double(width) * double(height) * pixelBytes > mostPerByte() * double(file.size()))
         throw Failure{GFL_ERROR_FILE_READ};
-    const auto lines = static_cast<std::uint64_t>(linesPerChunk(packing));
-    if (pixels && ((version & kTiled) != 0) != tiled)
+    if (((version & kTiled) != 0) != tiled)
         throw Failure{GFL_ERROR_FILE_READ};
-    if (pixels) // before the size: the first line, or the tile's place and level
-        checkChunks(file, stream.offset(), tiled ? chunks : (h + lines - 1) / lines, tiled ? 16 : 4);
+    return stream.offset();
+}
+
+int linesPerChunk(Imf::Compression packing)
+{
+    switch (packing) {
+    case Imf::NO_COMPRESSION:
+    case Imf::RLE_COMPRESSION:
+    case Imf::ZIPS_COMPRESSION:
+        return 1;
+    case Imf::ZIP_COMPRESSION:
+    case Imf::PXR24_COMPRESSION:
+        return 16;
+    case Imf::DWAB_COMPRESSION:
+        return 256;
+    default:
+        return 32;
+    }
+}
+
+/// How many multiples of `step` lie in first .. last.
+std::int64_t multiples(std::int64_t step, std::int64_t first, std::int64_t last)
+{
+    const auto below = [&](std::int64_t value) { return value >= 0 ? value / step : -((step - 1 - value) / step); };
+    return below(last) - below(first - 1);
+}
+
+/// Bytes that run lengths make, or 0 if they go beyond the packed ones.
+std::uint64_t unpackedRuns(const Bytes &packed)
+{
+    std::uint64_t total = 0;
+    for (std::size_t i = 0; i < packed.size();) {
+        const int run = static_cast<std::int8_t>(packed[i]);
+        total += static_cast<std::uint64_t>(run < 0 ? -run : run + 1);
+        i += static_cast<std::size_t>(run < 0 ? 1 - run : 2);
+        if (i > packed.size())
+            return 0;
+    }
+    return total;
+}
+
+/// Throws FILE_READ if a chunk of the full size's pixels is not all in the file, or makes fewer bytes than its pixels take: the
+/// library fills up with memory that nobody has written. `table` is where the offsets of the chunks stand. Of the packings that
+/// are left out the library sees it itself.
+void checkChunks(const InputFile &file, const Imf::Header &header, std::uint64_t table)
+{
+    const Imath::Box2i window = header.dataWindow();
+    const Imf::Compression packing = header.compression();
+    const bool tiled = header.hasTileDescription();
+    const std::int64_t stepX = tiled ? header.tileDescription().xSize : std::int64_t(window.max.x) - window.min.x + 1;
+    const std::int64_t stepY = tiled ? header.tileDescription().ySize : linesPerChunk(packing);
+    const std::unique_ptr<libdeflate_decompressor, void (*)(libdeflate_decompressor *)> inflater(libdeflate_alloc_decompressor(),
+                                                                                                 libdeflate_free_decompressor);
+    if (!inflater)
+        throw std::bad_alloc();
+    Bytes unpacked;
+    for (std::int64_t y = window.min.y; y <= window.max.y; y += stepY)
+        for (std::int64_t x = window.min.x; x <= window.max.x; x += stepX, table += 8) {
+            std::uint64_t whole = 0;
+            for (auto channel = header.channels().begin(); channel != header.channels().end(); ++channel)
+                whole += (channel.channel().type == Imf::HALF ? 2u : 4u) *
+                         static_cast<std::uint64_t>(
+                             multiples(channel.channel().xSampling, x, std::min<std::int64_t>(x + stepX - 1, window.max.x)) *
+                             multiples(channel.channel().ySampling, y, std::min<std::int64_t>(y + stepY - 1, window.max.y)));
+            const Bytes offset = file.bytesAt(table, 8);
+            const std::uint64_t start = little32(&offset[0]) | std::uint64_t(little32(&offset[4])) << 32;
+            const std::uint64_t place = tiled ? 16 : 4; // the tile and level, or the first line, stand before the size
+            if (start == 0 || start > file.size())
+                throw Failure{GFL_ERROR_FILE_READ};
+            const std::uint64_t size = little32(file.bytesAt(start + place, 4).data());
+            if (size > whole || size > file.size() - start)
+                throw Failure{GFL_ERROR_FILE_READ};
+            if (size == whole)
+                continue; // as it is
+            std::size_t made = static_cast<std::size_t>(whole);
+            if (packing == Imf::NO_COMPRESSION || size == 0) {
+                made = 0;
+            } else if (packing == Imf::RLE_COMPRESSION) {
+                made = static_cast<std::size_t>(unpackedRuns(file.bytesAt(start + place + 4, size)));
+            } else if (packing == Imf::ZIP_COMPRESSION || packing == Imf::ZIPS_COMPRESSION) {
+                const Bytes packed = file.bytesAt(start + place + 4, size);
+                unpacked.resize(static_cast<std::size_t>(whole));
+                if (libdeflate_zlib_decompress(inflater.get(), packed.data(), packed.size(), unpacked.data(), unpacked.size(),
+                                               &made) != LIBDEFLATE_SUCCESS)
+                    made = 0;
+            }
+            if (made != whole)
+                throw Failure{GFL_ERROR_FILE_READ};
+        }
 }
 
 /// The names of the channels that make up the picture: three, or one, or none for luminance with subsampled colour.
@@ -416,7 +472,7 @@ void readChroma(const InputFile &source, bool alpha, NewBitmap &bitmap)
 
 BitmapPointer readExr(const ReadRequest &request)
 {
-    checkClaims(request.file, request.pixels);
+    const std::uint64_t table = checkClaims(request.file);
     InputAdapter stream(request.file);
     Imf::InputFile file(stream, kNoThreads);
     const Imf::Header &header = file.header();
@@ -432,6 +488,7 @@ BitmapPointer readExr(const ReadRequest &request)
     if (request.metadata)
         attachMetadata(bitmap.record()).exif.block = exifFromFacts(factsOf(header));
     if (request.pixels) {
+        checkChunks(request.file, header, table);
         if (channels.chroma)
             readChroma(request.file, components == 4, bitmap);
         else
