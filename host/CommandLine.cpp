@@ -119,7 +119,7 @@ Formats:
   OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
   bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
   the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
   is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
   XMP sidecar files stay where they are and are not read.
 

@@ -5,6 +5,7 @@
 
 #include "PhotoLoader.h"
 #include "VException.h"
+#include "gfl.h"
 
 namespace {
 
@@ -31,6 +32,18 @@ std::unique_ptr<LibRaw> open(const QString &path)
     return raw;
 }
 
+/// The codec layer reads the metadata when the result is saved. What it will refuse then is refused here, before any work.
+void requireMetadata(const QString &path)
+{
+    GflLoadParams params;
+    gflGetDefaultLoadParams(&params);
+    params.flags |= GFL_LOAD_METADATA | GFL_LOAD_METADATA_ONLY;
+    GflBitmap *read = nullptr;
+    if (gflLoadBitmapUTF8(path.toUtf8().constData(), &read, &params, nullptr) != GFL_NO_ERROR)
+        check(LIBRAW_FILE_UNSUPPORTED);
+    gflFreeBitmap(read);
+}
+
 /// LibRaw's flip as EXIF's orientation.
 int orientationOf(int flip)
 {
@@ -50,8 +63,8 @@ int orientationOf(int flip)
 
 QStringList PhotoLoader::rawSuffixes()
 {
-    return {"3fr", "ari", "arw", "bay", "cap", "cr2", "cr3", "crw", "dcr", "dcs", "dng", "erf", "fff", "iiq", "k25", "kdc", "mef",
-            "mos", "mrw", "nef", "nrw", "orf", "pef", "ptx", "raf", "raw", "rw2", "rwl", "rwz", "sr2", "srf", "srw", "x3f"};
+    return {"3fr", "arw", "cr2", "crw", "dcr", "dng", "erf", "fff", "iiq", "k25", "kdc", "mef", "mos",
+            "mrw", "nef", "nrw", "orf", "pef", "ptx", "raf", "raw", "rw2", "rwl", "sr2", "srf", "srw"};
 }
 
 /// The suffix decides, since most camera raw files are TIFF inside. Without one of a known format the content does: the codec
@@ -74,6 +87,7 @@ bool PhotoLoader::isRaw(const QString &path)
 PhotoFacts PhotoLoader::describeRaw(const QString &path)
 {
     const auto raw = open(path);
+    requireMetadata(path);
     PhotoFacts facts;
     facts.width = raw->imgdata.sizes.iwidth;
     facts.height = raw->imgdata.sizes.iheight;

@@ -58,7 +58,6 @@ _veilaway()
         mapfile -t COMPREPLY < <(compgen -W 'run wizard' -- "$word")
     fi
     _veilaway_files jpg jpeg png tif tiff hdr hdri exr psd \
-        3fr ari arw bay cap cr2 cr3 crw dcr dcs dng erf fff iiq k25 kdc mef mos mrw nef nrw orf pef ptx raf raw rw2 rwl rwz \
-        sr2 srf srw x3f
+        3fr arw cr2 crw dcr dng erf fff iiq k25 kdc mef mos mrw nef nrw orf pef ptx raf raw rw2 rwl sr2 srf srw
 }
 complete -F _veilaway veilaway

@@ -36,8 +36,9 @@ constexpr Format kFormats[] = {
     {"psd", readPsd, writePsd, {"psd", "psb"}, {"8BPS"sv}},
 };
 
-constexpr std::string_view kRawSuffixes[] = {"3fr", "arw", "cr2", "crw", "dcr", "dng", "erf", "iiq", "kdc", "mef", "mos", "mrw",
-                                             "nef", "nrw", "orf", "pef", "ptx", "raf", "rw2", "rwl", "sr2", "srf", "srw"};
+constexpr std::string_view kRawSuffixes[] = {"3fr", "arw", "cr2", "crw", "dcr", "dng", "erf", "fff", "iiq",
+                                             "k25", "kdc", "mef", "mos", "mrw", "nef", "nrw", "orf", "pef",
+                                             "ptx", "raf", "raw", "rw2", "rwl", "sr2", "srf", "srw"};
 
 constexpr int kRawFormat = -1; // has no name and no index
 constexpr int kNoFormat = -2;

@@ -166,7 +166,7 @@ Formats:
   OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
   bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
   the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
   is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
   XMP sidecar files stay where they are and are not read.
 
@@ -228,7 +228,7 @@ Formate:
   OpenEXR (exr) und PSD. Ein Ergebnis hat Format, Farbtiefe (8 oder 16 Bit
   oder Gleitkomma), Farbprofil, EXIF, IPTC und XMP seines Fotos. Die EXIF-
   Ausrichtung bleibt erhalten, sodass das Ergebnis wie sein Foto angezeigt wird.
-  Nur lesen: Kamera-RAW (dng, cr2, cr3, nef, arw, raf, orf, rw2 und andere). Das
+  Nur lesen: Kamera-RAW (dng, cr2, nef, arw, raf, orf, rw2 und andere). Das
   Ergebnis ist ein TIFF mit 16 Bit. Auch Fotos mit einer anderen oder ohne Dateiendung
   werden ein TIFF. XMP-Begleitdateien bleiben, wo sie sind, und werden nicht gelesen.
 

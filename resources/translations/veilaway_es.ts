@@ -166,7 +166,7 @@ Formats:
   OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
   bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
   the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
   is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
   XMP sidecar files stay where they are and are not read.
 
@@ -230,7 +230,7 @@ Formatos:
   OpenEXR (exr) y PSD. Un resultado tiene el formato de su foto, su profundidad (8 o
   16 bits o coma flotante), su perfil de color y sus datos EXIF, IPTC y XMP. La
   orientación EXIF se conserva, de modo que el resultado se muestra igual que su foto.
-  Solo lectura: RAW de cámara (dng, cr2, cr3, nef, arw, raf, orf, rw2 y otros). El
+  Solo lectura: RAW de cámara (dng, cr2, nef, arw, raf, orf, rw2 y otros). El
   resultado es un TIFF de 16 bits. Las fotos con otra extensión, o sin ella, se
   convierten también en TIFF. Los archivos XMP adjuntos se quedan como están y no se
   leen.

@@ -166,7 +166,7 @@ Formats:
   OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
   bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
   the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
   is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
   XMP sidecar files stay where they are and are not read.
 
@@ -233,7 +233,7 @@ Formats&#xa0;:
   hdri), OpenEXR (exr) et PSD. Un résultat garde le format de sa photo, sa profondeur
   (8 ou 16 bits ou virgule flottante), son profil de couleurs, ses données EXIF, IPTC
   et XMP. L&apos;orientation EXIF est conservée&#xa0;: le résultat s&apos;affiche comme sa photo.
-  En lecture seule&#xa0;: RAW (dng, cr2, cr3, nef, arw, raf, orf, rw2 et autres). Le
+  En lecture seule&#xa0;: RAW (dng, cr2, nef, arw, raf, orf, rw2 et autres). Le
   résultat est un TIFF 16 bits. Les photos avec une autre extension, ou sans
   extension, donnent aussi un TIFF. Les fichiers XMP annexes restent en place et ne
   sont pas lus.

@@ -166,7 +166,7 @@ Formats:
   OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
   bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
   the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
   is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
   XMP sidecar files stay where they are and are not read.
 
@@ -228,7 +228,7 @@ Formati:
   hdri), OpenEXR (exr) e PSD. Il risultato ha il formato della foto, la sua profondità
   (8 o 16 bit o virgola mobile), il profilo colore e i dati EXIF, IPTC e XMP.
   L&apos;orientamento EXIF viene mantenuto, così il risultato appare come la foto.
-  In sola lettura: RAW (dng, cr2, cr3, nef, arw, raf, orf, rw2 e altri). Il risultato
+  In sola lettura: RAW (dng, cr2, nef, arw, raf, orf, rw2 e altri). Il risultato
   è un TIFF a 16 bit. Anche le foto con un&apos;altra estensione, o senza, diventano un
   TIFF. I file XMP collaterali restano dove sono e non vengono letti.
 

@@ -166,7 +166,7 @@ Formats:
   OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
   bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
   the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
   is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
   XMP sidecar files stay where they are and are not read.
 
@@ -229,7 +229,7 @@ Examples:
   (exr)、PSD。結果は元の写真の形式、ビット深度（8、16 ビット、浮動小数点）、カラー
   プロファイル、EXIF、IPTC、XMP を引き継ぎます。EXIF の向きも保たれるため、結果は
   元の写真と同じ向きで表示されます。
-  読み込みのみ: カメラ RAW (dng、cr2、cr3、nef、arw、raf、orf、rw2 など)。結果は 16
+  読み込みのみ: カメラ RAW (dng、cr2、nef、arw、raf、orf、rw2 など)。結果は 16
   ビットの TIFF になります。その他の拡張子の写真や拡張子のない写真も、結果は TIFF に
   なります。XMP サイドカーファイルは読み込まれず、そのまま残ります。
 

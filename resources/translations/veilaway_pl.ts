@@ -166,7 +166,7 @@ Formats:
   OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
   bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
   the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
   is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
   XMP sidecar files stay where they are and are not read.
 
@@ -228,7 +228,7 @@ Formaty:
   OpenEXR (exr) i PSD. Wynik ma format swojego zdjęcia, jego głębię (8 lub 16 bitów
   albo liczby zmiennoprzecinkowe), profil kolorów oraz dane EXIF, IPTC i XMP.
   Orientacja EXIF jest zachowana, więc wynik jest wyświetlany tak jak jego zdjęcie.
-  Tylko odczyt: pliki RAW z aparatu (dng, cr2, cr3, nef, arw, raf, orf, rw2 i inne).
+  Tylko odczyt: pliki RAW z aparatu (dng, cr2, nef, arw, raf, orf, rw2 i inne).
   Wynikiem jest 16-bitowy TIFF. Zdjęcia z innym rozszerzeniem lub bez niego również
   stają się plikami TIFF. Pliki towarzyszące XMP pozostają na miejscu i nie są
   czytane.

@@ -166,7 +166,7 @@ Formats:
   OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
   bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
   the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
   is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
   XMP sidecar files stay where they are and are not read.
 
@@ -229,7 +229,7 @@ Examples:
   OpenEXR (exr) и PSD. Результат получает формат своей фотографии, её глубину цвета
   (8, 16 бит или с плавающей запятой), цветовой профиль, EXIF, IPTC и XMP. Ориентация
   EXIF сохраняется, и результат отображается так же, как сама фотография.
-  Только чтение: RAW-файлы камер (dng, cr2, cr3, nef, arw, raf, orf, rw2 и другие).
+  Только чтение: RAW-файлы камер (dng, cr2, nef, arw, raf, orf, rw2 и другие).
   Результат — TIFF с 16 битами. Для фотографий с другим расширением или без него
   результат тоже TIFF. Сопутствующие файлы XMP остаются на месте и не читаются.
 

@@ -166,7 +166,7 @@ Formats:
   OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
   bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
   the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
   is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
   XMP sidecar files stay where they are and are not read.
 
@@ -223,7 +223,7 @@ _dehazed。
   读取和写入：JPEG（jpg、jpeg）、PNG、TIFF（tif、tiff）、Radiance（hdr、hdri）、
   OpenEXR（exr）和 PSD。结果沿用照片的格式、位深度（8 位、16 位或浮点）、颜色配置
   文件、EXIF、IPTC 和 XMP。EXIF 方向保持不变，因此结果的显示方向与照片相同。
-  仅读取：相机 RAW（dng、cr2、cr3、nef、arw、raf、orf、rw2 等）。结果为 16 位 TIFF。
+  仅读取：相机 RAW（dng、cr2、nef、arw、raf、orf、rw2 等）。结果为 16 位 TIFF。
   扩展名为其他或没有扩展名的照片，结果也是 TIFF。XMP 附属文件留在原处，不会读取。
 
 退出代码：

@@ -166,7 +166,7 @@ Formats:
   OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
   bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
   the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, cr3, nef, arw, raf, orf, rw2 and others). The result
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
   is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
   XMP sidecar files stay where they are and are not read.
 
@@ -223,7 +223,7 @@ _dehazed。
   讀取和寫入：JPEG（jpg、jpeg）、PNG、TIFF（tif、tiff）、Radiance（hdr、hdri）、
   OpenEXR（exr）和 PSD。結果沿用照片的格式、位元深度（8 位元、16 位元或浮點）、色彩
   描述檔、EXIF、IPTC 和 XMP。EXIF 方向保持不變，因此結果的顯示方向與照片相同。
-  僅讀取：相機 RAW（dng、cr2、cr3、nef、arw、raf、orf、rw2 等）。結果為 16 位元 TIFF。
+  僅讀取：相機 RAW（dng、cr2、nef、arw、raf、orf、rw2 等）。結果為 16 位元 TIFF。
   副檔名為其他或沒有副檔名的照片，結果也是 TIFF。XMP 附屬檔案留在原處，不會讀取。
 
 結束代碼：
