@@ -100,11 +100,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t cou
     }
     const std::string turned = folder.path("turned");
     if (choice % 8 == 2 && gflTransposeJpegUTF8(source.c_str(), turned.c_str()) == GFL_NO_ERROR && picture) {
-        require(gflTransposeJpegUTF8(turned.c_str(), turned.c_str()) == GFL_NO_ERROR,
-                "a picture that was turned can be turned back");
-        // Not the very same: coefficients beyond what can be written are cut.
         const Picture again = load(turned, GFL_LOAD_METADATA).second;
-        require(again && again->width == picture->width && again->height == picture->height, "and is as large again");
+        require(again && again->width == picture->height && again->height == picture->width,
+                "a picture that was turned can be read");
     }
     if (choice % 16 == 0) // what there is of metadata in a camera's raw file
         load(folder.write("source.nef", bytes, count), GFL_LOAD_METADATA_ONLY);
