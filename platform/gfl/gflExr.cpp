@@ -260,7 +260,7 @@ std::uint64_t unpackedRuns(const Bytes &packed)
 {
     std::uint64_t total = 0;
     for (std::size_t i = 0; i < packed.size();) {
-        const int run = static_cast<std::int8_t>(packed[i]);
+        const int run = packed[i] < 128 ? packed[i] : packed[i] - 256;
         total += static_cast<std::uint64_t>(run < 0 ? -run : run + 1);
         i += static_cast<std::size_t>(run < 0 ? 1 - run : 2);
         if (i > packed.size())
@@ -274,7 +274,7 @@ std::uint64_t unpackedRuns(const Bytes &packed)
 /// are left out the library sees it itself.
 void checkChunks(const InputFile &file, const Imf::Header &header, std::uint64_t table)
 {
-    const Imath::Box2i window = header.dataWindow();
+    const Imath::Box2i &window = header.dataWindow();
     const Imf::Compression packing = header.compression();
     const bool tiled = header.hasTileDescription();
     const std::int64_t stepX = tiled ? header.tileDescription().xSize : std::int64_t(window.max.x) - window.min.x + 1;
