@@ -37,35 +37,40 @@ std::pair<int, int> sizeOf(std::int64_t megapixels)
     }
 }
 
-/// Hills one behind the other, with a texture, under a veil that thickens with their distance.
-void draw(VImage &image)
+/// Grain of a photograph, as bench/end_to_end has it, and of one that is hardly more than noise: share of white between the
+/// darkest and the brightest of one tone.
+constexpr float kFine = 0.06f;
+constexpr float kRough = 0.2f;
+
+/// Hills one behind the other, with grain, under a veil that thickens with their distance.
+void draw(VImage &image, float roughness)
 {
     for (int y = 0; y < image.Height(); ++y) {
         auto *p = reinterpret_cast<float *>(image.PixelAddress(0, y));
         const float v = static_cast<float>(y) / static_cast<float>(image.Height());
         for (int x = 0; x < image.Width(); ++x, p += 4) {
             const auto hash = static_cast<unsigned>(x * 73856093) ^ static_cast<unsigned>(y * 19349663);
-            const float grain = static_cast<float>(hash >> 8 & 255u) / 255.0f;
+            const float grain = roughness * static_cast<float>(hash >> 8 & 255u) / 255.0f;
             const float ridge = static_cast<float>((x / 97 + y / 61) % 7) / 7.0f;
             const float t = 0.15f + 0.8f * std::min(1.0f, v * 0.7f + ridge * 0.3f);
-            p[0] = 0.85f + (0.35f * ridge + 0.1f * grain - 0.85f) * t;
-            p[1] = 0.88f + (0.30f * ridge + 0.2f * grain - 0.88f) * t;
-            p[2] = 0.92f + (0.15f * ridge + 0.1f * grain - 0.92f) * t;
+            p[0] = 0.85f + (0.35f * ridge + 0.5f * grain - 0.85f) * t;
+            p[1] = 0.88f + (0.30f * ridge + grain - 0.88f) * t;
+            p[2] = 0.92f + (0.15f * ridge + 0.5f * grain - 0.92f) * t;
             p[3] = 1.0f;
         }
     }
 }
 
 /// One scene at a time, since the large ones fill the memory.
-const VImage &scene(std::int64_t megapixels)
+const VImage &scene(std::int64_t megapixels, float roughness = kFine)
 {
-    static std::int64_t drawn = 0;
+    static std::pair<std::int64_t, float> drawn;
     static VImage image;
-    if (drawn != megapixels) {
+    if (drawn != std::pair(megapixels, roughness)) {
         const auto [width, height] = sizeOf(megapixels);
         image.Create(width, height, VImage::Rgba, 32);
-        draw(image);
-        drawn = megapixels;
+        draw(image, roughness);
+        drawn = {megapixels, roughness};
     }
     return image;
 }
@@ -164,10 +169,11 @@ void Upsample(benchmark::State &state)
 }
 
 /// The last level alone, from a guide that is smaller by 1.94, as for 24 megapixels.
+template<const float &roughness>
 void JointUpsample(benchmark::State &state)
 {
     VImage image;
-    image.Assign(scene(state.range(0)));
+    image.Assign(scene(state.range(0), roughness));
     VImage guide;
     image.Resample(guide, image.Width() * 100 / 194, image.Height() * 100 / 194);
     std::vector<float> values(pixelsOf(guide));
@@ -211,7 +217,8 @@ void WholeEngine(benchmark::State &state)
                                                                             {"DarkChannel", DarkChannel},
                                                                             {"Matting", Matting},
                                                                             {"Upsample", Upsample},
-                                                                            {"JointUpsample", JointUpsample},
+                                                                            {"JointUpsample", JointUpsample<kFine>},
+                                                                            {"JointUpsampleOfNoise", JointUpsample<kRough>},
                                                                             {"Recover", Recover},
                                                                             {"WholeEngine", WholeEngine}};
     const bool large = std::getenv("NIMBRA_BENCH_LARGE") != nullptr;
