@@ -28,6 +28,16 @@ bool fitsXml(const QString &text)
     });
 }
 
+QByteArray written(const QDomDocument &document)
+{
+    QByteArray text;
+    QTextStream stream(&text);
+    stream.setCodec("UTF-8"); // and a declaration to match, whatever the one of the file that was read is worth
+    document.save(stream, /*indent=*/4, QDomNode::EncodingFromTextStream);
+    stream.flush();
+    return text;
+}
+
 } // namespace
 
 SettingsFile::SettingsFile(const QString &path, const QString &processName)
@@ -99,6 +109,12 @@ void SettingsFile::load()
             throw broken(tr("%1: the photo needs <%2 %3=\"...\"/> with a whole number from 0 to 100").arg(where, tag, kStrength));
         seen.insert(absolute(entry));
     }
+    // Qt reads some letters that it refuses once it has written them, as in a processing instruction.
+    QXmlStreamReader saved(written(read));
+    while (!saved.atEnd())
+        saved.readNext();
+    if (saved.hasError())
+        throw broken(saved.errorString());
     document = read;
     changed = false;
 }
@@ -117,11 +133,7 @@ void SettingsFile::save()
         }
     }
     QSaveFile output(file);
-    QByteArray text;
-    QTextStream stream(&text);
-    stream.setCodec("UTF-8"); // and a declaration to match, whatever the one of the file that was read is worth
-    fit.save(stream, /*indent=*/4, QDomNode::EncodingFromTextStream);
-    stream.flush();
+    const QByteArray text = written(fit);
     // Flushed here: where the disk is full, a commit of what is still in the buffer succeeds, with an empty file.
     if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size() || !output.flush() || !output.commit())
         throw VException(
