@@ -1,7 +1,6 @@
 #include "PhotoLoader.h"
 
 #include <algorithm>
-#include <utility>
 
 #include <QFile>
 #include <QFileInfo>
@@ -12,23 +11,6 @@
 #include "gfl.h"
 
 namespace {
-
-struct Release
-{
-    void operator()(GflBitmap *record) const { gflFreeBitmap(record); }
-};
-using Record = std::unique_ptr<GflBitmap, Release>;
-
-/// A picture as the codec layer reads it: a code of the layer, and null on an error.
-std::pair<int, Record> load(const QString &path, std::uint32_t flags)
-{
-    GflLoadParams params;
-    gflGetDefaultLoadParams(&params);
-    params.flags = flags;
-    GflBitmap *bitmap = nullptr;
-    const int code = gflLoadBitmapUTF8(path.toUtf8().constData(), &bitmap, &params, nullptr);
-    return {code, Record(bitmap)};
-}
 
 QString reasonFor(int code)
 {
@@ -50,6 +32,16 @@ QString reasonFor(int code)
 }
 
 } // namespace
+
+std::pair<int, PhotoLoader::Record> PhotoLoader::load(const QString &path, std::uint32_t flags)
+{
+    GflLoadParams params;
+    gflGetDefaultLoadParams(&params);
+    params.flags = flags;
+    GflBitmap *bitmap = nullptr;
+    const int code = gflLoadBitmapUTF8(path.toUtf8().constData(), &bitmap, &params, nullptr);
+    return {code, Record(bitmap)};
+}
 
 QString PhotoLoader::complaint(const QString &path)
 {
@@ -132,6 +124,6 @@ std::unique_ptr<DecodedPhoto> PhotoLoader::decode(const QString &path)
         throw VException(reasonFor(code), V_LOCATION);
     photo->pixels.Create(bitmap->width, bitmap->height, bitmap->type, bitmap->bitsPerComponent, /*clear=*/false, bitmap->data,
                          int(bitmap->bytesPerLine));
-    photo->bitmap.reset(bitmap.release());
+    photo->bitmap = std::move(bitmap);
     return photo;
 }

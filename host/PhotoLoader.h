@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QString>
@@ -61,6 +63,9 @@ public:
     static QStringList rawSuffixes();
 
 private:
+    using Record = std::unique_ptr<GflBitmap, DecodedPhoto::Release>;
+    /// A picture as the codec layer reads it: a code of the layer, and null on an error.
+    static std::pair<int, Record> load(const QString &path, std::uint32_t flags);
     static bool isRaw(const QString &path);
     static PhotoFacts describeRaw(const QString &path);
     static void developRaw(const QString &path, VImage &image);

@@ -32,18 +32,6 @@ std::unique_ptr<LibRaw> open(const QString &path)
     return raw;
 }
 
-/// The codec layer reads the metadata when the result is saved. What it will refuse then is refused here, before any work.
-void requireMetadata(const QString &path)
-{
-    GflLoadParams params;
-    gflGetDefaultLoadParams(&params);
-    params.flags |= GFL_LOAD_METADATA | GFL_LOAD_METADATA_ONLY;
-    GflBitmap *read = nullptr;
-    if (gflLoadBitmapUTF8(path.toUtf8().constData(), &read, &params, nullptr) != GFL_NO_ERROR)
-        check(LIBRAW_FILE_UNSUPPORTED);
-    gflFreeBitmap(read);
-}
-
 /// LibRaw's flip as EXIF's orientation.
 int orientationOf(int flip)
 {
@@ -87,7 +75,10 @@ bool PhotoLoader::isRaw(const QString &path)
 PhotoFacts PhotoLoader::describeRaw(const QString &path)
 {
     const auto raw = open(path);
-    requireMetadata(path);
+    // The codec layer reads the metadata when the result is saved. What it will refuse then is refused here, before any work.
+    const int code = load(path, GFL_LOAD_METADATA | GFL_LOAD_METADATA_ONLY).first;
+    if (code != GFL_NO_ERROR)
+        check(code == GFL_ERROR_NO_MEMORY ? LIBRAW_UNSUFFICIENT_MEMORY : LIBRAW_FILE_UNSUPPORTED);
     PhotoFacts facts;
     facts.width = raw->imgdata.sizes.iwidth;
     facts.height = raw->imgdata.sizes.iheight;

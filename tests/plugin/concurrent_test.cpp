@@ -9,6 +9,7 @@
 #include <QPluginLoader>
 #include <QTemporaryDir>
 
+#include "OneImage.h"
 #include "TestHost.h"
 #include "VException.h"
 #include "VIPluginLibrary.h"
@@ -23,28 +24,15 @@ constexpr int kHeight = 50;
 constexpr int kRuns = 8;
 
 /// One photograph. Unlike TestImage it writes nothing that another one reads.
-class Still : public ImageDef
+class Still : public OneImage
 {
 public:
-    explicit Still(int number) : image(kWidth, kHeight, VImage::Grey, 8)
+    explicit Still(int number) : OneImage(kWidth, kHeight, VImage::Grey)
     {
         for (int y = 0; y < kHeight; ++y)
             for (int x = 0; x < kWidth; ++x)
                 *image.PixelAddress(x, y) = static_cast<unsigned char>(200 - 3 * y + (x / 9 + number * y) % 5 * y / 2);
     }
-    QString displayName() override { return {}; }
-    int height() override { return kHeight; }
-    int width() override { return kWidth; }
-    int channelCount() override { return 1; }
-    int bitsPerChannel() override { return 8; }
-    bool needsTiffOutput() override { return false; }
-    VImage *acquireScaled(int, int, int) override { return nullptr; }
-    void releaseScaled(int, int, int) override {}
-    VImage *acquireFull(int) override { return &image; }
-    void releaseFull(int) override {}
-
-private:
-    VImage image;
 };
 
 class ManyHost : public TestHost

@@ -14,7 +14,7 @@
 #include <exiv2/exiv2.hpp>
 #include <gmock/gmock.h>
 
-#include "ImageDef.h"
+#include "OneImage.h"
 #include "VCpuTopology.h"
 #include "VIApplication.h"
 #include "VIPluginLibrary.h"
@@ -72,27 +72,15 @@ Q_DECL_EXPORT bool qRegisterResourceData(int version, const unsigned char *tree,
 namespace {
 
 /// A small hazy slope.
-class Photograph : public ImageDef
+class Photograph : public OneImage
 {
 public:
-    Photograph() : image(48, 32, VImage::Rgb, 8)
+    Photograph() : OneImage(48, 32, VImage::Rgb)
     {
         for (int y = 0; y < 32; ++y)
             for (int i = 0; i < 48 * 3; ++i)
                 image.PixelAddress(0, y)[i] = static_cast<unsigned char>(210 - 3 * y + (i / 5 + y) % 4 * y);
     }
-    QString displayName() override { return {}; }
-    int height() override { return image.Height(); }
-    int width() override { return image.Width(); }
-    int channelCount() override { return 3; }
-    int bitsPerChannel() override { return 8; }
-    bool needsTiffOutput() override { return false; }
-    VImage *acquireScaled(int, int, int) override { return nullptr; }
-    void releaseScaled(int, int, int) override {}
-    VImage *acquireFull(int) override { return &image; }
-    void releaseFull(int) override {}
-
-    VImage image;
 };
 
 class Host : public QCoreApplication, public VIApplication
