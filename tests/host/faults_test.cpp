@@ -496,9 +496,15 @@ TEST_F(ProgramFaults, a_name_that_is_no_utf_8_is_refused)
 {
     // It does not come through the interface of the plug-in.
     folder.photograph("plain.png", 16, 12);
-    const Said said = folder.shell("n=$(printf 'odd\\377.png'); mkdir \"$n.d\"; cp plain.png \"$n\"; cp plain.png \"$n.d\"; "
-                                   "\"$V\" \"$n\" plain.png --strength 0; echo =$?; "
-                                   "cd \"$n.d\"; \"$V\" plain.png --strength 0; echo =$?; ls; cd ..; rm -r \"$n\" \"$n.d\"");
+    const Said said =
+        folder.shell("n=$(printf 'odd\\303\\251\\377\\303.png'); mkdir \"$n.d\"; cp plain.png \"$n\"; cp plain.png \"$n.d\"; "
+                     "\"$V\" \"$n\" plain.png --strength 0; echo =$?; "
+                     "\"$V\" \"$n\" --json 2>/dev/null; \"$V\" plain.png --settings \"$n\"; echo =$?; "
+                     "cd \"$n.d\"; \"$V\" plain.png --strength 0; echo =$?; ls; cd ..; rm -r \"$n\" \"$n.d\"");
+    const QString json = said.out.mid(said.out.indexOf('{')).section('\n', 0, 0);
+    const QString bytes = QJsonDocument::fromJson(json.toUtf8()).object()["photo_bytes"].toString();
+    EXPECT_EQ(QByteArray::fromPercentEncoding(bytes.toUtf8()), "odd\303\251\377\303.png") << json;
+    EXPECT_TRUE(said.out.contains("=2\n") && said.err.contains("--settings wants")) << said.err;
     EXPECT_TRUE(said.out.endsWith("=1\nplain.png\n")) << said.out;
     EXPECT_EQ(said.out.count("=1\n"), 2);
     EXPECT_EQ(said.err.count(QRegularExpression("veilaway: (odd.*|plain).png: Its name or that of a folder[^\n]*Rename it.\n")),
