@@ -27,7 +27,6 @@
 #include "HostApplication.h"
 #include "PhotoLoader.h"
 #include "PluginFile.h"
-#include "SettingsFile.h"
 #include "TestFolder.h"
 #include "gfl.h"
 
@@ -44,12 +43,10 @@ protected:
     /// What becomes of one photograph if `act` happens when this stage begins.
     BatchOutcome outcomeOf(const QString &path, Stage stage, const std::function<void()> &act, bool overwrite = false)
     {
-        SettingsFile settings(folder.path("none.xml"), "Veilaway");
-        BatchPlan::Wishes wishes{0, 0, overwrite, "Veilaway", &settings};
         when = stage;
         happens = act;
         BatchRunner runner(host, plugin.process(), *this);
-        runner.run(BatchPlan::make({path}, host, wishes), 1);
+        runner.run(plan({path}, overwrite), 1);
         return last;
     }
     void stageBegins(int, Stage stage) override
@@ -60,6 +57,11 @@ protected:
     void finished(int, const BatchOutcome &outcome) override { last = outcome; }
 
     TestFolder folder;
+
+    std::vector<BatchItem> plan(const QStringList &paths, bool overwrite)
+    {
+        return BatchPlan::make(paths, host, {0, 0, overwrite, "Veilaway", nullptr});
+    }
 
 private:
     int argumentCount = 1;
@@ -170,6 +172,14 @@ TEST_F(BatchFaults, a_disk_that_is_full_when_the_result_is_written)
             EXPECT_EQ(folder.content(result), older ? "older" : "");
             EXPECT_EQ(folder.content(name), source);
         }
+}
+
+TEST_F(BatchFaults, a_photograph_and_its_result_in_one_batch)
+{
+    folder.photograph("photo.png");
+    folder.photograph("photo_dehazed.png");
+    for (const BatchItem &item : plan({folder.path("photo.png"), folder.path("photo_dehazed.png")}, /*overwrite=*/true))
+        EXPECT_TRUE(item.refusal.endsWith("Leave out one of the two.")) << item.given << item.refusal;
 }
 
 TEST_F(BatchFaults, another_program_is_done_first)
