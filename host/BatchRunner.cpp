@@ -144,7 +144,11 @@ void BatchRunner::work(const std::vector<BatchItem> &items)
 BatchOutcome BatchRunner::process(const BatchItem &item, int index)
 {
     BatchOutcome outcome;
-    const auto stopped = [] { return BatchOutcome{BatchOutcome::Status::Stopped, 0, tr("Stopped; no result was written.")}; };
+    const auto stopped = [&outcome] {
+        outcome.status = BatchOutcome::Status::Stopped;
+        outcome.message = tr("Stopped; no result was written.");
+        return outcome;
+    };
     if (stopping)
         return stopped();
     if (!item.refusal.isEmpty()) {
