@@ -1,11 +1,15 @@
 #include "RemoveHaze.h"
 
 #include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <omp.h>
 
 #include "HazeReference.h"
 #include "HazeState.h"
@@ -78,6 +82,30 @@ TEST(RemoveHaze, ASecondStrengthUsesTheMapAndThreadsDontMatter)
     threadCount = 1;
     EXPECT_EQ(firstDifference(fresh.transmission, map, 10000), "");
     EXPECT_EQ(firstDifference(third.samples.data(), first.samples.data(), first.samples.size()), "");
+}
+
+int threadsOfTheProcess()
+{
+    const std::filesystem::directory_iterator tasks("/proc/self/task");
+    return static_cast<int>(std::distance(begin(tasks), end(tasks)));
+}
+
+TEST(RemoveHaze, StartsNoThreadBeyondItsTeam)
+{
+    // The run-time keeps its workers, so that each count wants a process of its own.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    for (const int team : {1, 3}) {
+        const auto startedThreads = [team] {
+            omp_set_num_threads(5); // what the run-time would take by itself
+            threadCount = team;
+            const Picture picture = makeHazyScene(100, 100);
+            OwnedState state(70);
+            const int before = threadsOfTheProcess();
+            RemoveHaze(*picture.image, state);
+            return state.transmission ? threadsOfTheProcess() - before : -1;
+        };
+        EXPECT_EXIT(std::_Exit(startedThreads()), testing::ExitedWithCode(team - 1), "") << team;
+    }
 }
 
 TEST(RemoveHaze, QuietExitsLeaveTheImage)
