@@ -57,7 +57,7 @@ struct IppiRelease
 struct ErodedImage
 {
     explicit ErodedImage(const VImage &image)
-        : raster(static_cast<float *>(ippiMalloc(image.Width(), image.Height(), {32, kChannels}, &stepBytes)))
+        : raster(static_cast<float *>(ippiMalloc(image.Width(), image.Height(), {kChannels, 32}, &stepBytes)))
     {
         if (!raster)
             throw std::bad_alloc();
