@@ -108,6 +108,31 @@ TEST(RemoveHaze, StartsNoThreadBeyondItsTeam)
     }
 }
 
+TEST(RemoveHaze, ScenesWithoutRedAreDone)
+{
+    const struct
+    {
+        const char *name;
+        float (*red)(int x, int y, float red);
+    } rows[] = {
+        {"no red at all", [](int, int, float) { return 0.0f; }},
+        {"under water", [](int x, int y, float red) { return y > 60 && x % 8 == 0 ? red : 0.0f; }}, // near things have some
+    };
+    for (const auto &row : rows) {
+        Picture picture = makeHazyScene(100, 100);
+        for (int y = 0; y < 100; ++y) {
+            for (int x = 0; x < 100; ++x)
+                picture.at(x, y)[0] = row.red(x, y, picture.at(x, y)[0]);
+        }
+        const float before = picture.at(50, 30)[1];
+        OwnedState state(70);
+        RemoveHaze(*picture.image, state);
+        ASSERT_NE(state.transmission, nullptr) << row.name;
+        EXPECT_EQ(state.airlight[0], 0.0f) << row.name;
+        EXPECT_LT(picture.at(50, 30)[1], before - 0.1f) << row.name;
+    }
+}
+
 TEST(RemoveHaze, QuietExitsLeaveTheImage)
 {
     const float kNan = std::numeric_limits<float>::quiet_NaN();

@@ -109,6 +109,34 @@ TEST(HazeDarkChannel, SpreadsATransparentBlackPixelOverItsWindow)
     }
 }
 
+TEST(HazeDarkChannel, ChannelsWithoutLightHaveNoSay)
+{
+    const struct
+    {
+        const char *name;
+        float airlight[3], colour[3], expected;
+    } rows[] = {
+        {"no red", {0.0f, 0.5f, 1.0f}, {0.0f, 0.25f, 0.25f}, 0.25f},
+        {"no green", {0.5f, 0.0f, 1.0f}, {0.375f, 0.0f, 0.25f}, 0.25f},
+        {"no blue", {1.0f, 0.5f, 0.0f}, {0.25f, 0.25f, 0.0f}, 0.25f},
+        {"blue alone", {0.0f, 0.0f, 1.0f}, {0.0f, 0.0f, 0.25f}, 0.25f},
+        {"red that the airlight lacks", {0.0f, 0.5f, 1.0f}, {0.5f, 0.25f, 0.25f}, 0.25f},
+        {"black", {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f}, 0.0f},
+        {"only what the airlight lacks", {1.0f, 0.0f, 0.0f}, {kNan, 0.25f, 0.5f}, kInfinity},
+    };
+    for (const auto &row : rows) {
+        Picture picture(6, 1);
+        fill(picture, row.colour[0], row.colour[1], row.colour[2]);
+        for (int x = 0; x < 3; ++x)
+            std::memcpy(picture.at(x, 0), row.airlight, sizeof row.airlight);
+        float airlight[3];
+        const auto map = darkChannelOf(picture, airlight);
+        ASSERT_TRUE(map) << row.name;
+        EXPECT_EQ(firstDifference(airlight, row.airlight, 3), "") << row.name;
+        EXPECT_EQ(map[5], row.expected) << row.name;
+    }
+}
+
 TEST(HazeDarkChannel, IsNullWithoutACandidateAndLeavesTheAirlight)
 {
     for (const float value : {kNan, -1.0f, -kInfinity}) {
