@@ -133,6 +133,41 @@ TEST(RemoveHaze, ScenesWithoutRedAreDone)
     }
 }
 
+TEST(RemoveHaze, BrightFloatPicturesAreSolvedAlikeOnAnyTeam)
+{
+    const struct
+    {
+        const char *name;
+        bool grey;
+        float factor, disc;
+    } rows[] = {{"a clipped highlight", false, 1.0f, 60000.0f}, {"a grey scene in other units", true, 1000.0f, 0.0f}};
+    for (const auto &row : rows) {
+        std::vector<float> maps[2];
+        for (const int team : {1, 8}) {
+            Picture picture = makeHazyScene(120, 90);
+            for (int y = 0; y < 90; ++y) {
+                for (int x = 0; x < 120; ++x) {
+                    float *const p = picture.at(x, y);
+                    const bool inDisc = row.disc > 0.0f && (x - 80) * (x - 80) + (y - 25) * (y - 25) < 100;
+                    const float grey = 0.3f * p[0] + 0.6f * p[1] + 0.1f * p[2];
+                    for (int c = 0; c < 3; ++c)
+                        p[c] = inDisc ? row.disc : (row.grey ? grey : p[c]) * row.factor;
+                }
+            }
+            threadCount = team;
+            OwnedState state(70);
+            RemoveHaze(*picture.image, state);
+            threadCount = 1;
+            ASSERT_NE(state.transmission, nullptr) << row.name;
+            maps[team / 8].assign(state.transmission, state.transmission + 120 * 90);
+        }
+        EXPECT_EQ(firstDifference(maps[0].data(), maps[1].data(), maps[0].size()), "") << row.name;
+        // Of a dark map from 0 to 1 the refinement makes one that hardly leaves it.
+        for (const float value : maps[0])
+            ASSERT_TRUE(value > -0.1f && value < 1.1f) << row.name << ' ' << value;
+    }
+}
+
 TEST(RemoveHaze, QuietExitsLeaveTheImage)
 {
     const float kNan = std::numeric_limits<float>::quiet_NaN();
