@@ -64,7 +64,8 @@ VImage::~VImage()
 
 void VImage::Create(int width, int height, unsigned short type, int bitsPerComponent, bool clear, void *data, int bytesPerLine)
 {
-    if (bitmap && !data && bitmap->width == width && bitmap->height == height && bitmap->type == type &&
+    // A record without pixels is what a failed allocation left behind.
+    if (bitmap && bitmap->data && !data && bitmap->width == width && bitmap->height == height && bitmap->type == type &&
         bitmap->bitsPerComponent == bitsPerComponent) {
         if (clear)
             std::memset(bitmap->data, 0, pixelBytes(*bitmap));

@@ -35,7 +35,8 @@ public:
     /// already keeps its storage, a view too, when `data` is null.
     ///
     /// Throws "Invalid Parameter" for an unknown type (the image is empty then), "Not enough memory" when record or pixels can't
-    /// be had, which includes a negative size and rows of 2 GiB and more (what is left is good only for Free and the destructor).
+    /// be had, which includes a negative size and rows of 2 GiB and more (what is left is good only for a new
+    /// shape, Free and the destructor).
     void Create(int width, int height, unsigned short type, int bitsPerComponent, bool clear = false, void *data = nullptr,
                 int bytesPerLine = 0);
 
@@ -43,7 +44,7 @@ public:
     void Free();
 
     /// Deep copy: this image becomes an owning copy of `source`, with its stride, palette and name; comment and metadata are
-    /// never cloned. `source` must be another image. Throws "Not enough memory".
+    /// never cloned. `source` must be another image. Throws "Not enough memory"; what is left then is as after a failed Create.
     void Assign(const VImage &source);
 
     // The accessors below stand inside pixel loops: no test for emptiness or bounds.

@@ -211,6 +211,8 @@ TEST(VImage, EveryFailedAllocationLeavesAnImageToFree)
         allocationsUntilFailure = static_cast<int>(failing);
         EXPECT_EQ(assignMessages[failing], messageOf([&] { image.Assign(source); })) << failing;
         allocationsUntilFailure = -1;
+        image.Create(2, 2, 0x0004, 8);
+        EXPECT_NE(nullptr, image.Bitmap()->data) << failing;
     }
     source.Bitmap()->name = nullptr;
 }
