@@ -1,6 +1,5 @@
 #include "VCpuTopology.h"
 
-#include <memory>
 #include <system_error>
 #include <thread>
 
@@ -10,7 +9,7 @@
 
 VCpuTopology *cpuTopology = nullptr;
 
-static std::unique_ptr<VCpuTopology> ownTopology;
+static VCpuTopology *ownTopology = nullptr;
 
 namespace {
 
@@ -53,15 +52,18 @@ int orThreads(int counted)
 
 void initTopology(VCpuTopology **shared)
 {
-    if (!shared)
-        ownTopology = std::make_unique<VCpuTopology>();
-    cpuTopology = shared ? *shared : ownTopology.get();
+    if (shared) {
+        cpuTopology = *shared;
+    } else {
+        releaseTopology();
+        cpuTopology = ownTopology = new VCpuTopology;
+    }
 }
 
 void releaseTopology()
 {
-    ownTopology.reset();
-    cpuTopology = nullptr;
+    delete ownTopology;
+    ownTopology = cpuTopology = nullptr;
 }
 
 int coreCountOfMachine()

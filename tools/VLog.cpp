@@ -1,20 +1,21 @@
 #include "VLog.h"
 
-#include <memory>
-
 VLog *logInstance = nullptr;
 
-static std::unique_ptr<VLog> ownLog;
+static VLog *ownLog = nullptr;
 
 void initLog(VLog *shared)
 {
-    if (!shared)
-        ownLog = std::make_unique<VLog>();
-    logInstance = shared ? shared : ownLog.get();
+    if (shared) {
+        logInstance = shared;
+    } else {
+        releaseLog();
+        logInstance = ownLog = new VLog;
+    }
 }
 
 void releaseLog()
 {
-    ownLog.reset();
-    logInstance = nullptr;
+    delete ownLog;
+    ownLog = logInstance = nullptr;
 }

@@ -1,10 +1,8 @@
 #include "VPoolMem.h"
 
-#include <memory>
-
 VPoolMem *memoryPool = nullptr;
 
-static std::unique_ptr<VPoolMem> ownPool;
+static VPoolMem *ownPool = nullptr;
 
 VPoolMem::VPoolMem()
 {
@@ -27,13 +25,14 @@ void initPool(VPoolMem *shared)
     if (shared) {
         memoryPool = shared;
     } else if (!memoryPool) {
-        ownPool = std::make_unique<VPoolMem>();
-        memoryPool = ownPool.get();
+        if (!ownPool)
+            ownPool = new VPoolMem;
+        memoryPool = ownPool;
     }
 }
 
 void releasePool()
 {
-    ownPool.reset();
-    memoryPool = nullptr;
+    delete ownPool;
+    ownPool = memoryPool = nullptr;
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,7 +13,7 @@
 
 VTempManager *tempManager = nullptr;
 
-static std::unique_ptr<VTempManager> ownManager;
+static VTempManager *ownManager = nullptr;
 
 qint64 freeDiskSpace(QString path)
 {
@@ -58,8 +57,9 @@ void initTempManager(VTempManager *shared)
     if (shared) {
         tempManager = shared;
     } else if (!tempManager) {
-        ownManager = std::make_unique<VTempManager>();
-        tempManager = ownManager.get();
+        if (!ownManager)
+            ownManager = new VTempManager;
+        tempManager = ownManager;
     }
 }
 
@@ -78,5 +78,6 @@ void releaseTempManager()
         if (QDir(path).entryList({QStringLiteral("*")}, QDir::Files, QDir::NoSort).isEmpty())
             currentFolder.rmdir(path);
     }
-    ownManager.reset();
+    delete ownManager;
+    ownManager = nullptr;
 }

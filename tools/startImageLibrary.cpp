@@ -1,6 +1,6 @@
 #include "startLibraries.h"
 
-#include <memory>
+#include <utility>
 
 #include <QDir>
 
@@ -16,12 +16,12 @@ VImageContext imageContext;
 namespace {
 
 bool started = false;
-std::unique_ptr<VImageCacheRegistry> ownRegistry;
+VImageCacheRegistry *ownRegistry = nullptr;
 
 VImageCacheRegistry *makeRegistry()
 {
-    ownRegistry = std::make_unique<VImageCacheRegistry>();
-    return ownRegistry.get();
+    delete std::exchange(ownRegistry, nullptr);
+    return ownRegistry = new VImageCacheRegistry;
 }
 
 } // namespace
@@ -53,15 +53,12 @@ void startImageLibrary(VImageContext *context)
 void stopImageLibrary()
 {
     stopTools();
-    if (!started) {
-        imageSettings = nullptr; // lent, and forgotten
-        imageContext = {};
-        return;
-    }
-    delete imageSettings;
-    imageSettings = nullptr;
-    ownRegistry.reset();
+    if (started)
+        delete imageSettings;
+    imageSettings = nullptr; // one that was lent is only forgotten
+    delete std::exchange(ownRegistry, nullptr);
     imageContext = {};
-    gflLibraryExit();
+    if (started)
+        gflLibraryExit();
     started = false;
 }

@@ -1,5 +1,7 @@
 #include "startLibraries.h"
 
+#include <utility>
+
 #include <omp.h>
 
 #include "VCpuTopology.h"
@@ -15,6 +17,8 @@ VToolsContext toolsContext;
 namespace {
 
 bool started = false;
+bool poolIsOwn = false; ///< Made for a host that lends none; likewise the next.
+bool foldersAreOwn = false;
 std::int32_t *sharedValue = nullptr;
 
 void takeShared(const VToolsContext &context)
@@ -23,7 +27,9 @@ void takeShared(const VToolsContext &context)
     initTopology(context.topology);
     threadCount = *context.threadCount;
     coreCount = *context.coreCount;
-    initPool(context.pool); // this one and the next make what the host has not
+    poolIsOwn |= !context.pool && !memoryPool;
+    foldersAreOwn |= !context.tempManager && !tempManager;
+    initPool(context.pool);
     initTempManager(context.tempManager);
     sharedValue = context.sharedValue;
 }
@@ -63,6 +69,10 @@ void stopTools()
 {
     if (!started) {
         // What was lent is forgotten, so that a later start alone makes its own.
+        if (std::exchange(poolIsOwn, false))
+            releasePool();
+        if (std::exchange(foldersAreOwn, false))
+            releaseTempManager();
         logInstance = nullptr;
         cpuTopology = nullptr;
         memoryPool = nullptr;

@@ -1,5 +1,7 @@
 #include "startLibraries.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
@@ -7,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 #include <omp.h>
@@ -27,7 +30,7 @@ using Calls = std::vector<std::string>;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-Calls calls;
+Calls &calls = *new Calls; // noted until the process ends
 
 Calls takeCalls()
 {
@@ -86,6 +89,23 @@ const Calls kStartAlone = {"image resources", "ipp",      "tools resources", "lo
                            "cores",           "pool own", "folders own",     "gfl",     "lzw 1"};
 const Calls kStopAlone = {"release pool", "release folders", "release topology", "release log", "gfl exit"};
 const Calls kStartLent = {"image resources", "ipp", "tools resources", "log lent", "topology lent", "pool lent", "folders lent"};
+
+bool stopsLast = false;
+
+/// Its destructor stands for whoever deletes the plug-in's library object after the end of all static objects: it is made before
+/// them.
+struct MadeFirst
+{
+    ~MadeFirst()
+    {
+        if (!stopsLast)
+            return;
+        stopImageLibrary();
+        for (const std::string &call : calls)
+            std::fprintf(stderr, "%s\n", call.c_str());
+    }
+};
+[[gnu::init_priority(101)]] const MadeFirst madeFirst;
 
 /// What a host lends; its own numbers are none that this machine would give.
 struct Host
@@ -208,6 +228,21 @@ TEST_F(StartLibraries, MakesWhatAHostDoesNotLend)
     EXPECT_THAT(takeCalls(), testing::AllOf(testing::Contains("schedule 3 10"), testing::Not(testing::Contains("gfl"))));
     stopImageLibrary();
     EXPECT_THAT(takeCalls(), ElementsAre("release pool", "release folders", "release topology", "release log"));
+}
+
+TEST(StartLibrariesDeathTest, StopAfterTheEndOfEveryStaticObject)
+{
+    const QTemporaryDir root;
+    ASSERT_TRUE(QDir(root.path()).mkdir("empty"));
+    const auto end = [&] {
+        startImageLibrary(nullptr);
+        tempManager->folders.push_back(new VTempFolder{root.filePath("empty")});
+        takeCalls();
+        stopsLast = true;
+        std::exit(0);
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(0), "^release pool\nrelease folders\nrelease topology\nrelease log\ngfl exit\n");
+    EXPECT_EQ(QDir(root.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList()) << "the folders are swept";
 }
 
 TEST(StartInterfaceLibrary, SetsTheSearchPathOnlyAlone)
