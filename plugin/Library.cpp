@@ -5,8 +5,31 @@
 #include "pluginIdentity.h"
 #include "startLibraries.h"
 
+namespace {
+
+Library *current = nullptr;
+
+} // namespace
+
+/// The end of this file's static objects is the last moment at which every library that it uses is still whole: the OpenMP
+/// run-time ends before Qt's clean-up deletes the library object. So the previews end here, and the image library stops.
+struct Library::EndAtExit
+{
+    ~EndAtExit()
+    {
+        if (!current)
+            return;
+        for (const QPointer<QObject> &process : qAsConst(current->madeProcesses))
+            if (auto *const made = qobject_cast<NimbraOne2One *>(process.data()))
+                made->releaseRecords();
+        stopImageLibrary();
+    }
+};
+
 Library::Library(QObject *parent) : QObject(parent)
 {
+    static const EndAtExit endAtExit; // made after everything that is made at load, so it goes first
+    current = this;
     setObjectName(QString::fromLatin1("Nimbra"));
     VIApplication *const app = hostApplication();
     if (!app)
@@ -22,6 +45,7 @@ Library::~Library()
     for (const QPointer<QObject> &process : made)
         delete process.data();
     stopImageLibrary();
+    current = nullptr;
 }
 
 QList<QPointer<QObject>> Library::processes(int create)

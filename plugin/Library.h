@@ -18,7 +18,9 @@ class Library : public QObject, public VIPluginLibrary, public VIAbout
 
 public:
     explicit Library(QObject *parent = nullptr);
-    /// Deletes the processes that still live, then stops the image library.
+    /// Deletes the processes that still live, then stops the image library. If the host ends without an unload, Qt's clean-up
+    /// calls it after the end of the application object and of some of the libraries that this file uses; what needs those has
+    /// been done by then (EndAtExit).
     ~Library() override;
 
     QList<QPointer<QObject>> processes(int create) override;
@@ -32,5 +34,7 @@ public:
     QString guid() override;
 
 private:
+    struct EndAtExit;
+
     QList<QPointer<QObject>> madeProcesses; ///< Oldest first.
 };

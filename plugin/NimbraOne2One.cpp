@@ -45,14 +45,14 @@ NimbraOne2One::NimbraOne2One(QObject *parent) : QObject(parent), defaultSettings
 
 NimbraOne2One::~NimbraOne2One()
 {
-    if (page)
-        page->releaseImages();
-    destroyRecords();
+    releaseRecords();
     NimbraOne2One::destroySettings(defaultSettings);
 }
 
-void NimbraOne2One::destroyRecords()
+void NimbraOne2One::releaseRecords()
 {
+    if (page)
+        page->releaseRecords();
     for (HazeState *settings : qAsConst(settingsByImage))
         NimbraOne2One::destroySettings(settings);
     settingsByImage.clear();
@@ -171,9 +171,7 @@ void NimbraOne2One::run(QString inputPath, VISettingsHandle settings, QString *o
 
 void NimbraOne2One::setImages(QStringList paths)
 {
-    if (page)
-        page->releaseImages(); // a run of the preview still reads and writes the records
-    destroyRecords();
+    releaseRecords();
     VIApplication *const app = hostApplication();
     for (const QString &path : qAsConst(paths)) {
         HazeState *const settings = createSettings(QDomElement());

@@ -20,8 +20,8 @@ class NimbraOne2One : public QObject, public VIPluginOne2One
 public:
     /// Reads the host's stored strength into the default settings; 0 without a host.
     Q_INVOKABLE explicit NimbraOne2One(QObject *parent = nullptr);
-    /// Waits for a preview that still computes, then frees the records of the list and the default. The page stays: it belongs to
-    /// whoever took it, and stands empty.
+    /// Calls releaseRecords and frees the default. The page stays as it looks, for it belongs to whoever took it, but it does
+    /// nothing any more.
     ~NimbraOne2One() override;
 
     QString name() override;
@@ -53,12 +53,14 @@ public:
     /// What "Apply to all images" chose becomes the default that saveDefaults writes.
     virtual void setDefaultSettings(HazeState *settings);
 
+    /// Waits for a preview that still computes, takes the records of the list back from the page and frees them. Touches no
+    /// widget.
+    void releaseRecords();
+
     /// The door into the engine (see RemoveHaze.h), for run and for the preview. Reads no member: any thread.
     void RemoveHaze(VImage &image, HazeState &state);
 
 private:
-    void destroyRecords();
-
     QMap<ImageDef *, HazeState *> settingsByImage; ///< The record of each image in the current list. Owned.
     QPointer<UIHazePage> page;                     ///< Not owned.
     HazeState *defaultSettings;                    ///< Owned; only its strength is used.

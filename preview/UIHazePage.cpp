@@ -43,10 +43,10 @@ UIHazePage::UIHazePage(NimbraOne2One *processOfPage, QWidget *parent)
     setSubTitle(process->description());
 }
 
-void UIHazePage::releaseImages()
+void UIHazePage::releaseRecords()
 {
     preview->releaseRecord();
-    setImages({});
+    imageSettings.clear();
 }
 
 void UIHazePage::imageChanged(ImageDef *image, HazeState *settings)

@@ -14,9 +14,10 @@ class UIHazePage : public UIImageDefListWizard
 public:
     UIHazePage(NimbraOne2One *process, QWidget *parent);
 
-    /// Waits for a preview that still computes and forgets the images and their records; their owner may destroy them then, and
-    /// the process too: an empty page does not call it.
-    void releaseImages();
+    /// Waits for a preview that still computes and forgets the records; their owner may destroy them then, and the process too: a
+    /// page without records does not call it. Touches no widget, for the application may be gone: the list still names the
+    /// images, but nothing happens when one of them is chosen.
+    void releaseRecords();
 
     /// Loads the image into the preview and asks for a result. What the conversion throws passes through; the panel then stays on
     /// the image before.

@@ -181,20 +181,24 @@ TEST_F(Page, a_new_list_or_the_end_of_the_process_waits_for_the_run)
     open();
     process->setImages({"/p/a.png", "/p/b.png"});
     strength->setValue(60);
-    process->setImages({"/p/c.png"}); // the record of the run goes
+    process->setImages({"/p/c.png", "/p/d.png"}); // the record of the run goes
+    choose("/p/c.png");
     strength->setValue(30);
     ASSERT_TRUE(watch->finish());
     EXPECT_EQ(panel->afterImage, expected("/p/c.png", 30));
 
     strength->setValue(50);
     process.reset();
+    host.calls.clear();
     QTest::keyClick(panel, Qt::Key_Alt);
     QCoreApplication::processEvents();
     strength->setValue(90);
+    choose("/p/d.png");
     for (const char *button : {"QToolButton_Prev", "QToolButton_Next", "pushButtonApplyAll"})
         click(button);
     EXPECT_FALSE(panel->thread.isRunning());
-    EXPECT_EQ(images->count(), 0);
+    EXPECT_EQ(images->count(), 2) << "no widget is touched";
+    EXPECT_EQ(host.calls, QStringList()) << "no image is loaded";
 }
 
 TEST_F(Page, the_page_may_be_gone)
