@@ -1,6 +1,8 @@
 // A whole host in one file: it has the haze taken out of photographs, at the stored strength or, with --edit, as strongly as a
 // person chooses on the plug-in's own page. docs/host-contract.md says what each call promises.
-// usage: host [--edit [--accept]] PLUGIN PHOTOGRAPH...    absolute paths; --accept closes the page as soon as its preview stands
+// usage: host [--edit [--accept | --cancel]] PLUGIN PHOTOGRAPH...    all paths absolute; --accept and --cancel answer for the
+// person as soon as the preview is there
+// Exit code: 0 if each photograph has its result, 1 if one has none, because something failed or the person cancelled.
 #include <QApplication>
 #include <QFileInfo>
 #include <QPluginLoader>
@@ -99,14 +101,18 @@ struct Host : QApplication, VIApplication
     QTranslator translator;
 };
 
-/// Shows the page and takes the settings from it; false if the person cancels.
-bool edit(Host &host, VIPluginOne2One &process, const QStringList &paths, bool acceptAtOnce)
+/// What answers for the person: accept or reject; null if the person does.
+using Answer = void (QDialog::*)();
+
+/// Shows the page and takes the settings from it; false if the person cancels, or the first photograph can't be read. The wizard
+/// deletes the page.
+bool edit(Host &host, VIPluginOne2One &process, const QStringList &paths, Answer answer)
 {
     QWizard wizard;
     QWizardPage *const page = process.wizardPage();
     wizard.addPage(page); // and owns it from now on
-    if (acceptAtOnce)     // the page is complete when its preview stands
-        QObject::connect(page, &QWizardPage::completeChanged, [&] { page->isComplete() ? wizard.accept() : void(); });
+    if (answer)           // the page is complete when it shows its preview
+        QObject::connect(page, &QWizardPage::completeChanged, [&] { page->isComplete() ? (wizard.*answer)() : void(); });
     if (!attempt([&] { process.setImages(paths); }) || wizard.exec() != QDialog::Accepted)
         return false;
     process.saveDefaults();
@@ -115,25 +121,11 @@ bool edit(Host &host, VIPluginOne2One &process, const QStringList &paths, bool a
     return true;
 }
 
-int main(int argc, char **argv)
+/// Makes the result of each photograph; returns how many have none. A run works on the thread that calls it, which may be any.
+int run(Host &host, VIPluginOne2One *process)
 {
-    Host host(argc, argv);
-    QStringList paths = QApplication::arguments().mid(1);
-    const bool wantsPage = paths.removeAll("--edit") > 0, acceptAtOnce = paths.removeAll("--accept") > 0;
-    QPluginLoader loader(paths.isEmpty() ? QString() : paths.takeFirst());
-    auto *library = qobject_cast<VIPluginLibrary *>(loader.instance());
-    if (!library) {
-        std::fprintf(stderr, "host: %s\n", qPrintable(loader.errorString()));
-        return 1;
-    }
-    auto *process = qobject_cast<VIPluginOne2One *>(library->processes(1).constLast().data());
-    for (const QString &path : qAsConst(paths))
-        host.photographs.try_emplace(path, path);
-
-    if (wantsPage && !edit(host, *process, paths, acceptAtOnce))
-        return 1;
     int failures = 0;
-    for (auto &[path, photograph] : host.photographs) { // a run works on the thread that calls it, which may be any
+    for (auto &[path, photograph] : host.photographs) {
         const VISettingsHandle settings = process->createSettings(photograph.settings);
         QString result;
         if (attempt([&, &path = path] { process->run(path, settings, &result); }))
@@ -143,6 +135,27 @@ int main(int argc, char **argv)
         photograph.releaseFull(1); // a run that failed may have left that to the host
         process->destroySettings(settings);
     }
-    loader.unload(); // deletes the library object, and the process with it
-    return failures == 0 ? 0 : 1;
+    return failures;
+}
+
+int main(int argc, char **argv)
+{
+    Host host(argc, argv);
+    QStringList paths = QApplication::arguments().mid(1);
+    const bool wantsPage = paths.removeAll("--edit") > 0, accepts = paths.removeAll("--accept") > 0,
+               cancels = paths.removeAll("--cancel") > 0;
+    QPluginLoader loader(paths.isEmpty() ? QString() : paths.takeFirst());
+    for (const QString &path : qAsConst(paths))
+        host.photographs.try_emplace(path, path);
+
+    bool done = false;
+    if (auto *library = qobject_cast<VIPluginLibrary *>(loader.instance())) {
+        auto *process = qobject_cast<VIPluginOne2One *>(library->processes(1).constLast().data());
+        const Answer answer = accepts ? &QDialog::accept : cancels ? &QDialog::reject : nullptr;
+        done = (!wantsPage || edit(host, *process, paths, answer)) && run(host, process) == 0;
+    } else {
+        std::fprintf(stderr, "host: %s\n", qPrintable(loader.errorString()));
+    }
+    loader.unload(); // whatever happened: deletes the library object, and the process with it, while the application still lives
+    return done ? 0 : 1;
 }
