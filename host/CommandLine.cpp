@@ -35,7 +35,9 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     }
 
     line.photographs = parser.positionalArguments();
-    const QString command = arguments.value(1);
+    const int end = arguments.indexOf("--"); // what stands behind it is no command
+    const bool named = end < 0 || line.photographs.size() >= arguments.size() - end;
+    const QString command = named ? line.photographs.value(0) : QString();
     if (command == "wizard")
         line.command = Command::Wizard;
     if (command == "wizard" || command == "run")

@@ -1,6 +1,7 @@
 #include <clocale>
 #include <csignal>
 #include <cstdio>
+#include <optional>
 
 #include <QApplication>
 #include <QIcon>
@@ -8,6 +9,7 @@
 #include <QTextCodec>
 
 #include "CommandLine.h"
+#include "DisplayWatch.h"
 #include "HostApplication.h"
 #include "PluginFile.h"
 #include "ProgressView.h"
@@ -72,7 +74,10 @@ int main(int argc, char **argv)
     if (line.command == CommandLine::Command::Wizard && line.error.isEmpty()) {
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+        std::optional<DisplayWatch> watch(locale);
         HostedApplication<QApplication> application(argc, argv, locale, line.shareServices);
+        watch->checkScreens();
+        watch.reset();
         settle(application);
         QApplication::setDesktopFileName(QStringLiteral("veilaway"));
         QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("veilaway")));

@@ -79,7 +79,7 @@
         <translation>Das Foto wurde geändert, verschoben oder gelöscht, während der Dunst entfernt wurde. Legen Sie es zurück und beginnen Sie von vorn.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>Das Foto braucht etwa %1 Arbeitsspeicher, frei sind %2. Schließen Sie andere Programme oder verkleinern Sie das Foto.</translation>
     </message>
 </context>
@@ -247,6 +247,13 @@ Beispiele:
     <message>
         <source>See veilaway --help.</source>
         <translation>Siehe veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Das Fenster kann nicht gezeigt werden: %1. Starten Sie den Assistenten in einer grafischen Sitzung oder von einem anderen Rechner aus mit ssh -X. Ohne Fenster erledigt veilaway FOTO... die Arbeit.</translation>
     </message>
 </context>
 <context>

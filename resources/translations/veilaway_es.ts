@@ -79,7 +79,7 @@
         <translation>La foto se modificó, se movió o se borró mientras se quitaba la bruma. Vuelva a ponerla en su sitio y empiece de nuevo.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>La foto necesita unos %1 de memoria y hay %2 libres. Cierre otros programas o reduzca la foto.</translation>
     </message>
 </context>
@@ -251,6 +251,13 @@ Ejemplos:
     <message>
         <source>See veilaway --help.</source>
         <translation>Consulte veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>No se puede mostrar la ventana: %1. Inicie el asistente en una sesión gráfica, o desde otro equipo con ssh -X. Sin ventana, veilaway FOTO... hace el trabajo.</translation>
     </message>
 </context>
 <context>

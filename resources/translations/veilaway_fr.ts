@@ -79,7 +79,7 @@
         <translation>La photo a été modifiée, déplacée ou supprimée pendant que le voile était retiré. Remettez-la en place et recommencez.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>La photo demande environ %1 de mémoire, et %2 sont libres. Fermez d&apos;autres programmes ou réduisez la photo.</translation>
     </message>
 </context>
@@ -253,6 +253,13 @@ Exemples&#xa0;:
     <message>
         <source>See veilaway --help.</source>
         <translation>Voir veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>La fenêtre ne peut pas être affichée : %1. Lancez l&apos;assistant dans une session graphique, ou depuis une autre machine avec ssh -X. Sans fenêtre, veilaway PHOTO... fait le travail.</translation>
     </message>
 </context>
 <context>

@@ -79,7 +79,7 @@
         <translation>La foto è stata modificata, spostata o cancellata mentre si toglieva la foschia. Rimettetela al suo posto e ricominciate.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>La foto richiede circa %1 di memoria e ne sono liberi %2. Chiudere altri programmi o ridurre la foto.</translation>
     </message>
 </context>
@@ -247,6 +247,13 @@ Esempi:
     <message>
         <source>See veilaway --help.</source>
         <translation>Vedere veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Impossibile mostrare la finestra: %1. Avviare la procedura guidata in una sessione grafica, o da un altro computer con ssh -X. Senza finestra, veilaway FOTO... fa il lavoro.</translation>
     </message>
 </context>
 <context>

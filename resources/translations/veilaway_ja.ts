@@ -79,7 +79,7 @@
         <translation>かすみを取り除いている間に写真が変更、移動、または削除されました。元に戻してからやり直してください。</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>この写真には約 %1 のメモリが必要ですが、空きは %2 です。ほかのプログラムを終了するか、写真を縮小してください。</translation>
     </message>
 </context>
@@ -248,6 +248,13 @@ Examples:
     <message>
         <source>See veilaway --help.</source>
         <translation>veilaway --help をご覧ください。</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>ウィンドウを表示できません: %1。デスクトップ環境でウィザードを起動するか、別のマシンから ssh -X で接続してください。ウィンドウなしで処理するには veilaway 写真... を使います。</translation>
     </message>
 </context>
 <context>

@@ -79,7 +79,7 @@
         <translation>Zdjęcie zostało zmienione, przeniesione lub usunięte podczas usuwania mgły. Przywróć je i zacznij od nowa.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>Zdjęcie wymaga około %1 pamięci, a wolne jest %2. Należy zamknąć inne programy lub zmniejszyć zdjęcie.</translation>
     </message>
 </context>
@@ -248,6 +248,13 @@ Przykłady:
     <message>
         <source>See veilaway --help.</source>
         <translation>Zobacz veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Nie można wyświetlić okna: %1. Kreatora należy uruchomić w sesji graficznej albo z innego komputera przez ssh -X. Bez okna pracę wykona veilaway ZDJĘCIE...</translation>
     </message>
 </context>
 <context>

@@ -79,7 +79,7 @@
         <translation>Снимок был изменён, перемещён или удалён, пока убиралась дымка. Верните его на место и начните заново.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>Для фотографии нужно около %1 памяти, а свободно %2. Закройте другие программы или уменьшите фотографию.</translation>
     </message>
 </context>
@@ -248,6 +248,13 @@ Examples:
     <message>
         <source>See veilaway --help.</source>
         <translation>См. veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Не удаётся показать окно: %1. Запустите мастер в графическом сеансе или с другого компьютера через ssh -X. Без окна работу выполнит veilaway ФОТО...</translation>
     </message>
 </context>
 <context>

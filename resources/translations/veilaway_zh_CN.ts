@@ -79,7 +79,7 @@
         <translation>去除雾霾期间，照片被更改、移动或删除。请将其放回原处，然后重新开始。</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>此照片约需 %1 内存，而可用内存为 %2。请关闭其他程序，或缩小照片。</translation>
     </message>
 </context>
@@ -241,6 +241,13 @@ _dehazed。
     <message>
         <source>See veilaway --help.</source>
         <translation>请参阅 veilaway --help。</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>无法显示窗口：%1。请在桌面会话中启动向导，或从另一台计算机用 ssh -X 启动。不需要窗口时，可用 veilaway 照片... 完成处理。</translation>
     </message>
 </context>
 <context>

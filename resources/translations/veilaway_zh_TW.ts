@@ -79,7 +79,7 @@
         <translation>去除霧霾期間，照片被更改、移動或刪除。請將其放回原處，然後重新開始。</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>此照片約需 %1 記憶體，而可用記憶體為 %2。請關閉其他程式，或縮小照片。</translation>
     </message>
 </context>
@@ -241,6 +241,13 @@ _dehazed。
     <message>
         <source>See veilaway --help.</source>
         <translation>請參閱 veilaway --help。</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>無法顯示視窗：%1。請在桌面工作階段中啟動精靈，或從另一台電腦以 ssh -X 啟動。不需要視窗時，可用 veilaway 照片... 完成處理。</translation>
     </message>
 </context>
 <context>

@@ -137,7 +137,7 @@ std::unique_ptr<QProcess> TestFolder::launch(const QString &program, const QStri
 {
     auto process = std::make_unique<QProcess>();
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"LANG", "LANGUAGE", "LC_MESSAGES", "LC_CTYPE", "DISPLAY", "QT_QPA_PLATFORM"})
+    for (const char *name : {"LANG", "LANGUAGE", "LC_MESSAGES", "LC_CTYPE", "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         variables.remove(name);
     variables.insert("LC_ALL", "C");
     variables.insert("XDG_CONFIG_HOME", path("config"));

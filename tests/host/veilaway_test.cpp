@@ -50,6 +50,7 @@ TEST_F(Veilaway, wrong_command_lines_end_with_2_and_say_what_is_wrong)
                               "<photo path='./a.png'><Veilaway hazeRemove='5'/></photo></veilaway>");
     folder.write("odd.xml", "<veilaway><photo path='a.png'><Veilaway hazeRemove='101'/></photo></veilaway>");
     folder.write("other.xml", "<html/>");
+    folder.write("more.xml", "<veilaway/><veilaway/>");
     const QStringList before = folder.files();
     const struct
     {
@@ -66,11 +67,13 @@ TEST_F(Veilaway, wrong_command_lines_end_with_2_and_say_what_is_wrong)
         {{"a.png", "--jobs", "0"}, "--jobs wants"},
         {{"a.png", "--language", "xx"}, "zh_TW"},
         {{"a.png", "--nonsense"}, "nonsense"},
+        {{"--quiet", "wizard"}, "--quiet is not for the wizard"},
         {{"--settings", "none.xml"}, "none.xml"},
         {{"a.png", "--strength", "9", "--settings", "broken.xml"}, "broken.xml"},
         {{"a.png", "--settings", "twice.xml"}, "twice"},
         {{"a.png", "--settings", "odd.xml"}, "0 to 100"},
         {{"a.png", "--settings", "other.xml"}, "<veilaway>"},
+        {{"a.png", "--settings", "more.xml"}, "end of document. Repair it"},
         {{"a.png", "--settings", "no/such/folder.xml"}, "folder.xml"},
         {{"a.png", "--settings", "a_dehazed.png"}, "name of a result"},
     };
@@ -82,6 +85,35 @@ TEST_F(Veilaway, wrong_command_lines_end_with_2_and_say_what_is_wrong)
     }
     EXPECT_EQ(folder.files(), before);
     EXPECT_EQ(folder.content("broken.xml"), "<veilaway><photo path=");
+}
+
+TEST_F(Veilaway, the_wizard_says_what_helps_where_no_window_can_be_shown)
+{
+    folder.write("broken.xml", "<veilaway>");
+    const char kNone[] = "^veilaway: The window can't be shown: [^\n]*ssh -X[^\n]*\n$";
+    const struct
+    {
+        QStringList arguments;
+        const char *environment;
+        int code;
+        const char *said;
+    } cases[] = {
+        {{"wizard"}, "DISPLAY=", 1, kNone},
+        {{"wizard"}, "DISPLAY=:97531", 1, kNone},
+        {{"wizard"}, "QT_QPA_PLATFORM=nonsense", 1, kNone},
+        {{"wizard"}, "QT_QPA_PLATFORM=linuxfb:fb=none", 1, "The window can't be shown: linuxfb"},
+        {{"--share-services", "wizard"}, "DISPLAY=", 1, kNone},
+        {{"--language", "de", "wizard", "--", "-a.png"}, "DISPLAY=", 1, "Das Fenster kann nicht"},
+        {{"--", "wizard"}, "DISPLAY=", 1, "wizard: There is no such file"},
+        {{"wizard", "--settings", "broken.xml"}, "QT_QPA_PLATFORM=offscreen", 2, "broken.xml"},
+        {{"wizard", "--settings", "broken.xml"}, "QT_QPA_PLATFORM=nonsense;minimal", 2, "broken.xml"},
+    };
+    for (const auto &[arguments, environment, code, said] : cases) {
+        const Said answer = folder.run(arguments, {environment});
+        EXPECT_EQ(answer.code, code) << environment << ' ' << arguments.join(' ');
+        EXPECT_TRUE(answer.err.contains(QRegularExpression(said))) << environment << ": " << answer.err;
+        EXPECT_EQ(answer.out, "");
+    }
 }
 
 TEST_F(Veilaway, help_and_version_answer_on_standard_output)
@@ -176,7 +208,7 @@ TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
         {"empty.png", "empty"},
         {"text.jpg", "known format"},
         {"large.hdr", "21474"},
-        {"vast.hdr", "TB of memory, and [0-9.]+ .B are free"},
+        {"vast.hdr", "TB of memory, but only [0-9.]+ .B is free"},
         {"cut.png", "damaged"},
         {"liar.jpg", "suffix"},
         {"dangling.png", "link"},
