@@ -20,6 +20,7 @@
 #include "VException.h"
 #include "XmpCarrier.h"
 #include "kernel32.h"
+#include "whyUnchanged.h"
 
 namespace {
 
@@ -106,8 +107,8 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     Stage stage = Stage::Reading;
     bool outOfMemory = false;
     try {
-        attempt(item, index, stage);
-        outcome.status = BatchOutcome::Status::Done;
+        outcome.unchanged = attempt(item, index, stage);
+        outcome.status = outcome.unchanged.isEmpty() ? BatchOutcome::Status::Done : BatchOutcome::Status::Unchanged;
         outcome.message = carryXmp(item.path, item.result);
         if (!outcome.message.isEmpty())
             outcome.message =
@@ -147,7 +148,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     return outcome;
 }
 
-void BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
+QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
 {
     if (stopping)
         endRun();
@@ -192,12 +193,13 @@ void BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
     }
     if (turned) {
         turned->run(one2one, settings, item.result);
-        return;
+        return whyUnchanged(one2one, settings);
     }
     QString written;
     one2one.run(item.path, settings, &written);
     if (written != item.result || QFileInfo(written).size() == 0)
         throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, item.result), V_LOCATION);
+    return whyUnchanged(one2one, settings);
 }
 
 void BatchRunner::reserve(qint64 bytes)

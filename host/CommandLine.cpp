@@ -107,7 +107,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program's own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or

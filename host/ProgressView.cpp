@@ -76,30 +76,41 @@ void ProgressView::stageBegins(int item, BatchRunner::Stage stage)
 void ProgressView::finished(int index, const BatchOutcome &outcome)
 {
     const BatchItem &item = items[std::size_t(index)];
-    const bool done = outcome.status == BatchOutcome::Status::Done;
+    const bool unchanged = outcome.status == BatchOutcome::Status::Unchanged;
+    const bool written = unchanged || outcome.status == BatchOutcome::Status::Done;
     inHand.erase(index);
     ++finishedCount;
-    doneCount += done;
+    doneCount += written && !unchanged;
+    unchangedCount += unchanged;
     eraseBars();
     if (!outcome.message.isEmpty())
         complain(item.given + ": " + outcome.message);
+    if (unchanged && notes)
+        complain(item.given + ": " + outcome.unchanged);
     switch (style) {
     case Style::Bars:
-        if (done)
+        if (written)
             write(stdout, QStringLiteral("%1 %2  %3 -> %4\n")
                               .arg(bar(kBarWidth), tr("%1 s").arg(secondsText(outcome.seconds)), harmless(item.given),
                                    harmless(item.result)));
         break;
     case Style::Lines:
-        if (done)
+        if (written)
             write(stdout,
                   tr("%1: %2 (%3 s)").arg(harmless(item.given), harmless(item.result), secondsText(outcome.seconds)) + '\n');
         break;
     case Style::Json: {
-        const char *status = done ? "done" : outcome.status == BatchOutcome::Status::Stopped ? "stopped" : "failed";
-        const QJsonObject object{{"photo", item.given},        {"result", done ? QJsonValue(item.result) : QJsonValue()},
-                                 {"status", status},           {"strength", item.strength},
-                                 {"seconds", outcome.seconds}, {"message", outcome.message}};
+        const char *status = unchanged                                         ? "unchanged"
+                             : written                                         ? "done"
+                             : outcome.status == BatchOutcome::Status::Stopped ? "stopped"
+                                                                               : "failed";
+        const QJsonObject object{{"photo", item.given},
+                                 {"result", written ? QJsonValue(item.result) : QJsonValue()},
+                                 {"status", status},
+                                 {"strength", item.strength},
+                                 {"seconds", outcome.seconds},
+                                 {"message", outcome.message},
+                                 {"unchanged", unchanged ? QJsonValue(outcome.unchanged) : QJsonValue()}};
         write(stdout, QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + '\n');
         break;
     }
@@ -113,10 +124,10 @@ void ProgressView::summarize()
 {
     if (style == Style::Quiet || style == Style::Json || (items.size() == 1 && allDone()))
         return;
-    const int failed = int(items.size()) - doneCount;
+    const int failed = int(items.size()) - doneCount - unchangedCount;
     const QString text = failed == 0 ? tr("%1 photographs done.").arg(doneCount)
                                      : tr("%1 of %2 photographs done, %3 not.").arg(doneCount).arg(items.size()).arg(failed);
-    write(stderr, text + '\n');
+    write(stderr, text + (unchangedCount > 0 ? ' ' + tr("%1 came back unchanged.").arg(unchangedCount) : QString()) + '\n');
 }
 
 void ProgressView::eraseBars()

@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -213,8 +214,8 @@ Optionen:
   --overwrite       Bereits vorhandene Ergebnisse ersetzen.
   --quiet           Nur melden, was fehlgeschlagen ist.
   --json            Für jedes Foto eine Zeile mit einem JSON-Objekt ausgeben: photo,
-                    result, status (done, failed, stopped), strength, seconds,
-                    message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (der Grund, oder null).
   --share-services  Dem Plug-in die Dienste des Programms leihen (Protokoll, Speicher-
                     pool, Anzahl der Prozessoren), statt es eigene anlegen zu lassen.
   --plugin DATEI    Diese Plug-in-Datei laden statt Nimbra.so neben dem Programm oder
@@ -466,6 +467,10 @@ Beispiele:
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
     </message>
+    <message>
+        <source>%1 came back unchanged.</source>
+        <translation>%1 kamen unverändert zurück.</translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -619,6 +624,10 @@ Beispiele:
         <translation>Das Ergebnis war schon vorhanden und wurde behalten.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Behalten</translation>
     </message>
@@ -701,6 +710,17 @@ Beispiele:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>das Ergebnis kann nicht ersetzt werden</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>Das Foto kam unverändert zurück, da sich kein Dunst messen ließ: Eine Seite ist mehr als 100.000-mal so lang wie die andere, oder kein Pixel hat eine brauchbare Farbe. Schneiden Sie das Foto zu, oder berichtigen Sie seine Farben in einem Bildbearbeitungsprogramm.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>Das Foto kam unverändert zurück, da sich der Dunst nicht berechnen ließ: Einige Pixel haben unendliche oder undefinierte Werte, oder der Arbeitsspeicher reichte nicht. Berichtigen Sie diese Pixel in einem Bildbearbeitungsprogramm, oder schließen Sie andere Programme und versuchen Sie es noch einmal.</translation>
     </message>
 </context>
 </TS>

@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -214,8 +215,8 @@ Opciones:
   --overwrite       Reemplazar los resultados que ya existan.
   --quiet           Informar solo de lo que ha fallado.
   --json            Escribir por cada foto una línea con un objeto JSON: photo,
-                    result, status (done, failed, stopped), strength, seconds,
-                    message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (el motivo, o null).
   --share-services  Prestar al complemento los servicios del programa (registro,
                     reserva de memoria, número de procesadores) en vez de dejar que
                     los cree.
@@ -470,6 +471,10 @@ Ejemplos:
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
     </message>
+    <message>
+        <source>%1 came back unchanged.</source>
+        <translation>Sin cambios: %1.</translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -623,6 +628,10 @@ Ejemplos:
         <translation>Su resultado ya existía y se ha conservado.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Sin cambios</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Conservado</translation>
     </message>
@@ -705,6 +714,17 @@ Ejemplos:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>no se puede reemplazar el resultado</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>La foto ha quedado como estaba, pues no se pudo medir bruma alguna: un lado es más de 100 000 veces más largo que el otro, o ningún píxel tiene un color utilizable. Recorte la foto o corrija sus colores en un editor de imágenes.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>La foto ha quedado como estaba, pues no se pudo calcular la bruma: algunos píxeles tienen valores infinitos o indefinidos, o faltó memoria. Corrija esos píxeles en un editor de imágenes, o cierre otros programas y repita la operación.</translation>
     </message>
 </context>
 </TS>

@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -216,8 +217,8 @@ Options&#xa0;:
   --overwrite       Remplacer les résultats qui existent déjà.
   --quiet           Ne signaler que les échecs.
   --json            Écrire pour chaque photo une ligne avec un objet JSON&#xa0;: photo,
-                    result, status (done, failed, stopped), strength, seconds,
-                    message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (la raison, ou null).
   --share-services  Prêter au module les services du programme (journal, réserve de
                     mémoire, nombre de processeurs) au lieu de le laisser
                     créer les siens.
@@ -472,6 +473,10 @@ Exemples&#xa0;:
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
     </message>
+    <message>
+        <source>%1 came back unchanged.</source>
+        <translation>Inchangées : %1.</translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -625,6 +630,10 @@ Exemples&#xa0;:
         <translation>Son résultat existait déjà et a été conservé.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Inchangée</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Conservé</translation>
     </message>
@@ -707,6 +716,17 @@ Exemples&#xa0;:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>le résultat ne peut pas être remplacé</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>La photo est revenue telle quelle, car aucun voile n&apos;a pu être mesuré : un côté est plus de 100 000 fois plus long que l&apos;autre, ou aucun pixel n&apos;a de couleur utilisable. Recadrez la photo, ou corrigez ses couleurs dans un éditeur d&apos;images.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>La photo est revenue telle quelle, car le voile n&apos;a pas pu être calculé : certains pixels ont des valeurs infinies ou indéfinies, ou la mémoire a manqué. Corrigez ces pixels dans un éditeur d&apos;images, ou fermez d&apos;autres programmes et recommencez.</translation>
     </message>
 </context>
 </TS>

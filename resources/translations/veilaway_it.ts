@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -214,7 +215,8 @@ Opzioni:
   --overwrite       Sostituisce i risultati già esistenti.
   --quiet           Segnala soltanto gli errori.
   --json            Scrive per ogni foto una riga con un oggetto JSON: photo, result,
-                    status (done, failed, stopped), strength, seconds, message.
+                    status (done, unchanged, failed, stopped), strength, seconds,
+                    message, unchanged (il motivo, o null).
   --share-services  Presta al plugin i servizi del programma (registro, riserva di
                     memoria, numero di processori) invece di lasciare che li crei.
   --plugin FILE     Carica questo file di plugin invece di Nimbra.so accanto al
@@ -466,6 +468,10 @@ Esempi:
         <source>%1 of %2</source>
         <translation>%1 di %2</translation>
     </message>
+    <message>
+        <source>%1 came back unchanged.</source>
+        <translation>Rimaste invariate: %1.</translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -619,6 +625,10 @@ Esempi:
         <translation>Il suo risultato esisteva già ed è stato mantenuto.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Invariata</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Mantenuto</translation>
     </message>
@@ -701,6 +711,17 @@ Esempi:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>il risultato non può essere sostituito</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>La foto è rimasta com&apos;era, perché non è stato possibile misurare la foschia: un lato è oltre 100.000 volte più lungo dell&apos;altro, o nessun pixel ha un colore utilizzabile. Ritagliare la foto o correggerne i colori in un editor di immagini.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>La foto è rimasta com&apos;era, perché non è stato possibile calcolare la foschia: alcuni pixel hanno valori infiniti o non definiti, o la memoria non è bastata. Correggere quei pixel in un editor di immagini, oppure chiudere altri programmi e riprovare.</translation>
     </message>
 </context>
 </TS>

@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -214,8 +215,8 @@ Examples:
   --overwrite       すでにある結果を置き換えます。
   --quiet           失敗したもの以外は何も表示しません。
   --json            写真ごとに JSON オブジェクトを 1 行で出力します。項目は photo、
-                    result、status（done、failed、stopped）、strength、seconds、
-                    message です。
+                    result、status（done、unchanged、failed、stopped）、strength、
+                    seconds、message、unchanged（理由、または null） です。
   --share-services  ログ、メモリプール、プロセッサ数などのサービスを、プラグインに
                     作らせずに、このプログラムのものを貸し出します。
   --plugin FILE     プログラムと同じフォルダー、または ../lib/nimbra にある Nimbra.so
@@ -464,6 +465,10 @@ Examples:
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>%1 came back unchanged.</source>
+        <translation>%1 枚は元のままです。</translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -616,6 +621,10 @@ Examples:
         <translation>結果がすでにあったため、そのまま残しました。</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>変化なし</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>既存を保持</translation>
     </message>
@@ -698,6 +707,17 @@ Examples:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>結果のファイルを置き換えられません</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>ヘイズを測定できなかったため、写真は元のままです。一辺が他辺の 100,000 倍を超えているか、使える色の画素がありません。写真を切り抜くか、画像編集ソフトで色を修正してください。</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>ヘイズを計算できなかったため、写真は元のままです。無限大または未定義の値の画素があるか、メモリが不足しました。画像編集ソフトでその画素を修正するか、ほかのプログラムを終了してやり直してください。</translation>
     </message>
 </context>
 </TS>

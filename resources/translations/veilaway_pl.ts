@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -212,8 +213,8 @@ Opcje:
   --overwrite       Zastępuje wyniki, które już istnieją.
   --quiet           Zgłasza tylko to, co się nie powiodło.
   --json            Wypisuje dla każdego zdjęcia wiersz z obiektem JSON: photo,
-                    result, status (done, failed, stopped), strength, seconds,
-                    message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (powód albo null).
   --share-services  Użycza wtyczce usług programu (dziennik, pula pamięci, liczba
                     procesorów), zamiast pozwalać jej tworzyć własne.
   --plugin PLIK     Wczytuje ten plik wtyczki zamiast Nimbra.so obok programu lub
@@ -470,6 +471,10 @@ Przykłady:
         <source>%1 of %2</source>
         <translation>%1 z %2</translation>
     </message>
+    <message>
+        <source>%1 came back unchanged.</source>
+        <translation>Bez zmian: %1.</translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -624,6 +629,10 @@ Przykłady:
         <translation>Wynik już istniał i został zachowany.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Bez zmian</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Zachowano</translation>
     </message>
@@ -706,6 +715,17 @@ Przykłady:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>nie można zastąpić wyniku</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>Zdjęcie pozostało bez zmian, ponieważ nie udało się zmierzyć zamglenia: jeden bok jest ponad 100 000 razy dłuższy od drugiego albo żaden piksel nie ma użytecznego koloru. Należy przyciąć zdjęcie lub poprawić jego kolory w edytorze obrazów.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>Zdjęcie pozostało bez zmian, ponieważ nie udało się obliczyć zamglenia: niektóre piksele mają wartości nieskończone lub nieokreślone albo zabrakło pamięci. Należy poprawić te piksele w edytorze obrazów albo zamknąć inne programy i spróbować ponownie.</translation>
     </message>
 </context>
 </TS>

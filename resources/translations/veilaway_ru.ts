@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -214,8 +215,8 @@ Examples:
   --overwrite       Заменять уже существующие результаты.
   --quiet           Сообщать только о том, что не удалось.
   --json            Выводить для каждой фотографии объект JSON в отдельной строке с
-                    полями photo, result, status (done, failed, stopped), strength,
-                    seconds, message.
+                    полями photo, result, status (done, unchanged, failed, stopped),
+                    strength, seconds, message, unchanged (причина или null).
   --share-services  Предоставить модулю собственные службы программы (журнал, пул
                     памяти, число процессоров), чтобы он не создавал свои.
   --plugin FILE     Загрузить модуль из этого файла вместо Nimbra.so, лежащего рядом с
@@ -470,6 +471,10 @@ Examples:
         <source>%1 of %2</source>
         <translation>%1 из %2</translation>
     </message>
+    <message>
+        <source>%1 came back unchanged.</source>
+        <translation>Осталось без изменений: %1.</translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -624,6 +629,10 @@ Examples:
         <translation>Результат уже был и оставлен без изменений.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Без изменений</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Прежний результат</translation>
     </message>
@@ -706,6 +715,17 @@ Examples:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>результат не удаётся заменить</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>Фотография осталась прежней, так как измерить дымку не удалось: одна сторона более чем в 100 000 раз длиннее другой, либо ни у одного пикселя нет пригодного цвета. Обрежьте фотографию или исправьте её цвета в редакторе изображений.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>Фотография осталась прежней, так как вычислить дымку не удалось: у некоторых пикселей бесконечные или неопределённые значения, либо не хватило памяти. Исправьте эти пиксели в редакторе изображений или закройте другие программы и повторите.</translation>
     </message>
 </context>
 </TS>

@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -210,7 +211,8 @@ _dehazed。
   --overwrite       替换已有的结果。
   --quiet           只报告失败的内容。
   --json            为每张照片输出一行 JSON 对象，包含 photo、result、status（done、
-                    failed、stopped）、strength、seconds、message。
+                    unchanged、failed、stopped）、strength、seconds、message、
+                    unchanged（原因，或 null）。
   --share-services  让插件使用本程序自身的服务（日志、内存池、处理器数量），而不是
                     由插件自行创建。
   --plugin FILE     加载此插件文件，而不是程序所在文件夹或 ../lib/nimbra 中的
@@ -457,6 +459,10 @@ _dehazed。
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>%1 came back unchanged.</source>
+        <translation>%1 张保持原样。</translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -609,6 +615,10 @@ _dehazed。
         <translation>其结果已经存在，已予保留。</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>未改变</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>已保留</translation>
     </message>
@@ -691,6 +701,17 @@ _dehazed。
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>无法替换结果文件</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>照片保持原样，因为无法测量薄雾：一边的长度超过另一边的 100,000 倍，或没有任何像素具有可用的颜色。请裁剪照片，或在图像编辑器中修正其颜色。</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>照片保持原样，因为无法计算薄雾：某些像素含有无穷大或未定义的值，或内存不足。请在图像编辑器中修正这些像素，或关闭其他程序后重试。</translation>
     </message>
 </context>
 </TS>

@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -210,7 +211,8 @@ _dehazed。
   --overwrite       取代已有的結果。
   --quiet           只回報失敗的內容。
   --json            為每張照片輸出一行 JSON 物件，包含 photo、result、status（done、
-                    failed、stopped）、strength、seconds、message。
+                    unchanged、failed、stopped）、strength、seconds、message、
+                    unchanged（原因，或 null）。
   --share-services  讓外掛程式使用本程式自身的服務（記錄、記憶體集區、處理器數量），
                     而不是由外掛程式自行建立。
   --plugin FILE     載入此外掛程式檔案，而不是程式所在資料夾或 ../lib/nimbra 中的
@@ -457,6 +459,10 @@ _dehazed。
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>%1 came back unchanged.</source>
+        <translation>%1 張保持原樣。</translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -609,6 +615,10 @@ _dehazed。
         <translation>其結果已經存在，已予保留。</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>未改變</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>已保留</translation>
     </message>
@@ -691,6 +701,17 @@ _dehazed。
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>無法取代結果檔案</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>照片保持原樣，因為無法測量薄霧：一邊的長度超過另一邊的 100,000 倍，或沒有任何像素具有可用的顏色。請裁切照片，或在影像編輯器中修正其顏色。</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>照片保持原樣，因為無法計算薄霧：某些像素含有無窮大或未定義的值，或記憶體不足。請在影像編輯器中修正這些像素，或關閉其他程式後重試。</translation>
     </message>
 </context>
 </TS>

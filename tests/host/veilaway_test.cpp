@@ -368,6 +368,50 @@ TEST_F(Veilaway, says_the_same_to_programs_for_any_number_of_jobs_and_with_lent_
     EXPECT_EQ(quiet.out + quiet.err, "");
 }
 
+TEST_F(Veilaway, tells_of_a_photograph_that_came_back_as_it_was)
+{
+    folder.photograph("good.png");
+    for (const char *name : {"nan.tif", "nan.exr"}) {
+        folder.photograph(name, 60, 40, VImage::Rgb, 32);
+        folder.spoil(name);
+    }
+    folder.photograph("tall.png", 1, 100001, VImage::Grey);
+    folder.photograph("wide.png", 250000, 2, VImage::Grey); // shown to the engine with rows for columns
+    const QStringList photographs{"good.png", "nan.tif", "nan.exr", "tall.png", "wide.png"};
+
+    const Said told = folder.run(QStringList{"--json", "--strength", "60"} + photographs);
+    EXPECT_EQ(told.code, 0) << told.err;
+    const QStringList lines = told.out.split('\n', Qt::SkipEmptyParts);
+    EXPECT_EQ(lines.size(), photographs.size());
+    for (const QString &line : lines) {
+        const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
+        const QString photo = object["photo"].toString(), why = object["unchanged"].toString();
+        EXPECT_TRUE(QFile::exists(object["result"].toString())) << photo;
+        EXPECT_EQ(object["status"].toString(), photo == "good.png" ? "done" : "unchanged") << photo;
+        EXPECT_TRUE(object.contains("unchanged"));
+        if (photo == "good.png") {
+            EXPECT_TRUE(object["unchanged"].isNull());
+            continue;
+        }
+        EXPECT_TRUE(contains(why, photo.startsWith("nan") ? "undefined values" : "100,000 times")) << photo;
+        EXPECT_TRUE(contains(told.err, "veilaway: " + photo + ": " + why + '\n'));
+    }
+    EXPECT_EQ(told.err.count('\n'), 4) << told.err;
+
+    const Said plain = folder.run(QStringList{"--strength", "60", "--overwrite"} + photographs);
+    EXPECT_EQ(plain.code, 0);
+    EXPECT_TRUE(plain.err.endsWith("\n1 photographs done. 4 came back unchanged.\n")) << plain.err;
+    for (const char *style : {"--quiet", "--json"}) {
+        const Said quiet = folder.run(QStringList{"--quiet", style, "--strength", "60", "--overwrite"} + photographs);
+        EXPECT_EQ(quiet.code, 0);
+        EXPECT_EQ(quiet.err, "");
+    }
+    // What nothing was to be taken from has not come back.
+    const Said none = folder.run({"nan.tif", "tall.png", "--strength", "0", "--overwrite"});
+    EXPECT_EQ(none.code, 0);
+    EXPECT_EQ(none.err, "2 photographs done.\n");
+}
+
 TEST_F(Veilaway, settings_make_a_batch_repeatable)
 {
     QDir(folder.path(".")).mkdir("sub");
