@@ -127,7 +127,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
      without leaving half a result.
   2  The command line or the settings file is wrong; nothing was begun.

@@ -172,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
      without leaving half a result.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -234,7 +234,7 @@ Formate:
   werden ein TIFF. XMP-Begleitdateien bleiben, wo sie sind, und werden nicht gelesen.
 
 Rückgabewert:
-  0  Alle Fotos sind fertig.
+  0  Alle Fotos sind fertig oder kamen unverändert zurück (mit dem Grund).
   1  Einige sind es nicht: Die Standardfehlerausgabe nennt sie, den Grund und was
      hilft. Auch Strg+C endet so, ohne ein halbes Ergebnis zu hinterlassen.
   2  Die Befehlszeile oder die Einstellungsdatei ist falsch; nichts wurde begonnen.

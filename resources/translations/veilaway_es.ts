@@ -172,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
      without leaving half a result.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -237,7 +237,7 @@ Formatos:
   leen.
 
 Códigos de salida:
-  0  Se han procesado todas las fotos.
+  0  Se han procesado todas las fotos, o han quedado como estaban (y dice por qué).
   1  Algunas no: la salida de error estándar dice cuáles, por qué y qué hacer. Ctrl-C
      también termina así, sin dejar resultados a medias.
   2  La línea de comandos o el archivo de ajustes no son correctos; no se ha empezado

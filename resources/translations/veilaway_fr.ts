@@ -172,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
      without leaving half a result.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -240,7 +240,7 @@ Formats&#xa0;:
   sont pas lus.
 
 Codes de retour&#xa0;:
-  0  Toutes les photos sont traitées.
+  0  Toutes les photos sont traitées, ou revenues telles quelles (il dit pourquoi).
   1  Certaines ne le sont pas&#xa0;: la sortie d&apos;erreur standard dit lesquelles, pourquoi
      et que faire. Ctrl-C termine de même, sans laisser de résultat incomplet.
   2  La ligne de commande ou le fichier de réglages est incorrect&#xa0;; rien n&apos;a commencé.

@@ -172,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
      without leaving half a result.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -235,7 +235,7 @@ Formati:
   TIFF. I file XMP collaterali restano dove sono e non vengono letti.
 
 Codici di uscita:
-  0  Tutte le foto sono state elaborate.
+  0  Tutte le foto sono state elaborate, o sono rimaste com&apos;erano (con il motivo).
   1  Alcune no: lo standard error dice quali, perché e che cosa fare. Anche Ctrl-C
      termina così, senza lasciare risultati a metà.
   2  La riga di comando o il file di impostazioni è errato; nulla è stato iniziato.

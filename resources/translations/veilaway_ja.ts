@@ -172,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
      without leaving half a result.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -235,7 +235,7 @@ Examples:
   なります。XMP サイドカーファイルは読み込まれず、そのまま残ります。
 
 終了コード:
-  0  すべての写真を処理しました。
+  0  すべての写真を処理したか、元のまま返しました（理由を示します）。
   1  処理できなかった写真があります。どの写真か、その理由と対処法が標準エラー出力に
      表示されます。Ctrl-C でもこのコードで終了し、書きかけの結果は残りません。
   2  コマンドラインまたは設定ファイルに誤りがあります。処理は始まっていません。

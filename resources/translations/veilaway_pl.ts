@@ -172,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
      without leaving half a result.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -235,7 +235,7 @@ Formaty:
   czytane.
 
 Kody wyjścia:
-  0  Wszystkie zdjęcia są gotowe.
+  0  Wszystkie zdjęcia są gotowe albo pozostały bez zmian (z podaniem przyczyny).
   1  Niektóre nie są: standardowe wyjście błędów podaje które, dlaczego i co pomoże.
      Tak samo kończy się przerwanie przez Ctrl-C, bez pozostawiania niepełnego wyniku.
   2  Wiersz polecenia lub plik ustawień jest błędny; niczego nie rozpoczęto.

@@ -172,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
      without leaving half a result.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -235,7 +235,7 @@ Examples:
   результат тоже TIFF. Сопутствующие файлы XMP остаются на месте и не читаются.
 
 Код завершения:
-  0  Все фотографии обработаны.
+  0  Все фотографии обработаны или остались прежними (с указанием причины).
   1  Обработаны не все: в стандартном потоке ошибок указано, какие нет, почему и что
      поможет. Так же завершает работу Ctrl-C, не оставляя незаконченных результатов.
   2  Ошибка в командной строке или в файле настроек; обработка не начиналась.

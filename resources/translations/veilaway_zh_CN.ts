@@ -172,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
      without leaving half a result.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -229,7 +229,7 @@ _dehazed。
   扩展名为其他或没有扩展名的照片，结果也是 TIFF。XMP 附属文件留在原处，不会读取。
 
 退出代码：
-  0  所有照片均已完成。
+  0  所有照片均已完成，或保持原样（并说明原因）。
   1  部分照片未完成：标准错误输出会说明是哪些照片、原因以及解决办法。按 Ctrl-C 结束时
      也是如此，且不会留下不完整的结果。
   2  命令行或设置文件有误；未开始任何处理。

@@ -172,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
      without leaving half a result.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -229,7 +229,7 @@ _dehazed。
   副檔名為其他或沒有副檔名的照片，結果也是 TIFF。XMP 附屬檔案留在原處，不會讀取。
 
 結束代碼：
-  0  所有照片皆已完成。
+  0  所有照片皆已完成，或保持原樣（並說明原因）。
   1  部分照片未完成：標準錯誤輸出會說明是哪些照片、原因以及解決辦法。按 Ctrl-C 結束時
      也是如此，且不會留下不完整的結果。
   2  命令列或設定檔有誤；未開始任何處理。

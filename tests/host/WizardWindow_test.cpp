@@ -399,6 +399,7 @@ TEST_F(Wizard, the_list_names_the_photograph_shown_when_another_cannot_be_read)
             reader.start(20);
             go(QWizard::NextButton);
             ASSERT_TRUE(reached(WizardWindow::Strength));
+            EXPECT_EQ(find<QComboBox>("comboBoxImageDef")->currentText(), stays);
             typeStrength(stays, "40");
             if (!firstGoes)
                 click("QToolButton_Next");
