@@ -7,7 +7,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTranslator>
 #include <sys/stat.h>
+
+#include "argumentText.h"
 
 namespace {
 
@@ -29,6 +32,22 @@ QString placeOf(const QString &path)
     return (folder.isEmpty() ? info.absolutePath() : folder) + '/' + info.fileName();
 }
 
+/// Absolute. A path through ".." is resolved here, since cleaning it as a text goes wrong behind a link.
+QString pathOf(const QString &given)
+{
+    return given.contains("..") ? placeOf(QDir::current().filePath(given)) : QFileInfo(given).absoluteFilePath();
+}
+
+/// The text that the process puts behind a photograph's name.
+constexpr char kTagContext[] = "NimbraOne2One", kTag[] = "_dehazed";
+
+QString nameWith(const QString &tag, const QString &photograph, bool needsTiff)
+{
+    const QFileInfo info(photograph);
+    const QString suffix = needsTiff ? QStringLiteral("tiff") : info.suffix().toLower();
+    return info.absolutePath() + QDir::separator() + info.completeBaseName() + tag + '.' + suffix;
+}
+
 /// A file system takes no longer names, and the codec layer's temporary file has a few characters more.
 constexpr int kLongestName = 255 - 16;
 
@@ -36,10 +55,30 @@ constexpr int kLongestName = 255 - 16;
 
 QString BatchPlan::resultName(const QString &photograph, bool needsTiff)
 {
-    const QFileInfo info(photograph);
-    const QString suffix = needsTiff ? QStringLiteral("tiff") : info.suffix().toLower();
-    return info.absolutePath() + QDir::separator() + info.completeBaseName() +
-           QCoreApplication::translate("NimbraOne2One", "_dehazed") + '.' + suffix;
+    return nameWith(QCoreApplication::translate(kTagContext, kTag), photograph, needsTiff);
+}
+
+QSet<QString> BatchPlan::resultsAmong(const QStringList &files, const QStringList &photographs, HostApplication &host)
+{
+    QSet<QString> tags;
+    for (const QString &language : HostApplication::languages()) {
+        QTranslator catalogue;
+        const bool found = catalogue.load(QStringLiteral(":/Translation/veilaway_%1.qm").arg(language));
+        const QString tag = found ? catalogue.translate(kTagContext, kTag) : QString();
+        tags << (tag.isEmpty() ? QString::fromLatin1(kTag) : tag);
+    }
+    QSet<QString> places;
+    for (const QString &photograph : photographs) {
+        const QString path = pathOf(photograph);
+        const bool tiff = host.imageDef(path)->needsTiffOutput();
+        for (const QString &tag : qAsConst(tags))
+            places << placeOf(nameWith(tag, path, tiff));
+    }
+    QSet<QString> results;
+    for (const QString &file : files)
+        if (const QString path = pathOf(file); places.contains(placeOf(path)) && !QFileInfo(path).isDir())
+            results << file;
+    return results;
 }
 
 QString BatchPlan::isThere(const QString &result)
@@ -51,12 +90,16 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
 {
     std::vector<BatchItem> items;
     std::map<QString, std::size_t> inputs; // place of the photograph -> item
-    for (const QString &given : photographs) {
+    for (const QString &photograph : photographs) {
         BatchItem item;
-        item.given = given;
-        // A path through ".." is resolved here, since cleaning it as a text goes wrong behind a link.
-        item.path = given.contains("..") ? placeOf(QDir::current().filePath(given)) : QFileInfo(given).absoluteFilePath();
-        item.refusal = PhotoLoader::complaint(given.isEmpty() ? given : item.path);
+        const QByteArray bytes = argumentBytes(photograph);
+        item.given = QString::fromUtf8(bytes);
+        if (item.given.toUtf8() != bytes)
+            item.givenBytes = bytes;
+        item.path = pathOf(item.given);
+        const QDomElement stored = wishes.settings ? wishes.settings->element(item.path) : QDomElement();
+        item.strength = wishes.strength ? *wishes.strength : SettingsFile::strengthOf(stored).value_or(wishes.defaultStrength);
+        item.refusal = PhotoLoader::complaint(item.given.isEmpty() ? item.given : item.path);
         if (!item.refusal.isEmpty()) {
             items.push_back(std::move(item));
             continue;
@@ -71,8 +114,6 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         if (tiff && !PhotoLoader::rawSuffixes().contains(suffix.toLower()))
             item.note = suffix.isEmpty() ? tr("It has no suffix, so the result is a TIFF.")
                                          : tr("\"%1\" is no format that can be written, so the result is a TIFF.").arg(suffix);
-        const QDomElement stored = wishes.settings ? wishes.settings->element(item.path) : QDomElement();
-        item.strength = wishes.strength ? *wishes.strength : SettingsFile::strengthOf(stored).value_or(wishes.defaultStrength);
         item.settings =
             wishes.strength || stored.isNull() ? SettingsFile::withStrength(wishes.processName, item.strength) : stored;
         items.push_back(std::move(item));

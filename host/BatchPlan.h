@@ -4,6 +4,7 @@
 #include <vector>
 
 #include <QCoreApplication>
+#include <QSet>
 #include <QStringList>
 
 #include "BatchRunner.h"
@@ -26,7 +27,12 @@ public:
         const SettingsFile *settings = nullptr; ///< May be null.
     };
 
+    /// `photographs` as the command line gives them, see argumentText.
     static std::vector<BatchItem> make(const QStringList &photographs, HostApplication &host, const Wishes &wishes);
+
+    /// Those of `files` that have the name and the place of a result of one of `photographs`, in whatever language, whether they
+    /// are there or not. Folders are none.
+    static QSet<QString> resultsAmong(const QStringList &files, const QStringList &photographs, HostApplication &host);
 
     /// The name that the process will give to the result, in the language that is installed.
     static QString resultName(const QString &photograph, bool needsTiff);

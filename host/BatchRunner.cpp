@@ -99,6 +99,13 @@ void BatchRunner::work(const std::vector<BatchItem> &items)
 BatchOutcome BatchRunner::process(const BatchItem &item, int index)
 {
     BatchOutcome outcome;
+    const auto stopped = [&outcome] {
+        outcome.status = BatchOutcome::Status::Stopped;
+        outcome.message = tr("Stopped; no result was written.");
+        return outcome;
+    };
+    if (stopping)
+        return stopped();
     if (!item.refusal.isEmpty()) {
         outcome.message = item.refusal;
         return outcome;
@@ -125,11 +132,8 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     // The write check of a failed save may have left an empty file. A whole one is another program's.
     if (!stoodBefore && QFileInfo(item.result).size() == 0)
         QFile::remove(item.result);
-    if (stopping) {
-        outcome.status = BatchOutcome::Status::Stopped;
-        outcome.message = tr("Stopped; no result was written.");
-        return outcome;
-    }
+    if (stopping)
+        return stopped();
     // The engine reads the photograph once more when it saves.
     if (stage == Stage::Saving && outcome.message.contains('"' + item.path + '"')) {
         outcome.message = tr("The photograph was changed, moved or deleted while the haze was being taken away. Put it back and "
@@ -150,8 +154,6 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
 
 QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
 {
-    if (stopping)
-        endRun();
     Photograph &original = *application.photograph(item.path);
     const PhotoFacts facts = original.facts();
     const int limit = item.strength > 0 ? kRefusedWidth : 0;

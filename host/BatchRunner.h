@@ -16,6 +16,7 @@
 struct BatchItem
 {
     QString given;           ///< As the user named it, for messages.
+    QByteArray givenBytes;   ///< The same as it is on the disk, if that is not UTF-8, otherwise empty.
     QString path;            ///< Absolute.
     QString result;          ///< Absolute; what the process will write.
     QDomElement settings;    ///< Of the process.

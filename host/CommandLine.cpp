@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 
 #include "HostApplication.h"
+#include "argumentText.h"
 
 namespace {
 
@@ -63,8 +64,9 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     }
     if (parser.isSet(language) && !HostApplication::localeFor(line.language))
         return fail(tr("--language knows %1, but not \"%2\".").arg(HostApplication::languages().join(", "), line.language));
-    if (parser.isSet(settings) && line.settingsFile.isEmpty())
-        return fail(tr("--settings wants the name of a file."));
+    if (parser.isSet(settings) &&
+        (line.settingsFile.isEmpty() || QString::fromUtf8(argumentBytes(line.settingsFile)) != line.settingsFile))
+        return fail(tr("--settings wants the name of a file, in UTF-8."));
     if (line.command == Command::Wizard) {
         for (const QCommandLineOption &option : {strength, overwrite, quiet, json})
             if (parser.isSet(option))
@@ -128,9 +130,10 @@ Formats:
 
 Ends with:
   0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
-     without leaving half a result.
+  1  Some are not: standard error says which, why, and what helps. Or standard output
+     could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
+Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80

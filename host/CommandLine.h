@@ -40,5 +40,6 @@ public:
 enum ExitCode : int {
     ExitAllDone = 0,
     ExitSomeFailed = 1,
-    ExitUsage = 2 ///< The command line or the settings file can't be followed; nothing was begun.
+    ExitUsage = 2,     ///< The command line or the settings file can't be followed; nothing was begun.
+    ExitBySignal = 128 ///< Plus the number of the signal by which the process is to end, as a shell counts.
 };

@@ -1,5 +1,6 @@
 #include "ProgressView.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cwchar>
 
@@ -12,11 +13,14 @@ namespace {
 
 constexpr int kBarWidth = 20;
 
-void write(std::FILE *stream, const QString &text)
+int outputError = 0; ///< Of the first write to standard output that failed.
+
+/// False if it could not be written; errno says why.
+bool write(std::FILE *stream, const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stream);
-    std::fflush(stream);
+    const std::size_t length = std::size_t(bytes.size());
+    return std::fwrite(bytes.constData(), 1, length, stream) == length && std::fflush(stream) == 0;
 }
 
 /// A file name may hold anything; a terminal would obey some of it.
@@ -64,6 +68,20 @@ void ProgressView::complain(const QString &text)
     write(stderr, "veilaway: " + harmless(text) + '\n');
 }
 
+void ProgressView::say(const QString &text)
+{
+    if (!write(stdout, text) && outputError == 0)
+        outputError = errno;
+}
+
+bool ProgressView::allSaid()
+{
+    if (outputError != 0)
+        complain(
+            tr("Standard output can't be written: %1. Make room there, or send it elsewhere.").arg(qt_error_string(outputError)));
+    return outputError == 0;
+}
+
 void ProgressView::stageBegins(int item, BatchRunner::Stage stage)
 {
     inHand[item] = stage;
@@ -78,40 +96,40 @@ void ProgressView::finished(int index, const BatchOutcome &outcome)
     const BatchItem &item = items[std::size_t(index)];
     const bool unchanged = outcome.status == BatchOutcome::Status::Unchanged;
     const bool written = unchanged || outcome.status == BatchOutcome::Status::Done;
-    inHand.erase(index);
+    const bool begun = inHand.erase(index) > 0;
+    const bool stopped = outcome.status == BatchOutcome::Status::Stopped;
     ++finishedCount;
     doneCount += written && !unchanged;
     unchangedCount += unchanged;
+    notBegunCount += stopped && !begun;
     eraseBars();
-    if (!outcome.message.isEmpty())
+    if (!outcome.message.isEmpty() && (begun || !stopped))
         complain(item.given + ": " + outcome.message);
     if (unchanged && notes)
         complain(item.given + ": " + outcome.unchanged);
     switch (style) {
     case Style::Bars:
         if (written)
-            write(stdout, QStringLiteral("%1 %2  %3 -> %4\n")
-                              .arg(bar(kBarWidth), tr("%1 s").arg(secondsText(outcome.seconds)), harmless(item.given),
-                                   harmless(item.result)));
+            say(QStringLiteral("%1 %2  %3 -> %4\n")
+                    .arg(bar(kBarWidth), tr("%1 s").arg(secondsText(outcome.seconds)), harmless(item.given),
+                         harmless(item.result)));
         break;
     case Style::Lines:
         if (written)
-            write(stdout,
-                  tr("%1: %2 (%3 s)").arg(harmless(item.given), harmless(item.result), secondsText(outcome.seconds)) + '\n');
+            say(tr("%1: %2 (%3 s)").arg(harmless(item.given), harmless(item.result), secondsText(outcome.seconds)) + '\n');
         break;
     case Style::Json: {
-        const char *status = unchanged                                         ? "unchanged"
-                             : written                                         ? "done"
-                             : outcome.status == BatchOutcome::Status::Stopped ? "stopped"
-                                                                               : "failed";
-        const QJsonObject object{{"photo", item.given},
-                                 {"result", written ? QJsonValue(item.result) : QJsonValue()},
-                                 {"status", status},
-                                 {"strength", item.strength},
-                                 {"seconds", outcome.seconds},
-                                 {"message", outcome.message},
-                                 {"unchanged", unchanged ? QJsonValue(outcome.unchanged) : QJsonValue()}};
-        write(stdout, QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + '\n');
+        const char *status = unchanged ? "unchanged" : written ? "done" : stopped ? "stopped" : "failed";
+        QJsonObject object{{"photo", item.given},
+                           {"result", written ? QJsonValue(item.result) : QJsonValue()},
+                           {"status", status},
+                           {"strength", item.strength},
+                           {"seconds", outcome.seconds},
+                           {"message", outcome.message},
+                           {"unchanged", unchanged ? QJsonValue(outcome.unchanged) : QJsonValue()}};
+        if (!item.givenBytes.isEmpty())
+            object.insert("photo_bytes", QString::fromLatin1(item.givenBytes.toPercentEncoding()));
+        say(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + '\n');
         break;
     }
     case Style::Quiet:
@@ -122,6 +140,8 @@ void ProgressView::finished(int index, const BatchOutcome &outcome)
 
 void ProgressView::summarize()
 {
+    if (notBegunCount > 0)
+        complain(tr("%n photograph(s) not begun.", nullptr, notBegunCount));
     if (style == Style::Quiet || style == Style::Json || (items.size() == 1 && allDone()))
         return;
     const int failed = int(items.size()) - doneCount - unchangedCount;
@@ -133,7 +153,7 @@ void ProgressView::summarize()
 void ProgressView::eraseBars()
 {
     if (barsDrawn > 0)
-        write(stdout, QStringLiteral("\r\x1b[%1A\x1b[J").arg(barsDrawn));
+        say(QStringLiteral("\r\x1b[%1A\x1b[J").arg(barsDrawn));
     barsDrawn = 0;
 }
 
@@ -158,5 +178,5 @@ void ProgressView::drawBars()
         text += fitted(tr("%1 of %2").arg(finishedCount).arg(items.size()), columns) + '\n';
         ++barsDrawn;
     }
-    write(stdout, text);
+    say(text);
 }

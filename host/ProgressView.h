@@ -19,7 +19,8 @@ public:
 
     void stageBegins(int item, BatchRunner::Stage stage) override;
     void finished(int item, const BatchOutcome &outcome) override;
-    /// The last line: how many are done. Nothing for one photograph that has its result, and in the styles Quiet and Json.
+    /// The last lines: how many were not begun before a stop, and how many are done. The second not for one photograph that has
+    /// its result, and not in the styles Quiet and Json.
     void summarize();
 
     int done() const { return doneCount; }
@@ -28,6 +29,10 @@ public:
 
     /// A line on standard error that begins with the program's name.
     static void complain(const QString &text);
+    /// To standard output, at once.
+    static void say(const QString &text);
+    /// False, with a complaint, if something that was said could not be written.
+    static bool allSaid();
 
 private:
     void eraseBars();
@@ -41,4 +46,5 @@ private:
     int doneCount = 0;
     int unchangedCount = 0;
     int finishedCount = 0;
+    int notBegunCount = 0;
 };

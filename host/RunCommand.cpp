@@ -1,5 +1,6 @@
 #include "RunCommand.h"
 
+#include <algorithm>
 #include <atomic>
 #include <csignal>
 #include <memory>
@@ -12,18 +13,21 @@
 #include "ProgressView.h"
 #include "SettingsFile.h"
 #include "VException.h"
+#include "argumentText.h"
 
 namespace {
 
 std::atomic<BatchRunner *> interruptible{nullptr};
+std::atomic<int> caughtSignal{0};
+QByteArray notice; ///< Made before the batch begins, since the handler may not.
 
 /// The first signal lets the batch end in good order, a second one ends the program at once.
-void stopBatch(int)
+void stopBatch(int number)
 {
+    caughtSignal = number;
     if (BatchRunner *runner = interruptible) {
         runner->stop();
-        const char text[] = "\nveilaway: Stopping; what is being saved gets ready. Press Ctrl-C again to end at once.\n";
-        [[maybe_unused]] const auto written = ::write(STDERR_FILENO, text, sizeof text - 1);
+        [[maybe_unused]] const auto written = ::write(STDERR_FILENO, notice.constData(), std::size_t(notice.size()));
     }
 }
 
@@ -32,6 +36,8 @@ class StopOnSignal
 public:
     explicit StopOnSignal(BatchRunner &runner)
     {
+        notice = "\nveilaway: " +
+                 RunCommand::tr("Stopping; finishing the file being saved. Press Ctrl-C again to end at once.").toUtf8() + '\n';
         interruptible = &runner;
         struct sigaction action = {};
         action.sa_handler = stopBatch;
@@ -65,6 +71,20 @@ int RunCommand::defaultStrength(const QString &group)
     note(usable ? tr("No --strength given: using your stored default of %1.").arg(strength)
                 : tr("No --strength given and no default stored: using %1.").arg(CommandLine::kUsualStrength));
     return usable ? strength : CommandLine::kUsualStrength;
+}
+
+void RunCommand::leaveOut(const QSet<QString> &results, QStringList &photographs) const
+{
+    const auto isResult = [&](const QString &photograph) { return results.contains(photograph); };
+    const auto first = std::find_if(photographs.begin(), photographs.end(), isResult);
+    if (first == photographs.end())
+        return;
+    const QString example = QString::fromUtf8(argumentBytes(*first));
+    const int before = photographs.size();
+    photographs.erase(std::remove_if(first, photographs.end(), isResult), photographs.end());
+    note(
+        tr("Left out %n file(s) that are results of the other photographs, such as \"%1\".", nullptr, before - photographs.size())
+            .arg(example));
 }
 
 int RunCommand::run()
@@ -106,6 +126,10 @@ int RunCommand::run()
         }
     }
 
+    const QStringList recorded = settings ? settings->photographs() : QStringList();
+    const QSet<QString> results = BatchPlan::resultsAmong(photographs + recorded, photographs, application);
+    leaveOut(results, photographs);
+
     BatchPlan::Wishes wishes;
     wishes.strength = line.strength;
     wishes.overwrite = line.overwrite;
@@ -141,6 +165,9 @@ int RunCommand::run()
 
     bool settingsKept = true;
     if (settings) {
+        for (const QString &path : recorded)
+            if (results.contains(path))
+                settings->remove(path);
         for (const BatchItem &item : items)
             if (item.recordable)
                 settings->setElement(item.path, item.settings);
@@ -151,5 +178,7 @@ int RunCommand::run()
             settingsKept = false;
         }
     }
+    if (caughtSignal != 0)
+        return ExitBySignal + caughtSignal;
     return view.allDone() && settingsKept ? ExitAllDone : ExitSomeFailed;
 }

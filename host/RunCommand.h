@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QSet>
+#include <QStringList>
 
 #include "CommandLine.h"
 #include "HostApplication.h"
 
-/// The command `run`: photographs in, results beside them. Returns what the program ends with.
+/// The command `run`: photographs in, results beside them. Returns what the program ends with, above ExitBySignal after a signal
+/// that stopped it in good order.
 class RunCommand
 {
     Q_DECLARE_TR_FUNCTIONS(RunCommand)
@@ -17,6 +20,8 @@ public:
 private:
     /// The strength of photographs that nothing else gives one: the stored default, or 70.
     int defaultStrength(const QString &group);
+    /// Takes these out of the photographs, with one note for all.
+    void leaveOut(const QSet<QString> &results, QStringList &photographs) const;
     void note(const QString &text) const;
 
     const CommandLine &line;

@@ -201,3 +201,12 @@ void SettingsFile::setElement(const QString &photograph, const QDomElement &elem
         entry.replaceChild(own, old);
     changed = true;
 }
+
+void SettingsFile::remove(const QString &photograph)
+{
+    const QDomElement entry = entryOf(photograph);
+    if (!entry.isNull()) {
+        document.documentElement().removeChild(entry);
+        changed = true;
+    }
+}

@@ -39,6 +39,9 @@ public:
     /// Copies the element's attributes; its document need not exist any more.
     void setElement(const QString &photograph, const QDomElement &element);
 
+    /// Drops what the file holds of this photograph (absolute path).
+    void remove(const QString &photograph);
+
     static std::optional<int> strengthOf(const QDomElement &element);
     static QDomElement withStrength(const QString &processName, int strength);
 

@@ -9,6 +9,7 @@
 #include "SettingsFile.h"
 #include "VException.h"
 #include "WizardWindow.h"
+#include "argumentText.h"
 
 int WizardCommand::run()
 {
@@ -30,6 +31,8 @@ int WizardCommand::run()
     QStringList photographs = line.photographs;
     if (photographs.isEmpty() && settings)
         photographs = settings->photographs();
+    for (QString &photograph : photographs)
+        photograph = QString::fromUtf8(argumentBytes(photograph));
 
     WizardWindow window(application, plugin->process(), std::move(settings), line.jobs);
     application.reportTo([&](const QString &message) { window.complain(message); });

@@ -1,12 +1,13 @@
 #include <clocale>
 #include <csignal>
-#include <cstdio>
 #include <optional>
 
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
 #include <QTextCodec>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include "CommandLine.h"
 #include "DisplayWatch.h"
@@ -16,6 +17,7 @@
 #include "RunCommand.h"
 #include "VException.h"
 #include "WizardCommand.h"
+#include "argumentText.h"
 
 namespace {
 
@@ -36,10 +38,9 @@ in part on the work of the Independent JPEG Group.
 
 int showVersion(const CommandLine &line)
 {
-    std::printf("veilaway %s\n", NIMBRA_VERSION);
+    ProgressView::say("veilaway " NIMBRA_VERSION "\n");
     try {
-        std::printf("%s\n", PluginFile(line.pluginFile).identity().toUtf8().constData());
-        std::fputs(kNotices, stdout);
+        ProgressView::say(PluginFile(line.pluginFile).identity() + '\n' + kNotices);
         return ExitAllDone;
     } catch (const VException &failure) {
         ProgressView::complain(failure.message);
@@ -47,9 +48,29 @@ int showVersion(const CommandLine &line)
     }
 }
 
-} // namespace
+/// What is not the wizard's.
+int answer(const CommandLine &line, HostApplication &application)
+{
+    switch (line.command) {
+    case CommandLine::Command::Help:
+        ProgressView::say(CommandLine::help());
+        return ExitAllDone;
+    case CommandLine::Command::Version:
+        return showVersion(line);
+    default:
+        return RunCommand(line, application).run();
+    }
+}
 
-int main(int argc, char **argv)
+/// The first file that the program opens would take the place of a standard stream that is closed, and get what is said there.
+void holdStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(stream, F_GETFD) == -1)
+            open("/dev/null", stream == STDERR_FILENO ? O_WRONLY : O_RDONLY); // so that saying something fails
+}
+
+int runProgram(int argc, char **argv)
 {
     // File names are UTF-8 here, also where the environment sets no locale; otherwise Qt would turn their letters into "?".
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
@@ -59,7 +80,7 @@ int main(int argc, char **argv)
 
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
-        arguments << QString::fromUtf8(argv[i]);
+        arguments << argumentText(argv[i]);
     // Read before the application object is there, which depends on it; its messages are not in the user's language yet.
     const CommandLine line = CommandLine::parse(arguments);
     const QLocale locale = wantedLocale(line.language);
@@ -89,13 +110,19 @@ int main(int argc, char **argv)
         ProgressView::complain(CommandLine::parse(arguments).error + ' ' + CommandLine::tr("See veilaway --help."));
         return ExitUsage;
     }
-    switch (line.command) {
-    case CommandLine::Command::Help:
-        std::fputs(CommandLine::help().toUtf8().constData(), stdout);
-        return ExitAllDone;
-    case CommandLine::Command::Version:
-        return showVersion(line);
-    default:
-        return RunCommand(line, application).run();
+    const int code = answer(line, application);
+    return ProgressView::allSaid() || code != ExitAllDone ? code : ExitSomeFailed;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    holdStandardStreams();
+    const int code = runProgram(argc, argv);
+    if (code > ExitBySignal) { // all is put away; a shell ends its loop if the signal itself ends the process
+        std::signal(code - ExitBySignal, SIG_DFL);
+        std::raise(code - ExitBySignal);
     }
+    return code;
 }

@@ -109,8 +109,8 @@
         <translation>--language kennt %1, aber nicht „%2“.</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file.</source>
-        <translation>--settings erwartet den Namen einer Datei.</translation>
+        <source>--settings wants the name of a file, in UTF-8.</source>
+        <translation>--settings erwartet den Namen einer Datei, in UTF-8.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
@@ -173,9 +173,10 @@ Formats:
 
 Ends with:
   0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
-     without leaving half a result.
+  1  Some are not: standard error says which, why, and what helps. Or standard output
+     could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
+Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -236,8 +237,10 @@ Formate:
 Rückgabewert:
   0  Alle Fotos sind fertig oder kamen unverändert zurück (mit dem Grund).
   1  Einige sind es nicht: Die Standardfehlerausgabe nennt sie, den Grund und was
-     hilft. Auch Strg+C endet so, ohne ein halbes Ergebnis zu hinterlassen.
+     hilft. Oder die Standardausgabe konnte nicht geschrieben werden.
   2  Die Befehlszeile oder die Einstellungsdatei ist falsch; nichts wurde begonnen.
+Strg+C beendet es durch das Signal (130 in einer Shell), ohne ein halbes Ergebnis zu
+hinterlassen.
 
 Beispiele:
   veilaway hills.jpg --strength 80
@@ -471,6 +474,17 @@ Beispiele:
         <source>%1 came back unchanged.</source>
         <translation>%1 kamen unverändert zurück.</translation>
     </message>
+    <message>
+        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <translation>In die Standardausgabe kann nicht geschrieben werden: %1. Schaffen Sie dort Platz, oder leiten Sie die Ausgabe woandershin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) not begun.</source>
+        <translation>
+            <numerusform>%n Foto wurde nicht begonnen.</numerusform>
+            <numerusform>%n Fotos wurden nicht begonnen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -536,6 +550,17 @@ Beispiele:
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
         <translation>Die Einstellungsdatei „%1“ trägt den Namen eines Ergebnisses. Geben Sie ihr einen anderen.</translation>
+    </message>
+    <message>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <translation>Wird beendet; die Datei, die gerade gespeichert wird, wird noch fertiggestellt. Nochmals Strg+C beendet sofort.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>„%1“ wird ausgelassen: Es ist das Ergebnis eines der anderen Fotos.</numerusform>
+            <numerusform>%n Dateien werden ausgelassen, die Ergebnisse der anderen Fotos sind, zum Beispiel „%1“.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -35,4 +35,24 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>ProgressView</name>
+    <message numerus="yes">
+        <source>%n photograph(s) not begun.</source>
+        <translation>
+            <numerusform>%n photograph was not begun.</numerusform>
+            <numerusform>%n photographs were not begun.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RunCommand</name>
+    <message numerus="yes">
+        <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>Left out &quot;%1&quot;, which is the result of one of the other photographs.</numerusform>
+            <numerusform>Left out %n files that are results of the other photographs, such as &quot;%1&quot;.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -109,8 +109,8 @@
         <translation>--language conoce %1, pero no «%2».</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file.</source>
-        <translation>--settings espera el nombre de un archivo.</translation>
+        <source>--settings wants the name of a file, in UTF-8.</source>
+        <translation>--settings espera el nombre de un archivo, en UTF-8.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
@@ -173,9 +173,10 @@ Formats:
 
 Ends with:
   0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
-     without leaving half a result.
+  1  Some are not: standard error says which, why, and what helps. Or standard output
+     could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
+Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -238,10 +239,11 @@ Formatos:
 
 Códigos de salida:
   0  Se han procesado todas las fotos, o han quedado como estaban (y dice por qué).
-  1  Algunas no: la salida de error estándar dice cuáles, por qué y qué hacer. Ctrl-C
-     también termina así, sin dejar resultados a medias.
+  1  Algunas no: la salida de error estándar dice cuáles, por qué y qué hacer. O no se
+     ha podido escribir en la salida estándar.
   2  La línea de comandos o el archivo de ajustes no son correctos; no se ha empezado
      nada.
+Ctrl-C lo termina con la señal (130 en un shell), sin dejar resultados a medias.
 
 Ejemplos:
   veilaway hills.jpg --strength 80
@@ -475,6 +477,17 @@ Ejemplos:
         <source>%1 came back unchanged.</source>
         <translation>Sin cambios: %1.</translation>
     </message>
+    <message>
+        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <translation>No se puede escribir en la salida estándar: %1. Libere espacio ahí o envíela a otro lugar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) not begun.</source>
+        <translation>
+            <numerusform>No se ha empezado %n foto.</numerusform>
+            <numerusform>No se han empezado %n fotos.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -540,6 +553,17 @@ Ejemplos:
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
         <translation>El archivo de ajustes «%1» tiene el nombre de un resultado. Dele otro nombre.</translation>
+    </message>
+    <message>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <translation>Deteniendo; se termina el archivo que se está guardando. Pulse Ctrl-C otra vez para salir de inmediato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>Se omite «%1», que es el resultado de otra de las fotos.</numerusform>
+            <numerusform>Se omiten %n archivos que son resultados de las demás fotos, por ejemplo «%1».</numerusform>
+        </translation>
     </message>
 </context>
 <context>

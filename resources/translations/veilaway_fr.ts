@@ -109,8 +109,8 @@
         <translation>--language connaît %1, mais pas «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file.</source>
-        <translation>--settings attend le nom d&apos;un fichier.</translation>
+        <source>--settings wants the name of a file, in UTF-8.</source>
+        <translation>--settings attend le nom d&apos;un fichier, en UTF-8.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
@@ -173,9 +173,10 @@ Formats:
 
 Ends with:
   0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
-     without leaving half a result.
+  1  Some are not: standard error says which, why, and what helps. Or standard output
+     could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
+Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -242,8 +243,9 @@ Formats&#xa0;:
 Codes de retour&#xa0;:
   0  Toutes les photos sont traitées, ou revenues telles quelles (il dit pourquoi).
   1  Certaines ne le sont pas&#xa0;: la sortie d&apos;erreur standard dit lesquelles, pourquoi
-     et que faire. Ctrl-C termine de même, sans laisser de résultat incomplet.
+     et que faire. Ou la sortie standard n&apos;a pas pu être écrite.
   2  La ligne de commande ou le fichier de réglages est incorrect&#xa0;; rien n&apos;a commencé.
+Ctrl-C y met fin par le signal (130 dans un shell), sans laisser de résultat incomplet.
 
 Exemples&#xa0;:
   veilaway hills.jpg --strength 80
@@ -477,6 +479,17 @@ Exemples&#xa0;:
         <source>%1 came back unchanged.</source>
         <translation>Inchangées : %1.</translation>
     </message>
+    <message>
+        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <translation>Impossible d&apos;écrire sur la sortie standard&#xa0;: %1. Libérez de la place, ou envoyez-la ailleurs.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) not begun.</source>
+        <translation>
+            <numerusform>%n photo n&apos;a pas été commencée.</numerusform>
+            <numerusform>%n photos n&apos;ont pas été commencées.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -542,6 +555,17 @@ Exemples&#xa0;:
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
         <translation>Le fichier de réglages «&#xa0;%1&#xa0;» porte le nom d&apos;un résultat. Donnez-lui un autre nom.</translation>
+    </message>
+    <message>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <translation>Arrêt en cours&#xa0;; le fichier en cours d&apos;enregistrement est terminé. Appuyez encore sur Ctrl-C pour quitter immédiatement.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>«&#xa0;%1&#xa0;» est laissé de côté&#xa0;: c&apos;est le résultat d&apos;une autre des photos.</numerusform>
+            <numerusform>%n fichiers sont laissés de côté, car ce sont des résultats des autres photos, par exemple «&#xa0;%1&#xa0;».</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -109,8 +109,8 @@
         <translation>--language riconosce %1, ma non &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file.</source>
-        <translation>--settings richiede il nome di un file.</translation>
+        <source>--settings wants the name of a file, in UTF-8.</source>
+        <translation>--settings richiede il nome di un file, in UTF-8.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
@@ -173,9 +173,10 @@ Formats:
 
 Ends with:
   0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
-     without leaving half a result.
+  1  Some are not: standard error says which, why, and what helps. Or standard output
+     could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
+Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -236,9 +237,10 @@ Formati:
 
 Codici di uscita:
   0  Tutte le foto sono state elaborate, o sono rimaste com&apos;erano (con il motivo).
-  1  Alcune no: lo standard error dice quali, perché e che cosa fare. Anche Ctrl-C
-     termina così, senza lasciare risultati a metà.
+  1  Alcune no: lo standard error dice quali, perché e che cosa fare. Oppure non è stato
+     possibile scrivere sullo standard output.
   2  La riga di comando o il file di impostazioni è errato; nulla è stato iniziato.
+Ctrl-C lo termina con il segnale (130 in una shell), senza lasciare risultati a metà.
 
 Esempi:
   veilaway hills.jpg --strength 80
@@ -472,6 +474,17 @@ Esempi:
         <source>%1 came back unchanged.</source>
         <translation>Rimaste invariate: %1.</translation>
     </message>
+    <message>
+        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <translation>Impossibile scrivere sullo standard output: %1. Liberare spazio, o inviarlo altrove.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) not begun.</source>
+        <translation>
+            <numerusform>%n foto non è stata iniziata.</numerusform>
+            <numerusform>%n foto non sono state iniziate.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -537,6 +550,17 @@ Esempi:
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
         <translation>Il file di impostazioni &quot;%1&quot; ha il nome di un risultato. Dargli un altro nome.</translation>
+    </message>
+    <message>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <translation>Arresto in corso; si completa il file che si sta salvando. Premere di nuovo Ctrl-C per terminare subito.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>&quot;%1&quot; viene tralasciato: è il risultato di un&apos;altra delle foto.</numerusform>
+            <numerusform>%n file vengono tralasciati perché sono risultati delle altre foto, per esempio &quot;%1&quot;.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -109,8 +109,8 @@
         <translation>--language に指定できるのは %1 です。「%2」は使えません。</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file.</source>
-        <translation>--settings にはファイル名を指定してください。</translation>
+        <source>--settings wants the name of a file, in UTF-8.</source>
+        <translation>--settings には UTF-8 のファイル名を指定してください。</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
@@ -173,9 +173,10 @@ Formats:
 
 Ends with:
   0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
-     without leaving half a result.
+  1  Some are not: standard error says which, why, and what helps. Or standard output
+     could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
+Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -237,8 +238,9 @@ Examples:
 終了コード:
   0  すべての写真を処理したか、元のまま返しました（理由を示します）。
   1  処理できなかった写真があります。どの写真か、その理由と対処法が標準エラー出力に
-     表示されます。Ctrl-C でもこのコードで終了し、書きかけの結果は残りません。
+     表示されます。または、標準出力に書き込めませんでした。
   2  コマンドラインまたは設定ファイルに誤りがあります。処理は始まっていません。
+Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結果は残りません。
 
 例:
   veilaway hills.jpg --strength 80
@@ -469,6 +471,16 @@ Examples:
         <source>%1 came back unchanged.</source>
         <translation>%1 枚は元のままです。</translation>
     </message>
+    <message>
+        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <translation>標準出力に書き込めません: %1。空き容量を確保するか、別の出力先を指定してください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) not begun.</source>
+        <translation>
+            <numerusform>%n 枚の写真は処理を始めていません。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -534,6 +546,16 @@ Examples:
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
         <translation>設定ファイル「%1」の名前が結果のファイルと同じです。別の名前にしてください。</translation>
+    </message>
+    <message>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <translation>停止しています。保存中のファイルを書き終えます。すぐに終了するには、もう一度 Ctrl-C を押してください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>ほかの写真の結果である %n 個のファイル (「%1」など) を除外しました。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

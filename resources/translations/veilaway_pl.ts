@@ -109,8 +109,8 @@
         <translation>--language zna wartości %1, ale nie „%2”.</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file.</source>
-        <translation>--settings wymaga nazwy pliku.</translation>
+        <source>--settings wants the name of a file, in UTF-8.</source>
+        <translation>--settings wymaga nazwy pliku w UTF-8.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
@@ -173,9 +173,10 @@ Formats:
 
 Ends with:
   0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
-     without leaving half a result.
+  1  Some are not: standard error says which, why, and what helps. Or standard output
+     could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
+Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -237,8 +238,9 @@ Formaty:
 Kody wyjścia:
   0  Wszystkie zdjęcia są gotowe albo pozostały bez zmian (z podaniem przyczyny).
   1  Niektóre nie są: standardowe wyjście błędów podaje które, dlaczego i co pomoże.
-     Tak samo kończy się przerwanie przez Ctrl-C, bez pozostawiania niepełnego wyniku.
+     Albo nie udało się zapisać na standardowe wyjście.
   2  Wiersz polecenia lub plik ustawień jest błędny; niczego nie rozpoczęto.
+Ctrl-C kończy program sygnałem (130 w powłoce), bez pozostawiania niepełnego wyniku.
 
 Przykłady:
   veilaway hills.jpg --strength 80
@@ -475,6 +477,18 @@ Przykłady:
         <source>%1 came back unchanged.</source>
         <translation>Bez zmian: %1.</translation>
     </message>
+    <message>
+        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <translation>Nie można pisać na standardowe wyjście: %1. Należy zwolnić tam miejsce lub skierować je gdzie indziej.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) not begun.</source>
+        <translation>
+            <numerusform>Nie rozpoczęto %n zdjęcia.</numerusform>
+            <numerusform>Nie rozpoczęto %n zdjęć.</numerusform>
+            <numerusform>Nie rozpoczęto %n zdjęć.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -540,6 +554,18 @@ Przykłady:
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
         <translation>Plik ustawień „%1” ma nazwę jednego z wyników. Należy nadać mu inną nazwę.</translation>
+    </message>
+    <message>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <translation>Zatrzymywanie; trwa kończenie zapisywanego pliku. Ponowne naciśnięcie Ctrl-C kończy natychmiast.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>Pominięto „%1”: to wynik innego z podanych zdjęć.</numerusform>
+            <numerusform>Pominięto %n pliki, które są wynikami pozostałych zdjęć, na przykład „%1”.</numerusform>
+            <numerusform>Pominięto %n plików, które są wynikami pozostałych zdjęć, na przykład „%1”.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -109,8 +109,8 @@
         <translation>Для --language допустимы значения %1, но не «%2».</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file.</source>
-        <translation>Для --settings нужно имя файла.</translation>
+        <source>--settings wants the name of a file, in UTF-8.</source>
+        <translation>Для --settings нужно имя файла в UTF-8.</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
@@ -173,9 +173,10 @@ Formats:
 
 Ends with:
   0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
-     without leaving half a result.
+  1  Some are not: standard error says which, why, and what helps. Or standard output
+     could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
+Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -237,8 +238,9 @@ Examples:
 Код завершения:
   0  Все фотографии обработаны или остались прежними (с указанием причины).
   1  Обработаны не все: в стандартном потоке ошибок указано, какие нет, почему и что
-     поможет. Так же завершает работу Ctrl-C, не оставляя незаконченных результатов.
+     поможет. Либо не удалась запись в стандартный поток вывода.
   2  Ошибка в командной строке или в файле настроек; обработка не начиналась.
+Ctrl-C завершает работу сигналом (130 в оболочке), не оставляя незаконченных результатов.
 
 Примеры:
   veilaway hills.jpg --strength 80
@@ -475,6 +477,18 @@ Examples:
         <source>%1 came back unchanged.</source>
         <translation>Осталось без изменений: %1.</translation>
     </message>
+    <message>
+        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <translation>Не удаётся записать в стандартный поток вывода: %1. Освободите место или направьте его в другое место.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) not begun.</source>
+        <translation>
+            <numerusform>Не начата %n фотография.</numerusform>
+            <numerusform>Не начаты %n фотографии.</numerusform>
+            <numerusform>Не начато %n фотографий.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -540,6 +554,18 @@ Examples:
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
         <translation>Имя файла настроек «%1» совпадает с именем результата. Дайте ему другое имя.</translation>
+    </message>
+    <message>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <translation>Остановка; дописывается сохраняемый файл. Чтобы завершить немедленно, нажмите Ctrl-C ещё раз.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>Пропущен %n файл, который является результатом другой фотографии, например «%1».</numerusform>
+            <numerusform>Пропущено %n файла, которые являются результатами других фотографий, например «%1».</numerusform>
+            <numerusform>Пропущено %n файлов, которые являются результатами других фотографий, например «%1».</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -109,8 +109,8 @@
         <translation>--language 支持 %1，不支持“%2”。</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file.</source>
-        <translation>--settings 后面必须给出文件名。</translation>
+        <source>--settings wants the name of a file, in UTF-8.</source>
+        <translation>--settings 后面必须给出 UTF-8 文件名。</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
@@ -173,9 +173,10 @@ Formats:
 
 Ends with:
   0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
-     without leaving half a result.
+  1  Some are not: standard error says which, why, and what helps. Or standard output
+     could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
+Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -230,9 +231,10 @@ _dehazed。
 
 退出代码：
   0  所有照片均已完成，或保持原样（并说明原因）。
-  1  部分照片未完成：标准错误输出会说明是哪些照片、原因以及解决办法。按 Ctrl-C 结束时
-     也是如此，且不会留下不完整的结果。
+  1  部分照片未完成：标准错误输出会说明是哪些照片、原因以及解决办法。或者无法写入标准
+     输出。
   2  命令行或设置文件有误；未开始任何处理。
+按 Ctrl-C 时程序由该信号结束（在 shell 中为 130），且不会留下不完整的结果。
 
 示例：
   veilaway hills.jpg --strength 80
@@ -463,6 +465,16 @@ _dehazed。
         <source>%1 came back unchanged.</source>
         <translation>%1 张保持原样。</translation>
     </message>
+    <message>
+        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <translation>无法写入标准输出：%1。请腾出空间，或将其输出到别处。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) not begun.</source>
+        <translation>
+            <numerusform>%n 张照片未开始处理。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -528,6 +540,16 @@ _dehazed。
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
         <translation>设置文件“%1”与某个结果文件同名。请另取一个名称。</translation>
+    </message>
+    <message>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <translation>正在停止；正在完成当前保存的文件。再按一次 Ctrl-C 可立即结束。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>已略过 %n 个文件，它们是其他照片的结果，例如“%1”。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -109,8 +109,8 @@
         <translation>--language 支援 %1，不支援「%2」。</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file.</source>
-        <translation>--settings 後面必須指定檔案名稱。</translation>
+        <source>--settings wants the name of a file, in UTF-8.</source>
+        <translation>--settings 後面必須指定 UTF-8 檔案名稱。</translation>
     </message>
     <message>
         <source>--%1 is not for the wizard, which asks in its window.</source>
@@ -173,9 +173,10 @@ Formats:
 
 Ends with:
   0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Ctrl-C ends so too,
-     without leaving half a result.
+  1  Some are not: standard error says which, why, and what helps. Or standard output
+     could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
+Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -230,9 +231,10 @@ _dehazed。
 
 結束代碼：
   0  所有照片皆已完成，或保持原樣（並說明原因）。
-  1  部分照片未完成：標準錯誤輸出會說明是哪些照片、原因以及解決辦法。按 Ctrl-C 結束時
-     也是如此，且不會留下不完整的結果。
+  1  部分照片未完成：標準錯誤輸出會說明是哪些照片、原因以及解決辦法。或者無法寫入標準
+     輸出。
   2  命令列或設定檔有誤；未開始任何處理。
+按 Ctrl-C 時程式由該訊號結束（在 shell 中為 130），且不會留下不完整的結果。
 
 範例：
   veilaway hills.jpg --strength 80
@@ -463,6 +465,16 @@ _dehazed。
         <source>%1 came back unchanged.</source>
         <translation>%1 張保持原樣。</translation>
     </message>
+    <message>
+        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <translation>無法寫入標準輸出：%1。請騰出空間，或將其輸出到別處。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) not begun.</source>
+        <translation>
+            <numerusform>%n 張照片未開始處理。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ResultPage</name>
@@ -528,6 +540,16 @@ _dehazed。
     <message>
         <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
         <translation>設定檔「%1」與某個結果檔案同名。請另取一個名稱。</translation>
+    </message>
+    <message>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <translation>正在停止；正在完成目前儲存的檔案。再按一次 Ctrl-C 可立即結束。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>已略過 %n 個檔案，它們是其他照片的結果，例如「%1」。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

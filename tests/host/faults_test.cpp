@@ -27,7 +27,6 @@
 #include "HostApplication.h"
 #include "PhotoLoader.h"
 #include "PluginFile.h"
-#include "SettingsFile.h"
 #include "TestFolder.h"
 #include "gfl.h"
 
@@ -44,12 +43,10 @@ protected:
     /// What becomes of one photograph if `act` happens when this stage begins.
     BatchOutcome outcomeOf(const QString &path, Stage stage, const std::function<void()> &act, bool overwrite = false)
     {
-        SettingsFile settings(folder.path("none.xml"), "Veilaway");
-        BatchPlan::Wishes wishes{0, 0, overwrite, "Veilaway", &settings};
         when = stage;
         happens = act;
         BatchRunner runner(host, plugin.process(), *this);
-        runner.run(BatchPlan::make({path}, host, wishes), 1);
+        runner.run(plan({path}, overwrite), 1);
         return last;
     }
     void stageBegins(int, Stage stage) override
@@ -60,6 +57,11 @@ protected:
     void finished(int, const BatchOutcome &outcome) override { last = outcome; }
 
     TestFolder folder;
+
+    std::vector<BatchItem> plan(const QStringList &paths, bool overwrite)
+    {
+        return BatchPlan::make(paths, host, {0, 0, overwrite, "Veilaway", nullptr});
+    }
 
 private:
     int argumentCount = 1;
@@ -170,6 +172,14 @@ TEST_F(BatchFaults, a_disk_that_is_full_when_the_result_is_written)
             EXPECT_EQ(folder.content(result), older ? "older" : "");
             EXPECT_EQ(folder.content(name), source);
         }
+}
+
+TEST_F(BatchFaults, a_photograph_and_its_result_in_one_batch)
+{
+    folder.photograph("photo.png");
+    folder.photograph("photo_dehazed.png");
+    for (const BatchItem &item : plan({folder.path("photo.png"), folder.path("photo_dehazed.png")}, /*overwrite=*/true))
+        EXPECT_TRUE(item.refusal.endsWith("Leave out one of the two.")) << item.given << item.refusal;
 }
 
 TEST_F(BatchFaults, another_program_is_done_first)
@@ -496,9 +506,15 @@ TEST_F(ProgramFaults, a_name_that_is_no_utf_8_is_refused)
 {
     // It does not come through the interface of the plug-in.
     folder.photograph("plain.png", 16, 12);
-    const Said said = folder.shell("n=$(printf 'odd\\377.png'); mkdir \"$n.d\"; cp plain.png \"$n\"; cp plain.png \"$n.d\"; "
-                                   "\"$V\" \"$n\" plain.png --strength 0; echo =$?; "
-                                   "cd \"$n.d\"; \"$V\" plain.png --strength 0; echo =$?; ls; cd ..; rm -r \"$n\" \"$n.d\"");
+    const Said said =
+        folder.shell("n=$(printf 'odd\\303\\251\\377\\303.png'); mkdir \"$n.d\"; cp plain.png \"$n\"; cp plain.png \"$n.d\"; "
+                     "\"$V\" \"$n\" plain.png --strength 0; echo =$?; "
+                     "\"$V\" \"$n\" --json 2>/dev/null; \"$V\" plain.png --settings \"$n\"; echo =$?; "
+                     "cd \"$n.d\"; \"$V\" plain.png --strength 0; echo =$?; ls; cd ..; rm -r \"$n\" \"$n.d\"");
+    const QString json = said.out.mid(said.out.indexOf('{')).section('\n', 0, 0);
+    const QString bytes = QJsonDocument::fromJson(json.toUtf8()).object()["photo_bytes"].toString();
+    EXPECT_EQ(QByteArray::fromPercentEncoding(bytes.toUtf8()), "odd\303\251\377\303.png") << json;
+    EXPECT_TRUE(said.out.contains("=2\n") && said.err.contains("--settings wants")) << said.err;
     EXPECT_TRUE(said.out.endsWith("=1\nplain.png\n")) << said.out;
     EXPECT_EQ(said.out.count("=1\n"), 2);
     EXPECT_EQ(said.err.count(QRegularExpression("veilaway: (odd.*|plain).png: Its name or that of a folder[^\n]*Rename it.\n")),

@@ -1,3 +1,5 @@
+#include <csignal>
+
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -6,6 +8,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSettings>
 #include <exiv2/exiv2.hpp>
@@ -180,8 +183,6 @@ TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
     ASSERT_EQ(link(QFile::encodeName(folder.path("hard.png")).constData(),
                    QFile::encodeName(folder.path("hard_dehazed.png")).constData()),
               0);
-    folder.photograph("both.png");
-    folder.photograph("both_dehazed.png");
     folder.photograph("blocked.png");
     QDir(folder.path(".")).mkdir("blocked_dehazed.png");
     folder.write("empty.png", "");
@@ -202,8 +203,6 @@ TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
         {"there.png", "--overwrite"},
         {"same.JPG", "same.jpg"},
         {"link.png", "same file"},
-        {"both.png", "Leave out"},
-        {"both_dehazed.png", "Leave out"},
         {"blocked.png", "folder"},
         {"empty.png", "empty"},
         {"text.jpg", "known format"},
@@ -345,7 +344,7 @@ TEST_F(Veilaway, says_the_same_to_programs_for_any_number_of_jobs_and_with_lent_
         EXPECT_EQ(lines.size(), 4);
         for (const QString &line : lines) {
             const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
-            EXPECT_EQ(object["strength"].toInt(), object["status"] == "done" ? 80 : 0);
+            EXPECT_EQ(object["strength"].toInt(), 80);
             if (object["status"] != "done") {
                 EXPECT_EQ(object["photo"].toString(), "missing.jpg");
                 EXPECT_TRUE(object["result"].isNull());
@@ -444,6 +443,59 @@ TEST_F(Veilaway, settings_make_a_batch_repeatable)
         ASSERT_TRUE(QFile::rename(folder.path(name), folder.path("moved/") + name));
     EXPECT_EQ(folder.run({"--settings", "moved/s.xml", "--overwrite"}).code, 0);
     EXPECT_TRUE(QFile::exists(folder.path("moved/a_dehazed.png")));
+}
+
+TEST_F(Veilaway, results_among_the_photographs_are_left_out_and_settings_mend)
+{
+    const QStringList photographs{"a.png", "B.JPG", "c.dng", "plain"};
+    folder.photograph("a.png");
+    folder.photograph("B.JPG");
+    folder.raw("c.dng");
+    folder.photograph("plain.png");
+    QFile::rename(folder.path("plain.png"), folder.path("plain"));
+    const QByteArray entry = "<photo path='%1'><Veilaway hazeRemove='9'/></photo>";
+    const auto recorded = [this] {
+        QStringList names;
+        QDomDocument document;
+        document.setContent(folder.content("s.xml"));
+        for (QDomElement photo = document.documentElement().firstChildElement("photo"); !photo.isNull();
+             photo = photo.nextSiblingElement("photo"))
+            names << photo.attribute("path");
+        return names;
+    };
+    QStringList all = photographs;
+    for (const char *language : {"en", "de", "zh_TW"}) {
+        SCOPED_TRACE(language);
+        // Each row begins with the results of those before it, in another language.
+        const QStringList options{"--settings", "s.xml", "--language", language};
+        const Said first = folder.run(all + options + QStringList{"--strength", "0"});
+        EXPECT_EQ(first.code, 0) << first.err;
+        EXPECT_EQ(recorded(), photographs);
+        all = folder.files();
+        all.removeOne("s.xml");
+        const QStringList before = folder.files();
+
+        const Said again = folder.run(all + options + QStringList{"--json"});
+        EXPECT_EQ(again.out.count('\n'), photographs.size()) << again.out;
+        EXPECT_EQ(again.out.count("--overwrite"), photographs.size()) << "for each photograph its result";
+        EXPECT_EQ(again.err.count('\n'), photographs.size() + 1) << again.err;
+        EXPECT_EQ(recorded(), photographs);
+        EXPECT_EQ(folder.files(), before);
+
+        // As an earlier version left it, with one that has gone since.
+        QByteArray spoilt = folder.content("s.xml");
+        for (const QString &name : all)
+            if (!photographs.contains(name))
+                spoilt.replace("</veilaway>", QByteArray(entry).replace("%1", name.toUtf8()) + "</veilaway>");
+        folder.write("s.xml", spoilt.replace("</veilaway>", QByteArray(entry).replace("%1", "a_sinbruma.png") + "</veilaway>"));
+        const Said mended = folder.run(options + QStringList{"--overwrite"});
+        EXPECT_EQ(mended.code, 0) << mended.err;
+        EXPECT_EQ(recorded(), photographs);
+        EXPECT_EQ(folder.files(), before);
+    }
+    // By itself, and beside a photograph that only looks alike, it is a photograph.
+    EXPECT_EQ(folder.run({"a_dehazed.png", "B.JPG", "--strength", "0", "--overwrite"}).code, 0);
+    EXPECT_TRUE(folder.files().contains("a_dehazed_dehazed.png"));
 }
 
 TEST_F(Veilaway, strength_falls_back_to_the_stored_default_and_then_to_70)
@@ -562,22 +614,52 @@ TEST_F(Veilaway, interrupted_it_keeps_what_is_whole_and_leaves_nothing_else)
         photographs << QString("p%1.png").arg(i, 2, 10, QChar('0'));
         folder.photograph(photographs.last());
     }
-    // The reader of the first line sends the signal, so at least one result is there; sixty take far longer than that. A shell
-    // lets its background programs ignore SIGINT, so it is the other one.
-    const Said answer =
-        folder.shell("mkfifo lines; \"$V\" --strength 50 --jobs 2 p*.png >lines & pid=$!; "
-                     "{ read line; kill -TERM $pid; cat >/dev/null; } <lines; wait $pid; code=$?; rm lines; exit $code");
-    EXPECT_EQ(answer.code, 1) << answer.err;
-    EXPECT_TRUE(contains(answer.err, "Stopping"));
-    int results = 0;
-    for (const QString &name : folder.files())
-        if (!photographs.contains(name)) {
-            ++results;
-            EXPECT_TRUE(name.endsWith("_dehazed.png")) << name;
-            EXPECT_NO_THROW(PhotoLoader::decode(folder.path(name))) << name;
+    const struct
+    {
+        QString language, notice, notBegun, stopped;
+    } cases[] = {
+        {"en", "veilaway: Stopping; finishing the file being saved. ", "veilaway: (\\d+) photographs were not begun.\n",
+         "Stopped; no result"},
+        {"de", "veilaway: Wird beendet; ", "veilaway: (\\d+) Fotos wurden nicht begonnen.\n", "Angehalten"},
+    };
+    for (const auto &row : cases) {
+        const QStringList before = folder.files();
+        // The signal is sent when the first line is there, so at least one result is; sixty take far longer than that.
+        const auto process =
+            folder.launch(QStringList{"--strength", "50", "--jobs", "2", "--language", row.language} + photographs);
+        ASSERT_TRUE(process->waitForReadyRead(60000));
+        kill(pid_t(process->processId()), SIGTERM);
+        ASSERT_TRUE(process->waitForFinished(60000));
+        EXPECT_EQ(process->exitStatus(), QProcess::CrashExit) << "a shell's loop would go on";
+        EXPECT_EQ(process->exitCode(), SIGTERM);
+        const QString said = process->readAllStandardError();
+        EXPECT_TRUE(contains(said, row.notice));
+        const QRegularExpressionMatch notBegun = QRegularExpression(row.notBegun).match(said);
+        int results = 0;
+        for (const QString &name : folder.files())
+            if (!before.contains(name)) {
+                ++results;
+                EXPECT_TRUE(name.startsWith('p') && name.endsWith(".png")) << name;
+                EXPECT_NO_THROW(PhotoLoader::decode(folder.path(name))) << name;
+            }
+        EXPECT_GE(results, 1);
+        EXPECT_EQ(results + said.count("veilaway: p") + notBegun.captured(1).toInt(), 60) << said;
+        EXPECT_LE(said.count("veilaway: p"), 2) << said;
+    }
+}
+
+TEST_F(Veilaway, says_that_standard_output_can_not_be_written)
+{
+    folder.photograph("a.png");
+    for (const char *arguments :
+         {"a.png --strength 0 --overwrite", "a.png --strength 0 --overwrite --json", "--help", "--version"})
+        for (const char *output : {">/dev/full", ">&-"}) {
+            const Said answer = folder.shell(QStringLiteral("\"$V\" %1 %2").arg(arguments, output));
+            EXPECT_EQ(answer.code, 1) << arguments << output;
+            EXPECT_TRUE(contains(answer.err, "Standard output can't be written: ")) << arguments << output;
         }
-    EXPECT_GE(results, 1);
-    EXPECT_LT(results, 60);
+    EXPECT_EQ(folder.shell("\"$V\" a.png --strength 0 --overwrite --quiet >&-").code, 0) << "nothing was to be said";
+    EXPECT_NO_THROW(PhotoLoader::decode(folder.path("a_dehazed.png")));
 }
 
 TEST_F(Veilaway, shows_a_bar_for_each_photograph_on_a_terminal)
