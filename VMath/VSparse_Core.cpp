@@ -4,6 +4,7 @@
 #include "VException.h"
 #include "VSparseMatrix.h"
 #include "mkl.h"
+#include "threadCount.h"
 
 VSparseMatrix::~VSparseMatrix()
 {
@@ -56,6 +57,7 @@ void VSparseMatrix::Solve(const float *b, float *x) const
                 iparm.data(), &msglvl, rightHandSide, solution, &error);
     };
 
+    mklSetTeamSize(threadCount);
     call(/*phase=*/11, values, &dummy, &dummy);
     if (error != 0)
         throw VException(QStringLiteral("PARDISO error during symbolic factorization: %1").arg(error), V_LOCATION);

@@ -108,7 +108,7 @@ void solve(benchmark::State &state, bool joined)
         b[i] = 0.001F * float(0.5 + 0.4 * std::sin(0.01 * double(i)));
     std::vector<float> x(b.size());
 
-    omp_set_num_threads(int(state.range(0)));
+    threadCount = int(state.range(0));
     for (auto _ : state)
         matrix.Solve(b.data(), x.data());
     state.SetItemsProcessed(state.iterations() * kPixels);

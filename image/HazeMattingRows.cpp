@@ -14,8 +14,9 @@ constexpr int cellIndex(int rowOffset, int columnOffset)
     return rowOffset == 0 ? columnOffset : 3 + (rowOffset - 1) * 5 + columnOffset + 2;
 }
 
-/// Covariance of the nine colours, with eps / 9 on its diagonal, and each colour's distance from their mean.
-void windowStatistics(const float *corner, std::ptrdiff_t rowStep, float covariance[9], float distances[kPixels][3])
+/// Covariance of the nine colours, with eps / 9 on its diagonal, and each colour's distance from their mean. Returns the largest
+/// mean square of a channel.
+float windowStatistics(const float *corner, std::ptrdiff_t rowStep, float covariance[9], float distances[kPixels][3])
 {
     float sum[3] = {};
     float products[3][3] = {};
@@ -30,6 +31,7 @@ void windowStatistics(const float *corner, std::ptrdiff_t rowStep, float covaria
     float mean[3];
     for (int c = 0; c < 3; ++c)
         mean[c] = sum[c] / 9.0f;
+    const float square = std::max({products[0][0], products[1][1], products[2][2]}) / 9.0f;
     for (int c = 0; c < 3; ++c) {
         // The diagonal is rounded once, so that eps does not drown in a bright window.
         covariance[c * 3 + c] = static_cast<float>(static_cast<double>(-(mean[c] * mean[c])) +
@@ -42,6 +44,26 @@ void windowStatistics(const float *corner, std::ptrdiff_t rowStep, float covaria
         for (int c = 0; c < 3; ++c)
             distances[i][c] = pixel[c] - mean[c];
     }
+    return square;
+}
+
+/// Share of a mean square by which rounding may have moved a cell of the covariance: sums of nine, and their products, in 32
+/// bits.
+constexpr double kRounding = 0x1p-20;
+
+/// Whether the covariance is positive definite beyond its rounding, which eps makes sure of up to samples of about 10. Where it
+/// is not, as in highlights of thousands, an inverse would be made of roundings, and break the system. Written so that
+/// not-a-number fails.
+bool hasInverse(const float covariance[9], float square)
+{
+    const auto m = [covariance](int row, int column) { return static_cast<double>(covariance[row * 3 + column]); };
+    const double least = kRounding * static_cast<double>(square);
+    const double minor = m(0, 0) * m(1, 1) - m(0, 1) * m(0, 1);
+    const double determinant = m(0, 0) * (m(1, 1) * m(2, 2) - m(1, 2) * m(1, 2)) -
+                               m(0, 1) * (m(0, 1) * m(2, 2) - m(1, 2) * m(0, 2)) +
+                               m(0, 2) * (m(0, 1) * m(1, 2) - m(1, 1) * m(0, 2));
+    // The pivots of an elimination, multiplied out.
+    return m(0, 0) > least && minor > least * m(0, 0) && determinant > least * minor;
 }
 
 } // namespace
@@ -56,7 +78,6 @@ void HazeMattingRows::start(int firstRow, float diagonalCell)
 {
     diagonal = diagonalCell;
     nextRow = firstRow;
-    std::fill_n(inverse, 9, 0.0f);
     // The windows above have their share in the first row, too.
     const int firstWindow = std::max(0, firstRow - (kWindow - 1));
     for (int r = firstWindow; r < firstWindow + kWindow - 1; ++r)
@@ -89,8 +110,10 @@ void HazeMattingRows::addWindows(int y)
     for (int x = 0; x <= width - kWindow; ++x) {
         float covariance[9];
         float distances[kPixels][3];
-        windowStatistics(line + x * 4, rowStep, covariance, distances);
-        ippmInvert3x3(covariance, inverse);
+        float inverse[9] = {};
+        const float square = windowStatistics(line + x * 4, rowStep, covariance, distances);
+        if (hasInverse(covariance, square))
+            ippmInvert3x3(covariance, inverse);
         for (int i = 0; i < kPixels; ++i) {
             float weighted[3];
             ippmMul3x3(inverse, distances[i], weighted);

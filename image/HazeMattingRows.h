@@ -8,7 +8,11 @@
 /// Row `row` of the image stands for the unknowns row * width ... row * width + width - 1. A pixel shares windows with the pixels
 /// up to two columns and rows away; those behind it in the image are its cells in the upper triangle, at most kCells. Each cell
 /// takes its windows in the order of their corners, row by row, whatever block its row lies in: blocks only repeat the windows
-/// that reach over their edges. Source: A. Levin, D. Lischinski, Y. Weiss, A Closed-Form Solution to Natural Image Matting, PAMI
+/// that reach over their edges, and no window depends on another.
+///
+/// A window has no inverse if its covariance is not positive definite beyond what 32 bits can tell, or not finite: where samples
+/// are far above 10 and colours so alike that rounding drowns eps. The zero matrix stands for it, so that the window counts as
+/// one of a single colour. Source: A. Levin, D. Lischinski, Y. Weiss, A Closed-Form Solution to Natural Image Matting, PAMI
 /// 2008, equation 12.
 class HazeMattingRows
 {
@@ -52,6 +56,4 @@ private:
     std::vector<float> cells; ///< The rows that the windows of one row reach, image row r at r modulo kWindow.
     float diagonal = 0.0f;
     int nextRow = 0; ///< Row to hand out next.
-    /// Inverse covariance of the window before. A window whose covariance has no inverse keeps it; zero before the first.
-    float inverse[9] = {};
 };

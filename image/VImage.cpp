@@ -198,7 +198,7 @@ bool resize(const GflBitmap &source, GflBitmap &target)
     const IppsBlock<IppiResizeSpec> spec(static_cast<IppiResizeSpec *>(ippsMalloc(specBytes)));
     if (!spec)
         throw std::bad_alloc(); // a black image would be taken for the picture
-    ippiResizeInit(from, to, method, {bits, channels}, spec.get());
+    ippiResizeInit(from, to, method, {channels, bits}, spec.get());
 
     const std::int64_t pixels = std::int64_t{from.width} * from.height + std::int64_t{to.width} * to.height;
     const int team = pixels * channels < kSamplesForTeam ? 1 : std::clamp(threadCount, 1, to.height);

@@ -103,7 +103,8 @@ public:
     /// qualifies. Throws "Invalid Bitmap" for any other form. Runs a team of `threadCount`.
     ///
     /// A sample that is not a number is passed over by the minimum; a pixel whose window holds nothing else ranks last as
-    /// airlight, and its value in the map may not be a number either.
+    /// airlight. A quotient that is not a number, as of two channels without any light, has no say; a pixel of three such ones is
+    /// 0.0. Other light over an airlight without any is infinite, and counts as such.
     /// Source: K. He, J. Sun, X. Tang, Single Image Haze Removal Using Dark Channel Prior, CVPR 2009, sections 4.1 and 4.4.
     float *HazeDarkChannel(float airlight[3]);
 

@@ -57,7 +57,7 @@ struct IppiRelease
 struct ErodedImage
 {
     explicit ErodedImage(const VImage &image)
-        : raster(static_cast<float *>(ippiMalloc(image.Width(), image.Height(), {32, kChannels}, &stepBytes)))
+        : raster(static_cast<float *>(ippiMalloc(image.Width(), image.Height(), {kChannels, 32}, &stepBytes)))
     {
         if (!raster)
             throw std::bad_alloc();
@@ -141,7 +141,8 @@ const float *brightestPixel(const std::vector<Candidate> &candidates)
     return chosen;
 }
 
-/// The comparisons say what happens to not-a-number: a quotient that is none gives way to the one it is compared with.
+/// A channel that neither the window nor the airlight has anything of gives not-a-number, and has no say; where no channel has
+/// one, the pixel counts as clear. std::min and std::max keep their first operand against not-a-number, and among equals.
 IPP_VERSIONS void normaliseRow(const float *minima, float *darkMap, int width, const float *airlight)
 {
     const float airR = airlight[0];
@@ -151,8 +152,9 @@ IPP_VERSIONS void normaliseRow(const float *minima, float *darkMap, int width, c
         const float r = minima[0] / airR;
         const float g = minima[1] / airG;
         const float b = minima[2] / airB;
-        const float bg = b <= g ? b : g;
-        darkMap[x] = bg <= r ? bg : r;
+        const float lowest = std::min(std::min(std::min(std::numeric_limits<float>::infinity(), b), g), r);
+        const float highest = std::max(std::max(std::max(0.0f, b), g), r);
+        darkMap[x] = std::min(lowest, highest); // they change places only where there is no number
     }
 }
 

@@ -18,13 +18,13 @@ constexpr int kChannels[] = {1, 3, 4};
 constexpr int kForms = 9;
 
 /// Number of a form: depths rank first, then channels.
-constexpr int formIndex(IppForm form)
+constexpr int formIndex(PixelForm form)
 {
-    return form.bits / 16 * 3 + form.channels / 2;
+    return form.bits / 16 * 3 + form.components / 2;
 }
-constexpr IppForm formOf(int index)
+constexpr PixelForm formOf(int index)
 {
-    return {kDepths[index / 3], kChannels[index % 3]};
+    return {kChannels[index % 3], kDepths[index / 3]};
 }
 
 constexpr std::uint8_t kOpaque8 = 255;
@@ -38,28 +38,28 @@ struct Plan
     bool scales;
     bool changesChannels;
     bool scalesFirst; ///< Where both steps are needed; the other one reads the form `between`.
-    IppForm between;
+    PixelForm between;
     const void *alpha; ///< What the alpha of the target is set to, or null: it is copied, or there is none, or it stays.
 };
 
 /// The rule. Falling channels are mixed at the wider depth, so that nothing is lost before the grey is rounded; rising channels
 /// are spread last, since fewer samples are to be scaled then.
-constexpr Plan planOf(IppForm from, IppForm to)
+constexpr Plan planOf(PixelForm from, PixelForm to)
 {
     Plan plan{};
     plan.scales = from.bits != to.bits;
-    plan.changesChannels = from.channels != to.channels;
-    plan.scalesFirst = from.channels < to.channels || from.bits < to.bits;
-    plan.between = plan.scalesFirst ? IppForm{to.bits, from.channels} : IppForm{from.bits, to.channels};
-    if (to.channels == 4 && from.channels != 4) {
+    plan.changesChannels = from.components != to.components;
+    plan.scalesFirst = from.components < to.components || from.bits < to.bits;
+    plan.between = plan.scalesFirst ? PixelForm{from.components, to.bits} : PixelForm{to.components, from.bits};
+    if (to.components == 4 && from.components != 4) {
         plan.alpha = to.bits == 8    ? static_cast<const void *>(&kOpaque8)
                      : to.bits == 16 ? static_cast<const void *>(&kOpaque16)
                                      : static_cast<const void *>(&kOpaque32);
         // Three pairs stand apart, as the hosts know them: 16-bit grey leaves alpha as the target held it, and float grey gives
         // 16-bit alpha the full scale of 8 bits.
-        if (from.channels == 1 && from.bits == 16 && to.bits != 8)
+        if (from.components == 1 && from.bits == 16 && to.bits != 8)
             plan.alpha = nullptr;
-        if (from.channels == 1 && from.bits == 32 && to.bits == 16)
+        if (from.components == 1 && from.bits == 32 && to.bits == 16)
             plan.alpha = &kOpaque8In16;
     }
     return plan;
@@ -81,30 +81,30 @@ struct Raster
 {
     unsigned char *data;
     int step;
-    IppForm form;
+    PixelForm form;
 
     unsigned char *at(int x, int y) const
     {
-        return data + std::ptrdiff_t{step} * y + std::ptrdiff_t{x} * (form.bits / 8 * form.channels);
+        return data + std::ptrdiff_t{step} * y + x * static_cast<std::ptrdiff_t>(form.pixelBytes());
     }
 };
 
 Raster rasterOf(const VImage &image, int x, int y)
 {
-    return {image.PixelAddress(x, y), image.BytesPerLine(), {image.BitsPerComponent(), image.Bitmap()->componentsPerPixel}};
+    return {image.PixelAddress(x, y), image.BytesPerLine(), {image.Bitmap()->componentsPerPixel, image.BitsPerComponent()}};
 }
 
 void scale(const Raster &from, const Raster &to, IppiSize size)
 {
-    ippiScale(from.data, from.step, from.form.bits, to.data, to.step, to.form.bits, to.form.channels, size);
+    ippiScale(from.data, from.step, from.form.bits, to.data, to.step, to.form.bits, to.form.components, size);
 }
 
 void changeChannels(const Raster &from, const Raster &to, IppiSize size, const void *alpha)
 {
-    if (to.form.channels == 1)
-        ippiRGBToGray(from.data, from.step, from.form.channels, to.data, to.step, to.form.bits, size);
+    if (to.form.components == 1)
+        ippiRGBToGray(from.data, from.step, from.form.components, to.data, to.step, to.form.bits, size);
     else
-        ippiCopy(from.data, from.step, from.form.channels, to.data, to.step, to.form.channels, to.form.bits, size, alpha);
+        ippiCopy(from.data, from.step, from.form.components, to.data, to.step, to.form.components, to.form.bits, size, alpha);
 }
 
 void convert(const Plan &plan, const Raster &from, const Raster &to, const Raster &between, IppiSize size)

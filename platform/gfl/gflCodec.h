@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "PixelForm.h"
 #include "gfl.h"
 
 struct GflIptc
@@ -48,21 +49,12 @@ void *allocate(std::size_t bytes);
 void *reallocate(void *block, std::size_t bytes);
 void release(void *block);
 
-/// Sample layout of a row: 1, 3 or 4 components of 8, 16 or 32 (float) bits.
-struct Form
-{
-    int components;
-    int bits;
-    std::size_t pixelBytes() const { return std::size_t(components) * std::size_t(bits / 8); }
-    bool operator==(const Form &other) const { return components == other.components && bits == other.bits; }
-};
+using Form = PixelForm;
 
 Form formOf(const GflBitmap &bitmap);
 
-/// Converts `width` pixels. Depths as the image room converts them: 8 to 16 bits times 257, 16 to 8 to the nearest, integers to
-/// float over their full scale, float to integers clamped to 0..1 (not-a-number: 0), ties to even. A grey sample becomes each of
-/// the first three components and a missing alpha is opaque; an alpha that the target has no place for is dropped. A colour
-/// source never goes to a grey target.
+/// Converts `width` pixels, depths as convertSample.h says. A grey sample becomes each of the first three components and a
+/// missing alpha is opaque; an alpha that the target has no place for is dropped. A colour source never goes to a grey target.
 using RowConverter = void (*)(const void *source, int sourceComponents, void *target, int targetComponents, int width);
 RowConverter rowConverter(int sourceBits, int targetBits);
 

@@ -3,40 +3,16 @@
 #include <cstring>
 #include <limits>
 
+#include "convertSample.h"
 #include "gflCodec.h"
 
 namespace gfl {
 namespace {
 
-// std::nearbyint would be a call on a bare x86-64: adding 2^23 rounds a float below it to an integer, ties to even.
-template<class Target>
-Target fromFloat(float value)
-{
-    constexpr float scale = std::numeric_limits<Target>::max();
-    constexpr float kRounder = 8388608.0f;
-    const float clamped = value > 0.0f ? std::min(value, 1.0f) : 0.0f; // a not-a-number fails the comparison
-    return static_cast<Target>(static_cast<int>((clamped * scale + kRounder) - kRounder));
-}
-
-template<class Source, class Target>
-Target convertSample(Source value)
-{
-    if constexpr (std::is_same_v<Source, Target>)
-        return value;
-    else if constexpr (std::is_same_v<Source, float>)
-        return fromFloat<Target>(value);
-    else if constexpr (std::is_same_v<Target, float>)
-        return static_cast<float>(value) / static_cast<float>(std::numeric_limits<Source>::max());
-    else if constexpr (sizeof(Target) > sizeof(Source))
-        return static_cast<Target>(value * 257u);
-    else
-        return static_cast<Target>((value + 128u) / 257u);
-}
-
 template<class Source, class Target, int sourceComponents, int targetComponents>
 void convertPixels(const Source *source, Target *target, int width)
 {
-    constexpr Target opaque = std::is_same_v<Target, float> ? Target(1) : std::numeric_limits<Target>::max();
+    constexpr auto opaque = static_cast<Target>(kFullScale<Target>);
     for (int x = 0; x < width; ++x, source += sourceComponents, target += targetComponents) {
         for (int c = 0; c < std::min(targetComponents, 3); ++c)
             target[c] = convertSample<Source, Target>(source[sourceComponents < 3 ? 0 : c]);

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "PixelForm.h"
+
 /// The primitives layer: whole-rectangle operations on interleaved samples and small matrices. Steps are the bytes from one row
 /// to the next. An operation that refuses its arguments says so in its status and leaves the target as it is. Everything runs on
 /// the calling thread.
@@ -27,25 +29,17 @@ struct IppiPoint
 /// Chooses the code paths for this processor. Safe to call again.
 IppStatus ippInit();
 
-/// Form of a raster: unsigned samples of 8 or 16 bits or floats of 32, and 1 (grey), 3 (R, G, B) or 4 channels (R, G, B, A).
-struct IppForm
-{
-    int bits;
-    int channels;
-};
-
 /// A raster of width x height pixels, its rows and its start aligned to 64 bytes; `*stepBytes` gets the bytes from row to row.
 /// Null for an empty size, for a row of 2 GiB or more and when there is no memory. Released with ippiFree.
-void *ippiMalloc(int width, int height, IppForm form, int *stepBytes);
+void *ippiMalloc(int width, int height, PixelForm form, int *stepBytes);
 void ippiFree(void *raster);
 
 /// A block aligned to 64 bytes, or null; released with ippsFree.
 void *ippsMalloc(std::size_t bytes);
 void ippsFree(void *block);
 
-/// Changes the depth of every sample, `channels` a pixel, alpha like the others: 8 to 16 bits times 257; 16 to 8 times 255/65535
-/// to the nearest; 8 bits to float x / 255; 16 bits to float times the reciprocal of 65535; floats to integers times full scale,
-/// limited to 0 and full scale, to the nearest, ties to even, not-a-number to 0. Equal depths copy. The rasters don't overlap.
+/// Changes the depth of every sample, `channels` a pixel, alpha like the others, as convertSample.h says. The rasters don't
+/// overlap.
 IppStatus ippiScale(const void *source, int sourceStep, int sourceBits, void *target, int targetStep, int targetBits,
                     int channels, IppiSize size);
 
@@ -73,7 +67,7 @@ std::size_t ippiResizeGetSize(IppiSize source, IppiSize target, IppiInterpolatio
 
 /// Linear: pixel centres of both grids are aligned, the border is replicated. Super: each target pixel is the mean of the source
 /// area that it covers, parts of pixels counted by their share. `spec` is such a block, aligned to 8 bytes.
-IppStatus ippiResizeInit(IppiSize source, IppiSize target, IppiInterpolation method, IppForm form, IppiResizeSpec *spec);
+IppStatus ippiResizeInit(IppiSize source, IppiSize target, IppiInterpolation method, PixelForm form, IppiResizeSpec *spec);
 
 /// Bytes of the working buffer that one ippiResize call needs; calls that run at the same time have one each.
 std::size_t ippiResizeGetBufferSize(const IppiResizeSpec *spec);

@@ -3,37 +3,10 @@
 #include <cstring>
 #include <type_traits>
 
+#include "convertSample.h"
 #include "ippVersions.h"
 
 namespace {
-
-template<typename Sample>
-constexpr float kFullScale = std::is_same_v<Sample, std::uint8_t> ? 255.0f : 65535.0f;
-
-template<typename From, typename To>
-IPP_INLINE To scaled(From sample)
-{
-    if constexpr (std::is_same_v<From, To>) {
-        return sample;
-    } else if constexpr (std::is_same_v<To, float>) {
-        if constexpr (std::is_same_v<From, std::uint8_t>)
-            return static_cast<float>(sample) / 255.0f;
-        else
-            return static_cast<float>(sample) * (1.0f / 65535.0f); // 65535 becomes exactly 1
-    } else if constexpr (std::is_same_v<From, float>) {
-        // Written so that not-a-number fails the first test. Adding 2^23 and taking it away rounds to the nearest, ties to even.
-        constexpr float kToInteger = 8388608.0f;
-        const float product = sample * kFullScale<To>;
-        const float positive = product > 0.0f ? product : 0.0f;
-        const float limited = positive < kFullScale<To> ? positive : kFullScale<To>;
-        return static_cast<To>(static_cast<std::int32_t>((limited + kToInteger) - kToInteger));
-    } else if constexpr (std::is_same_v<To, std::uint16_t>) {
-        return static_cast<std::uint16_t>(sample * 257);
-    } else {
-        // x / 257 to the nearest, exact for all 65536 values
-        return static_cast<std::uint8_t>((std::uint32_t{sample} * 255u + 32895u) >> 16);
-    }
-}
 
 template<typename From, typename To>
 IPP_INLINE void scaleRow(const void *source, void *target, std::size_t samples)
@@ -41,7 +14,7 @@ IPP_INLINE void scaleRow(const void *source, void *target, std::size_t samples)
     const auto *__restrict from = static_cast<const From *>(source);
     auto *__restrict to = static_cast<To *>(target);
     for (std::size_t i = 0; i < samples; ++i)
-        to[i] = scaled<From, To>(from[i]);
+        to[i] = convertSample<From, To>(from[i]);
 }
 
 template<typename From>

@@ -14,11 +14,11 @@ std::size_t alignUp(std::size_t bytes)
 
 } // namespace
 
-void *ippiMalloc(int width, int height, IppForm form, int *stepBytes)
+void *ippiMalloc(int width, int height, PixelForm form, int *stepBytes)
 {
     if (width <= 0 || height <= 0)
         return nullptr;
-    const std::size_t step = alignUp(std::size_t(width) * std::size_t(form.channels) * std::size_t(form.bits / 8));
+    const std::size_t step = alignUp(std::size_t(width) * form.pixelBytes());
     if (step > std::size_t(std::numeric_limits<int>::max()))
         return nullptr;
     *stepBytes = static_cast<int>(step);

@@ -96,7 +96,7 @@ struct IppiResizeSpec
 {
     IppiSize source;
     IppiSize target;
-    IppForm form;
+    PixelForm form;
     double weightSum[2];
     Taps *taps[2]; ///< Columns, rows; one entry for each target pixel.
     double *weights[2];
@@ -195,7 +195,7 @@ template<typename Sample>
 IPP_INLINE void resizeRowOf(const IppiResizeSpec &spec, const unsigned char *source, std::ptrdiff_t step, void *target, int y,
                             void *buffer)
 {
-    switch (spec.form.channels) {
+    switch (spec.form.components) {
     case 1:
         return resizeRow<Sample, 1>(spec, source, step, target, y, buffer);
     case 3:
@@ -233,7 +233,7 @@ std::size_t ippiResizeGetSize(IppiSize source, IppiSize target, IppiInterpolatio
            (weightLimit(source.width, target.width) + weightLimit(source.height, target.height)) * sizeof(double);
 }
 
-IppStatus ippiResizeInit(IppiSize source, IppiSize target, IppiInterpolation method, IppForm form, IppiResizeSpec *spec)
+IppStatus ippiResizeInit(IppiSize source, IppiSize target, IppiInterpolation method, PixelForm form, IppiResizeSpec *spec)
 {
     if (!spec)
         return ippStsNullPtrErr;
@@ -267,7 +267,7 @@ IppStatus ippiResizeInit(IppiSize source, IppiSize target, IppiInterpolation met
 
 std::size_t ippiResizeGetBufferSize(const IppiResizeSpec *spec)
 {
-    const std::size_t samples = static_cast<std::size_t>(spec->source.width) * static_cast<std::size_t>(spec->form.channels);
+    const std::size_t samples = static_cast<std::size_t>(spec->source.width) * static_cast<std::size_t>(spec->form.components);
     return samples * (spec->form.bits == 32 ? sizeof(float) : sizeof(double));
 }
 

@@ -6,7 +6,6 @@
 #include <iterator>
 #include <new>
 
-#include <omp.h>
 #include <sys/mman.h>
 
 #include "frontKernels.h"
@@ -243,12 +242,12 @@ bool MultifrontalFactors::childrenFirst(const Visit &visit)
             state = NoMemory;
         }
     };
-#pragma omp parallel for schedule(dynamic)
+#pragma omp parallel for schedule(dynamic) num_threads(team)
     for (std::size_t i = 0; i < subtrees.size(); ++i)
         climb(subtrees[i].node, guarded);
     for (auto wave = waves.rbegin(); wave != waves.rend(); ++wave) {
         const std::vector<Job> &jobs = *wave;
-#pragma omp parallel for schedule(dynamic)
+#pragma omp parallel for schedule(dynamic) num_threads(team)
         for (std::size_t i = 0; i < jobs.size(); ++i)
             guarded(jobs[i].node);
     }
@@ -397,11 +396,11 @@ void MultifrontalFactors::solve(float *rightHandSide)
         return true;
     });
     for (const std::vector<Job> &jobs : waves) {
-#pragma omp parallel for schedule(dynamic)
+#pragma omp parallel for schedule(dynamic) num_threads(team)
         for (std::size_t i = 0; i < jobs.size(); ++i)
             substitute(jobs[i].node, jobs[i].parent, rightHandSide);
     }
-#pragma omp parallel for schedule(dynamic)
+#pragma omp parallel for schedule(dynamic) num_threads(team)
     for (std::size_t i = 0; i < subtrees.size(); ++i)
         descend(subtrees[i].node, subtrees[i].parent, rightHandSide);
 }

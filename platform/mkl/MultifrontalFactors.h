@@ -11,13 +11,15 @@
 /// image gives. Several times faster there than a solver for all patterns, since nested dissection is read off the grid.
 ///
 /// The grid is found from the pattern, and the pattern alone decides what is eliminated with what; a pattern of another kind, or
-/// a pivot that is not clearly positive, ends in `false`, and the caller takes another solver. Runs a team of
-/// omp_get_max_threads; the results do not depend on its size. Safe on several threads, each with an object of its own. Source:
+/// a pivot that is not clearly positive, ends in `false`, and the caller takes another solver. Runs a team of the size that it is
+/// made with; the results do not depend on it. Safe on several threads, each with an object of its own. Source:
 /// A. George, Nested Dissection of a Regular Finite Element Mesh, SIAM J. Numer. Anal. 10 (1973); I. Duff, J. Reid, The
 /// Multifrontal Solution of Indefinite Sparse Symmetric Linear Equations, ACM TOMS 9 (1983).
 class MultifrontalFactors
 {
 public:
+    /// `teamSize` is at least 1.
+    explicit MultifrontalFactors(int teamSize) : team(teamSize) {}
     /// Ordering and symbolic factorisation. False if the pattern is of another kind. Throws std::bad_alloc.
     bool analyse(const SparseRows &matrix);
     /// Numerical factorisation of the matrix that was analysed. False on a pivot that would have to be perturbed. Throws
@@ -85,6 +87,7 @@ private:
     void substitute(std::int32_t node, std::int32_t parent, float *solution);
     void descend(std::int32_t node, std::int32_t parent, float *solution);
 
+    int team;
     std::int32_t order = 0;
     std::int32_t gridWidth = 1;
     std::int32_t reach[2] = {0, 0};      ///< How far apart in x and y two vertices may be that share a cell.

@@ -31,6 +31,8 @@ namespace {
 enum Phase : std::int32_t { Analysis = 11, Factorisation = 22, Solution = 33, Release = -1 };
 enum MatrixType : std::int32_t { SymmetricIndefinite = -2, Unsymmetric = 11 };
 
+thread_local int teamSize = 1;
+
 // A refinement step shrinks the error by about the same factor each time: the first correction relative to the solution shows it.
 // Below 2^-13, the error after that correction is at most 2^-26 of the solution and the next step is lost in rounding to float.
 constexpr double kConverged = 1.0 / 8192;
@@ -48,7 +50,7 @@ struct Handle
     std::int32_t analyse(const SparseRows &matrix)
     {
         if (matrix.symmetric) {
-            quick = std::make_unique<MultifrontalFactors>();
+            quick = std::make_unique<MultifrontalFactors>(teamSize);
             if (quick->analyse(matrix))
                 return 0;
             quick.reset();
@@ -176,6 +178,11 @@ std::int32_t solveRefined(Handle &handle, const SparseRows &matrix, std::int32_t
 }
 
 } // namespace
+
+void mklSetTeamSize(int threads)
+{
+    teamSize = std::max(1, threads);
+}
 
 void pardiso(void *pt, const std::int32_t *, const std::int32_t *, const std::int32_t *mtype, const std::int32_t *phase,
              const std::int32_t *n, const void *a, const std::int32_t *ia, const std::int32_t *ja, std::int32_t *,

@@ -21,8 +21,12 @@ enum PardisoError : std::int32_t {
     PardisoNotFinite = -6, ///< The matrix, the right-hand side or the solution holds a not-a-number or an infinity.
 };
 
+/// How many threads, at least 1, `pardiso` may use for a system whose analysis begins on the calling thread after this; 1 on a
+/// thread that has not said.
+void mklSetTeamSize(int threads);
+
 /// Sparse direct solution of A x = b, in phases; every argument by address. Positive definite neighbours on a grid, as an image
-/// gives them, are factorised on a team of omp_get_max_threads, with results that don't depend on its size; all else runs on the
+/// gives them, are factorised by the team of mklSetTeamSize, with results that don't depend on its size; all else runs on the
 /// calling thread, one system of the process at a time.
 ///
 /// `pt` holds 64 pointer-sized words, all zero before phase 11; the layer's own until phase -1. `mtype` is -2 (real symmetric

@@ -134,8 +134,9 @@ std::optional<DarkChannel> darkChannel(const Picture &picture)
         const float r = eroded[i] / chosen[0];
         const float g = eroded[i + 1] / chosen[1];
         const float b = eroded[i + 2] / chosen[2];
-        const float low = b <= g ? b : g;
-        result.map.push_back(low <= r ? low : r);
+        const float low = std::isnan(g) || b <= g ? b : g;
+        const float lowest = std::isnan(r) || low <= r ? low : r;
+        result.map.push_back(std::isnan(lowest) ? 0.0f : lowest);
     }
     return result;
 }

@@ -1,11 +1,15 @@
 #include "RemoveHaze.h"
 
 #include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <omp.h>
 
 #include "HazeReference.h"
 #include "HazeState.h"
@@ -78,6 +82,90 @@ TEST(RemoveHaze, ASecondStrengthUsesTheMapAndThreadsDontMatter)
     threadCount = 1;
     EXPECT_EQ(firstDifference(fresh.transmission, map, 10000), "");
     EXPECT_EQ(firstDifference(third.samples.data(), first.samples.data(), first.samples.size()), "");
+}
+
+int threadsOfTheProcess()
+{
+    const std::filesystem::directory_iterator tasks("/proc/self/task");
+    return static_cast<int>(std::distance(begin(tasks), end(tasks)));
+}
+
+TEST(RemoveHaze, StartsNoThreadBeyondItsTeam)
+{
+    // The run-time keeps its workers, so that each count wants a process of its own.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    for (const int team : {1, 3}) {
+        const auto startedThreads = [team] {
+            omp_set_num_threads(5); // what the run-time would take by itself
+            threadCount = team;
+            const Picture picture = makeHazyScene(100, 100);
+            OwnedState state(70);
+            const int before = threadsOfTheProcess();
+            RemoveHaze(*picture.image, state);
+            return state.transmission ? threadsOfTheProcess() - before : -1;
+        };
+        EXPECT_EXIT(std::_Exit(startedThreads()), testing::ExitedWithCode(team - 1), "") << team;
+    }
+}
+
+TEST(RemoveHaze, ScenesWithoutRedAreDone)
+{
+    const struct
+    {
+        const char *name;
+        float (*red)(int x, int y, float red);
+    } rows[] = {
+        {"no red at all", [](int, int, float) { return 0.0f; }},
+        {"under water", [](int x, int y, float red) { return y > 60 && x % 8 == 0 ? red : 0.0f; }}, // near things have some
+    };
+    for (const auto &row : rows) {
+        Picture picture = makeHazyScene(100, 100);
+        for (int y = 0; y < 100; ++y) {
+            for (int x = 0; x < 100; ++x)
+                picture.at(x, y)[0] = row.red(x, y, picture.at(x, y)[0]);
+        }
+        const float before = picture.at(50, 30)[1];
+        OwnedState state(70);
+        RemoveHaze(*picture.image, state);
+        ASSERT_NE(state.transmission, nullptr) << row.name;
+        EXPECT_EQ(state.airlight[0], 0.0f) << row.name;
+        EXPECT_LT(picture.at(50, 30)[1], before - 0.1f) << row.name;
+    }
+}
+
+TEST(RemoveHaze, BrightFloatPicturesAreSolvedAlikeOnAnyTeam)
+{
+    const struct
+    {
+        const char *name;
+        bool grey;
+        float factor, disc;
+    } rows[] = {{"a clipped highlight", false, 1.0f, 60000.0f}, {"a grey scene in other units", true, 1000.0f, 0.0f}};
+    for (const auto &row : rows) {
+        std::vector<float> maps[2];
+        for (const int team : {1, 8}) {
+            Picture picture = makeHazyScene(120, 90);
+            for (int y = 0; y < 90; ++y) {
+                for (int x = 0; x < 120; ++x) {
+                    float *const p = picture.at(x, y);
+                    const bool inDisc = row.disc > 0.0f && (x - 80) * (x - 80) + (y - 25) * (y - 25) < 100;
+                    const float grey = 0.3f * p[0] + 0.6f * p[1] + 0.1f * p[2];
+                    for (int c = 0; c < 3; ++c)
+                        p[c] = inDisc ? row.disc : (row.grey ? grey : p[c]) * row.factor;
+                }
+            }
+            threadCount = team;
+            OwnedState state(70);
+            RemoveHaze(*picture.image, state);
+            threadCount = 1;
+            ASSERT_NE(state.transmission, nullptr) << row.name;
+            maps[team / 8].assign(state.transmission, state.transmission + 120 * 90);
+        }
+        EXPECT_EQ(firstDifference(maps[0].data(), maps[1].data(), maps[0].size()), "") << row.name;
+        // Of a dark map from 0 to 1 the refinement makes one that hardly leaves it.
+        for (const float value : maps[0])
+            ASSERT_TRUE(value > -0.1f && value < 1.1f) << row.name << ' ' << value;
+    }
 }
 
 TEST(RemoveHaze, QuietExitsLeaveTheImage)

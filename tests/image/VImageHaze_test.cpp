@@ -109,6 +109,34 @@ TEST(HazeDarkChannel, SpreadsATransparentBlackPixelOverItsWindow)
     }
 }
 
+TEST(HazeDarkChannel, ChannelsWithoutLightHaveNoSay)
+{
+    const struct
+    {
+        const char *name;
+        float airlight[3], colour[3], expected;
+    } rows[] = {
+        {"no red", {0.0f, 0.5f, 1.0f}, {0.0f, 0.25f, 0.25f}, 0.25f},
+        {"no green", {0.5f, 0.0f, 1.0f}, {0.375f, 0.0f, 0.25f}, 0.25f},
+        {"no blue", {1.0f, 0.5f, 0.0f}, {0.25f, 0.25f, 0.0f}, 0.25f},
+        {"blue alone", {0.0f, 0.0f, 1.0f}, {0.0f, 0.0f, 0.25f}, 0.25f},
+        {"red that the airlight lacks", {0.0f, 0.5f, 1.0f}, {0.5f, 0.25f, 0.25f}, 0.25f},
+        {"black", {0.0f, 0.0f, 0.0f}, {0.0f, 0.0f, 0.0f}, 0.0f},
+        {"only what the airlight lacks", {1.0f, 0.0f, 0.0f}, {kNan, 0.25f, 0.5f}, kInfinity},
+    };
+    for (const auto &row : rows) {
+        Picture picture(6, 1);
+        fill(picture, row.colour[0], row.colour[1], row.colour[2]);
+        for (int x = 0; x < 3; ++x)
+            std::memcpy(picture.at(x, 0), row.airlight, sizeof row.airlight);
+        float airlight[3];
+        const auto map = darkChannelOf(picture, airlight);
+        ASSERT_TRUE(map) << row.name;
+        EXPECT_EQ(firstDifference(airlight, row.airlight, 3), "") << row.name;
+        EXPECT_EQ(map[5], row.expected) << row.name;
+    }
+}
+
 TEST(HazeDarkChannel, IsNullWithoutACandidateAndLeavesTheAirlight)
 {
     for (const float value : {kNan, -1.0f, -kInfinity}) {
@@ -204,18 +232,31 @@ TEST(HazeMatting, AFailedSolveLeavesTheMapTimesLambda)
     }
 }
 
-TEST(HazeMatting, AWindowWithoutInverseKeepsTheOneBefore)
+TEST(HazeMatting, AWindowWithoutInverseCountsAsFlat)
 {
-    // So bright that the covariance overflows: before any inverse there is the zero matrix, and windows count as flat.
-    Picture picture = makePicture(9, 4, Kind::Noise);
-    for (int y = 0; y < 4; ++y) {
-        for (int x = 0; x < 9; ++x)
-            picture.at(x, y)[0] *= 1e25f;
-    }
-    Picture flat(9, 4);
+    Picture flat(12, 8);
     fill(flat, 0.5f, 0.5f, 0.5f);
     const auto expected = mattingCells(flat, 1);
-    EXPECT_EQ(firstDifference(mattingCells(picture, 1).data(), expected.data(), expected.size()), "");
+    const struct
+    {
+        const char *name;
+        float factor[3];
+        float grey; ///< Added to each channel.
+    } rows[] = {{"the covariance overflows", {1e25f, 1.0f, 1.0f}, 0.0f},
+                {"rounding drowns eps", {0.01f, 0.01f, 0.01f}, 60000.0f}};
+    for (const auto &row : rows) {
+        Picture picture = makePicture(12, 8, Kind::Noise);
+        for (int y = 0; y < 8; ++y) {
+            for (int x = 0; x < 12; ++x) {
+                for (int c = 0; c < 3 && x > 2; ++c) // the first windows of each row have an inverse
+                    picture.at(x, y)[c] = picture.at(x, y)[c] * row.factor[c] + row.grey;
+            }
+        }
+        const auto cells = mattingCells(picture, 1);
+        EXPECT_EQ(firstDifference(mattingCells(picture, 3).data(), cells.data(), cells.size()), "") << row.name;
+        const std::size_t pixel = 4 * 12 + 8; // none of its windows reaches an untouched column
+        EXPECT_EQ(firstDifference(&cells[pixel * 97], &expected[pixel * 97], 3), "") << row.name;
+    }
 }
 
 TEST(HazeMatting, ThreadsGiveTheSameBits)

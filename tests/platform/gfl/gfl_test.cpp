@@ -73,6 +73,22 @@ TEST_F(GflTest, EveryFormatHoldsEveryFormAsWellAsItCan)
                     }
 }
 
+TEST_F(GflTest, DepthsChangeAsInTheImagePrimitives)
+{
+    const Picture picture = makePicture(256, 256, 3, 16); // every value there is
+    for (unsigned i = 0; i < 65536 * 3; ++i) {
+        const auto value = static_cast<std::uint16_t>(i / 3);
+        std::memcpy(sampleAt(*picture, int(value % 256), int(value / 256), int(i % 3)), &value, sizeof value);
+    }
+    Picture read;
+    ASSERT_EQ(save(path("f"), picture.get(), "exr"), GFL_NO_ERROR);
+    ASSERT_EQ(load(path("f"), read), GFL_NO_ERROR);
+    int wrong = 0;
+    for (int value = 0; value < 65536; ++value)
+        wrong += fractionAt(*read, value % 256, value / 256, 1) != double(float(value) * (1.0f / 65535.0f));
+    EXPECT_EQ(wrong, 0) << "a division differs in 512";
+}
+
 TEST_F(GflTest, FloatsBeyondTheScaleAreKeptOrClamped)
 {
     const Picture picture = makePicture(9, 1, 3, 32);

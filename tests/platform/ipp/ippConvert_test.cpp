@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <numeric>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -37,6 +38,18 @@ TEST(ippiScale, FloatsToIntegersAtEveryTurn)
         }
         EXPECT_EQ(0, wrong) << bits;
     }
+}
+
+TEST(ippiScale, SixteenToEightBitsAtEveryValue)
+{
+    std::vector<std::uint16_t> samples(65536);
+    std::iota(samples.begin(), samples.end(), std::uint16_t(0));
+    std::vector<std::uint8_t> result(65536);
+    ASSERT_EQ(ippStsNoErr, ippiScale(samples.data(), 131072, 16, result.data(), 65536, 8, 1, {65536, 1}));
+    int wrong = 0;
+    for (std::size_t i = 0; i < samples.size(); ++i)
+        wrong += result[i] != std::lround(double(i) / 257.0);
+    EXPECT_EQ(0, wrong);
 }
 
 TEST(ippiCopy, TouchesNoPixelBesideTheRectangle)
@@ -100,20 +113,20 @@ TEST(ippi, RefusalsLeaveTheTarget)
 
 TEST(ippiMalloc, RowsAreAlignedAndWhole)
 {
-    for (const IppForm form : {IppForm{8, 1}, IppForm{16, 3}, IppForm{32, 4}}) {
+    for (const PixelForm form : {PixelForm{1, 8}, PixelForm{3, 16}, PixelForm{4, 32}}) {
         int step = 0;
         auto *raster = static_cast<unsigned char *>(ippiMalloc(13, 7, form, &step));
         ASSERT_NE(nullptr, raster);
         EXPECT_EQ(0, step % 64);
-        EXPECT_GE(step, 13 * form.channels * form.bits / 8);
+        EXPECT_GE(step, 13 * int(form.pixelBytes()));
         EXPECT_EQ(0u, reinterpret_cast<std::uintptr_t>(raster) % 64);
         std::memset(raster, 1, std::size_t(step) * 7);
         ippiFree(raster);
     }
     int step = 0;
-    EXPECT_EQ(nullptr, ippiMalloc(0, 5, {8, 1}, &step));
-    EXPECT_EQ(nullptr, ippiMalloc(5, -1, {8, 1}, &step));
-    EXPECT_EQ(nullptr, ippiMalloc(std::numeric_limits<int>::max(), 1, {32, 4}, &step));
+    EXPECT_EQ(nullptr, ippiMalloc(0, 5, {1, 8}, &step));
+    EXPECT_EQ(nullptr, ippiMalloc(5, -1, {1, 8}, &step));
+    EXPECT_EQ(nullptr, ippiMalloc(std::numeric_limits<int>::max(), 1, {4, 32}, &step));
     EXPECT_EQ(nullptr, ippsMalloc(std::numeric_limits<std::size_t>::max()));
     ippsFree(ippsMalloc(0));
 }
@@ -125,8 +138,8 @@ TEST(ippiResize, Refusals)
     const std::size_t bytes = ippiResizeGetSize({4, 4}, {2, 2}, IppiInterpolation::Super);
     std::vector<std::uint64_t> block(bytes / 8 + 1);
     auto *spec = reinterpret_cast<IppiResizeSpec *>(block.data());
-    EXPECT_EQ(ippStsNullPtrErr, ippiResizeInit({4, 4}, {2, 2}, IppiInterpolation::Super, {8, 1}, nullptr));
-    ASSERT_EQ(ippStsNoErr, ippiResizeInit({4, 4}, {2, 2}, IppiInterpolation::Super, {8, 1}, spec));
+    EXPECT_EQ(ippStsNullPtrErr, ippiResizeInit({4, 4}, {2, 2}, IppiInterpolation::Super, {1, 8}, nullptr));
+    ASSERT_EQ(ippStsNoErr, ippiResizeInit({4, 4}, {2, 2}, IppiInterpolation::Super, {1, 8}, spec));
     std::vector<double> buffer(ippiResizeGetBufferSize(spec) / sizeof(double));
     const std::uint8_t source[16] = {};
     std::uint8_t target[4] = {5, 5, 5, 5};

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <omp.h>
 
 #include "MattingSystem.h"
 #include "mkl.h"
@@ -348,15 +347,14 @@ TEST(Pardiso, OneThreadEqualsSeveral)
 {
     const TestRows matrix = mattingSystem(120, 90, 9);
     const std::vector<float> b = waves(std::size_t(matrix.order));
-    const int before = omp_get_max_threads();
     std::vector<std::vector<float>> solutions;
     for (const int team : {1, 2, 5}) {
-        omp_set_num_threads(team);
+        mklSetTeamSize(team);
         Calls calls(matrix);
         ASSERT_EQ(calls.solve(b), 0);
         solutions.push_back(calls.x);
     }
-    omp_set_num_threads(before);
+    mklSetTeamSize(1);
     EXPECT_EQ(solutions[0], solutions[1]);
     EXPECT_EQ(solutions[0], solutions[2]);
 }
