@@ -19,6 +19,8 @@
 #include "TransposedRun.h"
 #include "VException.h"
 #include "XmpCarrier.h"
+#include "kernel32.h"
+#include "whyUnchanged.h"
 
 namespace {
 
@@ -26,53 +28,6 @@ namespace {
 [[noreturn]] void endRun()
 {
     throw VException(QStringLiteral("Stopped"), V_LOCATION);
-}
-
-qint64 numberIn(const char *file)
-{
-    QFile input(file);
-    bool whole = false;
-    const qint64 number = input.open(QIODevice::ReadOnly) ? input.readAll().trimmed().toLongLong(&whole) : 0;
-    return whole ? number : -1;
-}
-
-/// The sum of the numbers behind these words at the beginning of a line.
-qint64 sumIn(const char *file, const std::vector<QByteArray> &words)
-{
-    qint64 sum = 0;
-    QFile input(file);
-    if (input.open(QIODevice::ReadOnly))
-        for (const QByteArray &line : input.readAll().split('\n'))
-            if (const QList<QByteArray> parts = line.simplified().split(' ');
-                parts.size() > 1 && std::count(words.begin(), words.end(), parts[0]) > 0)
-                sum += parts[1].toLongLong();
-    return sum;
-}
-
-/// Bytes that may be taken without pushing anything out: the system's own estimate, less where a container's limit is nearer. Two
-/// gigabytes where neither can be read.
-qint64 freeMemory()
-{
-    const qint64 available = sumIn("/proc/meminfo", {"MemAvailable:"}) * 1024;
-    qint64 bytes = available > 0 ? available : qint64(2) << 30;
-    const struct
-    {
-        const char *limit, *used, *details;
-        std::vector<QByteArray> givingWay; // the pages of files count as used
-    } groups[] = {
-        {"/sys/fs/cgroup/memory.max",
-         "/sys/fs/cgroup/memory.current",
-         "/sys/fs/cgroup/memory.stat",
-         {"inactive_file", "active_file"}},
-        {"/sys/fs/cgroup/memory/memory.limit_in_bytes",
-         "/sys/fs/cgroup/memory/memory.usage_in_bytes",
-         "/sys/fs/cgroup/memory/memory.stat",
-         {"total_inactive_file", "total_active_file"}},
-    };
-    for (const auto &group : groups)
-        if (const qint64 limit = numberIn(group.limit), used = numberIn(group.used); limit >= 0 && used >= 0)
-            bytes = std::min(bytes, limit - used + sumIn(group.details, group.givingWay));
-    return std::max<qint64>(bytes, 0);
 }
 
 /// What one photograph takes at most, `facts` being those that the engine sees, for source pixels of `sourceBytes`. The source
@@ -115,7 +70,7 @@ void BatchRunner::run(const std::vector<BatchItem> &items, int jobs)
 {
     next = 0;
     running = 0;
-    memoryLeft = jobs > 0 ? std::numeric_limits<qint64>::max() : freeMemory() / 4 * 3;
+    memoryLeft = jobs > 0 ? std::numeric_limits<qint64>::max() : qint64(GetAvailableMemory() / 4 * 3);
     if (jobs <= 0)
         jobs = std::min(QThread::idealThreadCount(), kMostJobs);
     std::vector<std::thread> team;
@@ -159,8 +114,8 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     Stage stage = Stage::Reading;
     bool outOfMemory = false;
     try {
-        attempt(item, index, stage);
-        outcome.status = BatchOutcome::Status::Done;
+        outcome.unchanged = attempt(item, index, stage);
+        outcome.status = outcome.unchanged.isEmpty() ? BatchOutcome::Status::Done : BatchOutcome::Status::Unchanged;
         outcome.message = carryXmp(item.path, item.result);
         if (!outcome.message.isEmpty())
             outcome.message =
@@ -197,7 +152,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     return outcome;
 }
 
-void BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
+QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
 {
     Photograph &original = *application.photograph(item.path);
     const PhotoFacts facts = original.facts();
@@ -240,12 +195,13 @@ void BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
     }
     if (turned) {
         turned->run(one2one, settings, item.result);
-        return;
+        return whyUnchanged(one2one, settings);
     }
     QString written;
     one2one.run(item.path, settings, &written);
     if (written != item.result || QFileInfo(written).size() == 0)
         throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, item.result), V_LOCATION);
+    return whyUnchanged(one2one, settings);
 }
 
 void BatchRunner::reserve(qint64 bytes)
@@ -253,11 +209,11 @@ void BatchRunner::reserve(qint64 bytes)
     std::unique_lock lock(memoryMutex);
     memoryFreed.wait(lock, [&] { return running == 0 || memoryLeft >= bytes; });
     if (running == 0)
-        memoryForOne = freeMemory();
+        memoryForOne = qint64(GetAvailableMemory());
     if (bytes > memoryForOne) {
         const QLocale locale = application.locale();
         const auto size = [&](qint64 count) { return locale.formattedDataSize(count, 1, QLocale::DataSizeSIFormat); };
-        throw VException(tr("It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.")
+        throw VException(tr("It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.")
                              .arg(size(bytes), size(memoryForOne)),
                          V_LOCATION);
     }

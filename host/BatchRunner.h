@@ -29,10 +29,11 @@ struct BatchItem
 
 struct BatchOutcome
 {
-    enum class Status { Done, Failed, Stopped };
+    enum class Status { Done, Unchanged, Failed, Stopped };
     Status status = Status::Failed;
     double seconds = 0;
-    QString message; ///< What went wrong and what helps; for a photograph that is done, what its result lacks, or empty.
+    QString message;   ///< What went wrong and what helps; where there is a result, what it lacks, or empty.
+    QString unchanged; ///< For Unchanged, a result that shows the photograph as it was: why that is, and what helps.
 };
 
 /// Runs a process over many photographs, several at a time, so that reading, engine and writing of neighbours overlap. It goes on
@@ -73,7 +74,8 @@ public:
 private:
     void work(const std::vector<BatchItem> &items);
     BatchOutcome process(const BatchItem &item, int index);
-    void attempt(const BatchItem &item, int index, Stage &stage);
+    /// Throws; otherwise the result is there, and what it gives is BatchOutcome::unchanged.
+    QString attempt(const BatchItem &item, int index, Stage &stage);
     void reserve(qint64 bytes);
     void giveBack(qint64 bytes);
 

@@ -36,7 +36,9 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     }
 
     line.photographs = parser.positionalArguments();
-    const QString command = arguments.value(1);
+    const int end = arguments.indexOf("--"); // what stands behind it is no command
+    const bool named = end < 0 || line.photographs.size() >= arguments.size() - end;
+    const QString command = named ? line.photographs.value(0) : QString();
     if (command == "wizard")
         line.command = Command::Wizard;
     if (command == "wizard" || command == "run")
@@ -107,7 +109,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program's own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -126,7 +129,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Or standard output
      could not be written.
   2  The command line or the settings file is wrong; nothing was begun.

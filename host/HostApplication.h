@@ -19,8 +19,8 @@
 
 /// The program as its plug-ins see it: settings, language, catalogues, photographs and lent services.
 ///
-/// Settings live in the user's Ombre/veilaway.ini (XDG_CONFIG_HOME, or ~/.config), one section a group. value, setValue and
-/// imageDef may be called on any thread, the rest on the main one.
+/// Settings live in the user's Ombre/veilaway.ini (XDG_CONFIG_HOME, or ~/.config), one section a group. value, setValue, locale,
+/// imageDef, photograph, addTransposed and forget may be called on any thread, the rest on the main one.
 class HostApplication : public VIApplication
 {
 public:

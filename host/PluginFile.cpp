@@ -28,7 +28,9 @@ PluginFile::PluginFile(const QString &path)
         one2one = processes.isEmpty() ? nullptr : qobject_cast<VIPluginOne2One *>(processes.last());
     }
     if (!one2one) {
-        const QString reason = object ? tr("it is a plug-in of another kind") : loader.errorString();
+        QString reason = object ? tr("it is a plug-in of another kind") : loader.errorString();
+        if (reason.endsWith('.')) // some of Qt's are sentences
+            reason.chop(1);
         delete object;
         throw VException(tr("The plug-in \"%1\" can't be used: %2. Install it anew, or name another one with --plugin FILE.")
                              .arg(loader.fileName(), reason),

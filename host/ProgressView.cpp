@@ -94,31 +94,39 @@ void ProgressView::stageBegins(int item, BatchRunner::Stage stage)
 void ProgressView::finished(int index, const BatchOutcome &outcome)
 {
     const BatchItem &item = items[std::size_t(index)];
-    const bool done = outcome.status == BatchOutcome::Status::Done;
+    const bool unchanged = outcome.status == BatchOutcome::Status::Unchanged;
+    const bool written = unchanged || outcome.status == BatchOutcome::Status::Done;
     const bool begun = inHand.erase(index) > 0;
     const bool stopped = outcome.status == BatchOutcome::Status::Stopped;
     ++finishedCount;
-    doneCount += done;
+    doneCount += written && !unchanged;
+    unchangedCount += unchanged;
     notBegunCount += stopped && !begun;
     eraseBars();
     if (!outcome.message.isEmpty() && (begun || !stopped))
         complain(item.given + ": " + outcome.message);
+    if (unchanged && notes)
+        complain(item.given + ": " + outcome.unchanged);
     switch (style) {
     case Style::Bars:
-        if (done)
+        if (written)
             say(QStringLiteral("%1 %2  %3 -> %4\n")
                     .arg(bar(kBarWidth), tr("%1 s").arg(secondsText(outcome.seconds)), harmless(item.given),
                          harmless(item.result)));
         break;
     case Style::Lines:
-        if (done)
+        if (written)
             say(tr("%1: %2 (%3 s)").arg(harmless(item.given), harmless(item.result), secondsText(outcome.seconds)) + '\n');
         break;
     case Style::Json: {
-        const char *status = done ? "done" : stopped ? "stopped" : "failed";
-        QJsonObject object{{"photo", item.given},        {"result", done ? QJsonValue(item.result) : QJsonValue()},
-                           {"status", status},           {"strength", item.strength},
-                           {"seconds", outcome.seconds}, {"message", outcome.message}};
+        const char *status = unchanged ? "unchanged" : written ? "done" : stopped ? "stopped" : "failed";
+        QJsonObject object{{"photo", item.given},
+                           {"result", written ? QJsonValue(item.result) : QJsonValue()},
+                           {"status", status},
+                           {"strength", item.strength},
+                           {"seconds", outcome.seconds},
+                           {"message", outcome.message},
+                           {"unchanged", unchanged ? QJsonValue(outcome.unchanged) : QJsonValue()}};
         if (!item.givenBytes.isEmpty())
             object.insert("photo_bytes", QString::fromLatin1(item.givenBytes.toPercentEncoding()));
         say(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + '\n');
@@ -136,10 +144,10 @@ void ProgressView::summarize()
         complain(tr("%n photograph(s) not begun.", nullptr, notBegunCount));
     if (style == Style::Quiet || style == Style::Json || (items.size() == 1 && allDone()))
         return;
-    const int failed = int(items.size()) - doneCount;
+    const int failed = int(items.size()) - doneCount - unchangedCount;
     const QString text = failed == 0 ? tr("%1 photographs done.").arg(doneCount)
                                      : tr("%1 of %2 photographs done, %3 not.").arg(doneCount).arg(items.size()).arg(failed);
-    write(stderr, text + '\n');
+    write(stderr, text + (unchangedCount > 0 ? ' ' + tr("%1 came back unchanged.").arg(unchangedCount) : QString()) + '\n');
 }
 
 void ProgressView::eraseBars()

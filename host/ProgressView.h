@@ -14,16 +14,18 @@ class ProgressView : public BatchRunner::Observer
 public:
     enum class Style { Bars, Lines, Json, Quiet };
 
-    ProgressView(Style look, const std::vector<BatchItem> &batch) : style(look), items(batch) {}
+    /// `withNotes` tells on standard error of photographs that came back as they were, too.
+    ProgressView(Style look, bool withNotes, const std::vector<BatchItem> &batch) : style(look), notes(withNotes), items(batch) {}
 
     void stageBegins(int item, BatchRunner::Stage stage) override;
     void finished(int item, const BatchOutcome &outcome) override;
-    /// The last lines: how many were not begun before a stop, and how many are done. The second not for one photograph that is
-    /// done, and not in the styles Quiet and Json.
+    /// The last lines: how many were not begun before a stop, and how many are done. The second not for one photograph that has
+    /// its result, and not in the styles Quiet and Json.
     void summarize();
 
     int done() const { return doneCount; }
-    bool allDone() const { return doneCount == int(items.size()); }
+    /// Whether each photograph has its result, be it unchanged.
+    bool allDone() const { return doneCount + unchangedCount == int(items.size()); }
 
     /// A line on standard error that begins with the program's name.
     static void complain(const QString &text);
@@ -37,10 +39,12 @@ private:
     void drawBars();
 
     const Style style;
+    const bool notes;
     const std::vector<BatchItem> &items;
     std::map<int, BatchRunner::Stage> inHand;
     int barsDrawn = 0;
     int doneCount = 0;
+    int unchangedCount = 0;
     int finishedCount = 0;
     int notBegunCount = 0;
 };

@@ -85,10 +85,11 @@ void ResultPage::present(const std::vector<BatchItem> &items, const std::vector<
     setSubTitle(int(done) == int(batch.size()) ? tr("All photographs are done.")
                                                : tr("%1 of %2 photographs are done.").arg(done).arg(batch.size()));
     for (std::size_t index = 0; index < batch.size(); ++index) {
-        const bool good = results[index].status == BatchOutcome::Status::Done;
-        list->addItem(
-            new QListWidgetItem(style()->standardIcon(good ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning),
-                                QFileInfo(batch[index].path).fileName()));
+        const QStyle::StandardPixmap sign = results[index].status == BatchOutcome::Status::Done ? QStyle::SP_DialogApplyButton
+                                            : results[index].status == BatchOutcome::Status::Unchanged
+                                                ? QStyle::SP_MessageBoxInformation
+                                                : QStyle::SP_MessageBoxWarning;
+        list->addItem(new QListWidgetItem(style()->standardIcon(sign), QFileInfo(batch[index].path).fileName()));
     }
     list->setCurrentRow(0);
 }
@@ -104,10 +105,12 @@ void ResultPage::showCurrent()
     const BatchItem &item = batch[std::size_t(row)];
     const BatchOutcome &outcome = results[std::size_t(row)];
     const bool done = outcome.status == BatchOutcome::Status::Done;
-    const bool there = done || outcome.message == RunPage::keptText();
-    text->setText(done && outcome.message.isEmpty() ? QDir::toNativeSeparators(item.result)
-                  : outcome.message.isEmpty()       ? tr("Stopped before it began.")
-                                                    : outcome.message);
+    const bool unchanged = outcome.status == BatchOutcome::Status::Unchanged;
+    const bool there = done || unchanged || outcome.message == RunPage::keptText();
+    text->setText(unchanged                           ? outcome.unchanged
+                  : done && outcome.message.isEmpty() ? QDir::toNativeSeparators(item.result)
+                  : outcome.message.isEmpty()         ? tr("Stopped before it began.")
+                                                      : outcome.message);
     pool.clear();
     pool.start([this, row, path = item.path, resultPath = there ? item.result : QString()] {
         QImage before, after;

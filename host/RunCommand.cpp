@@ -155,7 +155,7 @@ int RunCommand::run()
                        : line.quiet            ? ProgressView::Style::Quiet
                        : isatty(STDOUT_FILENO) ? ProgressView::Style::Bars
                                                : ProgressView::Style::Lines;
-    ProgressView view(style, items);
+    ProgressView view(style, /*withNotes=*/!line.quiet, items);
     BatchRunner runner(application, process, view);
     {
         const StopOnSignal guard(runner);

@@ -102,7 +102,7 @@ void RunPage::begin(std::vector<BatchItem> keeping, std::vector<BatchItem> repla
 
 void RunPage::fillTable()
 {
-    results.assign(batch.size(), {BatchOutcome::Status::Stopped, 0, QString()});
+    results.assign(batch.size(), {BatchOutcome::Status::Stopped, 0, QString(), QString()});
     table->setRowCount(int(batch.size()));
     for (int row = 0; row < table->rowCount(); ++row) {
         const BatchItem &item = batch[std::size_t(row)];
@@ -181,14 +181,16 @@ void RunPage::showStage(int item, BatchRunner::Stage stage)
 void RunPage::showOutcome(int item, const BatchOutcome &outcome)
 {
     results[std::size_t(item)] = outcome;
+    const bool unchanged = outcome.status == BatchOutcome::Status::Unchanged;
     const bool done = outcome.status == BatchOutcome::Status::Done;
-    showProgress(item, done ? 100 : 0);
+    showProgress(item, done || unchanged ? 100 : 0);
     QTableWidgetItem *state = table->item(item, State);
     state->setText(done                                              ? tr("Done")
+                   : unchanged                                       ? tr("Unchanged")
                    : outcome.status == BatchOutcome::Status::Stopped ? tr("Stopped")
                    : outcome.message == keptText()                   ? tr("Kept")
                                                                      : tr("Failed"));
-    state->setToolTip(outcome.message);
+    state->setToolTip(unchanged ? outcome.unchanged : outcome.message);
     overall->setValue(++endedCount);
 }
 

@@ -70,7 +70,9 @@ void SettingsFile::load()
 {
     if (!exists())
         return;
-    const auto broken = [this](const QString &reason) {
+    const auto broken = [this](QString reason) {
+        if (reason.endsWith('.')) // some of Qt's are sentences
+            reason.chop(1);
         return VException(tr("The settings file \"%1\" can't be used: %2. Repair it, or name another one.").arg(file, reason),
                           V_LOCATION);
     };

@@ -1,12 +1,14 @@
 #include "WizardWindow.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QSignalBlocker>
 
 #include "BatchPlan.h"
 #include "PhotoPage.h"
@@ -37,6 +39,9 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
     strengthPage->setCommitPage(true); // the way back ends where the work begins
     strengthPage->setButtonText(QWizard::CommitButton, tr("&Take the haze away"));
     setPage(Strength, strengthPage);
+    imageList = strengthPage->findChild<QComboBox *>(QStringLiteral("comboBoxImageDef"));
+    if (imageList) // behind the page's own slot: where that fails, this one is not reached
+        connect(imageList, qOverload<int>(&QComboBox::currentIndexChanged), this, [this](int index) { shownImage = index; });
     setPage(Work, runPage);
     setPage(Results, resultPage);
     resize(960, 700);
@@ -64,8 +69,17 @@ void WizardWindow::resizeEvent(QResizeEvent *event)
     fitSubTitle();
 }
 
+void WizardWindow::putListBack()
+{
+    if (!imageList)
+        return;
+    const QSignalBlocker blocker(imageList);
+    imageList->setCurrentIndex(shownImage);
+}
+
 void WizardWindow::complain(const QString &message)
 {
+    putListBack(); // perhaps the photograph chosen could not be read
     if (!QApplication::activeModalWidget())
         QMessageBox::warning(this, windowTitle(), message);
 }
@@ -139,9 +153,16 @@ void WizardWindow::preparePluginPage()
     onPage = paths;
     try {
         one2one.setImages(paths);
+        shownImage = imageList ? imageList->currentIndex() : -1;
     } catch (const VException &failure) {
-        // A photograph that went away meanwhile. The page holds the others, but an exception would leave the window half
-        // switched.
+        // A photograph that went away meanwhile. The page holds the others and goes on to the first that can be shown, but an
+        // exception would leave the window half switched.
+        shownImage = -1;
+        for (int index = 1; imageList && shownImage < 0 && index < imageList->count(); ++index)
+            try {
+                imageList->setCurrentIndex(index);
+            } catch (const VException &) { // the same for this one
+            }
         QMetaObject::invokeMethod(
             this, [this, failure] { complain(failure.message); }, Qt::QueuedConnection);
     }

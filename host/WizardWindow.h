@@ -10,6 +10,7 @@
 #include "VIPluginOne2One.h"
 
 class PhotoPage;
+class QComboBox;
 class ResultPage;
 class RunPage;
 
@@ -45,6 +46,7 @@ private:
     void startOver();
     bool saveSession(SettingsFile &file);
     void preparePluginPage();
+    void putListBack();
     void takeStrengths();
     void prepareWork();
 
@@ -53,7 +55,9 @@ private:
     std::unique_ptr<SettingsFile> session;
     bool hasFile;
     int batchJobs;
-    QStringList onPage; ///< What the plug-in's page edits.
+    QStringList onPage;             ///< What the plug-in's page edits.
+    QComboBox *imageList = nullptr; ///< The one on the plug-in's page; null if it has none.
+    int shownImage = -1;            ///< In that list: what the panel below shows.
     PhotoPage *photoPage;
     RunPage *runPage;
     ResultPage *resultPage;

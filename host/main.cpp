@@ -1,5 +1,6 @@
 #include <clocale>
 #include <csignal>
+#include <optional>
 
 #include <QApplication>
 #include <QIcon>
@@ -9,6 +10,7 @@
 #include <unistd.h>
 
 #include "CommandLine.h"
+#include "DisplayWatch.h"
 #include "HostApplication.h"
 #include "PluginFile.h"
 #include "ProgressView.h"
@@ -93,7 +95,10 @@ int runProgram(int argc, char **argv)
     if (line.command == CommandLine::Command::Wizard && line.error.isEmpty()) {
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+        std::optional<DisplayWatch> watch(locale);
         HostedApplication<QApplication> application(argc, argv, locale, line.shareServices);
+        watch->checkScreens();
+        watch.reset();
         settle(application);
         QApplication::setDesktopFileName(QStringLiteral("veilaway"));
         QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("veilaway")));

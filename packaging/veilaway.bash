@@ -19,9 +19,9 @@ _veilaway()
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} i
     COMPREPLY=()
     local wizard=0 names=0
-    [[ ${COMP_WORDS[1]} == wizard && $COMP_CWORD -gt 1 ]] && wizard=1
     for ((i = 1; i < COMP_CWORD; ++i)); do
         [[ ${COMP_WORDS[i]} == -- ]] && names=1
+        [[ ${COMP_WORDS[i]} == wizard && $names == 0 ]] && wizard=1
     done
 
     if [[ $names == 0 ]]; then

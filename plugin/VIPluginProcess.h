@@ -6,7 +6,8 @@
 
 class QWizardPage;
 
-/// The settings of a process, as the host sees them: a pointer that it keeps and passes back and never looks behind.
+/// The settings of a process, as the host sees them: a pointer that it keeps and passes back. Behind it is the
+/// process's own; HazeState.h names the one thing that a host may read there.
 using VISettingsHandle = struct HazeState *;
 
 /// A process of a plug-in: its identity, its page and its settings. Abstract, without data. The order of the operations is part

@@ -101,6 +101,11 @@ struct CpuidRegisters
 /// family of processors.
 bool ReadCpuid(std::uint32_t leaf, std::uint32_t subleaf, CpuidRegisters *registers);
 
-/// How many processors' worth of time the system grants the process (a container's quota), rounded up; 0 for no limit. The two
-/// arguments say where the system lists the process's control groups and keeps them.
-std::uint32_t GetProcessorQuota(const char *processGroups = "/proc/self/cgroup", const char *mountPoint = "/sys/fs/cgroup");
+// What a container or a service grants the process. Its control groups, from its own up to the root, may each set a limit; the
+// tightest holds. `root` is put before the system's paths.
+
+/// How many processors' worth of time the process may take, rounded up; 0 for no limit.
+std::uint32_t GetProcessorQuota(const char *root = "");
+/// Bytes that the process may take without pushing anything out: the system's own estimate, or less where a control group is
+/// nearer to its limit. Two gigabytes, or less for a control group, if the system gives no estimate.
+std::uint64_t GetAvailableMemory(const char *root = "");

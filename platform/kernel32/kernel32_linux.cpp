@@ -106,10 +106,39 @@ bool groupAffinity(pid_t thread, GroupAffinity *affinity)
     return true;
 }
 
-bool readNumber(const std::string &path, std::int32_t &number)
+template<class Number>
+bool readNumber(const std::string &path, Number &number)
 {
     std::ifstream file(path);
     return static_cast<bool>(file >> number);
+}
+
+/// The folders of the control groups that may limit what this controller counts for the process, from its own up to the root. In
+/// a container the own path is often one of the outside, and only the root is there.
+std::vector<std::string> controlGroups(const std::string &root, const std::string &controller)
+{
+    const std::string mountPoint = root + "/sys/fs/cgroup";
+    std::vector<std::string> folders;
+    std::ifstream groups(root + "/proc/self/cgroup");
+    for (std::string line; std::getline(groups, line);) { // number:controllers:path
+        const std::size_t names = line.find(':');
+        const std::size_t path = line.find(':', names + 1);
+        if (names == std::string::npos || path == std::string::npos)
+            continue;
+        const std::string controllers = line.substr(names + 1, path - names - 1);
+        std::vector<std::string> hierarchies;
+        if (controllers.empty()) // the unified hierarchy
+            hierarchies = {"", "/unified"};
+        else if (("," + controllers + ",").find("," + controller + ",") != std::string::npos)
+            hierarchies = {"/" + controller, "/" + controllers};
+        for (const std::string &hierarchy : hierarchies) {
+            const std::size_t shortest = mountPoint.size() + hierarchy.size();
+            for (std::string folder = mountPoint + hierarchy + line.substr(path + 1); folder.size() >= shortest;
+                 folder.resize(folder.find_last_of('/')))
+                folders.push_back(folder);
+        }
+    }
+    return folders;
 }
 
 /// Processors' worth of time that one control group grants, or -1 for no limit.
@@ -123,6 +152,28 @@ double quotaOf(const std::string &folder)
     if (std::ifstream(folder + "/cpu.cfs_quota_us") >> share && std::ifstream(folder + "/cpu.cfs_period_us") >> period)
         return share <= 0 || period <= 0 ? -1 : share / period;
     return -1;
+}
+
+/// Lowers `bytes` to what one control group still grants, if it sets a limit. The pages of files count as used, but give way.
+void takeMemoryLimit(const std::string &folder, std::int64_t &bytes)
+{
+    constexpr const char *kLimits[][3] = {
+        {"/memory.max", "/memory.current", ""},
+        {"/memory.high", "/memory.current", ""}, // beyond it the system slows the process down
+        {"/memory.limit_in_bytes", "/memory.usage_in_bytes", "total_"},
+    };
+    for (const auto &[limitName, usedName, prefix] : kLimits) {
+        std::int64_t limit = 0;
+        std::int64_t used = 0;
+        if (!readNumber(folder + limitName, limit) || !readNumber(folder + usedName, used))
+            continue;
+        std::ifstream details(folder + "/memory.stat");
+        std::string name;
+        for (std::int64_t count = 0; details >> name >> count;)
+            if (name == std::string(prefix) + "inactive_file" || name == std::string(prefix) + "active_file")
+                used -= count;
+        bytes = std::min(bytes, std::max<std::int64_t>(limit - std::max<std::int64_t>(used, 0), 0));
+    }
 }
 
 constexpr std::size_t kHugePage = std::size_t(2) << 20;
@@ -286,34 +337,27 @@ bool ReadCpuid(std::uint32_t leaf, std::uint32_t subleaf, CpuidRegisters *regist
 #endif
 }
 
-std::uint32_t GetProcessorQuota(const char *processGroups, const char *mountPoint)
+std::uint32_t GetProcessorQuota(const char *root)
 {
-    // Every control group from the process's own up to the root may set a limit; the tightest holds. In a container, the own path
-    // is often one of the outside, and only the root is there.
     double tightest = -1;
-    std::ifstream groups(processGroups);
-    for (std::string line; std::getline(groups, line);) { // number:controllers:path
-        const std::size_t names = line.find(':');
-        const std::size_t path = line.find(':', names + 1);
-        if (names == std::string::npos || path == std::string::npos)
-            continue;
-        const std::string controllers = "," + line.substr(names + 1, path - names - 1) + ",";
-        std::vector<std::string> roots;
-        if (controllers == ",,") // the unified hierarchy
-            roots = {"", "/unified"};
-        else if (controllers.find(",cpu,") != std::string::npos)
-            roots = {"/cpu", "/cpu,cpuacct"};
-        for (const std::string &root : roots) {
-            std::string folder = mountPoint + root + line.substr(path + 1);
-            while (folder.size() >= std::strlen(mountPoint) + root.size()) {
-                const double quota = quotaOf(folder);
-                if (quota > 0 && (tightest < 0 || quota < tightest))
-                    tightest = quota;
-                folder.resize(folder.find_last_of('/'));
-            }
-        }
+    for (const std::string &folder : controlGroups(root, "cpu")) {
+        const double quota = quotaOf(folder);
+        if (quota > 0 && (tightest < 0 || quota < tightest))
+            tightest = quota;
     }
     return tightest < 0 ? 0 : static_cast<std::uint32_t>(std::min(std::ceil(tightest), 1e6));
+}
+
+std::uint64_t GetAvailableMemory(const char *root)
+{
+    std::int64_t bytes = std::int64_t(2) << 30;
+    std::ifstream system(std::string(root) + "/proc/meminfo");
+    for (std::string line; std::getline(system, line);)
+        if (long long kilobytes = 0; std::sscanf(line.c_str(), "MemAvailable: %lld", &kilobytes) == 1)
+            bytes = kilobytes * 1024;
+    for (const std::string &folder : controlGroups(root, "memory"))
+        takeMemoryLimit(folder, bytes);
+    return static_cast<std::uint64_t>(bytes);
 }
 
 void AdviseHugePages(void *block, std::size_t bytes)

@@ -79,7 +79,7 @@
         <translation>Das Foto wurde geändert, verschoben oder gelöscht, während der Dunst entfernt wurde. Legen Sie es zurück und beginnen Sie von vorn.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>Das Foto braucht etwa %1 Arbeitsspeicher, frei sind %2. Schließen Sie andere Programme oder verkleinern Sie das Foto.</translation>
     </message>
 </context>
@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -171,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Or standard output
      could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -214,8 +215,8 @@ Optionen:
   --overwrite       Bereits vorhandene Ergebnisse ersetzen.
   --quiet           Nur melden, was fehlgeschlagen ist.
   --json            Für jedes Foto eine Zeile mit einem JSON-Objekt ausgeben: photo,
-                    result, status (done, failed, stopped), strength, seconds,
-                    message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (der Grund, oder null).
   --share-services  Dem Plug-in die Dienste des Programms leihen (Protokoll, Speicher-
                     pool, Anzahl der Prozessoren), statt es eigene anlegen zu lassen.
   --plugin DATEI    Diese Plug-in-Datei laden statt Nimbra.so neben dem Programm oder
@@ -234,7 +235,7 @@ Formate:
   werden ein TIFF. XMP-Begleitdateien bleiben, wo sie sind, und werden nicht gelesen.
 
 Rückgabewert:
-  0  Alle Fotos sind fertig.
+  0  Alle Fotos sind fertig oder kamen unverändert zurück (mit dem Grund).
   1  Einige sind es nicht: Die Standardfehlerausgabe nennt sie, den Grund und was
      hilft. Oder die Standardausgabe konnte nicht geschrieben werden.
   2  Die Befehlszeile oder die Einstellungsdatei ist falsch; nichts wurde begonnen.
@@ -250,6 +251,13 @@ Beispiele:
     <message>
         <source>See veilaway --help.</source>
         <translation>Siehe veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Das Fenster kann nicht gezeigt werden: %1. Starten Sie den Assistenten in einer grafischen Sitzung oder von einem anderen Rechner aus mit ssh -X. Ohne Fenster erledigt veilaway FOTO... die Arbeit.</translation>
     </message>
 </context>
 <context>
@@ -463,6 +471,10 @@ Beispiele:
         <translation>%1 von %2</translation>
     </message>
     <message>
+        <source>%1 came back unchanged.</source>
+        <translation>%1 kamen unverändert zurück.</translation>
+    </message>
+    <message>
         <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
         <translation>In die Standardausgabe kann nicht geschrieben werden: %1. Schaffen Sie dort Platz, oder leiten Sie die Ausgabe woandershin.</translation>
     </message>
@@ -637,6 +649,10 @@ Beispiele:
         <translation>Das Ergebnis war schon vorhanden und wurde behalten.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Behalten</translation>
     </message>
@@ -719,6 +735,17 @@ Beispiele:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>das Ergebnis kann nicht ersetzt werden</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>Das Foto kam unverändert zurück, da sich kein Dunst messen ließ: Eine Seite ist mehr als 100.000-mal so lang wie die andere, oder kein Pixel hat eine brauchbare Farbe. Schneiden Sie das Foto zu, oder berichtigen Sie seine Farben in einem Bildbearbeitungsprogramm.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>Das Foto kam unverändert zurück, da sich der Dunst nicht berechnen ließ: Einige Pixel haben unendliche oder undefinierte Werte, oder der Arbeitsspeicher reichte nicht. Berichtigen Sie diese Pixel in einem Bildbearbeitungsprogramm, oder schließen Sie andere Programme und versuchen Sie es noch einmal.</translation>
     </message>
 </context>
 </TS>

@@ -79,7 +79,7 @@
         <translation>La foto se modificó, se movió o se borró mientras se quitaba la bruma. Vuelva a ponerla en su sitio y empiece de nuevo.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>La foto necesita unos %1 de memoria y hay %2 libres. Cierre otros programas o reduzca la foto.</translation>
     </message>
 </context>
@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -171,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Or standard output
      could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -215,8 +216,8 @@ Opciones:
   --overwrite       Reemplazar los resultados que ya existan.
   --quiet           Informar solo de lo que ha fallado.
   --json            Escribir por cada foto una línea con un objeto JSON: photo,
-                    result, status (done, failed, stopped), strength, seconds,
-                    message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (el motivo, o null).
   --share-services  Prestar al complemento los servicios del programa (registro,
                     reserva de memoria, número de procesadores) en vez de dejar que
                     los cree.
@@ -237,7 +238,7 @@ Formatos:
   leen.
 
 Códigos de salida:
-  0  Se han procesado todas las fotos.
+  0  Se han procesado todas las fotos, o han quedado como estaban (y dice por qué).
   1  Algunas no: la salida de error estándar dice cuáles, por qué y qué hacer. O no se
      ha podido escribir en la salida estándar.
   2  La línea de comandos o el archivo de ajustes no son correctos; no se ha empezado
@@ -253,6 +254,13 @@ Ejemplos:
     <message>
         <source>See veilaway --help.</source>
         <translation>Consulte veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>No se puede mostrar la ventana: %1. Inicie el asistente en una sesión gráfica, o desde otro equipo con ssh -X. Sin ventana, veilaway FOTO... hace el trabajo.</translation>
     </message>
 </context>
 <context>
@@ -466,6 +474,10 @@ Ejemplos:
         <translation>%1 de %2</translation>
     </message>
     <message>
+        <source>%1 came back unchanged.</source>
+        <translation>Sin cambios: %1.</translation>
+    </message>
+    <message>
         <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
         <translation>No se puede escribir en la salida estándar: %1. Libere espacio ahí o envíela a otro lugar.</translation>
     </message>
@@ -640,6 +652,10 @@ Ejemplos:
         <translation>Su resultado ya existía y se ha conservado.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Sin cambios</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Conservado</translation>
     </message>
@@ -722,6 +738,17 @@ Ejemplos:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>no se puede reemplazar el resultado</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>La foto ha quedado como estaba, pues no se pudo medir bruma alguna: un lado es más de 100 000 veces más largo que el otro, o ningún píxel tiene un color utilizable. Recorte la foto o corrija sus colores en un editor de imágenes.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>La foto ha quedado como estaba, pues no se pudo calcular la bruma: algunos píxeles tienen valores infinitos o indefinidos, o faltó memoria. Corrija esos píxeles en un editor de imágenes, o cierre otros programas y repita la operación.</translation>
     </message>
 </context>
 </TS>

@@ -79,7 +79,7 @@
         <translation>La photo a été modifiée, déplacée ou supprimée pendant que le voile était retiré. Remettez-la en place et recommencez.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>La photo demande environ %1 de mémoire, et %2 sont libres. Fermez d&apos;autres programmes ou réduisez la photo.</translation>
     </message>
 </context>
@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -171,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Or standard output
      could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -217,8 +218,8 @@ Options&#xa0;:
   --overwrite       Remplacer les résultats qui existent déjà.
   --quiet           Ne signaler que les échecs.
   --json            Écrire pour chaque photo une ligne avec un objet JSON&#xa0;: photo,
-                    result, status (done, failed, stopped), strength, seconds,
-                    message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (la raison, ou null).
   --share-services  Prêter au module les services du programme (journal, réserve de
                     mémoire, nombre de processeurs) au lieu de le laisser
                     créer les siens.
@@ -240,7 +241,7 @@ Formats&#xa0;:
   sont pas lus.
 
 Codes de retour&#xa0;:
-  0  Toutes les photos sont traitées.
+  0  Toutes les photos sont traitées, ou revenues telles quelles (il dit pourquoi).
   1  Certaines ne le sont pas&#xa0;: la sortie d&apos;erreur standard dit lesquelles, pourquoi
      et que faire. Ou la sortie standard n&apos;a pas pu être écrite.
   2  La ligne de commande ou le fichier de réglages est incorrect&#xa0;; rien n&apos;a commencé.
@@ -255,6 +256,13 @@ Exemples&#xa0;:
     <message>
         <source>See veilaway --help.</source>
         <translation>Voir veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>La fenêtre ne peut pas être affichée : %1. Lancez l&apos;assistant dans une session graphique, ou depuis une autre machine avec ssh -X. Sans fenêtre, veilaway PHOTO... fait le travail.</translation>
     </message>
 </context>
 <context>
@@ -468,6 +476,10 @@ Exemples&#xa0;:
         <translation>%1 sur %2</translation>
     </message>
     <message>
+        <source>%1 came back unchanged.</source>
+        <translation>Inchangées : %1.</translation>
+    </message>
+    <message>
         <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
         <translation>Impossible d&apos;écrire sur la sortie standard&#xa0;: %1. Libérez de la place, ou envoyez-la ailleurs.</translation>
     </message>
@@ -642,6 +654,10 @@ Exemples&#xa0;:
         <translation>Son résultat existait déjà et a été conservé.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Inchangée</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Conservé</translation>
     </message>
@@ -724,6 +740,17 @@ Exemples&#xa0;:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>le résultat ne peut pas être remplacé</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>La photo est revenue telle quelle, car aucun voile n&apos;a pu être mesuré : un côté est plus de 100 000 fois plus long que l&apos;autre, ou aucun pixel n&apos;a de couleur utilisable. Recadrez la photo, ou corrigez ses couleurs dans un éditeur d&apos;images.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>La photo est revenue telle quelle, car le voile n&apos;a pas pu être calculé : certains pixels ont des valeurs infinies ou indéfinies, ou la mémoire a manqué. Corrigez ces pixels dans un éditeur d&apos;images, ou fermez d&apos;autres programmes et recommencez.</translation>
     </message>
 </context>
 </TS>

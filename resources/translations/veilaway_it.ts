@@ -79,7 +79,7 @@
         <translation>La foto è stata modificata, spostata o cancellata mentre si toglieva la foschia. Rimettetela al suo posto e ricominciate.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>La foto richiede circa %1 di memoria e ne sono liberi %2. Chiudere altri programmi o ridurre la foto.</translation>
     </message>
 </context>
@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -171,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Or standard output
      could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -215,7 +216,8 @@ Opzioni:
   --overwrite       Sostituisce i risultati già esistenti.
   --quiet           Segnala soltanto gli errori.
   --json            Scrive per ogni foto una riga con un oggetto JSON: photo, result,
-                    status (done, failed, stopped), strength, seconds, message.
+                    status (done, unchanged, failed, stopped), strength, seconds,
+                    message, unchanged (il motivo, o null).
   --share-services  Presta al plugin i servizi del programma (registro, riserva di
                     memoria, numero di processori) invece di lasciare che li crei.
   --plugin FILE     Carica questo file di plugin invece di Nimbra.so accanto al
@@ -234,7 +236,7 @@ Formati:
   TIFF. I file XMP collaterali restano dove sono e non vengono letti.
 
 Codici di uscita:
-  0  Tutte le foto sono state elaborate.
+  0  Tutte le foto sono state elaborate, o sono rimaste com&apos;erano (con il motivo).
   1  Alcune no: lo standard error dice quali, perché e che cosa fare. Oppure non è stato
      possibile scrivere sullo standard output.
   2  La riga di comando o il file di impostazioni è errato; nulla è stato iniziato.
@@ -249,6 +251,13 @@ Esempi:
     <message>
         <source>See veilaway --help.</source>
         <translation>Vedere veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Impossibile mostrare la finestra: %1. Avviare la procedura guidata in una sessione grafica, o da un altro computer con ssh -X. Senza finestra, veilaway FOTO... fa il lavoro.</translation>
     </message>
 </context>
 <context>
@@ -462,6 +471,10 @@ Esempi:
         <translation>%1 di %2</translation>
     </message>
     <message>
+        <source>%1 came back unchanged.</source>
+        <translation>Rimaste invariate: %1.</translation>
+    </message>
+    <message>
         <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
         <translation>Impossibile scrivere sullo standard output: %1. Liberare spazio, o inviarlo altrove.</translation>
     </message>
@@ -636,6 +649,10 @@ Esempi:
         <translation>Il suo risultato esisteva già ed è stato mantenuto.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Invariata</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Mantenuto</translation>
     </message>
@@ -718,6 +735,17 @@ Esempi:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>il risultato non può essere sostituito</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>La foto è rimasta com&apos;era, perché non è stato possibile misurare la foschia: un lato è oltre 100.000 volte più lungo dell&apos;altro, o nessun pixel ha un colore utilizzabile. Ritagliare la foto o correggerne i colori in un editor di immagini.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>La foto è rimasta com&apos;era, perché non è stato possibile calcolare la foschia: alcuni pixel hanno valori infiniti o non definiti, o la memoria non è bastata. Correggere quei pixel in un editor di immagini, oppure chiudere altri programmi e riprovare.</translation>
     </message>
 </context>
 </TS>

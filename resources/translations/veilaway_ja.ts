@@ -79,7 +79,7 @@
         <translation>かすみを取り除いている間に写真が変更、移動、または削除されました。元に戻してからやり直してください。</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>この写真には約 %1 のメモリが必要ですが、空きは %2 です。ほかのプログラムを終了するか、写真を縮小してください。</translation>
     </message>
 </context>
@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -171,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Or standard output
      could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -215,8 +216,8 @@ Examples:
   --overwrite       すでにある結果を置き換えます。
   --quiet           失敗したもの以外は何も表示しません。
   --json            写真ごとに JSON オブジェクトを 1 行で出力します。項目は photo、
-                    result、status（done、failed、stopped）、strength、seconds、
-                    message です。
+                    result、status（done、unchanged、failed、stopped）、strength、
+                    seconds、message、unchanged（理由、または null） です。
   --share-services  ログ、メモリプール、プロセッサ数などのサービスを、プラグインに
                     作らせずに、このプログラムのものを貸し出します。
   --plugin FILE     プログラムと同じフォルダー、または ../lib/nimbra にある Nimbra.so
@@ -235,7 +236,7 @@ Examples:
   なります。XMP サイドカーファイルは読み込まれず、そのまま残ります。
 
 終了コード:
-  0  すべての写真を処理しました。
+  0  すべての写真を処理したか、元のまま返しました（理由を示します）。
   1  処理できなかった写真があります。どの写真か、その理由と対処法が標準エラー出力に
      表示されます。または、標準出力に書き込めませんでした。
   2  コマンドラインまたは設定ファイルに誤りがあります。処理は始まっていません。
@@ -250,6 +251,13 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
     <message>
         <source>See veilaway --help.</source>
         <translation>veilaway --help をご覧ください。</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>ウィンドウを表示できません: %1。デスクトップ環境でウィザードを起動するか、別のマシンから ssh -X で接続してください。ウィンドウなしで処理するには veilaway 写真... を使います。</translation>
     </message>
 </context>
 <context>
@@ -460,6 +468,10 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>%1 / %2</translation>
     </message>
     <message>
+        <source>%1 came back unchanged.</source>
+        <translation>%1 枚は元のままです。</translation>
+    </message>
+    <message>
         <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
         <translation>標準出力に書き込めません: %1。空き容量を確保するか、別の出力先を指定してください。</translation>
     </message>
@@ -631,6 +643,10 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>結果がすでにあったため、そのまま残しました。</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>変化なし</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>既存を保持</translation>
     </message>
@@ -713,6 +729,17 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>結果のファイルを置き換えられません</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>ヘイズを測定できなかったため、写真は元のままです。一辺が他辺の 100,000 倍を超えているか、使える色の画素がありません。写真を切り抜くか、画像編集ソフトで色を修正してください。</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>ヘイズを計算できなかったため、写真は元のままです。無限大または未定義の値の画素があるか、メモリが不足しました。画像編集ソフトでその画素を修正するか、ほかのプログラムを終了してやり直してください。</translation>
     </message>
 </context>
 </TS>

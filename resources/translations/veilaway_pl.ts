@@ -79,7 +79,7 @@
         <translation>Zdjęcie zostało zmienione, przeniesione lub usunięte podczas usuwania mgły. Przywróć je i zacznij od nowa.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>Zdjęcie wymaga około %1 pamięci, a wolne jest %2. Należy zamknąć inne programy lub zmniejszyć zdjęcie.</translation>
     </message>
 </context>
@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -171,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Or standard output
      could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -213,8 +214,8 @@ Opcje:
   --overwrite       Zastępuje wyniki, które już istnieją.
   --quiet           Zgłasza tylko to, co się nie powiodło.
   --json            Wypisuje dla każdego zdjęcia wiersz z obiektem JSON: photo,
-                    result, status (done, failed, stopped), strength, seconds,
-                    message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (powód albo null).
   --share-services  Użycza wtyczce usług programu (dziennik, pula pamięci, liczba
                     procesorów), zamiast pozwalać jej tworzyć własne.
   --plugin PLIK     Wczytuje ten plik wtyczki zamiast Nimbra.so obok programu lub
@@ -235,7 +236,7 @@ Formaty:
   czytane.
 
 Kody wyjścia:
-  0  Wszystkie zdjęcia są gotowe.
+  0  Wszystkie zdjęcia są gotowe albo pozostały bez zmian (z podaniem przyczyny).
   1  Niektóre nie są: standardowe wyjście błędów podaje które, dlaczego i co pomoże.
      Albo nie udało się zapisać na standardowe wyjście.
   2  Wiersz polecenia lub plik ustawień jest błędny; niczego nie rozpoczęto.
@@ -250,6 +251,13 @@ Przykłady:
     <message>
         <source>See veilaway --help.</source>
         <translation>Zobacz veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Nie można wyświetlić okna: %1. Kreatora należy uruchomić w sesji graficznej albo z innego komputera przez ssh -X. Bez okna pracę wykona veilaway ZDJĘCIE...</translation>
     </message>
 </context>
 <context>
@@ -466,6 +474,10 @@ Przykłady:
         <translation>%1 z %2</translation>
     </message>
     <message>
+        <source>%1 came back unchanged.</source>
+        <translation>Bez zmian: %1.</translation>
+    </message>
+    <message>
         <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
         <translation>Nie można pisać na standardowe wyjście: %1. Należy zwolnić tam miejsce lub skierować je gdzie indziej.</translation>
     </message>
@@ -643,6 +655,10 @@ Przykłady:
         <translation>Wynik już istniał i został zachowany.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Bez zmian</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Zachowano</translation>
     </message>
@@ -725,6 +741,17 @@ Przykłady:
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>nie można zastąpić wyniku</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>Zdjęcie pozostało bez zmian, ponieważ nie udało się zmierzyć zamglenia: jeden bok jest ponad 100 000 razy dłuższy od drugiego albo żaden piksel nie ma użytecznego koloru. Należy przyciąć zdjęcie lub poprawić jego kolory w edytorze obrazów.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>Zdjęcie pozostało bez zmian, ponieważ nie udało się obliczyć zamglenia: niektóre piksele mają wartości nieskończone lub nieokreślone albo zabrakło pamięci. Należy poprawić te piksele w edytorze obrazów albo zamknąć inne programy i spróbować ponownie.</translation>
     </message>
 </context>
 </TS>

@@ -79,7 +79,7 @@
         <translation>Снимок был изменён, перемещён или удалён, пока убиралась дымка. Верните его на место и начните заново.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>Для фотографии нужно около %1 памяти, а свободно %2. Закройте другие программы или уменьшите фотографию.</translation>
     </message>
 </context>
@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -171,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Or standard output
      could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -215,8 +216,8 @@ Examples:
   --overwrite       Заменять уже существующие результаты.
   --quiet           Сообщать только о том, что не удалось.
   --json            Выводить для каждой фотографии объект JSON в отдельной строке с
-                    полями photo, result, status (done, failed, stopped), strength,
-                    seconds, message.
+                    полями photo, result, status (done, unchanged, failed, stopped),
+                    strength, seconds, message, unchanged (причина или null).
   --share-services  Предоставить модулю собственные службы программы (журнал, пул
                     памяти, число процессоров), чтобы он не создавал свои.
   --plugin FILE     Загрузить модуль из этого файла вместо Nimbra.so, лежащего рядом с
@@ -235,7 +236,7 @@ Examples:
   результат тоже TIFF. Сопутствующие файлы XMP остаются на месте и не читаются.
 
 Код завершения:
-  0  Все фотографии обработаны.
+  0  Все фотографии обработаны или остались прежними (с указанием причины).
   1  Обработаны не все: в стандартном потоке ошибок указано, какие нет, почему и что
      поможет. Либо не удалась запись в стандартный поток вывода.
   2  Ошибка в командной строке или в файле настроек; обработка не начиналась.
@@ -250,6 +251,13 @@ Ctrl-C завершает работу сигналом (130 в оболочке
     <message>
         <source>See veilaway --help.</source>
         <translation>См. veilaway --help.</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Не удаётся показать окно: %1. Запустите мастер в графическом сеансе или с другого компьютера через ssh -X. Без окна работу выполнит veilaway ФОТО...</translation>
     </message>
 </context>
 <context>
@@ -466,6 +474,10 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>%1 из %2</translation>
     </message>
     <message>
+        <source>%1 came back unchanged.</source>
+        <translation>Осталось без изменений: %1.</translation>
+    </message>
+    <message>
         <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
         <translation>Не удаётся записать в стандартный поток вывода: %1. Освободите место или направьте его в другое место.</translation>
     </message>
@@ -643,6 +655,10 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Результат уже был и оставлен без изменений.</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>Без изменений</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Прежний результат</translation>
     </message>
@@ -725,6 +741,17 @@ Ctrl-C завершает работу сигналом (130 в оболочке
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>результат не удаётся заменить</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>Фотография осталась прежней, так как измерить дымку не удалось: одна сторона более чем в 100 000 раз длиннее другой, либо ни у одного пикселя нет пригодного цвета. Обрежьте фотографию или исправьте её цвета в редакторе изображений.</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>Фотография осталась прежней, так как вычислить дымку не удалось: у некоторых пикселей бесконечные или неопределённые значения, либо не хватило памяти. Исправьте эти пиксели в редакторе изображений или закройте другие программы и повторите.</translation>
     </message>
 </context>
 </TS>

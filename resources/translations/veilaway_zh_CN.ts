@@ -79,7 +79,7 @@
         <translation>去除雾霾期间，照片被更改、移动或删除。请将其放回原处，然后重新开始。</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>此照片约需 %1 内存，而可用内存为 %2。请关闭其他程序，或缩小照片。</translation>
     </message>
 </context>
@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -171,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Or standard output
      could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -211,7 +212,8 @@ _dehazed。
   --overwrite       替换已有的结果。
   --quiet           只报告失败的内容。
   --json            为每张照片输出一行 JSON 对象，包含 photo、result、status（done、
-                    failed、stopped）、strength、seconds、message。
+                    unchanged、failed、stopped）、strength、seconds、message、
+                    unchanged（原因，或 null）。
   --share-services  让插件使用本程序自身的服务（日志、内存池、处理器数量），而不是
                     由插件自行创建。
   --plugin FILE     加载此插件文件，而不是程序所在文件夹或 ../lib/nimbra 中的
@@ -228,7 +230,7 @@ _dehazed。
   扩展名为其他或没有扩展名的照片，结果也是 TIFF。XMP 附属文件留在原处，不会读取。
 
 退出代码：
-  0  所有照片均已完成。
+  0  所有照片均已完成，或保持原样（并说明原因）。
   1  部分照片未完成：标准错误输出会说明是哪些照片、原因以及解决办法。或者无法写入标准
      输出。
   2  命令行或设置文件有误；未开始任何处理。
@@ -243,6 +245,13 @@ _dehazed。
     <message>
         <source>See veilaway --help.</source>
         <translation>请参阅 veilaway --help。</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>无法显示窗口：%1。请在桌面会话中启动向导，或从另一台计算机用 ssh -X 启动。不需要窗口时，可用 veilaway 照片... 完成处理。</translation>
     </message>
 </context>
 <context>
@@ -453,6 +462,10 @@ _dehazed。
         <translation>%1 / %2</translation>
     </message>
     <message>
+        <source>%1 came back unchanged.</source>
+        <translation>%1 张保持原样。</translation>
+    </message>
+    <message>
         <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
         <translation>无法写入标准输出：%1。请腾出空间，或将其输出到别处。</translation>
     </message>
@@ -624,6 +637,10 @@ _dehazed。
         <translation>其结果已经存在，已予保留。</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>未改变</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>已保留</translation>
     </message>
@@ -706,6 +723,17 @@ _dehazed。
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>无法替换结果文件</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>照片保持原样，因为无法测量薄雾：一边的长度超过另一边的 100,000 倍，或没有任何像素具有可用的颜色。请裁剪照片，或在图像编辑器中修正其颜色。</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>照片保持原样，因为无法计算薄雾：某些像素含有无穷大或未定义的值，或内存不足。请在图像编辑器中修正这些像素，或关闭其他程序后重试。</translation>
     </message>
 </context>
 </TS>

@@ -79,7 +79,7 @@
         <translation>去除霧霾期間，照片被更改、移動或刪除。請將其放回原處，然後重新開始。</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, and %2 are free. Close other programs, or scale it down.</source>
+        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
         <translation>此照片約需 %1 記憶體，而可用記憶體為 %2。請關閉其他程式，或縮小照片。</translation>
     </message>
 </context>
@@ -152,7 +152,8 @@ Options:
   --overwrite       Replace results that are there already.
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, failed, stopped), strength, seconds, message.
+                    result, status (done, unchanged, failed, stopped), strength,
+                    seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -171,7 +172,7 @@ Formats:
   XMP sidecar files stay where they are and are not read.
 
 Ends with:
-  0  All photographs are done.
+  0  All photographs are done, or came back as they were (it says why).
   1  Some are not: standard error says which, why, and what helps. Or standard output
      could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
@@ -211,7 +212,8 @@ _dehazed。
   --overwrite       取代已有的結果。
   --quiet           只回報失敗的內容。
   --json            為每張照片輸出一行 JSON 物件，包含 photo、result、status（done、
-                    failed、stopped）、strength、seconds、message。
+                    unchanged、failed、stopped）、strength、seconds、message、
+                    unchanged（原因，或 null）。
   --share-services  讓外掛程式使用本程式自身的服務（記錄、記憶體集區、處理器數量），
                     而不是由外掛程式自行建立。
   --plugin FILE     載入此外掛程式檔案，而不是程式所在資料夾或 ../lib/nimbra 中的
@@ -228,7 +230,7 @@ _dehazed。
   副檔名為其他或沒有副檔名的照片，結果也是 TIFF。XMP 附屬檔案留在原處，不會讀取。
 
 結束代碼：
-  0  所有照片皆已完成。
+  0  所有照片皆已完成，或保持原樣（並說明原因）。
   1  部分照片未完成：標準錯誤輸出會說明是哪些照片、原因以及解決辦法。或者無法寫入標準
      輸出。
   2  命令列或設定檔有誤；未開始任何處理。
@@ -243,6 +245,13 @@ _dehazed。
     <message>
         <source>See veilaway --help.</source>
         <translation>請參閱 veilaway --help。</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayWatch</name>
+    <message>
+        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>無法顯示視窗：%1。請在桌面工作階段中啟動精靈，或從另一台電腦以 ssh -X 啟動。不需要視窗時，可用 veilaway 照片... 完成處理。</translation>
     </message>
 </context>
 <context>
@@ -453,6 +462,10 @@ _dehazed。
         <translation>%1 / %2</translation>
     </message>
     <message>
+        <source>%1 came back unchanged.</source>
+        <translation>%1 張保持原樣。</translation>
+    </message>
+    <message>
         <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
         <translation>無法寫入標準輸出：%1。請騰出空間，或將其輸出到別處。</translation>
     </message>
@@ -624,6 +637,10 @@ _dehazed。
         <translation>其結果已經存在，已予保留。</translation>
     </message>
     <message>
+        <source>Unchanged</source>
+        <translation>未改變</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>已保留</translation>
     </message>
@@ -706,6 +723,17 @@ _dehazed。
     <message>
         <source>the result can&apos;t be replaced</source>
         <translation>無法取代結果檔案</translation>
+    </message>
+</context>
+<context>
+    <name>whyUnchanged</name>
+    <message>
+        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <translation>照片保持原樣，因為無法測量薄霧：一邊的長度超過另一邊的 100,000 倍，或沒有任何像素具有可用的顏色。請裁切照片，或在影像編輯器中修正其顏色。</translation>
+    </message>
+    <message>
+        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <translation>照片保持原樣，因為無法計算薄霧：某些像素含有無窮大或未定義的值，或記憶體不足。請在影像編輯器中修正這些像素，或關閉其他程式後重試。</translation>
     </message>
 </context>
 </TS>

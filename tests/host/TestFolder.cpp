@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 #include <QDir>
@@ -46,6 +47,15 @@ void TestFolder::photograph(const QString &name, int width, int height, unsigned
                 else
                     reinterpret_cast<float *>(at)[c] = static_cast<float>(value);
             }
+    image.Save(path(name), QFileInfo(name).suffix(), -1, QString());
+}
+
+void TestFolder::spoil(const QString &name) const
+{
+    const auto photo = PhotoLoader::decode(path(name));
+    VImage &image = photo->image();
+    *reinterpret_cast<float *>(image.PixelAddress(image.Width() / 2, image.Height() / 2)) =
+        std::numeric_limits<float>::quiet_NaN();
     image.Save(path(name), QFileInfo(name).suffix(), -1, QString());
 }
 
@@ -137,7 +147,7 @@ std::unique_ptr<QProcess> TestFolder::launch(const QString &program, const QStri
 {
     auto process = std::make_unique<QProcess>();
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"LANG", "LANGUAGE", "LC_MESSAGES", "LC_CTYPE", "DISPLAY", "QT_QPA_PLATFORM"})
+    for (const char *name : {"LANG", "LANGUAGE", "LC_MESSAGES", "LC_CTYPE", "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         variables.remove(name);
     variables.insert("LC_ALL", "C");
     variables.insert("XDG_CONFIG_HOME", path("config"));

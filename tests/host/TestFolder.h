@@ -31,6 +31,8 @@ public:
 
     /// A hazy slope in the format of the suffix: colours that fade towards a light grey from bottom to top.
     void photograph(const QString &name, int width = 48, int height = 32, unsigned short type = VImage::Rgb, int bits = 8) const;
+    /// Gives one pixel of a float photograph a colour that is no number.
+    void spoil(const QString &name) const;
     /// A 16-bit camera raw file (DNG with one Bayer plane) lying on its side.
     void raw(const QString &name, int width = 64, int height = 48) const;
     /// How far apart the darkest and lightest sample of a picture are, as a fraction of its full scale.

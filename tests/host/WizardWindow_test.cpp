@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QSettings>
@@ -342,24 +343,77 @@ TEST_F(Wizard, a_session_goes_on_with_a_further_photograph)
     host->setValue(kProcessGuid, "hazeRemove", CommandLine::kUsualStrength);
 }
 
-TEST_F(Wizard, a_photograph_that_went_away_fails_alone_and_says_why)
+TEST_F(Wizard, what_went_away_or_came_back_as_it_was_is_told_with_the_reason)
 {
     photograph("valley.jpg", 300, 200);
+    folder.photograph("nan.tif", 300, 200, VImage::Rgb, 32);
+    folder.spoil("nan.tif");
     photograph("gone.png", 200, 300);
-    use({folder.path("gone.png"), folder.path("valley.jpg")}, [&] {
+    use({folder.path("gone.png"), folder.path("nan.tif"), folder.path("valley.jpg")}, [&] {
         ASSERT_TRUE(reached(WizardWindow::Photographs));
         QFile::remove(folder.path("gone.png"));
         go(QWizard::NextButton);
         ASSERT_TRUE(reached(WizardWindow::Strength));
         go(QWizard::CommitButton);
         ASSERT_TRUE(reached(WizardWindow::Work));
+        EXPECT_EQ(states(), (QStringList{QCoreApplication::translate("RunPage", "Failed"),
+                                         QCoreApplication::translate("RunPage", "Unchanged"),
+                                         QCoreApplication::translate("RunPage", "Done")}));
         go(QWizard::NextButton);
         ASSERT_TRUE(reached(WizardWindow::Results));
         EXPECT_EQ(window->currentPage()->subTitle(),
-                  QCoreApplication::translate("ResultPage", "%1 of %2 photographs are done.").arg(1).arg(2));
+                  QCoreApplication::translate("ResultPage", "%1 of %2 photographs are done.").arg(1).arg(3));
         EXPECT_NE(find<QLabel>("outcome")->text(), "");
         EXPECT_FALSE(find<QLabel>("outcome")->text().contains("gone_"));
+        find<QListWidget>("results")->setCurrentRow(1);
+        const QString why = find<QLabel>("outcome")->text();
+        EXPECT_FALSE(why.isEmpty() || why.contains(folder.path("nan"))) << why;
     });
+}
+
+TEST_F(Wizard, the_list_names_the_photograph_shown_when_another_cannot_be_read)
+{
+    for (const bool firstGoes : {false, true}) {
+        SCOPED_TRACE(firstGoes);
+        QStringList names{firstGoes ? "c.jpg" : "a.jpg", firstGoes ? "d.jpg" : "b.jpg"};
+        photograph(names[0], 300, 200);
+        photograph(names[1], 200, 300);
+        // The page lists them by address.
+        if (std::less<>()(host->photograph(folder.path(names[1])), host->photograph(folder.path(names[0]))))
+            names.swapItemsAt(0, 1);
+        const QString goes = names[firstGoes ? 0 : 1], stays = names[firstGoes ? 1 : 0];
+        // A copy of this size leaves no room for what is read ahead, so that the plug-in's page has to read for itself.
+        host->photograph(folder.path(stays))->scaledCopy(9459, 9459, ScaledImages::Keep::Always);
+        use({folder.path(names[0]), folder.path(names[1])}, [&] {
+            const QString whole = QCoreApplication::translate("PhotoPage", "%n photograph(s)", nullptr, 2);
+            ASSERT_TRUE(eventually([&] { return find<QLabel>("state")->text() == whole; }));
+            QFile::remove(folder.path(goes));
+            QString told;
+            QTimer reader;
+            QObject::connect(&reader, &QTimer::timeout, [&] {
+                if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                    told = box->text();
+                    box->accept();
+                }
+            });
+            reader.start(20);
+            go(QWizard::NextButton);
+            ASSERT_TRUE(reached(WizardWindow::Strength));
+            EXPECT_EQ(find<QComboBox>("comboBoxImageDef")->currentText(), stays);
+            typeStrength(stays, "40");
+            if (!firstGoes)
+                click("QToolButton_Next");
+            ASSERT_TRUE(eventually([&] { return !told.isEmpty(); }));
+            EXPECT_TRUE(told.startsWith(goes + ": ")) << told;
+            EXPECT_EQ(find<QComboBox>("comboBoxImageDef")->currentText(), stays);
+            click("pushButtonApplyAll");
+            go(QWizard::CommitButton);
+            ASSERT_TRUE(reached(WizardWindow::Work));
+            const QString used = find<QTableWidget>("work")->item(names.indexOf(stays), 1)->text();
+            EXPECT_TRUE(used.startsWith("40")) << used;
+        });
+        host->setValue(kProcessGuid, "hazeRemove", CommandLine::kUsualStrength);
+    }
 }
 
 TEST_F(Wizard, closing_stops_the_work_between_photographs)

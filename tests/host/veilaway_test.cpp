@@ -53,6 +53,7 @@ TEST_F(Veilaway, wrong_command_lines_end_with_2_and_say_what_is_wrong)
                               "<photo path='./a.png'><Veilaway hazeRemove='5'/></photo></veilaway>");
     folder.write("odd.xml", "<veilaway><photo path='a.png'><Veilaway hazeRemove='101'/></photo></veilaway>");
     folder.write("other.xml", "<html/>");
+    folder.write("more.xml", "<veilaway/><veilaway/>");
     const QStringList before = folder.files();
     const struct
     {
@@ -69,11 +70,13 @@ TEST_F(Veilaway, wrong_command_lines_end_with_2_and_say_what_is_wrong)
         {{"a.png", "--jobs", "0"}, "--jobs wants"},
         {{"a.png", "--language", "xx"}, "zh_TW"},
         {{"a.png", "--nonsense"}, "nonsense"},
+        {{"--quiet", "wizard"}, "--quiet is not for the wizard"},
         {{"--settings", "none.xml"}, "none.xml"},
         {{"a.png", "--strength", "9", "--settings", "broken.xml"}, "broken.xml"},
         {{"a.png", "--settings", "twice.xml"}, "twice"},
         {{"a.png", "--settings", "odd.xml"}, "0 to 100"},
         {{"a.png", "--settings", "other.xml"}, "<veilaway>"},
+        {{"a.png", "--settings", "more.xml"}, "end of document. Repair it"},
         {{"a.png", "--settings", "no/such/folder.xml"}, "folder.xml"},
         {{"a.png", "--settings", "a_dehazed.png"}, "name of a result"},
     };
@@ -85,6 +88,35 @@ TEST_F(Veilaway, wrong_command_lines_end_with_2_and_say_what_is_wrong)
     }
     EXPECT_EQ(folder.files(), before);
     EXPECT_EQ(folder.content("broken.xml"), "<veilaway><photo path=");
+}
+
+TEST_F(Veilaway, the_wizard_says_what_helps_where_no_window_can_be_shown)
+{
+    folder.write("broken.xml", "<veilaway>");
+    const char kNone[] = "^veilaway: The window can't be shown: [^\n]*ssh -X[^\n]*\n$";
+    const struct
+    {
+        QStringList arguments;
+        const char *environment;
+        int code;
+        const char *said;
+    } cases[] = {
+        {{"wizard"}, "DISPLAY=", 1, kNone},
+        {{"wizard"}, "DISPLAY=:97531", 1, kNone},
+        {{"wizard"}, "QT_QPA_PLATFORM=nonsense", 1, kNone},
+        {{"wizard"}, "QT_QPA_PLATFORM=linuxfb:fb=none", 1, "The window can't be shown: linuxfb"},
+        {{"--share-services", "wizard"}, "DISPLAY=", 1, kNone},
+        {{"--language", "de", "wizard", "--", "-a.png"}, "DISPLAY=", 1, "Das Fenster kann nicht"},
+        {{"--", "wizard"}, "DISPLAY=", 1, "wizard: There is no such file"},
+        {{"wizard", "--settings", "broken.xml"}, "QT_QPA_PLATFORM=offscreen", 2, "broken.xml"},
+        {{"wizard", "--settings", "broken.xml"}, "QT_QPA_PLATFORM=nonsense;minimal", 2, "broken.xml"},
+    };
+    for (const auto &[arguments, environment, code, said] : cases) {
+        const Said answer = folder.run(arguments, {environment});
+        EXPECT_EQ(answer.code, code) << environment << ' ' << arguments.join(' ');
+        EXPECT_TRUE(answer.err.contains(QRegularExpression(said))) << environment << ": " << answer.err;
+        EXPECT_EQ(answer.out, "");
+    }
 }
 
 TEST_F(Veilaway, help_and_version_answer_on_standard_output)
@@ -175,7 +207,7 @@ TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
         {"empty.png", "empty"},
         {"text.jpg", "known format"},
         {"large.hdr", "21474"},
-        {"vast.hdr", "TB of memory, and [0-9.]+ .B are free"},
+        {"vast.hdr", "TB of memory, but only [0-9.]+ .B is free"},
         {"cut.png", "damaged"},
         {"liar.jpg", "suffix"},
         {"dangling.png", "link"},
@@ -333,6 +365,50 @@ TEST_F(Veilaway, says_the_same_to_programs_for_any_number_of_jobs_and_with_lent_
     const Said quiet = folder.run(QStringList{"--quiet", "--strength", "0", "--overwrite"} + photographs.mid(0, 2));
     EXPECT_EQ(quiet.code, 0);
     EXPECT_EQ(quiet.out + quiet.err, "");
+}
+
+TEST_F(Veilaway, tells_of_a_photograph_that_came_back_as_it_was)
+{
+    folder.photograph("good.png");
+    for (const char *name : {"nan.tif", "nan.exr"}) {
+        folder.photograph(name, 60, 40, VImage::Rgb, 32);
+        folder.spoil(name);
+    }
+    folder.photograph("tall.png", 1, 100001, VImage::Grey);
+    folder.photograph("wide.png", 250000, 2, VImage::Grey); // shown to the engine with rows for columns
+    const QStringList photographs{"good.png", "nan.tif", "nan.exr", "tall.png", "wide.png"};
+
+    const Said told = folder.run(QStringList{"--json", "--strength", "60"} + photographs);
+    EXPECT_EQ(told.code, 0) << told.err;
+    const QStringList lines = told.out.split('\n', Qt::SkipEmptyParts);
+    EXPECT_EQ(lines.size(), photographs.size());
+    for (const QString &line : lines) {
+        const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
+        const QString photo = object["photo"].toString(), why = object["unchanged"].toString();
+        EXPECT_TRUE(QFile::exists(object["result"].toString())) << photo;
+        EXPECT_EQ(object["status"].toString(), photo == "good.png" ? "done" : "unchanged") << photo;
+        EXPECT_TRUE(object.contains("unchanged"));
+        if (photo == "good.png") {
+            EXPECT_TRUE(object["unchanged"].isNull());
+            continue;
+        }
+        EXPECT_TRUE(contains(why, photo.startsWith("nan") ? "undefined values" : "100,000 times")) << photo;
+        EXPECT_TRUE(contains(told.err, "veilaway: " + photo + ": " + why + '\n'));
+    }
+    EXPECT_EQ(told.err.count('\n'), 4) << told.err;
+
+    const Said plain = folder.run(QStringList{"--strength", "60", "--overwrite"} + photographs);
+    EXPECT_EQ(plain.code, 0);
+    EXPECT_TRUE(plain.err.endsWith("\n1 photographs done. 4 came back unchanged.\n")) << plain.err;
+    for (const char *style : {"--quiet", "--json"}) {
+        const Said quiet = folder.run(QStringList{"--quiet", style, "--strength", "60", "--overwrite"} + photographs);
+        EXPECT_EQ(quiet.code, 0);
+        EXPECT_EQ(quiet.err, "");
+    }
+    // What nothing was to be taken from has not come back.
+    const Said none = folder.run({"nan.tif", "tall.png", "--strength", "0", "--overwrite"});
+    EXPECT_EQ(none.code, 0);
+    EXPECT_EQ(none.err, "2 photographs done.\n");
 }
 
 TEST_F(Veilaway, settings_make_a_batch_repeatable)

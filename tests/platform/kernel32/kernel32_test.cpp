@@ -93,7 +93,7 @@ TEST(Kernel32, BindsTheCallingThreadAlone)
     EXPECT_EQ(after.mask, before.mask);
 }
 
-TEST(Kernel32, FindsTheTightestQuota)
+TEST(Kernel32, finds_the_tightest_limits_from_its_own_control_group_upwards)
 {
     namespace fs = std::filesystem;
     const struct
@@ -101,35 +101,84 @@ TEST(Kernel32, FindsTheTightestQuota)
         const char *name;
         const char *groups;                                       ///< What the system lists for the process.
         std::vector<std::pair<const char *, const char *>> files; ///< What it keeps.
-        std::uint32_t quota;
+        std::uint32_t processors;
+        std::uint64_t bytes; ///< Of 9000 KB that the system has.
     } cases[] = {
-        {"none", "0::/\n", {}, 0},
-        {"unified without a limit", "0::/a\n", {{"a/cpu.max", "max 100000"}}, 0},
-        {"unified", "0::/a\n", {{"a/cpu.max", "200000 100000"}}, 2},
-        {"rounded up", "0::/a\n", {{"a/cpu.max", "150000 100000"}}, 2},
-        {"less than one", "0::/\n", {{"cpu.max", "1000 100000"}}, 1},
-        {"a parent's is tighter", "0::/a/b\n", {{"a/b/cpu.max", "400000 100000"}, {"a/cpu.max", "300000 100000"}}, 3},
-        {"the path is one of the outside", "0::/outside/x\n", {{"cpu.max", "300000 100000"}}, 3},
-        {"hybrid", "0::/a\n", {{"unified/a/cpu.max", "300000 100000"}}, 3},
+        {"none", "0::/\n", {}, 0, 9216000},
+        {"unified without a limit",
+         "0::/a\n",
+         {{"a/cpu.max", "max 100000"}, {"a/memory.max", "max"}, {"a/memory.current", "99"}},
+         0,
+         9216000},
+        {"unified", "0::/a\n", {{"a/cpu.max", "200000 100000"}, {"a/memory.max", "8000"}, {"a/memory.current", "1000"}}, 2, 7000},
+        {"rounded up", "0::/a\n", {{"a/cpu.max", "150000 100000"}}, 2, 9216000},
+        {"less than one", "0::/\n", {{"cpu.max", "1000 100000"}}, 1, 9216000},
+        {"a parent's is tighter",
+         "0::/a/b\n",
+         {{"a/b/cpu.max", "400000 100000"},
+          {"a/cpu.max", "300000 100000"},
+          {"a/b/memory.max", "8000"},
+          {"a/b/memory.current", "1000"},
+          {"a/memory.max", "9000"},
+          {"a/memory.current", "5000"}},
+         3,
+         4000},
+        {"the own is tighter",
+         "0::/a/b\n",
+         {{"a/b/memory.max", "800"}, {"a/b/memory.current", "500"}, {"a/memory.max", "9000"}, {"a/memory.current", "500"}},
+         0,
+         300},
+        {"slowed down sooner",
+         "0::/a\n",
+         {{"a/memory.max", "9000"}, {"a/memory.high", "6000"}, {"a/memory.current", "5000"}},
+         0,
+         1000},
+        {"over the limit", "0::/a\n", {{"a/memory.high", "6000"}, {"a/memory.current", "7000"}}, 0, 0},
+        {"files give way",
+         "0::/a\n",
+         {{"a/memory.max", "8000"},
+          {"a/memory.current", "7000"},
+          {"a/memory.stat", "anon 1\ninactive_file 2000\nactive_file 300\ntotal_active_file 9\n"}},
+         0,
+         3300},
+        {"the path is one of the outside",
+         "0::/outside/x\n",
+         {{"cpu.max", "300000 100000"}, {"memory.max", "8000"}, {"memory.current", "0"}},
+         3,
+         8000},
+        {"hybrid", "0::/a\n", {{"unified/a/cpu.max", "300000 100000"}}, 3, 9216000},
         {"older",
-         "4:memory:/\n1:cpu,cpuacct:/a\n",
-         {{"cpu,cpuacct/a/cpu.cfs_quota_us", "250000"}, {"cpu,cpuacct/a/cpu.cfs_period_us", "100000"}},
-         3},
-        {"older without a limit", "1:cpu:/\n", {{"cpu/cpu.cfs_quota_us", "-1"}, {"cpu/cpu.cfs_period_us", "100000"}}, 0},
-        {"another controller", "1:cpuset:/a\n", {{"a/cpu.max", "100000 100000"}}, 0},
-        {"broken", "x\n::\n0::/a\n", {{"a/cpu.max", "? 0"}}, 0},
+         "4:memory:/m/n\n1:cpu,cpuacct:/a\n",
+         {{"cpu,cpuacct/a/cpu.cfs_quota_us", "250000"},
+          {"cpu,cpuacct/a/cpu.cfs_period_us", "100000"},
+          {"memory/m/n/memory.limit_in_bytes", "9223372036854771712"},
+          {"memory/m/n/memory.usage_in_bytes", "10"},
+          {"memory/m/n/memory.stat", "total_active_file 99999"},
+          {"memory/m/memory.limit_in_bytes", "8000"},
+          {"memory/m/memory.usage_in_bytes", "7000"},
+          {"memory/m/memory.stat", "inactive_file 9\ntotal_inactive_file 500\ntotal_active_file 40\n"}},
+         3,
+         1540},
+        {"older without a limit", "1:cpu:/\n", {{"cpu/cpu.cfs_quota_us", "-1"}, {"cpu/cpu.cfs_period_us", "100000"}}, 0, 9216000},
+        {"another controller", "1:cpuset:/a\n", {{"a/cpu.max", "100000 100000"}, {"a/memory.max", "1"}}, 0, 9216000},
+        {"broken", "x\n::\n0::/a\n", {{"a/cpu.max", "? 0"}, {"a/memory.max", "?"}, {"a/memory.current", "1"}}, 0, 9216000},
     };
     const fs::path root = fs::path(testing::TempDir()) / ("quota" + std::to_string(getpid()));
-    for (const auto &[name, groups, files, quota] : cases) {
-        fs::create_directories(root);
-        std::ofstream(root / "groups") << groups;
+    for (const auto &[name, groups, files, processors, bytes] : cases) {
+        fs::create_directories(root / "proc/self");
+        std::ofstream(root / "proc/self/cgroup") << groups;
+        std::ofstream(root / "proc/meminfo") << "MemFree: 5 kB\nMemAvailable:    9000 kB\n";
         for (const auto &[path, content] : files) {
-            fs::create_directories((root / "tree" / path).parent_path());
-            std::ofstream(root / "tree" / path) << content;
+            const fs::path file = root / "sys/fs/cgroup" / path;
+            fs::create_directories(file.parent_path());
+            std::ofstream(file) << content;
         }
-        EXPECT_EQ(GetProcessorQuota((root / "groups").c_str(), (root / "tree").c_str()), quota) << name;
+        EXPECT_EQ(GetProcessorQuota(root.c_str()), processors) << name;
+        EXPECT_EQ(GetAvailableMemory(root.c_str()), bytes) << name;
         fs::remove_all(root);
     }
+    EXPECT_EQ(GetAvailableMemory(root.c_str()), std::uint64_t(2) << 30);
+    EXPECT_GT(GetAvailableMemory(), 0u);
 }
 
 TEST(Kernel32, reserved_memory_is_zero_up_to_its_last_byte_and_costs_nothing_untouched)
