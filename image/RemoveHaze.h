@@ -11,7 +11,9 @@ class VImage;
 /// no map: no pixel qualifies as airlight, or the sparse system could not be solved, which also happens if a colour sample of the
 /// copy is not a finite number: one such sample in the image makes it stay as it is.
 ///
-/// From a width of 21475 pixels the size of the copy wraps around (it is formed in 32 bits); a copy without pixels is the first
-/// of the quiet ways out. Throws VException "Invalid Bitmap" for another form and "Not enough memory", and std::bad_alloc. Runs
-/// on the caller's thread, with a team of `threadCount` in its loops.
+/// The width of the copy comes from a product in 32 bits, which wraps around from a width of 21475 pixels on. Where it is
+/// negative, up to 42949 pixels, no copy can be had: "Not enough memory". Beyond, the copy has an accidental size of fewer
+/// pixels: without any, as for low images a little wider than 42949, the first of the quiet ways out, otherwise with a coarser
+/// map. From 64425 on the same begins again. Throws VException "Invalid Bitmap" for another form and "Not enough memory", and
+/// std::bad_alloc. Runs on the caller's thread, with a team of `threadCount` in its loops.
 void RemoveHaze(VImage &image, HazeState &state);

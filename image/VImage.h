@@ -112,12 +112,12 @@ public:
     /// Refines a dark map along the edges of this image: solves (L + lambda I) x = lambda b, L being the matting Laplacian over
     /// 3 x 3 windows with eps 0.001, and lambda 0.001. `darkMap` holds W*H floats, b on entry and x on return.
     ///
-    /// This image must be Rgba with 32-bit samples; its alpha is not read. Returns false, with `darkMap` multiplied by lambda, if
-    /// the system could not be solved; a colour sample that is no finite number leads there. A window whose covariance has no
-    /// inverse keeps the one of the window before it in its thread's block of rows, at first the zero matrix; but for that the
-    /// result does not depend on the team. Throws "Invalid Bitmap" for any other form, std::bad_alloc. Runs a team of
-    /// `threadCount`. Source: A. Levin, D. Lischinski, Y. Weiss, A Closed-Form Solution to Natural Image Matting, PAMI 2008,
-    /// equation 12; its use for haze: He, Sun, Tang, CVPR 2009, section 4.2.
+    /// This image must be Rgba with 32-bit samples; its alpha is not read. Returns false, with `darkMap` multiplied by lambda,
+    /// if the system could not be solved; a colour sample that is not a finite number leads there. A window whose covariance
+    /// has no inverse left in 32 bits counts as one of a single colour. The result does not depend on the team. Throws
+    /// "Invalid Bitmap" for any other form, std::bad_alloc. Runs a team of `threadCount`. Source: A. Levin, D. Lischinski, Y.
+    /// Weiss, A Closed-Form Solution to Natural Image Matting, PAMI 2008, equation 12; its use for haze: He, Sun, Tang, CVPR
+    /// 2009, section 4.2.
     bool HazeMatting(float *darkMap);
 
     /// Carries a map from `lowImage`'s size up to this image's, by joint bilateral steps of at most a factor of 2, guided by this

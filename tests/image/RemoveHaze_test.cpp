@@ -203,9 +203,14 @@ TEST(RemoveHaze, SizesOfTheCopy)
         const char *failure;
     } rows[] = {
         {20000, 5, true, ""},                    // the copy has the image's size
-        {42950, 100, false, ""},                 // wraps to 18 x 0
-        {21475, 10, false, "Not enough memory"}, // wraps below 0
-        {1, 1, true, ""},                        // 316 x 316 from one pixel
+        {21475, 10, false, "Not enough memory"}, // wraps below 0, as all do up to 42949
+        {30000, 2, false, "Not enough memory"},
+        {42949, 2, false, "Not enough memory"},
+        {42950, 100, false, ""}, // wraps to 18 x 0
+        {43000, 100, false, ""}, // wraps to 224 x 0
+        {50000, 20, true, ""},   // wraps to 5937 x 2
+        {64425, 2, false, "Not enough memory"},
+        {1, 1, true, ""}, // 316 x 316 from one pixel
         {3, 2000, true, ""},
     };
     for (const auto &row : rows) {
