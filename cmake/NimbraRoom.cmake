@@ -38,10 +38,12 @@ foreach(flag IN ITEMS stack-clash-protection cf-protection)
         add_compile_options(-f${flag})
     endif()
 endforeach()
-if(NOT NIMBRA_SANITIZE) # the sanitizers see more, where nothing stands in for the functions
+if(NIMBRA_SANITIZE) # it watches the functions for which fortified ones would stand in
+    add_compile_definitions(_GLIBCXX_ASSERTIONS)
+else()
+    add_compile_definitions($<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
     add_compile_options($<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
 endif()
-add_compile_definitions($<$<OR:$<CONFIG:Debug>,$<BOOL:${NIMBRA_SANITIZE}>>:_GLIBCXX_ASSERTIONS>)
 
 if(NIMBRA_SANITIZE)
     add_compile_options(-fsanitize=${NIMBRA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
