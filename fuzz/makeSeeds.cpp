@@ -16,7 +16,7 @@
 #include <png.h>
 #include <tiffio.h>
 
-#include "gflCodec.h"
+#include "gflBitmapParts.h"
 #include "gflMetadata.h"
 
 // Small files for the fuzzers to start from: every format in every form that is written here, with metadata, and forms that only
