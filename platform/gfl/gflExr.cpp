@@ -99,7 +99,8 @@ private:
 
 /// Reads the header, value by value, each held against the file's size before and against its own size behind. Throws EndOfBytes
 /// or FILE_READ if the file is too short for its attributes. Returns what the library is going to find; `version` receives the
-/// version and its flags, `table` where the table of chunks begins. The window is empty if the file states none.
+/// version and its flags, `table` where the table of chunks begins. Where the file states none, the
+/// window is empty and the packing is the one that may claim most.
 Imf::Header readAttributes(const InputFile &file, int &version, std::uint64_t &table)
 {
     constexpr std::size_t kLongestName = 255;
@@ -110,6 +111,7 @@ Imf::Header readAttributes(const InputFile &file, int &version, std::uint64_t &t
         throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
     Imf::Header header;
     header.dataWindow().makeEmpty();
+    header.compression() = Imf::DWAB_COMPRESSION;
     for (std::string name = reader.text(kLongestName); !name.empty(); name = reader.text(kLongestName)) {
         const std::string type = reader.text(kLongestName);
         const std::uint32_t size = reader.u32();
