@@ -89,18 +89,19 @@ private:
     ByteReader value;
 };
 
-// What follows, to checkChunks(), was written for OpenEXR 3.1.5; a later version may need less. That one
-// - takes a block of memory as large as a text, list of floats or unknown value claims to be, before it reads it;
-// - reads a value by its type alone and goes on behind it, whatever size the attribute states, so that all that follows can mean
-//   something else to it than to who walks from size to size;
-// - reads a list of channels without an end beyond its attribute;
-// - makes buffers for as many lines, or a tile as large, as the header claims, and tests a large table of chunks in 32 bits;
-// - fills a picture with memory that nobody has written where a chunk makes fewer bytes than its pixels take.
+// What follows, up to checkChunks(), holds a file to what OpenEXR 3.1.5 takes for granted; a later version may need less.
+//
+// readAttributes(): for a text, a list of floats or a value of unknown type it allocates what the attribute claims, before it
+// reads. Any other value it reads by its type, whatever size the attribute claims, and goes on from there, a list of channels
+// even beyond the attribute's end: what it takes for the next attribute is then not what anybody has checked. checkClaims(): it
+// makes buffers for as many lines, or a tile as large, as the header claims, and its own test of a large table of chunks
+// overflows. A request without pixels reads no chunk, so that only here a file shows that it was cut short. checkChunks(): where
+// a chunk makes fewer bytes than its pixels take, it hands out memory that nobody has written.
 
 /// Reads the header, value by value, each held against the file's size before and against its own size behind. Throws EndOfBytes
 /// or FILE_READ if the file is too short for its attributes. Returns what the library is going to find; `version` receives the
-/// version and its flags, `table` where the table of chunks begins. Where the file states none, the
-/// window is empty and the packing is the one that may claim most.
+/// version and its flags, `table` where the table of chunks begins. Where the file states none, the window is empty and the
+/// packing is the one that may claim most.
 Imf::Header readAttributes(const InputFile &file, int &version, std::uint64_t &table)
 {
     constexpr std::size_t kLongestName = 255;
@@ -116,10 +117,10 @@ Imf::Header readAttributes(const InputFile &file, int &version, std::uint64_t &t
         const std::string type = reader.text(kLongestName);
         const std::uint32_t size = reader.u32();
         ValueAdapter value(reader.stretch(size));
-        const bool stated = header.find(name) != header.end();
-        if (!stated && !Imf::Attribute::knownType(type.c_str()))
-            continue;
-        if (!stated)
+        const bool present = header.find(name) != header.end();
+        if (!present && !Imf::Attribute::knownType(type.c_str()))
+            continue; // the library keeps it as it is
+        if (!present)
             header.insert(name, *std::unique_ptr<Imf::Attribute>(Imf::Attribute::newAttribute(type.c_str())));
         Imf::Attribute &attribute = header[name];
         if (attribute.typeName() != type || size > std::uint32_t(std::numeric_limits<int>::max()))
