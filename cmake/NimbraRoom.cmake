@@ -7,8 +7,10 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
-# Installed files find libraries outside of the usual folders where the link found them.
+# Programs and plug-in find libraries outside of the usual folders where the link found them. Built with the paths that they are
+# installed with: room kept for other ones would be an empty entry, which stands for the current folder.
 set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON)
+set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
@@ -22,6 +24,27 @@ target_compile_options(nimbra_options INTERFACE
     -ffp-contract=off
     "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.." "-ffile-prefix-map=${CMAKE_BINARY_DIR}=../build")
 target_compile_definitions(nimbra_options INTERFACE QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS)
+
+# What the distribution hardens its programs with, for a program and a guest that read strangers' files. Not every processor knows each.
+include(CheckCXXCompilerFlag)
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+add_compile_options(-Wformat -Werror=format-security -fstack-protector-strong)
+add_link_options(-Wl,-z,relro -Wl,-z,now)
+foreach(flag IN ITEMS stack-clash-protection cf-protection)
+    string(MAKE_C_IDENTIFIER "NIMBRA_HAS_${flag}" known)
+    check_cxx_compiler_flag(-f${flag} ${known})
+    if(${known})
+        add_compile_options(-f${flag})
+    endif()
+endforeach()
+if(NIMBRA_SANITIZE) # it watches the functions for which fortified ones would stand in
+    add_compile_definitions(_GLIBCXX_ASSERTIONS)
+else()
+    add_compile_definitions($<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
+    add_compile_options($<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
+endif()
+
 if(NIMBRA_SANITIZE)
     add_compile_options(-fsanitize=${NIMBRA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${NIMBRA_SANITIZE})

@@ -333,6 +333,90 @@ void writeByHand(const std::string &folder)
     writeFile(folder + "/xmp.jpg", jpeg);
 }
 
+void put(Bytes &bytes, std::size_t at, const Bytes &part)
+{
+    bytes.resize(std::max(bytes.size(), at + part.size()));
+    std::copy(part.begin(), part.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at));
+}
+
+/// Heads of what has a library's parser somewhere: videos, pictures that are not read here, and camera raw of every shape.
+void writeHeads(const std::string &folder)
+{
+    const struct
+    {
+        const char *name;
+        std::vector<std::pair<std::size_t, Bytes>> parts;
+    } heads[] = {
+        {"avi", {{0, text("RIFF\xF0\1__AVI LIST\xC0___hdrlavih8___")}}},
+        {"webp", {{0, text("RIFF\xF0___WEBPVP8X\x0A___")}}},
+        {"mkv", {{0, text("\x1A\x45\xDF\xA3\x9F\x42\x86\x81\1\x42\x82\x88matroska\x18\x53\x80\x67")}}},
+        {"wmv", {{0, text("\x30\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9")}, {16, text("\x10")}, {24, bigEndian({{1, 4}})}}},
+        {"ts", {{0, text("G")}, {188, text("G")}, {376, text("G")}, {564, {}}}},
+        {"mpg", {{0, bigEndian({{0x1BA, 4}, {0x44, 1}})}}},
+        {"flv", {{0, text("FLV\1\5")}}},
+        {"exv", {{0, text("\xFF\1Exiv2\xFF\xE1")}}},
+        {"gif", {{0, text("GIF89a\5")}}},
+        {"bmp", {{0, text("BM")}, {14, bigEndian({{0x28000000, 4}, {0x05000000, 4}, {0x03000000, 4}})}}},
+        {"tga", {{2, bigEndian({{2, 1}})}, {12, bigEndian({{0x05000300, 4}, {24, 1}})}}},
+        {"jp2", {{0, bigEndian({{12, 4}})}, {4, text("jP  \r\n\x87\n")}, {12, bigEndian({{20, 4}})}, {16, text("ftypjp2 ")}}},
+        {"pgf", {{0, text("PGF6")}, {8, bigEndian({{0x05000000, 4}, {0x03000000, 4}})}}},
+        {"eps", {{0, text("%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 5 3\n")}}},
+        {"xmp", {{0, text("<?xpacket begin=\"\"?><x:xmpmeta xmlns:x=\"adobe:ns:meta/\"/>")}}},
+    };
+    for (const auto &head : heads) {
+        Bytes bytes(256);
+        for (const auto &[at, part] : head.parts)
+            put(bytes, at, part);
+        writeFile(folder + "/" + head.name, bytes);
+    }
+    for (const char *brand : {"isom", "qt  ", "3gp4", "heic", "avif", "crx "}) {
+        Bytes bytes(256);
+        put(bytes, 0, bigEndian({{24, 4}}));
+        put(bytes, 4, text(std::string("ftyp") + brand));
+        put(bytes, 24, bigEndian({{200, 4}}));
+        put(bytes, 28, text(std::string(brand[0] == 'h' || brand[0] == 'a' ? "meta" : "moov")));
+        put(bytes, 32, bigEndian({{108, 4}}));
+        put(bytes, 36, text("mvhd"));
+        writeFile(folder + "/iso_" + std::string(brand, 3), bytes);
+    }
+    for (const char *make :
+         {"Canon", "NIKON CORPORATION", "SONY", "FUJIFILM", "OLYMPUS IMAGING CORP.", "Panasonic", "PENTAX", "SAMSUNG", "Kodak",
+          "Leaf", "Phase One A/S", "Hasselblad", "Minolta Co., Ltd.", "LEICA CAMERA AG", "SEIKO EPSON CORP."}) {
+        const Bytes tiff = gfl::exifFromTexts({{0x010F, make}, {0x0110, std::string(make) + " 1D"}}, 6);
+        writeFile(folder + "/raw_" + std::string(make, 4), tiff);
+        struct Shape
+        {
+            const char *name;
+            Bytes magic;
+        };
+        for (const Shape &shape : {Shape{"orf", text("IIRO")}, Shape{"rw2", bigEndian({{0x49495500, 4}})}}) {
+            Bytes bytes = tiff;
+            put(bytes, 0, shape.magic);
+            writeFile(folder + "/" + shape.name + std::string(make, 2), bytes);
+        }
+        Bytes bytes = bigEndian({{0x004D524D, 4}, {unsigned(tiff.size()) + 40, 4}, {0x00505244, 4}, {24, 4}}); // MRM, PRD
+        put(bytes, 16, text("21860002"));
+        put(bytes, 24,
+            bigEndian({{3, 2}, {5, 2}, {3, 2}, {5, 2}, {12, 1}, {12, 1}, {0x5900, 2}, {0, 4}, {0x00545457, 4}})); // TTW
+        put(bytes, bytes.size(), bigEndian({{unsigned(tiff.size()), 4}}));
+        put(bytes, bytes.size(), tiff);
+        writeFile(folder + "/mrw" + std::string(make, 2), bytes);
+    }
+    Bytes canon = bigEndian({{0x49492A00, 4}, {0x10000000, 4}, {0x43520200, 4}, {0, 4}});
+    Bytes tiff = gfl::exifFromTexts({{0x010F, "Canon"}, {0x0110, "Canon EOS 5D"}}, 1);
+    put(canon, 16, Bytes(tiff.begin() + 8, tiff.end()));
+    writeFile(folder + "/cr2", canon);
+    Bytes crw = bigEndian({{0x49491A00, 4}, {0, 2}});
+    put(crw, 6, text("HEAPCCDR"));
+    put(crw, 26, bigEndian({{0x01000A08, 4}, {0x06000000, 4}, {0, 4}, {0, 4}, {0, 4}}));
+    writeFile(folder + "/crw", crw);
+    Bytes raf = text("FUJIFILMCCD-RAW 0201FF389501FinePix S5Pro");
+    const Bytes jpeg = readFile(folder + "/jpeg0_3_8");
+    put(raf, 84, bigEndian({{160, 4}, {unsigned(jpeg.size()), 4}, {160, 4}, {64, 4}, {160, 4}, {64, 4}}));
+    put(raf, 160, jpeg);
+    writeFile(folder + "/raf", raf);
+}
+
 void writeTexts(const std::string &folder)
 {
     const std::string settings = folder + "/settings/", tables = folder + "/tables/";
@@ -367,15 +451,17 @@ void writeTexts(const std::string &folder)
 int main(int argumentCount, char **arguments)
 try {
     const std::string folder = argumentCount == 2 ? arguments[1] : throw std::runtime_error("usage: make_seeds FOLDER");
-    for (const char *target : {"loading", "settings", "tables", "engine"})
+    for (const char *target : {"loading", "describing", "settings", "tables", "engine"})
         std::filesystem::create_directories(folder + "/" + target);
-    const std::string loading = folder + "/loading";
-    writeOwn(loading);
-    writeTiffs(loading);
-    writeJpegs(loading);
-    writePngs(loading);
-    writeExrs(loading);
-    writeByHand(loading);
+    for (const std::string &pictures : {folder + "/loading", folder + "/describing"}) {
+        writeOwn(pictures);
+        writeTiffs(pictures);
+        writeJpegs(pictures);
+        writePngs(pictures);
+        writeExrs(pictures);
+        writeByHand(pictures);
+    }
+    writeHeads(folder + "/describing");
     writeTexts(folder);
 } catch (const std::exception &failure) {
     std::fprintf(stderr, "make_seeds: %s\n", failure.what());

@@ -5,10 +5,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
-#include <exiv2/exiv2.hpp>
 
 #include "VException.h"
 #include "gfl.h"
+#include "photoMetadata.h"
 
 namespace {
 
@@ -29,6 +29,18 @@ QString reasonFor(int code)
     default:
         return PhotoLoader::tr("Its kind of pixels can't be read. Save it as RGB with 8 or 16 bits and try again.");
     }
+}
+
+/// The densest that a format can be packed is a row of fax that repeats the one above: it takes a bit, and files are not longer
+/// than this many pixels.
+constexpr qint64 kMostPixelsPerByte = 1 << 20;
+
+QStringList asStrings(const std::vector<std::string_view> &suffixes)
+{
+    QStringList strings;
+    for (const std::string_view suffix : suffixes)
+        strings << QString::fromLatin1(suffix.data(), int(suffix.size()));
+    return strings;
 }
 
 } // namespace
@@ -66,7 +78,12 @@ QString PhotoLoader::complaint(const QString &path)
 
 QStringList PhotoLoader::pictureSuffixes()
 {
-    return {"jpg", "jpeg", "png", "tif", "tiff", "hdr", "hdri", "exr", "psd"};
+    return asStrings(keptSuffixes());
+}
+
+QStringList PhotoLoader::rawSuffixes()
+{
+    return asStrings(::rawSuffixes());
 }
 
 bool PhotoLoader::canWrite(const QString &suffix)
@@ -74,24 +91,43 @@ bool PhotoLoader::canWrite(const QString &suffix)
     return pictureSuffixes().contains(suffix);
 }
 
+PhotoKind PhotoLoader::kindOf(const QString &path)
+{
+    const std::optional<PhotoKind> kind = photoKindOfFile(QFile::encodeName(path).toStdString());
+    if (!kind)
+        throw VException(reasonFor(GFL_ERROR_FILE_OPEN), V_LOCATION);
+    if (*kind == PhotoKind::Video)
+        throw VException(tr("It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF."),
+                         V_LOCATION);
+    if (!suffixFits(*kind, QFileInfo(path).suffix().toLower().toStdString()))
+        throw VException(reasonFor(GFL_ERROR_UNKNOWN_FORMAT), V_LOCATION);
+    return *kind;
+}
+
 PhotoFacts PhotoLoader::describe(const QString &path)
 {
     const QString wrong = complaint(path);
     if (!wrong.isEmpty())
         throw VException(wrong, V_LOCATION);
-    if (isRaw(path))
-        return describeRaw(path);
+    const PhotoFacts facts = isRaw(path) ? describeRaw(path) : describePicture(path);
+    if (qint64(facts.width) * facts.height / kMostPixelsPerByte > QFileInfo(path).size())
+        throw VException(reasonFor(GFL_ERROR_FILE_READ), V_LOCATION);
+    return facts;
+}
 
+PhotoFacts PhotoLoader::describePicture(const QString &path)
+{
     PhotoFacts facts;
     try {
-        const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
-        image->readMetadata();
-        facts.width = std::max(image->pixelWidth(), 0);
-        facts.height = std::max(image->pixelHeight(), 0);
-        const Exiv2::ExifData &exif = image->exifData();
-        const auto found = exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
-        const long orientation = found != exif.end() && found->count() > 0 ? found->toLong() : 1;
-        facts.orientation = orientation >= 1 && orientation <= 8 ? int(orientation) : 1;
+        if (const auto image = openMetadata(QFile::encodeName(path).toStdString())) {
+            image->readMetadata();
+            facts.width = std::max(image->pixelWidth(), 0);
+            facts.height = std::max(image->pixelHeight(), 0);
+            const Exiv2::ExifData &exif = image->exifData();
+            const auto found = exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
+            const long orientation = found != exif.end() && found->count() > 0 ? found->toLong() : 1;
+            facts.orientation = orientation >= 1 && orientation <= 8 ? int(orientation) : 1;
+        }
     } catch (const std::exception &) {
         // What the file lacks its decoder will say, in better words.
     }

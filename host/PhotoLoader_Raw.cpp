@@ -1,6 +1,5 @@
 #include <QFile>
 #include <QFileInfo>
-#include <QStringList>
 #include <libraw/libraw.h>
 
 #include "PhotoLoader.h"
@@ -23,12 +22,18 @@ void check(int code)
                      V_LOCATION);
 }
 
-/// Opened, not yet unpacked, and without the handler that would write to the program's standard error.
-std::unique_ptr<LibRaw> open(const QString &path)
+/// Opens without the handler that would write to the program's standard error. A code of the library.
+int open(LibRaw &raw, const QString &path)
+{
+    raw.set_dataerror_handler(nullptr, nullptr);
+    return raw.open_file(QFile::encodeName(path).constData());
+}
+
+/// Opened, not yet unpacked.
+std::unique_ptr<LibRaw> opened(const QString &path)
 {
     auto raw = std::make_unique<LibRaw>();
-    raw->set_dataerror_handler(nullptr, nullptr);
-    check(raw->open_file(QFile::encodeName(path).constData()));
+    check(open(*raw, path));
     return raw;
 }
 
@@ -49,32 +54,22 @@ int orientationOf(int flip)
 
 } // namespace
 
-QStringList PhotoLoader::rawSuffixes()
-{
-    return {"3fr", "arw", "cr2", "crw", "dcr", "dng", "erf", "fff", "iiq", "k25", "kdc", "mef", "mos",
-            "mrw", "nef", "nrw", "orf", "pef", "ptx", "raf", "raw", "rw2", "rwl", "sr2", "srf", "srw"};
-}
-
-/// The suffix decides, since most camera raw files are TIFF inside. Without one of a known format the content does: the codec
-/// layer's formats other than TIFF have a signature, and what is left may be camera raw.
+/// The suffix decides, since most camera raw files are TIFF inside. Without one of a known format the content does.
 bool PhotoLoader::isRaw(const QString &path)
 {
-    const QString suffix = QFileInfo(path).suffix().toLower();
-    if (canWrite(suffix))
-        return false;
-    if (rawSuffixes().contains(suffix))
+    const PhotoKind kind = kindOf(path);
+    const std::string suffix = QFileInfo(path).suffix().toLower().toStdString();
+    if (isRawSuffix(suffix) || isRawOnly(kind))
         return true;
-    QFile file(path);
-    const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(8) : QByteArray();
-    for (const char *signature : {"\xff\xd8\xff", "\x89PNG", "8BPS", "#?", "\x76\x2f\x31\x01"})
-        if (head.startsWith(signature))
-            return false;
-    return LibRaw().open_file(QFile::encodeName(path).constData()) == LIBRAW_SUCCESS;
+    if (kind != PhotoKind::Tiff || pictureKindOfSuffix(suffix) != PhotoKind::Other)
+        return false;
+    const auto raw = std::make_unique<LibRaw>();
+    return open(*raw, path) == LIBRAW_SUCCESS;
 }
 
 PhotoFacts PhotoLoader::describeRaw(const QString &path)
 {
-    const auto raw = open(path);
+    const auto raw = opened(path);
     // The codec layer reads the metadata when the result is saved. What it will refuse then is refused here, before any work.
     const int code = load(path, GFL_LOAD_METADATA | GFL_LOAD_METADATA_ONLY).first;
     if (code != GFL_NO_ERROR)
@@ -88,7 +83,7 @@ PhotoFacts PhotoLoader::describeRaw(const QString &path)
 
 void PhotoLoader::developRaw(const QString &path, VImage &image)
 {
-    const auto raw = open(path);
+    const auto raw = opened(path);
     libraw_output_params_t &wish = raw->imgdata.params;
     wish.output_bps = 16;
     wish.output_color = 1; // sRGB, which a file without a profile is taken for

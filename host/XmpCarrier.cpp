@@ -8,9 +8,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
-#include <exiv2/exiv2.hpp>
 
 #include "ByteReader.h"
+#include "photoMetadata.h"
 
 namespace {
 
@@ -88,7 +88,9 @@ QByteArray mapped(QFile &file)
 std::string packetOf(const QString &path)
 {
     try {
-        const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
+        const auto image = openMetadata(QFile::encodeName(path).toStdString());
+        if (!image)
+            return {}; // a format without XMP
         image->readMetadata();
         // As it stands in the file, where the library keeps that (it does not for TIFF), or else in the library's own words.
         image->writeXmpFromPacket(true);
@@ -97,15 +99,15 @@ std::string packetOf(const QString &path)
         image->writeXmpFromPacket(false);
         return image->xmpPacket();
     } catch (const std::exception &) {
-        return {}; // a format without XMP, or a damaged block
+        return {}; // a damaged block
     }
 }
 
 /// False if the format can't hold any.
 bool setPacket(const QString &path, const std::string &packet)
 {
-    const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
-    if ((image->checkMode(Exiv2::mdXmp) & Exiv2::amWrite) == 0)
+    const auto image = openMetadata(QFile::encodeName(path).toStdString());
+    if (!image || (image->checkMode(Exiv2::mdXmp) & Exiv2::amWrite) == 0)
         return false;
     image->readMetadata();
     image->setXmpPacket(packet);

@@ -10,11 +10,10 @@
 
 #include "gflCodec.h"
 #include "gflMetadata.h"
+#include "photoKind.h"
 
 namespace gfl {
 namespace {
-
-using namespace std::string_view_literals;
 
 std::atomic<bool> lzwEnabled{true};
 
@@ -23,26 +22,16 @@ struct Format
     std::string_view name;
     BitmapPointer (*read)(const ReadRequest &);
     void (*write)(const WriteRequest &);
-    std::string_view suffixes[4];
-    std::string_view signatures[4];
 };
 
-// In the order of the format indices.
+// In the order of the format indices, which is that of PhotoKind.
 constexpr Format kFormats[] = {
-    {"jpeg", readJpeg, writeJpeg, {"jpg", "jpeg", "jpe", "jfif"}, {"\xFF\xD8\xFF"sv}},
-    {"png", readPng, writePng, {"png"}, {"\x89PNG\r\n\x1A\n"sv}},
-    {"tiff", readTiff, writeTiff, {"tif", "tiff"}, {"II*\0"sv, "MM\0*"sv, "II+\0"sv, "MM\0+"sv}},
-    {"hdri", readHdr, writeHdr, {"hdr", "pic", "rgbe"}, {"#?RADIANCE"sv, "#?RGBE"sv}},
-    {"exr", readExr, writeExr, {"exr"}, {"\x76\x2F\x31\x01"sv}},
-    {"psd", readPsd, writePsd, {"psd", "psb"}, {"8BPS"sv}},
+    {"jpeg", readJpeg, writeJpeg}, {"png", readPng, writePng}, {"tiff", readTiff, writeTiff},
+    {"hdri", readHdr, writeHdr},   {"exr", readExr, writeExr}, {"psd", readPsd, writePsd},
 };
-
-constexpr std::string_view kRawSuffixes[] = {"3fr", "arw", "cr2", "crw", "dcr", "dng", "erf", "fff", "iiq",
-                                             "k25", "kdc", "mef", "mos", "mrw", "nef", "nrw", "orf", "pef",
-                                             "ptx", "raf", "raw", "rw2", "rwl", "sr2", "srf", "srw"};
+static_assert(static_cast<std::size_t>(PhotoKind::Photoshop) + 1 == std::size(kFormats));
 
 constexpr int kRawFormat = -1; // has no name and no index
-constexpr int kNoFormat = -2;
 
 std::string suffixOf(const std::string &fileName)
 {
@@ -56,38 +45,17 @@ std::string suffixOf(const std::string &fileName)
     return suffix;
 }
 
-int formatOfSuffix(const std::string &suffix)
-{
-    if (suffix.empty())
-        return kNoFormat;
-    for (std::size_t i = 0; i < std::size(kFormats); ++i)
-        if (std::find(std::begin(kFormats[i].suffixes), std::end(kFormats[i].suffixes), suffix) != std::end(kFormats[i].suffixes))
-            return static_cast<int>(i);
-    return std::find(std::begin(kRawSuffixes), std::end(kRawSuffixes), suffix) != std::end(kRawSuffixes) ? kRawFormat : kNoFormat;
-}
-
-// Compares as many bytes as there are: a file that ends within its signature is a truncated one, not one of another type.
-bool startsLike(const Format &format, std::string_view start)
-{
-    return std::any_of(std::begin(format.signatures), std::end(format.signatures), [&](std::string_view signature) {
-        const std::size_t count = std::min(signature.size(), start.size());
-        return count > 0 && signature.substr(0, count) == start.substr(0, count);
-    });
-}
-
 int formatOf(const InputFile &file)
 {
-    char start[16];
+    char start[kPhotoKindBytes];
     const std::string_view content(start, file.readAt(0, start, sizeof start));
     if (content.empty())
         throw Failure{GFL_ERROR_FILE_READ};
-    const int bySuffix = formatOfSuffix(suffixOf(file.name()));
-    if (bySuffix == kRawFormat)
-        return bySuffix;
-    for (std::size_t i = 0; i < std::size(kFormats); ++i)
-        if (startsLike(kFormats[i], content) && (bySuffix == kNoFormat || bySuffix == static_cast<int>(i)))
-            return static_cast<int>(i);
-    throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
+    const PhotoKind kind = photoKind(content);
+    const std::string suffix = suffixOf(file.name());
+    if (!suffixFits(kind, suffix))
+        throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
+    return isRawSuffix(suffix) || isRawOnly(kind) ? kRawFormat : static_cast<int>(kind);
 }
 
 template<class Work>

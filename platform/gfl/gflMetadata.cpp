@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <filesystem>
 #include <mutex>
 
 #include <exiv2/exiv2.hpp>
 
 #include "gflCodec.h"
+#include "photoMetadata.h"
 
 namespace gfl {
 namespace {
@@ -227,9 +227,8 @@ FileMetadata metadataFromFile(const std::string &fileName, bool raw)
     startExiv2();
     FileMetadata result;
     try {
-        // A relative path could be taken for an address.
-        const auto image = Exiv2::ImageFactory::open(std::filesystem::absolute(fileName).string(), /*useCurl=*/false);
-        if (!image.get())
+        const auto image = openMetadata(fileName);
+        if (!image)
             throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
         {
             const std::lock_guard lock(xmpMutex);

@@ -286,6 +286,10 @@ Beispiele:
         <translation>Das ist kein Bild in einem bekannten Format oder ein anderes, als die Dateiendung angibt. Lesbar sind JPEG, PNG, TIFF, HDR, EXR, PSD und Kamera-RAW; geben Sie der Datei die passende Endung oder konvertieren Sie sie.</translation>
     </message>
     <message>
+        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <translation>Das ist ein Video. Dunst lässt sich nur aus Fotos entfernen; speichern Sie ein Bild daraus als JPEG, PNG oder TIFF.</translation>
+    </message>
+    <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
         <translation>Diese Art von Pixeln kann nicht gelesen werden. Speichern Sie das Foto als RGB mit 8 oder 16 Bit und versuchen Sie es erneut.</translation>
     </message>

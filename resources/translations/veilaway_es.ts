@@ -289,6 +289,10 @@ Ejemplos:
         <translation>No es una imagen de un formato conocido, o su formato no es el que indica la extensión. Se pueden leer JPEG, PNG, TIFF, HDR, EXR, PSD y RAW de cámara; dé al archivo la extensión que le corresponde o conviértalo.</translation>
     </message>
     <message>
+        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <translation>Es un vídeo. La bruma solo se puede quitar de fotografías; guarde una imagen del vídeo como JPEG, PNG o TIFF.</translation>
+    </message>
+    <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
         <translation>Este tipo de píxeles no se puede leer. Guarde la foto como RGB de 8 o 16 bits e inténtelo de nuevo.</translation>
     </message>

@@ -291,6 +291,10 @@ Exemples&#xa0;:
         <translation>Ce n&apos;est pas une image d&apos;un format connu, ou son format n&apos;est pas celui qu&apos;annonce l&apos;extension. Les formats lus sont JPEG, PNG, TIFF, HDR, EXR, PSD et RAW&#xa0;; donnez au fichier l&apos;extension qui lui correspond ou convertissez-le.</translation>
     </message>
     <message>
+        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <translation>C&apos;est une vidéo. Le voile ne peut être retiré que de photos&#xa0;; enregistrez-en une image en JPEG, PNG ou TIFF.</translation>
+    </message>
+    <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
         <translation>Ce type de pixels ne peut pas être lu. Enregistrez la photo en RVB 8 ou 16 bits et réessayez.</translation>
     </message>

@@ -286,6 +286,10 @@ Esempi:
         <translation>Non è un&apos;immagine in un formato noto, oppure il formato non è quello indicato dall&apos;estensione. Si possono leggere JPEG, PNG, TIFF, HDR, EXR, PSD e RAW; dare al file l&apos;estensione corretta o convertirlo.</translation>
     </message>
     <message>
+        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <translation>È un video. La foschia si può togliere solo dalle foto; salvarne un fotogramma in JPEG, PNG o TIFF.</translation>
+    </message>
+    <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
         <translation>Questo tipo di pixel non può essere letto. Salvare la foto in RGB a 8 o 16 bit e riprovare.</translation>
     </message>

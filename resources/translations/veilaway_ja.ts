@@ -286,6 +286,10 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>対応する形式の画像ではないか、拡張子が実際の形式と異なります。読み込めるのは JPEG、PNG、TIFF、HDR、EXR、PSD とカメラの RAW です。拡張子を実際の形式に合わせるか、画像を変換してください。</translation>
     </message>
     <message>
+        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <translation>これは動画です。ヘイズを除去できるのは写真だけです。動画から切り出した画像を JPEG、PNG または TIFF で保存してください。</translation>
+    </message>
+    <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
         <translation>このピクセル形式は読み込めません。8 または 16 ビットの RGB で保存し直してから、もう一度お試しください。</translation>
     </message>

@@ -286,6 +286,10 @@ Przykłady:
         <translation>To nie jest obraz w znanym formacie albo ma inny format, niż wskazuje rozszerzenie. Można odczytać JPEG, PNG, TIFF, HDR, EXR, PSD i pliki RAW z aparatu; należy nadać plikowi właściwe rozszerzenie lub go przekonwertować.</translation>
     </message>
     <message>
+        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <translation>To jest film. Zamglenie można usuwać tylko ze zdjęć; należy zapisać klatkę filmu jako JPEG, PNG lub TIFF.</translation>
+    </message>
+    <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
         <translation>Nie można odczytać tego rodzaju pikseli. Należy zapisać zdjęcie jako RGB 8- lub 16-bitowe i spróbować ponownie.</translation>
     </message>

@@ -286,6 +286,10 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Это не изображение известного формата, или его формат не соответствует расширению. Читаются JPEG, PNG, TIFF, HDR, EXR, PSD и RAW-файлы камер; дайте файлу расширение, соответствующее его формату, или преобразуйте его.</translation>
     </message>
     <message>
+        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <translation>Это видео. Дымку можно убрать только с фотографий; сохраните кадр видео в JPEG, PNG или TIFF.</translation>
+    </message>
+    <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
         <translation>Этот вид пикселей не поддерживается. Сохраните фотографию в RGB с 8 или 16 битами и повторите попытку.</translation>
     </message>

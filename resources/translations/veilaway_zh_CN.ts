@@ -280,6 +280,10 @@ _dehazed。
         <translation>这不是已知格式的图像，或者其实际格式与扩展名不符。可以读取 JPEG、PNG、TIFF、HDR、EXR、PSD 和相机 RAW；请将扩展名改为与实际格式一致，或转换该文件。</translation>
     </message>
     <message>
+        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <translation>这是视频。只能从照片中去除薄雾；请将其中的一帧画面保存为 JPEG、PNG 或 TIFF。</translation>
+    </message>
+    <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
         <translation>无法读取这种像素格式。请另存为 8 位或 16 位 RGB，然后重试。</translation>
     </message>

@@ -280,6 +280,10 @@ _dehazed。
         <translation>這不是已知格式的影像，或其實際格式與副檔名不符。可以讀取 JPEG、PNG、TIFF、HDR、EXR、PSD 和相機 RAW；請將副檔名改為與實際格式一致，或轉換該檔案。</translation>
     </message>
     <message>
+        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <translation>這是影片。只能從照片中去除薄霧；請將其中的一格畫面儲存為 JPEG、PNG 或 TIFF。</translation>
+    </message>
+    <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
         <translation>無法讀取這種像素格式。請另存為 8 位元或 16 位元 RGB，然後再試一次。</translation>
     </message>

@@ -189,8 +189,9 @@ TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
     folder.write("text.jpg", "no picture");
     folder.photograph("wide.png", 21475, 2, VImage::Grey);
     const QByteArray radiance("#?RADIANCE\nFORMAT=32-bit_rle_rgbe\n\n-Y ");
-    folder.write("large.hdr", radiance + "21475 +X 21475\n");
-    folder.write("vast.hdr", radiance + "4000000 +X 20000\n");
+    const QByteArray length(100000, '\0'); // a few bytes could not hold as much
+    folder.write("large.hdr", radiance + "21475 +X 21475\n" + length);
+    folder.write("vast.hdr", radiance + "4000000 +X 20000\n" + length);
     folder.photograph("cut.png");
     folder.write("cut.png", folder.content("cut.png").left(150));
     folder.photograph("liar.png");

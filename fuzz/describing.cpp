@@ -1,0 +1,51 @@
+#include <filesystem>
+
+#include <exiv2/exiv2.hpp>
+
+#include "FuzzTarget.h"
+#include "PhotoLoader.h"
+#include "VException.h"
+#include "gfl.h"
+#include "photoKind.h"
+
+// Heads of files under names that may be true or not: what is no photograph is refused, and all else has a size that it could
+// hold.
+namespace {
+
+/// Names of one file: the first leaves it to the content, the others say what it is.
+constexpr const char *kNames[] = {"source.mp4", "source.nef", "source.jpg", "source.tif", "source.cr2", "source.psd"};
+
+void describe(const std::string &name, PhotoKind kind, std::size_t count)
+{
+    bool described = false;
+    try {
+        const PhotoFacts facts = PhotoLoader::describe(QString::fromStdString(name));
+        described = true;
+        require(facts.width >= 0 && facts.height >= 0 && facts.orientation >= 1 && facts.orientation <= 8,
+                "figures are in range");
+        require(std::int64_t{facts.width} * facts.height < std::int64_t(count + 1) << 20, "a file of its length could hold it");
+    } catch (const VException &) {
+    }
+    require(!described || (kind != PhotoKind::Video && kind != PhotoKind::Other), "what is no photograph is refused");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t count)
+{
+    static const ScratchFolder folder;
+    static const bool started = [] {
+        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        folder.write("source", nullptr, 0);
+        for (const char *name : kNames)
+            std::filesystem::create_hard_link(folder.path("source"), folder.path(name));
+        return gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr) == GFL_NO_ERROR;
+    }();
+    require(started, "the layer starts");
+
+    folder.write("source", bytes, count);
+    const PhotoKind kind = photoKind({reinterpret_cast<const char *>(bytes), count});
+    describe(folder.path(kNames[0]), kind, count);
+    describe(folder.path(kNames[1 + digest(bytes, count) % (std::size(kNames) - 1)]), kind, count);
+    return 0;
+}

@@ -1,0 +1,148 @@
+#include <functional>
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+#include "PhotoLoader.h"
+#include "TestFolder.h"
+#include "VException.h"
+#include "XmpCarrier.h"
+#include "gfl.h"
+
+namespace {
+
+/// A head, and zeros behind it.
+QByteArray head(std::initializer_list<std::pair<int, QByteArray>> parts, int size = 2000)
+{
+    QByteArray bytes(size, '\0');
+    for (const auto &[at, part] : parts)
+        bytes.replace(at, part.size(), part);
+    return bytes;
+}
+
+/// A box of the ISO media format of this brand; what follows is of a type that its readers go into.
+QByteArray isoMedia(const char *brand)
+{
+    return head({{0, QByteArray("\0\0\0\x18"
+                                "ftyp",
+                                8)},
+                 {8, brand},
+                 {24, QByteArray("\0\0\7\0moov", 8)}});
+}
+
+std::string saidBy(const std::function<void()> &act)
+{
+    try {
+        act();
+    } catch (const VException &failure) {
+        return failure.message.toStdString();
+    }
+    return "nothing";
+}
+
+class PhotoLoaderTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr); }
+    static void TearDownTestSuite() { gflLibraryExit(); }
+
+    TestFolder folder;
+};
+
+} // namespace
+
+TEST_F(PhotoLoaderTest, no_library_sees_what_is_no_photograph_whatever_its_suffix)
+{
+    const char *const video = "It is a video.", *const unknown = "It is no picture of a known format";
+    const struct
+    {
+        const char *what;
+        QByteArray bytes;
+        const char *said;
+    } files[] = {
+        {"mp4", isoMedia("isom"), video},
+        {"mov", isoMedia("qt  "), video},
+        {"3gp", isoMedia("3gp4"), video},
+        {"mov without type", head({{0, QByteArray("\0\0\0\x08wide\0\0\7\0mdat", 16)}}), video},
+        {"avi", head({{0, "RIFF"}, {8, "AVI LIST"}}), video},
+        {"mkv", head({{0, "\x1A\x45\xDF\xA3\x9F\x42\x86\x81\x01"}}), video},
+        {"wmv", head({{0, "\x30\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9"}}), video},
+        {"ts", head({{0, "G"}, {188, "G"}, {376, "G"}}), video},
+        {"m2ts", head({{4, "G"}, {196, "G"}, {388, "G"}}), video},
+        {"mpg", head({{0, QByteArray("\0\0\1\xBA\x44", 5)}}), video},
+        {"flv", head({{0, "FLV\1\5"}}), video},
+        {"ogv", head({{0, "OggS"}, {28, "\x80theora"}}), video},
+        {"heic", isoMedia("heic"), unknown},
+        {"avif", isoMedia("avif"), unknown},
+        {"cr3", isoMedia("crx "), unknown},
+        {"webp", head({{0, "RIFF"}, {8, "WEBPVP8X"}}), unknown},
+        {"wav", head({{0, "RIFF"}, {8, "WAVEfmt "}}), unknown},
+        {"exv", head({{0, "\xFF\x01"}, {2, "Exiv2"}}), unknown},
+        {"gif", head({{0, "GIF89a"}}), unknown},
+        {"bmp", head({{0, "BM"}}), unknown},
+        {"tga", head({{0, QByteArray("\0\0\2", 3)}}), unknown},
+        {"jp2", head({{0, QByteArray("\0\0\0\x0CjP  \r\n\x87\n", 12)}}), unknown},
+        {"pgf", head({{0, "PGF6"}}), unknown},
+        {"eps", head({{0, "%!PS-Adobe-3.0 EPSF-3.0\n"}}), unknown},
+        {"xmp", head({{0, "<?xpacket begin=\"\"?><x:xmpmeta>"}}), unknown},
+        {"foveon", head({{0, "FOVb"}}), unknown},
+        {"qtk", head({{0, "qktk"}}), unknown},
+        {"text", "no picture", unknown},
+    };
+    folder.photograph("result.jpg");
+    const QByteArray result = folder.content("result.jpg");
+    for (const auto &file : files)
+        for (const QString name :
+             {"a.mp4", "a.MOV", "a.pgf", "a.tga", "a", "a.jpg", "a.PNG", "a.tif", "a.psd", "a.cr2", "a.nef", "a.RAF"}) {
+            SCOPED_TRACE(std::string(file.what) + " as " + name.toStdString());
+            const QString path = folder.path(name);
+            folder.write(name, file.bytes);
+            EXPECT_EQ(saidBy([&] { PhotoLoader::describe(path); }).rfind(file.said, 0), 0u);
+            EXPECT_EQ(saidBy([&] { PhotoLoader::decode(path); }).rfind(file.said, 0), 0u);
+            GflBitmap *bitmap = nullptr;
+            EXPECT_EQ(gflLoadBitmapUTF8(path.toUtf8(), &bitmap, nullptr, nullptr), GFL_ERROR_UNKNOWN_FORMAT);
+            EXPECT_EQ(carryXmp(path, folder.path("result.jpg")), QString());
+            QFile::remove(path);
+        }
+    EXPECT_EQ(folder.content("result.jpg"), result);
+}
+
+TEST_F(PhotoLoaderTest, a_suffix_of_camera_raw_must_be_true_and_a_shape_of_one_is_enough)
+{
+    const char *const unknown = "It is no picture of a known format", *const tried = "The camera raw file can't be developed";
+    const struct
+    {
+        const char *name;
+        QByteArray bytes;
+        const char *said;
+    } files[] = {
+        {"a.nef", head({{0, "\xFF\xD8\xFF\xE1"}}), unknown},
+        {"a.cr2", head({{0, "\x89PNG\r\n\x1A\n"}}), unknown},
+        {"a.arw", head({{0, "8BPS"}}), unknown},
+        {"a.jpg", head({{0, "FUJIFILMCCD-RAW "}}), unknown},
+        {"a.tif", head({{0, "IIRO"}}), unknown},
+        {"a.png", head({{0, QByteArray("II*\0", 4)}}), unknown},
+        {"b.nef", head({{0, QByteArray("MM\0*", 4)}}), tried},
+        {"b.raf", head({{0, "FUJIFILMCCD-RAW "}}), tried},
+        {"b.raw", head({{0, QByteArray("IIU\0", 4)}}), tried},
+        {"b.crw", head({{0, QByteArray("II\x1A\0\0\0HEAPCCDR", 14)}}), tried},
+        {"b", head({{0, QByteArray("\0MRM", 4)}}), tried},
+        {"b.xyz", head({{0, "MMOR"}}), tried},
+    };
+    for (const auto &file : files) {
+        folder.write(file.name, file.bytes);
+        EXPECT_EQ(saidBy([&] { PhotoLoader::describe(folder.path(file.name)); }).rfind(file.said, 0), 0u) << file.name;
+    }
+}
+
+TEST_F(PhotoLoaderTest, a_size_that_no_file_of_its_length_could_hold_is_damage)
+{
+    folder.photograph("a.png");
+    QByteArray png = folder.content("a.png");
+    png.replace(16, 8, "\x7F\xFF\xFF\xFF\x7F\xFF\xFF\xFF");
+    folder.write("a.png", png);
+    folder.write("a.hdr", "#?RADIANCE\nFORMAT=32-bit_rle_rgbe\n\n-Y 4000000 +X 20000\n");
+    for (const char *name : {"a.png", "a.hdr"})
+        EXPECT_EQ(saidBy([&] { PhotoLoader::describe(folder.path(name)); }).rfind("The file is cut short or damaged", 0), 0u)
+            << name;
+}
