@@ -13,6 +13,10 @@
 ///
 /// Two phases that don't overlap: filling (OpenCell), then reading (ToCsr, on one thread). Opening a cell locks that cell alone.
 /// The table of rows grows without a lock, so one thread must have opened every row once before a parallel phase begins.
+///
+/// The matting Laplacian comes with its sums already formed, row by row: behind the diagonal, each cell is opened once,
+/// and each row by one thread. The concurrent containers are what keeps OpenCell free of such an agreement: any caller may add to
+/// any cell from any thread, window by window for instance, where neighbouring windows meet in the same cells.
 class VSparseFactory
 {
     SparseArena arena; // before the rows, which live in it

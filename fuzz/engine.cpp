@@ -14,7 +14,7 @@
 #include "HazeState.h"
 #include "RemoveHaze.h"
 #include "VImage.h"
-#include "gflCodec.h"
+#include "gflRows.h"
 #include "ipp.h"
 
 // Conversion, resampling and the engine on images of any shape, stride, form and values: nothing outside of the pixels is

@@ -7,6 +7,7 @@
 #include <iterator>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // After <cstdio>, which jpeglib.h takes for granted.
@@ -16,7 +17,7 @@
 #include <png.h>
 #include <tiffio.h>
 
-#include "gflCodec.h"
+#include "gflBitmapParts.h"
 #include "gflMetadata.h"
 
 // Small files for the fuzzers to start from: every format in every form that is written here, with metadata, and forms that only
@@ -417,6 +418,28 @@ void writeHeads(const std::string &folder)
     writeFile(folder + "/raf", raf);
 }
 
+/// The target that a file belongs to, by its first bytes, or by its name where a camera's raw file is a TIFF; empty: it is for
+/// none of the codecs.
+std::string formatOf(const std::filesystem::path &file)
+{
+    using namespace std::string_view_literals;
+    constexpr struct
+    {
+        std::string_view start;
+        const char *format;
+    } kStarts[] = {{"\xFF\xD8"sv, "jpeg"}, {"\x89PNG"sv, "png"},  {"#?"sv, "hdr"},   {"\x76\x2F\x31\x01"sv, "exr"},
+                   {"8BPS"sv, "psd"},      {"II*"sv, "tiff"},     {"II+"sv, "tiff"}, {"MM"sv, "tiff"},
+                   {"II"sv, "raw"},        {"FUJIFILM"sv, "raw"}, {"\0MRM"sv, "raw"}};
+    if (file.filename().string().rfind("raw_", 0) == 0)
+        return "raw";
+    const Bytes bytes = readFile(file);
+    ByteReader reader(bytes);
+    for (const auto &row : kStarts)
+        if (reader.startsWith(row.start))
+            return row.format;
+    return {};
+}
+
 void writeTexts(const std::string &folder)
 {
     const std::string settings = folder + "/settings/", tables = folder + "/tables/";
@@ -451,17 +474,20 @@ void writeTexts(const std::string &folder)
 int main(int argumentCount, char **arguments)
 try {
     const std::string folder = argumentCount == 2 ? arguments[1] : throw std::runtime_error("usage: make_seeds FOLDER");
-    for (const char *target : {"loading", "describing", "settings", "tables", "engine"})
+    for (const char *target : {"jpeg", "png", "tiff", "hdr", "exr", "psd", "raw", "describing", "settings", "tables", "engine"})
         std::filesystem::create_directories(folder + "/" + target);
-    for (const std::string &pictures : {folder + "/loading", folder + "/describing"}) {
-        writeOwn(pictures);
-        writeTiffs(pictures);
-        writeJpegs(pictures);
-        writePngs(pictures);
-        writeExrs(pictures);
-        writeByHand(pictures);
-    }
-    writeHeads(folder + "/describing");
+    const std::string pictures = folder + "/describing";
+    writeOwn(pictures);
+    writeTiffs(pictures);
+    writeJpegs(pictures);
+    writePngs(pictures);
+    writeExrs(pictures);
+    writeByHand(pictures);
+    writeHeads(pictures);
+    for (const auto &entry : std::filesystem::directory_iterator(pictures))
+        if (const std::string format = formatOf(entry.path()); !format.empty())
+            std::filesystem::copy_file(entry.path(), folder + "/" + format + "/" + entry.path().filename().string(),
+                                       std::filesystem::copy_options::overwrite_existing);
     writeTexts(folder);
 } catch (const std::exception &failure) {
     std::fprintf(stderr, "make_seeds: %s\n", failure.what());

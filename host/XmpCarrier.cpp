@@ -8,8 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
-#include <QtEndian>
 
+#include "ByteReader.h"
 #include "photoMetadata.h"
 
 namespace {
@@ -23,25 +23,34 @@ struct XmpPieces
     qint64 place = 0;
 };
 
+ByteReader readerOf(const QByteArray &file)
+{
+    return ByteReader(file.constData(), std::size_t(file.size()));
+}
+
 std::optional<XmpPieces> piecesOfJpeg(const QByteArray &file)
 {
-    if (!file.startsWith("\xff\xd8\xff"))
+    ByteReader reader = readerOf(file);
+    if (!reader.startsWith("\xff\xd8\xff"))
         return std::nullopt;
+    reader.skip(2);
     XmpPieces pieces{QByteArray(), 2};
     bool leading = true;
-    for (int at = 2; at + 4 <= file.size() && uchar(file[at]) == 0xff;) {
-        const int marker = uchar(file[at + 1]);
-        const int size = 2 + qFromBigEndian<quint16>(file.constData() + at + 2);
-        if (marker == 0xda || size < 4 || size > file.size() - at)
-            break;
-        const QByteArray head = QByteArray::fromRawData(file.constData() + at + 4, size - 4);
-        if (marker == 0xe1 &&
-            (head.startsWith("http://ns.adobe.com/xap/1.0/") || head.startsWith("http://ns.adobe.com/xmp/extension/")))
-            pieces.bytes += file.mid(at, size);
-        leading = leading && (marker == 0xe0 || (marker == 0xe1 && head.startsWith("Exif")));
-        at += size;
-        if (leading)
-            pieces.place = at;
+    try {
+        for (qint64 start = 2; reader.u8() == 0xff; start = qint64(reader.position())) {
+            const int marker = reader.u8();
+            const int size = reader.u16(); // with its own two bytes
+            if (marker == 0xda || size < 2)
+                break;
+            ByteReader segment = reader.stretch(std::uint64_t(size) - 2);
+            if (marker == 0xe1 &&
+                (segment.startsWith("http://ns.adobe.com/xap/1.0/") || segment.startsWith("http://ns.adobe.com/xmp/extension/")))
+                pieces.bytes += file.mid(int(start), size + 2);
+            leading = leading && (marker == 0xe0 || (marker == 0xe1 && segment.startsWith("Exif")));
+            if (leading)
+                pieces.place = qint64(reader.position());
+        }
+    } catch (const EndOfBytes &) { // what came before counts
     }
     return pieces;
 }
@@ -49,16 +58,20 @@ std::optional<XmpPieces> piecesOfJpeg(const QByteArray &file)
 std::optional<XmpPieces> piecesOfPng(const QByteArray &file)
 {
     constexpr int kAfterHeader = 8 + 12 + 13;
-    if (!file.startsWith("\x89PNG\r\n\x1a\n") || file.size() < kAfterHeader)
+    ByteReader reader = readerOf(file);
+    if (!reader.startsWith("\x89PNG\r\n\x1a\n") || !reader.holds(0, kAfterHeader))
         return std::nullopt;
+    reader.skip(8);
     XmpPieces pieces{QByteArray(), kAfterHeader};
-    for (qint64 at = 8; at + 12 <= file.size();) {
-        const qint64 size = 12 + qint64(qFromBigEndian<quint32>(file.constData() + at));
-        if (size > file.size() - at)
-            break;
-        if (QByteArray::fromRawData(file.constData() + at + 4, int(size) - 4).startsWith("iTXtXML:com.adobe.xmp"))
-            pieces.bytes += file.mid(int(at), int(size));
-        at += size;
+    try {
+        for (;;) {
+            const auto start = int(reader.position());
+            const std::uint32_t size = reader.u32();
+            ByteReader chunk = reader.stretch(std::uint64_t(size) + 8); // type, content, check sum
+            if (chunk.startsWith("iTXtXML:com.adobe.xmp"))
+                pieces.bytes += file.mid(start, int(size) + 12);
+        }
+    } catch (const EndOfBytes &) {
     }
     return pieces;
 }

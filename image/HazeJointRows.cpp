@@ -1,6 +1,7 @@
 #include "HazeJointRows.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -58,20 +59,32 @@ IPP_INLINE std::uint32_t entryOf(float here, float there)
 /// The products of red's and green's weight, for the differences that are common in photographs: one look-up instead of two.
 constexpr int kPairBits = 6;
 constexpr std::uint32_t kPairEntries = 1u << kPairBits;
-constexpr auto kPairWeights = [] {
-    std::array<double, std::size_t(kPairEntries) * kPairEntries> products{};
-    for (std::size_t red = 0; red < kPairEntries; ++red) {
-        for (std::size_t green = 0; green < kPairEntries; ++green)
-            products[red * kPairEntries + green] = kHazeRangeWeights[red] * kHazeRangeWeights[green];
-    }
-    return products;
-}();
+const double *pairWeightTable()
+{
+    static const auto table = [] {
+        std::array<double, std::size_t(kPairEntries) * kPairEntries> products{};
+        const HazeRangeWeights &weights = hazeRangeWeights();
+        for (std::size_t red = 0; red < kPairEntries; ++red) {
+            for (std::size_t green = 0; green < kPairEntries; ++green)
+                products[red * kPairEntries + green] = weights[red] * weights[green];
+        }
+        return products;
+    }();
+    return table.data();
+}
 constexpr int kBlueShift = 18; ///< Behind the pair entry, which any red and green fit below.
 constexpr int kBlock = 64;     ///< Columns that take the pair table all together or not at all.
 static_assert((kRangeEntries << kPairBits) + kRangeEntries < 1 << kBlueShift && kTile % kBlock == 0);
 
+/// By value, so that the loops need not read the pointers again.
+struct Tables
+{
+    const double *range;
+    const double *pairs;
+};
+
 /// Range weights of a tile for the neighbours at one offset.
-IPP_INLINE void lookUp(const Neighbours &neighbours, double *ranges, Scratch &scratch)
+IPP_INLINE void lookUp(const Neighbours &neighbours, Tables tables, double *ranges, Scratch &scratch)
 {
     std::uint32_t reach[kTile / kBlock]; // kPairEntries where the pair table doesn't do
     for (int block = 0; block < kTile / kBlock; ++block) {
@@ -86,8 +99,8 @@ IPP_INLINE void lookUp(const Neighbours &neighbours, double *ranges, Scratch &sc
         }
         reach[block] = farthest;
     }
-    const double *const weights = kHazeRangeWeights.data();
-    const double *const pairWeights = kPairWeights.data();
+    const double *const weights = tables.range;
+    const double *const pairWeights = tables.pairs;
     // What bounds these loops are their loads. Gathering ones are slower still.
     for (int block = 0; block < kTile / kBlock; ++block) {
         const int first = block * kBlock;
@@ -108,10 +121,10 @@ IPP_INLINE void lookUp(const Neighbours &neighbours, double *ranges, Scratch &sc
 }
 
 /// Adds the neighbours in one coarse row to the sums of a tile, from left to right.
-IPP_INLINE void addNeighbours(const Neighbours *row, const double *spatial, Scratch &scratch)
+IPP_INLINE void addNeighbours(const Neighbours *row, Tables tables, const double *spatial, Scratch &scratch)
 {
     for (int i = 0; i < kSide; ++i)
-        lookUp(row[i], scratch.ranges[i], scratch);
+        lookUp(row[i], tables, scratch.ranges[i], scratch);
     for (int x = 0; x < kTile; ++x) {
         float sumWeights = scratch.sumWeights[x];
         float sumValues = scratch.sumValues[x];
@@ -127,7 +140,7 @@ IPP_INLINE void addNeighbours(const Neighbours *row, const double *spatial, Scra
 
 /// One row of a tile; `rows` are its kSide or fewer coarse rows, the first at row offset `firstOffset`.
 IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, const Neighbours *const *rows, int rowCount,
-                               int firstOffset, Scratch &scratch)
+                               int firstOffset, Tables tables, Scratch &scratch)
 {
     for (int x = 0; x < columns; ++x) {
         for (int c = 0; c < 3; ++c)
@@ -136,7 +149,7 @@ IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, cons
     std::fill_n(scratch.sumWeights, kTile, 0.0f);
     std::fill_n(scratch.sumValues, kTile, 0.0f);
     for (int i = 0; i < rowCount; ++i)
-        addNeighbours(rows[i], &kHazeSpatialWeights[static_cast<std::size_t>(firstOffset + i + 2)][2 - kRadius], scratch);
+        addNeighbours(rows[i], tables, &kHazeSpatialWeights[static_cast<std::size_t>(firstOffset + i + 2)][2 - kRadius], scratch);
     for (int x = 0; x < columns; ++x) {
         const float sumWeights = scratch.sumWeights[x];
         const float mean = scratch.sumValues[x] / sumWeights;
@@ -147,9 +160,9 @@ IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, cons
 } // namespace
 
 HazeJointRows::HazeJointRows(const VImage &fineImage, const VImage &coarseImage, const float *map)
-    : fine(fineImage), coarse(coarseImage), coarseMap(map),
-      rowScale(static_cast<float>(coarseImage.Height()) / static_cast<float>(fineImage.Height())), tileColumns(kTile),
-      centres(static_cast<std::size_t>(std::max(0, fineImage.Width())))
+    : fine(fineImage), coarse(coarseImage), coarseMap(map), rangeWeights(hazeRangeWeights().data()),
+      pairWeights(pairWeightTable()), rowScale(static_cast<float>(coarseImage.Height()) / static_cast<float>(fineImage.Height())),
+      tileColumns(kTile), centres(static_cast<std::size_t>(std::max(0, fineImage.Width())))
 {
     const float columnScale = static_cast<float>(coarse.Width()) / static_cast<float>(fine.Width());
     if (columnScale > 1.0f)
@@ -223,6 +236,6 @@ void HazeJointRows::writeTile(float *map, int firstRow, int lastRow, int firstCo
         }
         writeTileRow(rowOf(fine, y) + static_cast<std::ptrdiff_t>(firstColumn) * kChannels,
                      map + static_cast<std::size_t>(y) * static_cast<std::size_t>(fine.Width()) + firstColumn, columns, rows,
-                     std::max(0, last - first + 1), first - centre, scratch);
+                     std::max(0, last - first + 1), first - centre, {rangeWeights, pairWeights}, scratch);
     }
 }

@@ -56,6 +56,8 @@ private:
     const VImage &fine;
     const VImage &coarse;
     const float *coarseMap;
+    const double *rangeWeights;
+    const double *pairWeights; ///< The products of red's and green's weight.
     float rowScale;
     int tileColumns;          ///< Fewer than kTile where the coarse image is the wider one.
     std::vector<int> centres; ///< Coarse column of each fine column.

@@ -8,6 +8,7 @@
 #include <new>
 #include <string_view>
 
+#include "gflCodec.h"
 #include "gflMetadata.h"
 #include "photoKind.h"
 

@@ -1,7 +1,7 @@
+#include "gflBitmapParts.h"
+
 #include <cstdlib>
 #include <new>
-
-#include "gflCodec.h"
 
 namespace gfl {
 namespace {

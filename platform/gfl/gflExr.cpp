@@ -4,6 +4,7 @@
 #include <set>
 
 #include <OpenEXR/Iex.h>
+#include <OpenEXR/ImfAttribute.h>
 #include <OpenEXR/ImfChannelList.h>
 #include <OpenEXR/ImfFrameBuffer.h>
 #include <OpenEXR/ImfHeader.h>
@@ -13,8 +14,11 @@
 #include <OpenEXR/ImfRgbaFile.h>
 #include <OpenEXR/ImfStandardAttributes.h>
 #include <OpenEXR/ImfStringAttribute.h>
+#include <OpenEXR/ImfVersion.h>
 #include <libdeflate.h>
 
+#include "gflClaims.h"
+#include "gflCodec.h"
 #include "gflMetadata.h"
 
 namespace gfl {
@@ -67,168 +71,125 @@ private:
     bool broken = false;
 };
 
-std::uint32_t little32(const std::uint8_t *bytes)
+/// The value of one attribute, for the library to read: the file seems to end where the value does.
+class ValueAdapter : public Imf::IStream
 {
-    return bytes[0] | std::uint32_t(bytes[1]) << 8 | std::uint32_t(bytes[2]) << 16 | std::uint32_t(bytes[3]) << 24;
-}
+public:
+    explicit ValueAdapter(ByteReader stretch) : IStream(""), value(std::move(stretch)) {}
 
-/// The size of an attribute's value as the library reads it, whatever the file says; -1 where it goes by the file.
-std::int64_t fixedSize(const std::string &type)
-{
-    struct Type
+    bool read(char target[], int bytes) override
     {
-        const char *name;
-        int bytes;
-    };
-    static constexpr Type kTypes[] = {{"box2f", 16},
-                                      {"box2i", 16},
-                                      {"chromaticities", 32},
-                                      {"compression", 1},
-                                      {"deepImageState", 1},
-                                      {"double", 8},
-                                      {"envmap", 1},
-                                      {"float", 4},
-                                      {"int", 4},
-                                      {"keycode", 28},
-                                      {"lineOrder", 1},
-                                      {"m33d", 72},
-                                      {"m33f", 36},
-                                      {"m44d", 128},
-                                      {"m44f", 64},
-                                      {"rational", 8},
-                                      {"tiledesc", 9},
-                                      {"timecode", 8},
-                                      {"v2d", 16},
-                                      {"v2f", 8},
-                                      {"v2i", 8},
-                                      {"v3d", 24},
-                                      {"v3f", 12},
-                                      {"v3i", 12}};
-    for (const Type &known : kTypes)
-        if (type == known.name)
-            return known.bytes;
-    return -1;
+        value.read(target, static_cast<std::size_t>(bytes));
+        return value.remaining() > 0;
+    }
+    std::uint64_t tellg() override { return value.position(); }
+    void seekg(std::uint64_t offset) override { value.seek(offset); }
+
+private:
+    ByteReader value;
+};
+
+// What follows, up to checkChunks(), holds a file to what OpenEXR 3.1.5 takes for granted; a later version may need less.
+//
+// readAttributes(): for a text, a list of floats or a value of unknown type it allocates what the attribute claims, before it
+// reads. Any other value it reads by its type, whatever size the attribute claims, and goes on from there, a list of channels
+// even beyond the attribute's end: what it takes for the next attribute is then not what anybody has checked. checkClaims(): it
+// makes buffers for as many lines, or a tile as large, as the header claims, and its own test of a large table of chunks
+// overflows. A request without pixels reads no chunk, so that only here a file shows that it was cut short. checkChunks(): where
+// a chunk makes fewer bytes than its pixels take, it hands out memory that nobody has written.
+
+/// Reads the header, value by value, each held against the file's size before and against its own size behind. Throws EndOfBytes
+/// or FILE_READ if the file is too short for its attributes. Returns what the library is going to find; `version` receives the
+/// version and its flags, `table` where the table of chunks begins. Where the file states none, the window is empty and the
+/// packing is the one that may claim most.
+Imf::Header readAttributes(const InputFile &file, int &version, std::uint64_t &table)
+{
+    constexpr std::size_t kLongestName = 255;
+    ByteReader reader(file, ByteOrder::Little);
+    reader.skip(4); // the signature
+    version = static_cast<int>(reader.u32());
+    if (Imf::isMultiPart(version) || Imf::isNonImage(version))
+        throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
+    Imf::Header header;
+    header.dataWindow().makeEmpty();
+    header.compression() = Imf::DWAB_COMPRESSION;
+    for (std::string name = reader.text(kLongestName); !name.empty(); name = reader.text(kLongestName)) {
+        const std::string type = reader.text(kLongestName);
+        const std::uint32_t size = reader.u32();
+        ValueAdapter value(reader.stretch(size));
+        const bool present = header.find(name) != header.end();
+        if (!present && !Imf::Attribute::knownType(type.c_str()))
+            continue; // the library keeps it as it is
+        if (!present)
+            header.insert(name, *std::unique_ptr<Imf::Attribute>(Imf::Attribute::newAttribute(type.c_str())));
+        Imf::Attribute &attribute = header[name];
+        if (attribute.typeName() != type || size > std::uint32_t(std::numeric_limits<int>::max()))
+            throw Failure{GFL_ERROR_FILE_READ};
+        attribute.readValueFrom(value, static_cast<int>(size), version);
+        if (value.tellg() != size)
+            throw Failure{GFL_ERROR_FILE_READ};
+    }
+    table = reader.position();
+    return header;
 }
 
-/// Walks over the header's attributes before the library sees them: it allocates what they claim. Throws FILE_READ if the file is
-/// too short for its attributes, its table of chunks or one chunk's pixels. Returns where that table begins.
+/// What a packing makes of a byte at the most.
+double mostPerByte(Imf::Compression packing)
+{
+    switch (packing) {
+    case Imf::NO_COMPRESSION:
+        return 1;
+    case Imf::RLE_COMPRESSION:
+        return 64; // a run of 128 takes two bytes
+    case Imf::ZIPS_COMPRESSION:
+    case Imf::ZIP_COMPRESSION:
+        return double(kDeflateRatio);
+    case Imf::PXR24_COMPRESSION:
+        return double(kDeflateRatio) * 4 / 3; // deflates three bytes of four
+    case Imf::DWAA_COMPRESSION:
+    case Imf::DWAB_COMPRESSION:
+        return double(kDeflateRatio) * 64; // deflates one number for a flat block of 64
+    default:
+        return double(kMostPacked);
+    }
+}
+
+/// Throws FILE_READ if the file is too short for its attributes, its table of chunks, one chunk's pixels or all pixels. Returns
+/// where the table of chunks begins.
 std::uint64_t checkClaims(const InputFile &file)
 {
-    InputStream stream(file, 4);
-    std::uint8_t bytes[16];
-    stream.read(bytes, 4);
-    constexpr std::uint32_t kTiled = 0x200, kSeveralOrDeep = 0x800 | 0x1000;
-    const std::uint32_t version = little32(bytes);
-    if (version & kSeveralOrDeep)
-        throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
-
-    const auto text = [&] {
-        constexpr std::size_t kLongest = 255;
-        std::string result;
-        for (int c = stream.next(); c != 0; c = stream.next()) {
-            if (c < 0 || result.size() > kLongest)
-                throw Failure{GFL_ERROR_FILE_READ};
-            result += static_cast<char>(c);
-        }
-        return result;
-    };
-    std::int64_t width = 0;
-    std::int64_t height = 0;
-    std::uint64_t tileWidth = 0;
-    std::uint64_t tileHeight = 0;
-    std::uint64_t mostChannels = 1;
-    double pixelBytes = 0;
-    int packing = Imf::DWAB_COMPRESSION;
-    for (std::string name = text(); !name.empty(); name = text()) {
-        const std::string type = text();
-        stream.read(bytes, 4);
-        const std::uint64_t next = stream.offset() + little32(bytes);
-        if (next > file.size())
-            throw Failure{GFL_ERROR_FILE_READ};
-        const std::uint64_t size = little32(bytes);
-        // From here on the library must find what is found here.
-        if (fixedSize(type) >= 0 && fixedSize(type) != std::int64_t(size))
-            throw Failure{GFL_ERROR_FILE_READ};
-        if (type == "preview") {
-            stream.read(bytes, 8);
-            if (8 + std::uint64_t(little32(bytes)) * little32(bytes + 4) * 4 != size)
-                throw Failure{GFL_ERROR_FILE_READ};
-        } else if (type == "floatvector" && size % 4 != 0) {
-            throw Failure{GFL_ERROR_FILE_READ};
-        } else if (type == "stringvector") {
-            while (stream.offset() < next) {
-                stream.read(bytes, 4);
-                stream.seek(stream.offset() + little32(bytes));
-            }
-            if (stream.offset() != next)
-                throw Failure{GFL_ERROR_FILE_READ};
-        } else if (name == "dataWindow" && size == 16) {
-            stream.read(bytes, 16);
-            width = std::int64_t(std::int32_t(little32(bytes + 8))) - std::int32_t(little32(bytes)) + 1;
-            height = std::int64_t(std::int32_t(little32(bytes + 12))) - std::int32_t(little32(bytes + 4)) + 1;
-        } else if (name == "tiles" && size == 9) {
-            stream.read(bytes, 9);
-            tileWidth = little32(bytes);
-            tileHeight = little32(bytes + 4);
-        } else if (name == "compression" && size == 1) {
-            packing = stream.next();
-        } else if (type == "chlist") {
-            constexpr std::uint64_t kPerChannel = 18; // at least, for a name of one letter
-            mostChannels = size / kPerChannel + 1;
-            bool ended = false; // by an empty name, which the library reads even behind the attribute's end
-            while (stream.offset() < next && !(ended = text().empty())) {
-                stream.read(bytes, 16); // type, flags, x and y sampling
-                const double samples = std::max(1.0, double(little32(bytes + 8))) * std::max(1.0, double(little32(bytes + 12)));
-                pixelBytes += (little32(bytes) == Imf::HALF ? 2 : 4) / samples;
-            }
-            if (!ended || stream.offset() != next)
-                throw Failure{GFL_ERROR_FILE_READ};
-        }
-        stream.seek(next);
-    }
+    int version = 0;
+    std::uint64_t table = 0;
+    const Imf::Header header = readAttributes(file, version, table);
+    const Imath::Box2i &window = header.dataWindow();
+    const std::int64_t width = std::int64_t(window.max.x) - window.min.x + 1;
+    const std::int64_t height = std::int64_t(window.max.y) - window.min.y + 1;
     constexpr std::int64_t kLargest = std::numeric_limits<std::int32_t>::max();
     if (width <= 0 || height <= 0 || width > kLargest || height > kLargest)
         throw Failure{GFL_ERROR_FILE_READ};
+
+    const Imf::TileDescription tile = header.hasTileDescription() ? header.tileDescription() : Imf::TileDescription(0, 0);
+    const bool tiled = tile.xSize > 0 && tile.ySize > 0;
+    if (Imf::isTiled(version) != tiled)
+        throw Failure{GFL_ERROR_FILE_READ};
     // What can be in one piece: 256 lines at most, or a tile. A chunk takes 8 bytes in the table and 8 before its pixels.
-    constexpr std::uint64_t kSmall = std::uint64_t(64) << 20;
-    constexpr std::uint64_t kMostPacked = 4096;
     constexpr std::uint64_t kLinesPerChunk = 256;
     constexpr std::uint64_t kBytesPerChunk = 16;
     const std::uint64_t w = static_cast<std::uint64_t>(width);
     const std::uint64_t h = static_cast<std::uint64_t>(height);
-    const bool tiled = tileWidth > 0 && tileHeight > 0;
-    const std::uint64_t chunks = tiled ? ((w + tileWidth - 1) / tileWidth) * ((h + tileHeight - 1) / tileHeight)
+    const std::uint64_t chunks = tiled ? ((w + tile.xSize - 1) / tile.xSize) * ((h + tile.ySize - 1) / tile.ySize)
                                        : (h + kLinesPerChunk - 1) / kLinesPerChunk;
-    const std::uint64_t pieceHeight = tiled ? std::min<std::uint64_t>(tileHeight, kLargest) : 1;
-    const std::uint64_t pieceWidth = tiled ? std::max(w, std::min<std::uint64_t>(tileWidth, kLargest)) : w;
-    const std::uint64_t room = kSmall + kMostPacked * file.size();
-    if (chunks > file.size() / kBytesPerChunk || pieceWidth > room / (pieceHeight * 4 * mostChannels))
+    std::uint64_t channels = 1; // one more than there are
+    double pixelBytes = 0;
+    for (auto at = header.channels().begin(); at != header.channels().end(); ++at, ++channels)
+        pixelBytes += (at.channel().type == Imf::HALF ? 2 : 4) /
+                      (std::max(1.0, double(at.channel().xSampling)) * std::max(1.0, double(at.channel().ySampling)));
+    const std::uint64_t pieceHeight = tiled ? std::min<std::uint64_t>(tile.ySize, kLargest) : 1;
+    const std::uint64_t pieceWidth = tiled ? std::max(w, std::min<std::uint64_t>(tile.xSize, kLargest)) : w;
+    if (chunks > file.size() / kBytesPerChunk || pieceWidth > largestLibraryBlock(file.size()) / (pieceHeight * 4 * channels) ||
+        double(width) * double(height) * pixelBytes > mostPerByte(header.compression()) * double(file.size()))
         throw Failure{GFL_ERROR_FILE_READ};
-    // The library does not notice what a chunk lacks. At best, each packing makes so much of a byte.
-    const auto mostPerByte = [&]() -> double {
-        constexpr double kDeflate = 1032;
-        switch (packing) {
-        case Imf::NO_COMPRESSION:
-            return 1;
-        case Imf::RLE_COMPRESSION:
-            return 64;
-        case Imf::ZIPS_COMPRESSION:
-        case Imf::ZIP_COMPRESSION:
-            return kDeflate;
-        case Imf::PXR24_COMPRESSION:
-            return kDeflate * 4 / 3;
-        case Imf::DWAA_COMPRESSION:
-        case Imf::DWAB_COMPRESSION:
-            return kDeflate * 64; // deflates one number for a flat block of 64
-        default:
-            return double(kMostPacked);
-        }
-    };
-    if (double(width) * double(height) * pixelBytes > mostPerByte() * double(file.size()))
-        throw Failure{GFL_ERROR_FILE_READ};
-    if (((version & kTiled) != 0) != tiled)
-        throw Failure{GFL_ERROR_FILE_READ};
-    return stream.offset();
+    return table;
 }
 
 int linesPerChunk(Imf::Compression packing)
@@ -255,23 +216,21 @@ std::int64_t multiples(std::int64_t step, std::int64_t first, std::int64_t last)
     return below(last) - below(first - 1);
 }
 
-/// Bytes that run lengths make, or 0 if they go beyond the packed ones.
+/// Bytes that run lengths make. Throws EndOfBytes if they go beyond the packed ones.
 std::uint64_t unpackedRuns(const Bytes &packed)
 {
     std::uint64_t total = 0;
-    for (std::size_t i = 0; i < packed.size();) {
-        const int run = packed[i] < 128 ? packed[i] : packed[i] - 256;
-        total += static_cast<std::uint64_t>(run < 0 ? -run : run + 1);
-        i += static_cast<std::size_t>(run < 0 ? 1 - run : 2);
-        if (i > packed.size())
-            return 0;
+    for (ByteReader reader(packed); reader.remaining() > 0;) {
+        const unsigned byte = reader.u8();
+        const unsigned single = byte < 128 ? 0 : 256 - byte; // bytes that are not repeated
+        total += byte < 128 ? byte + 1 : single;
+        reader.skip(byte < 128 ? 1 : single);
     }
     return total;
 }
 
-/// Throws FILE_READ if a chunk of the full size's pixels is not all in the file, or makes fewer bytes than its pixels take: the
-/// library fills up with memory that nobody has written. `table` is where the offsets of the chunks stand. Of the packings that
-/// are left out the library sees it itself.
+/// Throws FILE_READ or EndOfBytes if a chunk of the full size's pixels is not all in the file, or makes fewer bytes than its
+/// pixels take. `table` is where the offsets of the chunks stand. Of the packings that are left out the library sees it itself.
 void checkChunks(const InputFile &file, const Imf::Header &header, std::uint64_t table)
 {
     const Imath::Box2i &window = header.dataWindow();
@@ -283,22 +242,25 @@ void checkChunks(const InputFile &file, const Imf::Header &header, std::uint64_t
                                                                                                  libdeflate_free_decompressor);
     if (!inflater)
         throw std::bad_alloc();
+    ByteReader reader(file, ByteOrder::Little);
+    ByteReader offsets(file, ByteOrder::Little);
+    offsets.seek(table);
     Bytes unpacked;
     for (std::int64_t y = window.min.y; y <= window.max.y; y += stepY)
-        for (std::int64_t x = window.min.x; x <= window.max.x; x += stepX, table += 8) {
+        for (std::int64_t x = window.min.x; x <= window.max.x; x += stepX) {
             std::uint64_t whole = 0;
             for (auto channel = header.channels().begin(); channel != header.channels().end(); ++channel)
                 whole += (channel.channel().type == Imf::HALF ? 2u : 4u) *
                          static_cast<std::uint64_t>(
                              multiples(channel.channel().xSampling, x, std::min<std::int64_t>(x + stepX - 1, window.max.x)) *
                              multiples(channel.channel().ySampling, y, std::min<std::int64_t>(y + stepY - 1, window.max.y)));
-            const Bytes offset = file.bytesAt(table, 8);
-            const std::uint64_t start = little32(&offset[0]) | std::uint64_t(little32(&offset[4])) << 32;
-            const std::uint64_t place = tiled ? 16 : 4; // the tile and level, or the first line, stand before the size
-            if (start == 0 || start > file.size())
+            const std::uint64_t start = offsets.u64();
+            if (start == 0)
                 throw Failure{GFL_ERROR_FILE_READ};
-            const std::uint64_t size = little32(file.bytesAt(start + place, 4).data());
-            if (size > whole || size > file.size() - start)
+            reader.seek(start);
+            reader.skip(tiled ? 16 : 4); // the tile and level, or the first line
+            const std::uint64_t size = reader.u32();
+            if (size > whole)
                 throw Failure{GFL_ERROR_FILE_READ};
             if (size == whole)
                 continue; // as it is
@@ -306,9 +268,9 @@ void checkChunks(const InputFile &file, const Imf::Header &header, std::uint64_t
             if (packing == Imf::NO_COMPRESSION || size == 0) {
                 made = 0;
             } else if (packing == Imf::RLE_COMPRESSION) {
-                made = static_cast<std::size_t>(unpackedRuns(file.bytesAt(start + place + 4, size)));
+                made = static_cast<std::size_t>(unpackedRuns(reader.bytes(size)));
             } else if (packing == Imf::ZIP_COMPRESSION || packing == Imf::ZIPS_COMPRESSION) {
-                const Bytes packed = file.bytesAt(start + place + 4, size);
+                const Bytes packed = reader.bytes(size);
                 unpacked.resize(static_cast<std::size_t>(whole));
                 if (libdeflate_zlib_decompress(inflater.get(), packed.data(), packed.size(), unpacked.data(), unpacked.size(),
                                                &made) != LIBDEFLATE_SUCCESS)

@@ -1,3 +1,5 @@
+#include "gflFile.h"
+
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
@@ -9,8 +11,6 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include "gflCodec.h"
 
 namespace gfl {
 namespace {
@@ -82,16 +82,6 @@ std::size_t InputFile::readAt(std::uint64_t offset, void *target, std::size_t by
         done += static_cast<std::size_t>(got);
     }
     return done;
-}
-
-Bytes InputFile::bytesAt(std::uint64_t offset, std::uint64_t bytes) const
-{
-    if (offset > fileSize || bytes > fileSize - offset)
-        throw Failure{GFL_ERROR_FILE_READ};
-    Bytes result(static_cast<std::size_t>(bytes));
-    if (readAt(offset, result.data(), result.size()) != result.size())
-        throw Failure{GFL_ERROR_FILE_READ};
-    return result;
 }
 
 InputStream::InputStream(const InputFile &source, std::uint64_t start) : file(source), buffer(kBufferBytes), bufferStart(start) {}
@@ -283,6 +273,18 @@ void OutputFile::commit()
     if (closed != 0 || ::rename(temporary.c_str(), target.c_str()) != 0)
         throw Failure{GFL_ERROR_FILE_WRITE};
     temporary.clear();
+}
+
+void putBig16(Bytes &bytes, unsigned value)
+{
+    bytes.push_back(static_cast<std::uint8_t>(value >> 8));
+    bytes.push_back(static_cast<std::uint8_t>(value));
+}
+
+void putBig32(Bytes &bytes, std::uint32_t value)
+{
+    putBig16(bytes, value >> 16);
+    putBig16(bytes, value & 0xFFFF);
 }
 
 } // namespace gfl

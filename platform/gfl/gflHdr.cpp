@@ -108,10 +108,11 @@ void readRow(InputStream &stream, std::uint8_t *pixels, int width)
 {
     std::uint8_t first[4];
     stream.read(first, sizeof first);
+    const int length = first[2] << 8 | first[3];
     const bool runs = width >= kShortestRle && width <= kLongestRle && first[0] == 2 && first[1] == 2 && first[2] < 128;
     if (!runs)
         readOldRuns(stream, pixels, width, first);
-    else if (big16(first + 2) == width)
+    else if (length == width)
         readRuns(stream, pixels, width);
     else
         throw Failure{GFL_ERROR_FILE_READ};

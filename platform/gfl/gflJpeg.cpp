@@ -7,6 +7,8 @@
 
 #include <jerror.h>
 
+#include "gflClaims.h"
+#include "gflCodec.h"
 #include "gflMetadata.h"
 
 namespace gfl {
@@ -163,12 +165,11 @@ void inksToRgb(const std::uint8_t *inks, std::uint8_t *rgb, int width, bool inve
     }
 }
 
-// Before the library holds all coefficients of a file: each block takes a bit at least, or a fraction of one when the file is
-// arithmetically coded.
+// Before the library holds all coefficients of a file.
 void checkClaim(const jpeg_decompress_struct &info, std::uint64_t fileBytes)
 {
     const std::uint64_t blocks = std::uint64_t(info.image_width) * info.image_height / 64;
-    if (blocks > fileBytes * 8 * (info.arith_code ? 64 : 1) + 1024)
+    if (blocks > mostJpegBlocks(fileBytes, info.arith_code))
         throw Failure{GFL_ERROR_FILE_READ};
 }
 

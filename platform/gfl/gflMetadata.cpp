@@ -7,6 +7,7 @@
 
 #include <exiv2/exiv2.hpp>
 
+#include "gflCodec.h"
 #include "photoMetadata.h"
 
 namespace gfl {
@@ -26,14 +27,6 @@ void startExiv2()
         const Exiv2::LogMsg::Level before = Exiv2::LogMsg::level();
     };
     static const Muted muted;
-}
-
-std::uint32_t number(const std::uint8_t *bytes, int count, bool bigEndian)
-{
-    std::uint32_t value = 0;
-    for (int i = 0; i < count; ++i)
-        value = value << 8 | bytes[bigEndian ? i : count - 1 - i];
-    return value;
 }
 
 unsigned typeBytes(unsigned type)
@@ -115,32 +108,31 @@ Exiv2::URational fraction(double value)
 
 bool profileFits(const Bytes &icc, int components)
 {
-    constexpr std::size_t kHeader = 128;
-    constexpr std::size_t kColourSpace = 16;
-    if (icc.size() < kHeader)
+    constexpr std::uint64_t kHeader = 128;
+    constexpr std::uint64_t kColourSpace = 16;
+    ByteReader profile(icc);
+    if (!profile.holds(0, kHeader))
         return false;
-    const auto is = [&](const char *space) { return std::memcmp(icc.data() + kColourSpace, space, 4) == 0; };
-    return is("RGB ") || (components == 1 && is("GRAY"));
+    profile.seek(kColourSpace);
+    return profile.startsWith("RGB ") || (components == 1 && profile.startsWith("GRAY"));
 }
 
 Bytes photoshopResource(const Bytes &section, unsigned id)
 {
-    // "8BIM", id, Pascal string padded to even, length, data padded to even.
-    for (std::size_t at = 0; at + 12 <= section.size();) {
-        if (std::memcmp(section.data() + at, "8BIM", 4) != 0)
-            break;
-        const unsigned found = big16(section.data() + at + 4);
-        const std::size_t lengthAt = at + 6 + (std::size_t(section[at + 6]) + 2) / 2 * 2;
-        if (lengthAt + 4 > section.size())
-            break;
-        const std::size_t length = big32(section.data() + lengthAt);
-        const std::size_t start = lengthAt + 4;
-        if (length > section.size() - start)
-            break;
-        if (found == id)
-            return Bytes(section.begin() + static_cast<std::ptrdiff_t>(start),
-                         section.begin() + static_cast<std::ptrdiff_t>(start + length));
-        at = start + (length + 1) / 2 * 2;
+    ByteReader reader(section);
+    try {
+        // "8BIM", id, Pascal string padded to even, length, data padded to even.
+        while (reader.startsWith("8BIM")) {
+            reader.skip(4);
+            const unsigned found = reader.u16();
+            const unsigned nameBytes = reader.u8();
+            reader.skip(nameBytes | 1u);
+            const std::uint64_t length = reader.u32();
+            if (found == id)
+                return reader.bytes(length);
+            reader.skip((length + 1) / 2 * 2);
+        }
+    } catch (const EndOfBytes &) {
     }
     return {};
 }
@@ -156,43 +148,38 @@ void appendPhotoshopResource(Bytes &section, unsigned id, const Bytes &data)
         section.push_back(0);
 }
 
-std::vector<IfdEntry> firstDirectory(const TiffReader &read, std::uint64_t streamBytes, bool &bigEndian)
+std::vector<IfdEntry> firstDirectory(ByteReader &stream)
 {
+    constexpr unsigned kClassic = 42;
     std::vector<IfdEntry> entries;
-    std::uint8_t head[8];
-    if (read(0, head, sizeof head) != sizeof head || (std::memcmp(head, "II", 2) != 0 && std::memcmp(head, "MM", 2) != 0))
-        return entries;
-    bigEndian = head[0] == 'M';
-    const std::uint64_t start = number(head + 4, 4, bigEndian);
-    std::uint8_t countBytes[2];
-    if (number(head + 2, 2, bigEndian) != 42 || read(start, countBytes, 2) != 2)
-        return entries;
-    const unsigned count = number(countBytes, 2, bigEndian);
-    for (unsigned i = 0; i < count; ++i) {
-        IfdEntry entry;
-        const std::uint64_t at = start + 2 + std::uint64_t(12) * i;
-        if (read(at, entry.raw, 12) != 12)
-            break;
-        entry.tag = static_cast<std::uint16_t>(number(entry.raw, 2, bigEndian));
-        entry.type = static_cast<std::uint16_t>(number(entry.raw + 2, 2, bigEndian));
-        entry.count = number(entry.raw + 4, 4, bigEndian);
-        entry.valueBytes = std::uint64_t(entry.count) * typeBytes(entry.type);
-        entry.valueOffset = entry.valueBytes <= 4 ? at + 8 : number(entry.raw + 8, 4, bigEndian);
-        if (entry.valueBytes > 0 && entry.valueOffset <= streamBytes && entry.valueBytes <= streamBytes - entry.valueOffset)
-            entries.push_back(entry);
+    try {
+        stream.seek(0);
+        const bool little = stream.startsWith("II");
+        if (!little && !stream.startsWith("MM"))
+            return entries;
+        stream.setOrder(little ? ByteOrder::Little : ByteOrder::Big);
+        stream.skip(2);
+        const unsigned kind = stream.u16();
+        stream.seek(stream.u32());
+        const unsigned count = stream.u16();
+        for (unsigned i = 0; kind == kClassic && i < count; ++i) {
+            IfdEntry entry;
+            const std::uint64_t at = stream.position();
+            stream.read(entry.raw, sizeof entry.raw);
+            stream.seek(at);
+            entry.tag = stream.u16();
+            entry.type = stream.u16();
+            entry.count = stream.u32();
+            entry.valueBytes = std::uint64_t(entry.count) * typeBytes(entry.type);
+            const std::uint64_t value = stream.position();
+            const std::uint64_t distant = stream.u32();
+            entry.valueOffset = entry.valueBytes <= 4 ? value : distant;
+            if (entry.valueBytes > 0 && stream.holds(entry.valueOffset, entry.valueBytes))
+                entries.push_back(entry);
+        }
+    } catch (const EndOfBytes &) {
     }
     return entries;
-}
-
-std::vector<IfdEntry> firstDirectory(const Bytes &stream, bool &bigEndian)
-{
-    const TiffReader read = [&](std::uint64_t offset, void *target, std::size_t bytes) -> std::size_t {
-        if (offset > stream.size() || bytes > stream.size() - offset)
-            return 0;
-        std::memcpy(target, stream.data() + offset, bytes);
-        return bytes;
-    };
-    return firstDirectory(read, stream.size(), bigEndian);
 }
 
 bool isStructuralTag(unsigned tag)
@@ -229,8 +216,10 @@ bool isStructuralTag(unsigned tag)
 
 bool isExifBlock(const std::uint8_t *bytes, std::size_t count)
 {
-    constexpr std::size_t kSmallest = 8 + 2; // header and a count
-    return count >= kSmallest && (std::memcmp(bytes, "II*\0", 4) == 0 || std::memcmp(bytes, "MM\0*", 4) == 0);
+    using namespace std::string_view_literals;
+    constexpr std::uint64_t kSmallest = 8 + 2; // header and a count
+    ByteReader block(bytes, count);
+    return block.holds(0, kSmallest) && (block.startsWith("II*\0"sv) || block.startsWith("MM\0*"sv));
 }
 
 FileMetadata metadataFromFile(const std::string &fileName, bool raw)

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "gflCodec.h"
-
-#include <functional>
+#include "ByteReader.h"
+#include "gflBitmapParts.h"
 
 /// Blocks of metadata, taken apart and put together. Everything here takes damaged blocks: what can't be understood is left out.
 namespace gfl {
@@ -30,13 +29,9 @@ struct IfdEntry
     std::uint64_t valueBytes;
 };
 
-/// Reads up to `bytes` at an offset of a TIFF stream and returns how many there were.
-using TiffReader = std::function<std::size_t(std::uint64_t offset, void *target, std::size_t bytes)>;
-
-/// The entries of a TIFF stream's first directory whose values lie inside of it; empty if it is no classic TIFF. `bigEndian` is
-/// set from its header.
-std::vector<IfdEntry> firstDirectory(const TiffReader &read, std::uint64_t streamBytes, bool &bigEndian);
-std::vector<IfdEntry> firstDirectory(const Bytes &stream, bool &bigEndian);
+/// The entries of a TIFF stream's first directory whose values lie inside of it, up to the stream's end where that cuts the
+/// directory short; empty if it is no classic TIFF. The reader's byte order is set from the stream's header.
+std::vector<IfdEntry> firstDirectory(ByteReader &stream);
 
 /// True for tags that describe how the pixels of one file are stored, or that the layer carries by other means (XMP, IPTC, colour
 /// profile, image resources): none of them may go from one file to another.

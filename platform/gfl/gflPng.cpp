@@ -8,6 +8,8 @@
 #include <png.h>
 #include <zlib.h>
 
+#include "gflClaims.h"
+#include "gflCodec.h"
 #include "gflMetadata.h"
 
 namespace gfl {
@@ -15,9 +17,6 @@ namespace {
 
 constexpr std::uint8_t kSignature[8] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
 constexpr double kMetresPerInch = 0.0254;
-constexpr std::uint64_t kDeflateRatio = 1032; // the most that deflate packs: 258 bytes in 2 bits
-// Text and profiles in a photograph are smaller; more than that is an attack on the memory.
-constexpr std::size_t kLargestText = std::size_t(64) << 20;
 
 // ---- reading
 
@@ -108,17 +107,18 @@ void readPixels(Reader &reader, NewBitmap &bitmap)
     }
 }
 
-Bytes inflated(const std::uint8_t *data, std::size_t count)
+Bytes inflated(const Bytes &packed)
 {
     const std::unique_ptr<libdeflate_decompressor, void (*)(libdeflate_decompressor *)> inflater(libdeflate_alloc_decompressor(),
                                                                                                  libdeflate_free_decompressor);
     if (!inflater)
         throw Failure{GFL_ERROR_NO_MEMORY};
     Bytes result;
-    for (std::size_t room = count * 4 + 1024; room <= kLargestText; room *= 4) {
+    for (std::size_t room = packed.size() * 4 + 1024; room <= kLargestText; room *= 4) {
         result.resize(room);
         std::size_t size = 0;
-        const libdeflate_result state = libdeflate_zlib_decompress(inflater.get(), data, count, result.data(), room, &size);
+        const libdeflate_result state =
+            libdeflate_zlib_decompress(inflater.get(), packed.data(), packed.size(), result.data(), room, &size);
         if (state == LIBDEFLATE_SUCCESS) {
             result.resize(size);
             return result;
@@ -158,59 +158,68 @@ Bytes rawProfile(const Bytes &text)
     return result;
 }
 
-void takeText(const Bytes &chunk, bool packed, Metadata &metadata)
+void takeText(ByteReader &chunk, bool packed, Metadata &metadata)
 {
-    const auto end = std::find(chunk.begin(), chunk.end(), std::uint8_t(0));
-    const std::string name(chunk.begin(), end);
-    if (name.compare(0, 17, "Raw profile type ") != 0)
+    constexpr std::string_view kProfile = "Raw profile type ";
+    if (!chunk.startsWith(kProfile))
         return;
-    const std::size_t start = name.size() + (packed ? 2 : 1);
-    if (start >= chunk.size())
-        return;
-    const Bytes text = packed ? inflated(chunk.data() + start, chunk.size() - start)
-                              : Bytes(chunk.begin() + static_cast<std::ptrdiff_t>(start), chunk.end());
-    const std::string kind = name.substr(17);
+    chunk.skip(kProfile.size());
+    const std::string kind = chunk.text(kLargestText);
+    chunk.skip(packed ? 1 : 0); // the method
+    Bytes text = chunk.bytes(chunk.remaining());
+    if (packed)
+        text = inflated(text);
     if (kind == "iptc" && metadata.iptc.block.empty()) {
         const Bytes block = rawProfile(text); // image resources, or the bare datasets
         metadata.iptc.block = !block.empty() && block[0] == 0x1C ? block : photoshopResource(block, kResourceIptc);
     } else if ((kind == "exif" || kind == "APP1") && metadata.exif.block.empty()) {
         Bytes block = rawProfile(text);
         constexpr std::size_t kMark = 6; // "Exif\0\0"
-        if (block.size() > kMark && !std::memcmp(block.data(), "Exif", 4))
+        if (block.size() > kMark && ByteReader(block).startsWith("Exif"))
             block.erase(block.begin(), block.begin() + kMark);
         if (isExifBlock(block.data(), block.size()))
             metadata.exif.block = block;
     }
 }
 
-/// Goes from chunk to chunk over the file, so that the pixels are passed by and not unpacked. Returns whether the last one is
-/// there.
-bool collect(const InputFile &file, Metadata &metadata)
+void takeChunk(ByteReader &chunk, const std::string &type, Metadata &metadata)
 {
-    std::uint64_t at = sizeof kSignature;
-    std::uint8_t head[8];
-    while (file.readAt(at, head, sizeof head) == sizeof head) {
-        const std::uint32_t length = big32(head);
-        const std::string type(head + 4, head + 8);
-        const bool wanted = type == "iCCP" || type == "eXIf" || type == "zTXt" || type == "tEXt";
-        if (type == "IEND")
-            return true;
-        if (length > file.size() - at)
-            break;
-        if (wanted && length <= kLargestText) {
-            const Bytes chunk = file.bytesAt(at + 8, length);
-            const auto nameEnd = std::find(chunk.begin(), chunk.end(), std::uint8_t(0));
-            const std::size_t start = static_cast<std::size_t>(nameEnd - chunk.begin()) + 2;
-            if (type == "iCCP" && start < chunk.size())
-                metadata.icc = inflated(chunk.data() + start, chunk.size() - start);
-            else if (type == "eXIf" && isExifBlock(chunk.data(), chunk.size()))
-                metadata.exif.block = chunk;
-            else if (type == "zTXt" || type == "tEXt")
-                takeText(chunk, type == "zTXt", metadata);
-        }
-        at += std::uint64_t(12) + length;
+    if (chunk.remaining() > kLargestText)
+        return;
+    if (type == "iCCP") {
+        chunk.text(kLargestText); // the profile's name
+        chunk.skip(1);            // the method
+        if (chunk.remaining() > 0)
+            metadata.icc = inflated(chunk.bytes(chunk.remaining()));
+    } else if (type == "eXIf") {
+        const Bytes block = chunk.bytes(chunk.remaining());
+        if (isExifBlock(block.data(), block.size()))
+            metadata.exif.block = block;
+    } else if (type == "zTXt" || type == "tEXt") {
+        takeText(chunk, type == "zTXt", metadata);
     }
-    return false;
+}
+
+/// Goes from chunk to chunk over the file, so that the pixels are passed by and not unpacked. Throws EndOfBytes if the last one
+/// is not there.
+void collect(const InputFile &file, Metadata &metadata)
+{
+    constexpr std::uint64_t kCheckSum = 4;
+    ByteReader reader(file);
+    reader.skip(sizeof kSignature);
+    for (;;) {
+        const std::uint32_t length = reader.u32();
+        const Bytes type = reader.bytes(4);
+        const std::string name(type.begin(), type.end());
+        if (name == "IEND")
+            return;
+        ByteReader chunk = reader.stretch(length);
+        try {
+            takeChunk(chunk, name, metadata);
+        } catch (const EndOfBytes &) { // within the chunk: it is left out
+        }
+        reader.skip(kCheckSum);
+    }
 }
 
 // ---- writing
@@ -456,8 +465,8 @@ BitmapPointer readPng(const ReadRequest &request)
         bitmap.record().xDpi = dpiFrom(xPerUnit * kMetresPerInch);
         bitmap.record().yDpi = dpiFrom(yPerUnit * kMetresPerInch);
     }
-    if (request.metadata && !collect(request.file, attachMetadata(bitmap.record())))
-        throw Failure{GFL_ERROR_FILE_READ};
+    if (request.metadata)
+        collect(request.file, attachMetadata(bitmap.record()));
     if (request.pixels)
         readPixels(reader, bitmap);
     return bitmap.take();

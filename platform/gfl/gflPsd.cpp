@@ -2,6 +2,7 @@
 #include <cstring>
 #include <limits>
 
+#include "gflCodec.h"
 #include "gflMetadata.h"
 
 // The merged picture of a Photoshop file: header, palette, image resources, layers (passed by), then the channels one after the
@@ -33,43 +34,31 @@ struct Header
 
 Header readHeader(const InputFile &file)
 {
-    constexpr std::size_t kBytes = 26;
-    const Bytes start = file.bytesAt(0, kBytes);
+    ByteReader reader(file);
     Header header;
-    header.large = big16(&start[4]) == 2;
-    header.channels = big16(&start[12]);
-    header.height = big32(&start[14]);
-    header.width = big32(&start[18]);
-    header.depth = big16(&start[22]);
-    header.mode = big16(&start[24]);
-    if (big16(&start[4]) != 1 && !header.large)
+    reader.skip(4); // the signature
+    const unsigned version = reader.u16();
+    reader.skip(6);
+    header.channels = reader.u16();
+    header.height = reader.u32();
+    header.width = reader.u32();
+    header.depth = reader.u16();
+    header.mode = reader.u16();
+    if (version != 1 && version != 2)
         throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
+    header.large = version == 2;
 
-    std::uint64_t at = kBytes;
-    const auto length = [&](bool wide) {
-        const Bytes bytes = file.bytesAt(at, wide ? 8 : 4);
-        at += bytes.size();
-        return wide ? std::uint64_t(big32(bytes.data())) << 32 | big32(&bytes[4]) : big32(bytes.data());
-    };
-    std::uint64_t count = length(false);
-    header.palette = file.bytesAt(at, count);
-    at += count;
-    count = length(false);
-    header.resources = file.bytesAt(at, count);
-    at += count;
-    count = length(header.large);
-    const std::uint64_t layers = at;
-    if (count >= 6 + (header.large ? 4 : 0)) { // a layer count below zero says it
-        const Bytes layerCount = file.bytesAt(layers + (header.large ? 8 : 4), 2);
-        header.transparent = (layerCount[0] & 0x80) != 0;
+    header.palette = reader.bytes(reader.u32());
+    header.resources = reader.bytes(reader.u32());
+    ByteReader layers = reader.stretch(header.large ? reader.u64() : reader.u32());
+    if (layers.remaining() >= (header.large ? 10 : 6)) { // a layer count below zero says it
+        layers.skip(header.large ? 8 : 4);
+        header.transparent = (layers.u8() & 0x80) != 0;
     }
-    if (count > file.size() - layers)
-        throw Failure{GFL_ERROR_FILE_READ};
-    header.pixels = layers + count;
+    header.pixels = reader.position();
 
-    const Bytes names = photoshopResource(header.resources, kResourceAlphaNames);
-    constexpr std::size_t kNameBytes = sizeof kAlphaName - 1;
-    if (names.size() > kNameBytes && names[0] == kNameBytes && std::memcmp(&names[1], kAlphaName, kNameBytes) == 0)
+    const Bytes names = photoshopResource(header.resources, kResourceAlphaNames); // each with its length in front
+    if (ByteReader list(names); list.remaining() > 0 && list.u8() == sizeof kAlphaName - 1 && list.startsWith(kAlphaName))
         header.transparent = true;
     return header;
 }
@@ -78,19 +67,20 @@ Header readHeader(const InputFile &file)
 class Channel
 {
 public:
-    Channel(const InputFile &file, std::uint64_t start, std::size_t bytes, const std::uint8_t *counts, int bytesPerCount)
-        : stream(file, start), row(bytes), packedBytes(counts), countBytes(bytesPerCount)
+    /// Reads rows of `bytes` bytes from `start` on. `lengths` are those of the packed rows, wide ones of 32 bits; it is empty
+    /// where the rows are not packed.
+    Channel(const InputFile &file, std::uint64_t start, std::size_t bytes, ByteReader lengths, bool wideLengths)
+        : stream(file, start), row(bytes), packedRows(lengths.remaining() > 0), packedBytes(std::move(lengths)), wide(wideLengths)
     {
     }
 
     const std::uint8_t *next()
     {
-        if (!packedBytes) {
+        if (!packedRows) {
             stream.read(row.data(), row.size());
             return row.data();
         }
-        const std::uint32_t count = countBytes == 2 ? big16(packedBytes) : big32(packedBytes);
-        packedBytes += countBytes;
+        const std::uint32_t count = wide ? packedBytes.u32() : packedBytes.u16();
         if (count > row.size() * 2 + 128) // even the worst packer makes less of it
             throw Failure{GFL_ERROR_FILE_READ};
         packed.resize(count);
@@ -102,56 +92,53 @@ public:
 private:
     void unpack()
     {
-        std::size_t out = 0;
-        for (std::size_t i = 0; i < packed.size() && out < row.size();) {
-            const int byte = packed[i++];
+        ByteReader reader(packed);
+        for (std::size_t out = 0; out < row.size();) {
+            const int byte = reader.u8();
             const int code = byte < 128 ? byte : byte - 256;
             if (code == -128)
                 continue;
             const std::size_t count = static_cast<std::size_t>(code < 0 ? 1 - code : code + 1);
-            const std::size_t needed = code < 0 ? 1 : count;
-            if (count > row.size() - out || needed > packed.size() - i)
+            if (count > row.size() - out)
                 throw Failure{GFL_ERROR_FILE_READ};
             if (code < 0)
-                std::memset(&row[out], packed[i], count);
+                std::memset(&row[out], reader.u8(), count);
             else
-                std::memcpy(&row[out], &packed[i], count);
+                reader.read(&row[out], count);
             out += count;
-            i += needed;
         }
-        if (out != row.size())
-            throw Failure{GFL_ERROR_FILE_READ};
     }
 
     InputStream stream;
     Bytes row;
     Bytes packed;
-    const std::uint8_t *packedBytes;
-    int countBytes;
+    bool packedRows;
+    ByteReader packedBytes;
+    bool wide;
 };
 
 /// Where each channel begins; `counts` receives the table of packed row lengths, if there is one.
 std::vector<std::uint64_t> channelStarts(const InputFile &file, const Header &header, std::size_t rowBytes, Bytes &counts)
 {
-    const Bytes packing = file.bytesAt(header.pixels, 2);
-    const std::uint64_t first = header.pixels + 2;
+    ByteReader reader(file);
+    reader.seek(header.pixels);
+    const unsigned packing = reader.u16();
     const unsigned channels = static_cast<unsigned>(header.channels);
     std::vector<std::uint64_t> starts;
-    if (big16(packing.data()) == Plain) {
+    if (packing == Plain) {
         for (unsigned c = 0; c < channels; ++c)
-            starts.push_back(first + std::uint64_t(rowBytes) * header.height * c);
+            starts.push_back(reader.position() + std::uint64_t(rowBytes) * header.height * c);
         return starts;
     }
-    if (big16(packing.data()) != Runs)
+    if (packing != Runs)
         throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
-    const unsigned countBytes = header.large ? 4 : 2;
-    counts = file.bytesAt(first, std::uint64_t(countBytes) * channels * header.height);
-    std::uint64_t at = first + counts.size();
-    const std::uint8_t *count = counts.data();
+    counts = reader.bytes(std::uint64_t(header.large ? 4 : 2) * channels * header.height);
+    std::uint64_t at = reader.position();
+    ByteReader table(counts);
     for (unsigned c = 0; c < channels; ++c) {
         starts.push_back(at);
-        for (std::uint32_t y = 0; y < header.height; ++y, count += countBytes)
-            at += countBytes == 2 ? big16(count) : big32(count);
+        for (std::uint32_t y = 0; y < header.height; ++y)
+            at += header.large ? table.u32() : table.u16();
     }
     return starts;
 }
@@ -183,12 +170,11 @@ void readPixels(const InputFile &file, const Header &header, int taken, NewBitma
     const std::size_t rowBytes = (std::size_t(header.width) * unsigned(header.depth) + 7) / 8;
     Bytes counts;
     const std::vector<std::uint64_t> starts = channelStarts(file, header, rowBytes, counts);
-    std::vector<std::unique_ptr<Channel>> channels;
-    const int countBytes = header.large ? 4 : 2;
+    ByteReader lengths(counts);
+    const std::uint64_t lengthBytes = counts.size() / unsigned(header.channels);
+    std::vector<Channel> channels;
     for (int c = 0; c < taken; ++c)
-        channels.push_back(std::make_unique<Channel>(
-            file, starts[std::size_t(c)], rowBytes,
-            counts.empty() ? nullptr : counts.data() + std::size_t(c) * header.height * unsigned(countBytes), countBytes));
+        channels.emplace_back(file, starts[std::size_t(c)], rowBytes, lengths.stretch(lengthBytes), header.large);
 
     const Form form = formOf(bitmap.record());
     const std::size_t sampleBytes = std::size_t(form.bits) / 8;
@@ -197,7 +183,7 @@ void readPixels(const InputFile &file, const Header &header, int taken, NewBitma
     for (int y = 0; y < bitmap.height(); ++y) {
         std::uint8_t *target = bitmap.row(y);
         if (header.mode == Bitmap || header.mode == Indexed) {
-            const std::uint8_t *source = channels[0]->next();
+            const std::uint8_t *source = channels[0].next();
             for (int x = 0; x < width; ++x) {
                 if (header.mode == Bitmap)
                     target[x] = source[x / 8] >> (7 - x % 8) & 1 ? 0 : 255;
@@ -212,7 +198,7 @@ void readPixels(const InputFile &file, const Header &header, int taken, NewBitma
         for (int i = 0; i < components; ++i) {
             const int c = taken == 2 ? (i < 3 ? 0 : 1) : i; // grey with alpha becomes colour with alpha
             if (taken != 2 || i == 0 || i == 3)
-                swapSamples(channels[std::size_t(c)]->next(), plane.data(), rowBytes / sampleBytes, form.bits);
+                swapSamples(channels[std::size_t(c)].next(), plane.data(), rowBytes / sampleBytes, form.bits);
             std::uint8_t *first = pixels + sampleBytes * unsigned(i);
             if (form.bits == 8)
                 spread<std::uint8_t>(plane.data(), first, width, components);
@@ -334,9 +320,10 @@ BitmapPointer readPsd(const ReadRequest &request)
 
     NewBitmap bitmap(request.file, header.width, header.height, form);
     const Bytes resolution = photoshopResource(header.resources, kResourceResolution);
-    if (resolution.size() >= 16) {
-        bitmap.record().xDpi = dpiFrom(big32(resolution.data()) / 65536.0);
-        bitmap.record().yDpi = dpiFrom(big32(&resolution[8]) / 65536.0);
+    if (ByteReader perInch(resolution); perInch.holds(0, 16)) { // 16.16 fixed-point numbers, the vertical one from byte 8 on
+        bitmap.record().xDpi = dpiFrom(perInch.u32() / 65536.0);
+        perInch.seek(8);
+        bitmap.record().yDpi = dpiFrom(perInch.u32() / 65536.0);
     }
     if (request.metadata) {
         Metadata &metadata = attachMetadata(bitmap.record());

@@ -1,10 +1,13 @@
+#include "gflRows.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
 
 #include "convertSample.h"
-#include "gflCodec.h"
+#include "gflClaims.h"
+#include "gflFile.h"
 
 namespace gfl {
 namespace {
@@ -105,9 +108,7 @@ NewBitmap::NewBitmap(const InputFile &file, std::int64_t width, std::int64_t hei
     const std::int64_t stride = (width * std::int64_t(form.pixelBytes()) + 3) / 4 * 4;
     if (stride > kLargest)
         throw Failure{GFL_ERROR_NO_MEMORY};
-    constexpr std::uint64_t kSmall = std::uint64_t(16) << 20;
-    constexpr std::uint64_t kMostPacked = 4096; // more than any of the packers reaches within one row
-    if (std::uint64_t(stride) > kSmall + kMostPacked * file.size())
+    if (std::uint64_t(stride) > largestPiece(file.size()))
         throw Failure{GFL_ERROR_FILE_READ};
 
     auto *record = static_cast<GflBitmap *>(allocate(sizeof(GflBitmap)));
@@ -126,10 +127,8 @@ NewBitmap::NewBitmap(const InputFile &file, std::int64_t width, std::int64_t hei
     record->transparentIndex = -1;
     record->colorUsed = form.components == 1 ? 256 : 0;
 
-    // A photograph seldom packs better than 64 to 1: it gets its whole block at once, others grow into it.
-    constexpr std::uint64_t kRatio = 64;
     const std::uint64_t total = std::uint64_t(stride) * std::uint64_t(height);
-    firstBytes = static_cast<std::size_t>(std::min(total, kSmall + kRatio * file.size()));
+    firstBytes = static_cast<std::size_t>(firstBlock(total, file.size()));
 }
 
 std::uint8_t *NewBitmap::row(int y)
@@ -152,33 +151,6 @@ int NewBitmap::rowsFrom(int y)
 {
     row(y);
     return static_cast<int>(capacity / bitmap->bytesPerLine) - y;
-}
-
-std::uint16_t big16(const std::uint8_t *bytes)
-{
-    return static_cast<std::uint16_t>(bytes[0] << 8 | bytes[1]);
-}
-
-std::uint32_t big32(const std::uint8_t *bytes)
-{
-    return std::uint32_t(bytes[0]) << 24 | std::uint32_t(bytes[1]) << 16 | std::uint32_t(bytes[2]) << 8 | bytes[3];
-}
-
-void putBig16(Bytes &bytes, unsigned value)
-{
-    bytes.push_back(static_cast<std::uint8_t>(value >> 8));
-    bytes.push_back(static_cast<std::uint8_t>(value));
-}
-
-void putBig32(Bytes &bytes, std::uint32_t value)
-{
-    putBig16(bytes, value >> 16);
-    putBig16(bytes, value & 0xFFFF);
-}
-
-std::uint16_t dpiFrom(double dotsPerInch)
-{
-    return dotsPerInch >= 1.0 && dotsPerInch <= 65535.0 ? static_cast<std::uint16_t>(dotsPerInch + 0.5) : std::uint16_t(0);
 }
 
 } // namespace gfl

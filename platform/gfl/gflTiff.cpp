@@ -6,14 +6,12 @@
 
 #include <tiffio.h>
 
+#include "gflClaims.h"
+#include "gflCodec.h"
 #include "gflMetadata.h"
 
 namespace gfl {
 namespace {
-
-// What LZW packs at best, roughly; the sizes that a file claims are held against its own by this.
-constexpr std::uint64_t kMostPacked = 4096;
-constexpr std::uint64_t kSmallClaim = std::uint64_t(16) << 20;
 
 int onTiffMessage(TIFF *, void *, const char *, const char *, va_list)
 {
@@ -102,7 +100,7 @@ struct OpenTiff
     explicit OpenTiff(const InputFile &file) : handle(new ReadHandle{&file, 0})
     {
         const auto options = quietOptions();
-        const std::uint64_t limit = std::min<std::uint64_t>(kSmallClaim * 4 + kMostPacked * file.size(), std::uint64_t(1) << 40);
+        const std::uint64_t limit = std::min(largestLibraryBlock(file.size()), std::uint64_t(1) << 40);
         TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), static_cast<tmsize_t>(limit));
         tiff.reset(TIFFClientOpenExt("", "rm", handle.get(), onRead, onNoWrite, onReadSeek, onClose, onReadSize, onNoMap,
                                      onNoUnmap, options.get()));
@@ -210,7 +208,7 @@ public:
         readLayout(tiff.get()); // for its setting of the colour mode
         const std::uint64_t samples = layout.planar ? 1 : unsigned(layout.samples);
         rowBytes = (std::uint64_t(layout.width) * samples * unsigned(layout.bits) + 7) / 8;
-        const std::uint64_t limit = kSmallClaim + kMostPacked * file.size();
+        const std::uint64_t limit = largestPiece(file.size());
         if (!layout.tiled) {
             if (TIFFScanlineSize64(tiff.get()) != rowBytes || rowBytes > limit)
                 throw Failure{GFL_ERROR_FILE_READ};
@@ -463,7 +461,7 @@ void readByLibrary(const OpenTiff &open, const InputFile &file, const Layout &la
     else
         TIFFGetFieldDefaulted(open.get(), TIFFTAG_ROWSPERSTRIP, &rowsPerBand);
     rowsPerBand = std::clamp(rowsPerBand, 1u, layout.height);
-    if (std::uint64_t(rowsPerBand) * layout.width * 4 > kSmallClaim + kMostPacked * file.size())
+    if (std::uint64_t(rowsPerBand) * layout.width * 4 > largestPiece(file.size()))
         throw Failure{GFL_ERROR_FILE_READ};
     std::vector<std::uint32_t> raster(std::size_t(rowsPerBand) * layout.width);
     for (std::uint32_t y = 0; y < layout.height; y += rowsPerBand) {
@@ -504,21 +502,22 @@ void readMetadata(const InputFile &file, TIFF *tiff, Metadata &metadata)
             metadata.exif.block = exifFromTexts(texts, orientation);
     }
 
-    bool bigEndian = false;
-    const TiffReader read = [&](std::uint64_t offset, void *target, std::size_t bytes) {
-        return file.readAt(offset, target, bytes);
+    ByteReader stream(file);
+    const auto valueOf = [&](const IfdEntry &entry) {
+        stream.seek(entry.valueOffset);
+        return stream.bytes(entry.valueBytes);
     };
     Bytes resources;
-    for (const IfdEntry &entry : firstDirectory(read, file.size(), bigEndian)) {
+    for (const IfdEntry &entry : firstDirectory(stream)) {
         if (entry.tag == TIFFTAG_RICHTIFFIPTC) {
-            Bytes block = file.bytesAt(entry.valueOffset, entry.valueBytes);
+            Bytes block = valueOf(entry);
             // Some writers swap the block as if it were the longs that its type says.
             if (block.size() >= 4 && block[0] != 0x1C && block[3] == 0x1C)
                 swapSamples(block.data(), block.data(), block.size() / 4, 32);
             if (!block.empty() && block[0] == 0x1C)
                 metadata.iptc.block = block;
         } else if (entry.tag == TIFFTAG_PHOTOSHOP) {
-            resources = file.bytesAt(entry.valueOffset, entry.valueBytes);
+            resources = valueOf(entry);
         }
     }
     if (metadata.iptc.block.empty())
@@ -585,13 +584,15 @@ void setFields(TIFF *tiff, const WriteRequest &request, std::uint16_t compressio
 
 void setTexts(TIFF *tiff, const Bytes &exif)
 {
-    bool bigEndian = false;
-    for (const IfdEntry &entry : firstDirectory(exif, bigEndian)) {
-        const std::uint8_t *value = exif.data() + entry.valueOffset;
-        if (entry.tag == TIFFTAG_ORIENTATION && entry.type == TIFF_SHORT)
-            TIFFSetField(tiff, TIFFTAG_ORIENTATION, bigEndian ? value[1] : value[0]); // one of 1..8, else refused
-        else if (entry.type == TIFF_ASCII && std::count(std::begin(kTexts), std::end(kTexts), entry.tag))
-            TIFFSetField(tiff, entry.tag, std::string(value, value + entry.valueBytes).c_str());
+    ByteReader stream(exif);
+    for (const IfdEntry &entry : firstDirectory(stream)) {
+        stream.seek(entry.valueOffset);
+        if (entry.tag == TIFFTAG_ORIENTATION && entry.type == TIFF_SHORT) {
+            TIFFSetField(tiff, TIFFTAG_ORIENTATION, stream.u16() & 0xFF); // one of 1..8, else refused
+        } else if (entry.type == TIFF_ASCII && std::count(std::begin(kTexts), std::end(kTexts), entry.tag)) {
+            const Bytes value = stream.bytes(entry.valueBytes);
+            TIFFSetField(tiff, entry.tag, std::string(value.begin(), value.end()).c_str());
+        }
     }
 }
 
@@ -622,22 +623,36 @@ void writeStrips(TIFF *tiff, const GflBitmap &bitmap, bool swap, bool packed)
     }
 }
 
+/// What has been written so far.
+class WrittenBytes final : public ByteSource
+{
+public:
+    explicit WrittenBytes(OutputFile &output) : file(output), bytesWritten(output.size()) {}
+    std::uint64_t size() const noexcept override { return bytesWritten; }
+    std::size_t readAt(std::uint64_t offset, void *target, std::size_t bytes) const noexcept override
+    {
+        return file.trySeek(offset) ? file.readBack(target, bytes) : 0;
+    }
+
+private:
+    OutputFile &file;
+    std::uint64_t bytesWritten;
+};
+
 /// Adds what the EXIF block's first directory holds (camera, author, the pointers to its further directories) to the file's. The
 /// file begins with the block as it stands, so that every offset in it holds, also those within a maker's note.
 void mergeDirectories(OutputFile &file, const Bytes &exif)
 {
-    const std::uint64_t fileBytes = file.size();
-    const TiffReader read = [&](std::uint64_t offset, void *target, std::size_t bytes) -> std::size_t {
-        return file.trySeek(offset) ? file.readBack(target, bytes) : 0;
-    };
-    bool bigEndian = false;
-    std::vector<IfdEntry> entries = firstDirectory(read, fileBytes, bigEndian);
+    const WrittenBytes written(file);
+    const std::uint64_t fileBytes = written.size();
+    ByteReader own(written), carried(exif);
+    std::vector<IfdEntry> entries = firstDirectory(own);
     checked(!entries.empty());
     const auto has = [&](unsigned tag) {
         return std::any_of(entries.begin(), entries.end(), [&](const IfdEntry &entry) { return entry.tag == tag; });
     };
     const bool ownResolution = has(TIFFTAG_XRESOLUTION);
-    for (const IfdEntry &entry : firstDirectory(exif, bigEndian)) {
+    for (const IfdEntry &entry : firstDirectory(carried)) {
         const bool resolution = entry.tag == TIFFTAG_RESOLUTIONUNIT && ownResolution;
         if (!isStructuralTag(entry.tag) && !resolution && !has(entry.tag))
             entries.push_back(entry);
@@ -647,6 +662,7 @@ void mergeDirectories(OutputFile &file, const Bytes &exif)
     const std::uint64_t start = (fileBytes + 1) / 2 * 2;
     if (start + 2 + 12 * entries.size() + 4 > std::numeric_limits<std::uint32_t>::max())
         throw Failure{GFL_ERROR_FILE_WRITE};
+    const bool bigEndian = carried.order() == ByteOrder::Big;
     const auto put = [&](Bytes &bytes, std::uint32_t value, int count) {
         for (int i = 0; i < count; ++i)
             bytes.push_back(static_cast<std::uint8_t>(value >> 8 * (bigEndian ? count - 1 - i : i)));
@@ -683,12 +699,11 @@ BitmapPointer readTiff(const ReadRequest &request)
 {
     const OpenTiff open(request.file);
     const Layout layout = readLayout(open.get());
-    // A fax has one bit a pixel, and a row of it takes a bit at least; the library makes white rows, without a word, of what the
-    // file lacks.
+    // A fax has one bit per pixel; the library makes white rows, without a word, of what the file lacks.
     const auto compression = field<std::uint16_t>(open.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
     const bool fax =
         (compression >= COMPRESSION_CCITTRLE && compression <= COMPRESSION_CCITTFAX4) || compression == COMPRESSION_CCITTRLEW;
-    if (fax && (layout.bits != 1 || layout.samples != 1 || layout.height > 8 * request.file.size()))
+    if (fax && (layout.bits != 1 || layout.samples != 1 || layout.height > mostFaxRows(request.file.size())))
         throw Failure{GFL_ERROR_FILE_READ};
     NewBitmap bitmap(request.file, layout.width, layout.height, layout.form);
     const double perInch = field<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_INCH         ? 1.0

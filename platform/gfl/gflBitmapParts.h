@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "gfl.h"
+
+struct GflIptc
+{
+    std::vector<std::uint8_t> block; ///< Datasets as they stand in the file, from the first 0x1C.
+};
+
+struct GflExif
+{
+    std::vector<std::uint8_t> block; ///< A TIFF stream, from its "II" or "MM".
+};
+
+/// What a bitmap is made of inside this layer: its memory, and the metadata that is attached to it.
+namespace gfl {
+
+using Bytes = std::vector<std::uint8_t>;
+
+/// How a failure is thrown inside the layer; gfl.cpp turns it, and whatever the libraries throw, into a code.
+struct Failure
+{
+    GflCode code;
+};
+
+/// What GflBitmap::metaData points at.
+struct Metadata
+{
+    Bytes icc;
+    GflIptc iptc;
+    GflExif exif;
+};
+
+/// The attached metadata, or null.
+Metadata *metadataOf(const GflBitmap *bitmap);
+/// The attached metadata, made if there is none. Throws std::bad_alloc.
+Metadata &attachMetadata(GflBitmap &bitmap);
+
+// The allocator that bitmaps are made with; null stands for no memory.
+void setAllocator(GflAllocCallback alloc, GflReallocCallback realloc, GflFreeCallback release, void *user);
+void *allocate(std::size_t bytes);
+void *reallocate(void *block, std::size_t bytes);
+void release(void *block);
+
+struct BitmapDelete
+{
+    void operator()(GflBitmap *bitmap) const { gflFreeBitmap(bitmap); }
+};
+using BitmapPointer = std::unique_ptr<GflBitmap, BitmapDelete>;
+
+} // namespace gfl
