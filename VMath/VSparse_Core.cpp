@@ -39,18 +39,17 @@ void VSparseMatrix::Solve(const float *b, float *x) const
     std::int32_t error = 0;
     float dummy = 0.0F;
 
-    // The meaning of each setting, by its index, is the solver layer's.
     std::array<std::int32_t, 64> iparm = {};
-    iparm[0] = 1;
-    iparm[1] = 3;
-    iparm[7] = 2;
-    iparm[9] = symmetric != 0 ? 8 : 13;
-    iparm[10] = symmetric != 0 ? 1 : 0;
-    iparm[12] = symmetric != 0 ? 1 : 0;
-    iparm[17] = -1;
-    iparm[18] = -1;
-    iparm[20] = symmetric != 0 ? 1 : 0;
-    iparm[27] = 1;
+    iparm[PardisoOwnValues] = 1;
+    iparm[PardisoOrdering] = 3;
+    iparm[PardisoRefinementSteps] = 2;
+    iparm[PardisoPivotPerturbation] = symmetric != 0 ? 8 : 13;
+    iparm[PardisoScaling] = symmetric != 0 ? 1 : 0;
+    iparm[PardisoMatching] = symmetric != 0 ? 1 : 0;
+    iparm[PardisoFactorEntries] = -1;
+    iparm[PardisoFactorisationWork] = -1;
+    iparm[PardisoPivoting] = symmetric != 0 ? 1 : 0;
+    iparm[PardisoSinglePrecision] = 1;
 
     const auto call = [&](std::int32_t phase, const void *matrix, const float *rightHandSide, float *solution) {
         pardiso(pt.data(), &maxfct, &mnum, &mtype, &phase, &rowCount, matrix, rowStarts, columnIndices, &perm, &nrhs,
@@ -66,7 +65,7 @@ void VSparseMatrix::Solve(const float *b, float *x) const
     if (error != 0)
         throw VException(QStringLiteral("PARDISO error during numerical factorization: %1").arg(error), V_LOCATION);
 
-    iparm[7] = 2;
+    iparm[PardisoRefinementSteps] = 2;
     call(/*phase=*/33, values, b, x);
     if (error != 0)
         throw VException(QStringLiteral("PARDISO error during solution: %1").arg(error), V_LOCATION);

@@ -1,5 +1,5 @@
-# A room is one folder, one static library and one include path. Its PUBLIC rooms draw the arrows: what a room does not name,
-# and what none of its rooms names, it cannot include.
+# A room is one folder, one static library and one include path. Its list draws the arrows: what a room does not name it cannot
+# include, since a room hands nothing on of what it names. The link follows the names through all rooms.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -53,12 +53,18 @@ if(NIMBRA_FUZZ)
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
-# nimbra_room(<name> SOURCES <file>... [PUBLIC <target>...] [PRIVATE <target>...])
+# nimbra_room(<name> SOURCES <file>... [PRIVATE <target>...])
 function(nimbra_room name)
-    cmake_parse_arguments(ROOM "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    cmake_parse_arguments(ROOM "" "" "SOURCES;PRIVATE" ${ARGN})
     add_library(${name} STATIC ${ROOM_SOURCES})
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
-    target_link_libraries(${name} PUBLIC ${ROOM_PUBLIC} PRIVATE nimbra_options ${ROOM_PRIVATE})
+    target_link_libraries(${name} PRIVATE nimbra_options ${ROOM_PRIVATE})
+endfunction()
+
+# nimbra_headers(<name>): a folder of headers that several rooms see, without the room that it belongs to.
+function(nimbra_headers name)
+    add_library(${name} INTERFACE)
+    target_include_directories(${name} INTERFACE "${CMAKE_CURRENT_SOURCE_DIR}")
 endfunction()
 
 set(nimbra_test_environment QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=allocator_may_return_null=1

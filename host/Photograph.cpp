@@ -1,38 +1,17 @@
 #include "Photograph.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include <QFileInfo>
 
 #include "VException.h"
 #include "patiently.h"
-#include "transpose.h"
 
 namespace {
 
 bool liesOnItsSide(int orientation)
 {
     return orientation >= 5;
-}
-
-/// Turns a picture as EXIF's orientation asks for. Orientation 5 to 8 exchange width and height.
-void orient(const VImage &source, int orientation, VImage &target)
-{
-    const int width = source.Width(), height = source.Height();
-    const bool side = liesOnItsSide(orientation);
-    target.Create(side ? height : width, side ? width : height, source.Type(), source.BitsPerComponent());
-    const bool mirrored = orientation == 2 || orientation == 3 || orientation == 7 || orientation == 8;
-    const bool upsideDown = orientation == 3 || orientation == 4 || orientation == 6 || orientation == 7;
-    const std::size_t pixel = source.Bitmap()->bytesPerPixel;
-    for (int y = 0; y < target.Height(); ++y) {
-        unsigned char *to = target.PixelAddress(0, y);
-        for (int x = 0; x < target.Width(); ++x, to += pixel) {
-            const int across = side ? y : x, down = side ? x : y;
-            std::memcpy(to, source.PixelAddress(mirrored ? width - 1 - across : across, upsideDown ? height - 1 - down : down),
-                        pixel);
-        }
-    }
 }
 
 } // namespace
@@ -81,7 +60,7 @@ std::unique_ptr<DecodedPhoto> Photograph::load() const
     if (!transposed)
         return photo;
     auto turned = std::make_unique<DecodedPhoto>();
-    transpose(photo->image(), turned->image());
+    photo->image().Turn(turned->image(), kRowsForColumns);
     return turned;
 }
 
@@ -134,7 +113,7 @@ ScaledImages::Image Photograph::makeScaled(int width, int height)
         photo = load();
     photo->image().Resample(small, lyingWidth, lyingHeight);
     if (orientation != 1)
-        orient(lying, orientation, *upright);
+        lying.Turn(*upright, orientation);
     const std::lock_guard lock(mutex);
     form = Form{photo->image().Bitmap()->componentsPerPixel, photo->image().BitsPerComponent()};
     return upright;

@@ -26,6 +26,9 @@ public:
     enum class Use { Reading, Read, Released };
     using Watcher = std::function<void(Use)>;
 
+    /// The EXIF orientation that has rows for columns and turns nothing else; it is its own inverse.
+    static constexpr int kRowsForColumns = 5;
+
     /// `keptCopies`, which may be null, outlives the photograph and keeps its scaled images beyond their release. With
     /// `rowsForColumns` everything is as if the file were stored so: facts, sizes, images and orientation.
     explicit Photograph(const QString &path, ScaledImages *keptCopies = nullptr, bool rowsForColumns = false)

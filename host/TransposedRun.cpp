@@ -8,7 +8,6 @@
 #include "VTempManager.h"
 #include "gfl.h"
 #include "throwGflError.h"
-#include "transpose.h"
 
 TransposedRun::TransposedRun(HostApplication &host, const QString &path) : application(host), source(path)
 {
@@ -59,7 +58,7 @@ void TransposedRun::turnBack(const QString &written, const QString &result) cons
     }
     std::unique_ptr<DecodedPhoto> photo = PhotoLoader::decode(written);
     VImage upright;
-    transpose(photo->image(), upright);
+    photo->image().Turn(upright, Photograph::kRowsForColumns);
     photo.reset();
     upright.Save(result, QFileInfo(result).suffix(), /*quality=*/-1, source);
 }

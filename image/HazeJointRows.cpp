@@ -7,7 +7,7 @@
 #include <limits>
 
 #include "HazeWeights.h"
-#include "VImage.h"
+#include "imageRows.h"
 #include "ippVersions.h"
 
 namespace {
@@ -24,11 +24,6 @@ using Scratch = HazeJointRows::Scratch;
 int centreOf(int place, float scale)
 {
     return static_cast<int>(static_cast<double>(static_cast<float>(place) * scale) + 0.5);
-}
-
-const float *rowOf(const VImage &image, int y)
-{
-    return reinterpret_cast<const float *>(image.PixelAddress(0, y));
 }
 
 /// Four pixels in, one vector a component out.

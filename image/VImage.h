@@ -89,6 +89,13 @@ public:
     /// VException with an empty message for an empty image, what Create throws, and std::bad_alloc.
     void Resample(VImage &target, int width, int height) const;
 
+    /// Turns the whole image as a viewer shows a picture of this EXIF orientation: 1 as it is, 2 mirrored, 3 upside down, 4
+    /// mirrored upside down, 5 rows for columns (pixel (x, y) comes to (y, x)), 6 a quarter turn clockwise, 7 as 5 but along the
+    /// other diagonal, 8 a quarter turn anticlockwise. `target`, another image, gets the form of this one and its pixels
+    /// unchanged; from 5 on width and height change places. Throws "Invalid Bitmap" for an empty image and for one outside the
+    /// nine forms, "Invalid Parameter" for another orientation or this image as target, and what Create throws.
+    void Turn(VImage &target, int orientation) const;
+
     /// Writes the image to `fileName`. `format` is "jpeg", "png", "tiff", "hdri", "exr" or "psd" in any case, or "jpg", "tif",
     /// "hdr". `quality` -1 leaves the format's defaults; otherwise 0..12 for "jpeg" and the compression for the others.
     /// `metadataSource` names the file whose colour profile, IPTC and EXIF are attached to this image and written, or is empty.

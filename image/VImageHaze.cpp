@@ -11,12 +11,11 @@
 
 #include "HazeJointRows.h"
 #include "HazeMattingRows.h"
-#include "VException.h"
 #include "VSparseFactory.h"
+#include "imageRows.h"
 #include "ipp.h"
 #include "ippVersions.h"
 #include "kernel32.h"
-#include "threadCount.h"
 
 namespace {
 
@@ -25,22 +24,6 @@ constexpr int kChannels = 4; ///< R, G, B, A.
 QString invalidBitmap()
 {
     return QStringLiteral("Invalid Bitmap");
-}
-
-int teamSize()
-{
-    return std::max(1, static_cast<int>(threadCount));
-}
-
-/// First of the `rows` rows that part `part` of `parts` takes: one contiguous block each.
-int firstRowOf(int part, int parts, int rows)
-{
-    return static_cast<int>(std::int64_t{rows} * part / parts);
-}
-
-const float *rowOf(const VImage &image, int y)
-{
-    return reinterpret_cast<const float *>(image.PixelAddress(0, y));
 }
 
 std::size_t pixelCount(const VImage &image)
@@ -190,7 +173,7 @@ void addMattingLaplacian(const VImage &image, VSparseFactory &factory)
     const int height = image.Height();
     if (width < HazeMattingRows::kWindow || height < HazeMattingRows::kWindow)
         return;
-    const int parts = std::min(teamSize(), height);
+    const int parts = teamFor(height);
     const auto rowStep = static_cast<std::ptrdiff_t>(image.BytesPerLine()) / static_cast<std::ptrdiff_t>(sizeof(float));
     std::vector<HazeMattingRows> blocks(static_cast<std::size_t>(parts),
                                         HazeMattingRows(rowOf(image, 0), rowStep, width, height));
@@ -246,7 +229,7 @@ float *VImage::HazeDarkChannel(float airlight[3])
     std::copy_n(brightest, 3, airlight);
 
     float *const first = darkMap.get();
-    const int team = teamSize();
+    const int team = teamFor(height);
 #pragma omp parallel for schedule(static) num_threads(team)
     for (int y = 0; y < height; ++y)
         normaliseRow(eroded.row(y), first + static_cast<std::size_t>(y) * static_cast<std::size_t>(width), width, airlight);
@@ -331,7 +314,7 @@ float *VImage::HazeJointUpsample(float *lowMap, VImage *lowImage)
     AdviseHugePages(map.get(), pixelCount(*this) * sizeof(float));
     const HazeJointRows rows(*this, *lowImage, lowMap);
     const int height = Height();
-    const int parts = std::max(1, std::min(teamSize(), height));
+    const int parts = teamFor(height);
     std::vector<HazeJointRows::Scratch> scratch(static_cast<std::size_t>(parts));
     float *const first = map.get();
 #pragma omp parallel for schedule(static) num_threads(parts)
@@ -349,9 +332,9 @@ void VImage::HazeRecover(const float *transmission, const float airlight[3], flo
         throw VException(invalidBitmap(), V_LOCATION);
     const int width = Width();
     const int height = Height();
-    const int team = teamSize();
+    const int team = teamFor(height);
 #pragma omp parallel for schedule(static) num_threads(team)
     for (int y = 0; y < height; ++y)
-        recoverRow(reinterpret_cast<float *>(PixelAddress(0, y)),
-                   transmission + static_cast<std::size_t>(y) * static_cast<std::size_t>(width), width, airlight, strength);
+        recoverRow(rowOf(*this, y), transmission + static_cast<std::size_t>(y) * static_cast<std::size_t>(width), width, airlight,
+                   strength);
 }

@@ -7,9 +7,8 @@
 
 #include <QImage>
 
-#include "VException.h"
+#include "imageRows.h"
 #include "ipp.h"
-#include "threadCount.h"
 
 namespace {
 
@@ -133,15 +132,6 @@ constexpr int kTilePixels = 256;
 /// Below this many pixels a team costs more than it gains.
 constexpr std::int64_t kPixelsForTeam = 1 << 17;
 
-bool isProcessed(unsigned short type)
-{
-    return type == VImage::Grey || type == VImage::Rgb || type == VImage::Rgba;
-}
-bool isProcessedDepth(int bits)
-{
-    return bits == 8 || bits == 16 || bits == 32;
-}
-
 } // namespace
 
 void VImage::CopyRect(int x, int y, int width, int height, VImage &target, int targetX, int targetY) const
@@ -152,11 +142,11 @@ void VImage::CopyRect(int x, int y, int width, int height, VImage &target, int t
         throw VException("Invalid Bitmap", V_LOCATION);
     if (!isProcessedDepth(BitsPerComponent()))
         throw VException("Invalid Bitmap", V_LOCATION);
-    if (!isProcessed(Type()))
+    if (!isProcessedType(Type()))
         throw VException("Invalid Bitmap", V_LOCATION);
     if (!target.bitmap)
         throw VException("Invalid Parameter", V_LOCATION);
-    if (!isProcessed(target.Type()))
+    if (!isProcessedType(target.Type()))
         throw VException("Invalid Parameter", V_LOCATION);
     if (!isProcessedDepth(target.BitsPerComponent()))
         throw VException("Invalid Parameter", V_LOCATION);
@@ -180,7 +170,7 @@ void VImage::CopyRect(int x, int y, int width, int height, VImage &target, int t
     const int tileWidth = buffered ? std::min(width, kTilePixels) : width;
     const int tileHeight = std::clamp(kTilePixels / tileWidth, 1, height);
     const int bands = (height - 1) / tileHeight + 1;
-    const int team = std::int64_t{width} * height < kPixelsForTeam ? 1 : std::clamp(threadCount, 1, bands);
+    const int team = std::int64_t{width} * height < kPixelsForTeam ? 1 : teamFor(bands);
 
     Raster buffer{nullptr, 0, plan.between};
     std::unique_ptr<unsigned char, IppiRelease> buffers;
@@ -192,11 +182,10 @@ void VImage::CopyRect(int x, int y, int width, int height, VImage &target, int t
     }
 #pragma omp parallel for schedule(static) num_threads(team)
     for (int part = 0; part < team; ++part) {
-        const auto bandOf = [&](int index) { return static_cast<int>(std::int64_t{bands} * index / team); };
         Raster between = buffer;
         if (between.data)
             between.data = buffer.at(0, tileHeight * part);
-        for (int band = bandOf(part); band < bandOf(part + 1); ++band) {
+        for (int band = firstRowOf(part, team, bands), end = firstRowOf(part + 1, team, bands); band < end; ++band) {
             const int top = band * tileHeight;
             for (int left = 0; left < width; left += tileWidth) {
                 const IppiSize size{std::min(tileWidth, width - left), std::min(tileHeight, height - top)};
@@ -210,7 +199,7 @@ void VImage::ConvertTo(VImage &target, unsigned short type, int bitsPerComponent
 {
     if (!bitmap)
         throw VException("Invalid Bitmap", V_LOCATION);
-    if (!isProcessed(Type()))
+    if (!isProcessedType(Type()))
         throw VException("Invalid Bitmap", V_LOCATION);
     target.Create(Width(), Height(), type, bitsPerComponent);
     CopyRect(0, 0, Width(), Height(), target, 0, 0);

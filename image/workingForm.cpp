@@ -1,6 +1,6 @@
 #include "workingForm.h"
 
-#include "VImage.h"
+#include "imageRows.h"
 
 namespace {
 
@@ -8,7 +8,7 @@ void fillOpaque(VImage &image)
 {
     const int width = image.Width();
     for (int y = 0; y < image.Height(); ++y) {
-        auto *pixel = reinterpret_cast<float *>(image.PixelAddress(0, y));
+        float *pixel = rowOf(image, y);
         for (int x = 0; x < width; ++x, pixel += 4)
             pixel[3] = 1.0f;
     }

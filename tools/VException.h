@@ -7,7 +7,9 @@
 
 /// Where this line stands, as a location text: File: "../image/VImage.cpp" Line: 902. The path is turned into a text a second
 /// time, which puts the quotes around it and doubles any backslash. Fixed when the source is compiled.
-#define V_LOCATION QStringLiteral("File: " V_TEXT_OF(__FILE__) " Line: " V_TEXT_OF(__LINE__))
+#define V_LOCATION V_LOCATION_IN(__FILE__)
+/// The same under the name of another source, given as a text.
+#define V_LOCATION_IN(file) QStringLiteral("File: " V_TEXT_OF(file) " Line: " V_TEXT_OF(__LINE__))
 
 /// The one failure type, thrown and caught by value. It is part of the contract between host and plug-in, which know it under
 /// this name and field order, and on purpose it is no std::exception: a handler for those does not see it.

@@ -50,12 +50,12 @@ void readLeaves(TopologyRecords &records)
         }
 }
 
-std::uint32_t bindTo(std::uint32_t processor)
+std::uint32_t bindTo(std::uint32_t processor, bool withGroups)
 {
     if (processor >= kMaximumProcessors)
         return ~0u;
     bool bound = false;
-    if (kHasProcessorGroups) {
+    if (withGroups) {
         GroupAffinity affinity{1u << (processor % kProcessorsPerGroup),
                                static_cast<std::uint16_t>(processor / kProcessorsPerGroup)};
         bound = SetThreadGroupAffinity(affinity);
@@ -75,7 +75,7 @@ bool walk(TopologyRecords &records)
     for (std::uint32_t i = 0; i < records.processorCount; ++i) {
         if (!masks.processMask.test(i))
             continue;
-        TopologyRecords::Processor processor{i, bindTo(i), 0};
+        TopologyRecords::Processor processor{i, bindTo(i, records.hasGroups), 0};
         if (processor.bindError == 0)
             processor.apicId = records.leafB.empty() ? cpuid(1).ebx >> 24 : cpuid(0xB).edx;
         records.processors.push_back(processor);
@@ -87,11 +87,12 @@ bool walk(TopologyRecords &records)
 
 } // namespace
 
-TopologyRecords readTopology()
+TopologyRecords readTopology(bool withGroups)
 {
     TopologyRecords records;
+    records.hasGroups = withGroups;
     records.processorCount = GetMaximumProcessorCount(kAllProcessorGroups);
-    if (kHasProcessorGroups)
+    if (withGroups)
         readGroups(records);
     else
         records.masksTold = GetProcessAffinityMask(&records.processMask, &records.systemMask);

@@ -25,7 +25,7 @@ struct TopologyRecords
 
     std::uint32_t processorCount = 0;
 
-    bool hasGroups = kHasProcessorGroups;
+    bool hasGroups = true;   ///< The system has the group calls.
     bool groupsTold = false; ///< The system told its groups.
     std::vector<Group> groups;
 
@@ -45,5 +45,6 @@ struct TopologyRecords
     std::vector<ProcessorPlace> places;
 };
 
-/// Asks this machine, and leaves the calling thread bound to the last processor that it visited. May throw std::bad_alloc.
-TopologyRecords readTopology();
+/// Asks this machine, and leaves the calling thread bound to the last processor that it visited. `withGroups` false asks as on a
+/// system without the group calls. May throw std::bad_alloc.
+TopologyRecords readTopology(bool withGroups = HasProcessorGroups());

@@ -29,16 +29,12 @@ void AdviseHugePages(void *block, std::size_t bytes);
 void *ReserveMemory(std::size_t bytes);
 void ReleaseMemory(void *memory, std::size_t bytes);
 
-/// Lets another thread run; false if there was none to run.
-bool SwitchToThread();
-
 // Logical processors are numbered densely from 0, in the system's order, without those that are switched off. A group holds the
 // next 32 of them, so that a mask of 32 bits addresses each processor of a group.
 constexpr std::uint32_t kProcessorsPerGroup = 32;
 constexpr std::uint32_t kMaximumProcessors = 128; ///< As many as the group calls address.
 constexpr std::uint32_t kMaximumGroups = 256;     ///< As many as the system may have.
 constexpr std::uint16_t kAllProcessorGroups = 0xFFFF;
-constexpr bool kHasProcessorGroups = true; ///< False on a system without the group calls: the plain masks serve there.
 
 struct ProcessorGroup
 {
@@ -65,14 +61,11 @@ struct GroupAffinity
     std::uint32_t mask;
     std::uint16_t group;
 };
-struct SystemInfo
-{
-    std::uint32_t numberOfProcessors;
-};
 
+/// Whether the system has the group calls; without them the plain masks serve.
+bool HasProcessorGroups();
 /// Logical processors of a group, or of all with kAllProcessorGroups; 0 if there is no such group or they can't be counted.
 std::uint32_t GetMaximumProcessorCount(std::uint16_t group);
-void GetSystemInfo(SystemInfo *information);
 /// 0 if the processors can't be counted.
 std::uint16_t GetActiveProcessorGroupCount();
 /// Fails if the system does not tell the relation, or has more processors or groups than there is room for.

@@ -230,11 +230,6 @@ bool QueryPerformanceFrequency(std::int64_t *ticksPerSecond)
     return true;
 }
 
-bool SwitchToThread()
-{
-    return sched_yield() == 0;
-}
-
 std::uint32_t GetMaximumProcessorCount(std::uint16_t group)
 {
     const auto all = static_cast<std::uint32_t>(onlineProcessors().size());
@@ -244,9 +239,9 @@ std::uint32_t GetMaximumProcessorCount(std::uint16_t group)
     return first < all ? std::min(all - first, kProcessorsPerGroup) : 0;
 }
 
-void GetSystemInfo(SystemInfo *information)
+bool HasProcessorGroups()
 {
-    information->numberOfProcessors = GetMaximumProcessorCount(kAllProcessorGroups);
+    return true;
 }
 
 std::uint16_t GetActiveProcessorGroupCount()

@@ -198,7 +198,8 @@ void pardiso(void *pt, const std::int32_t *, const std::int32_t *, const std::in
 
     const SparseRows matrix{*mtype == SymmetricIndefinite, *n, static_cast<const float *>(a), ia, ja};
     const auto run = [&]() -> std::int32_t {
-        if ((*mtype != SymmetricIndefinite && *mtype != Unsymmetric) || *n < 1 || *nrhs != 1 || iparm[27] != 1 || iparm[34] != 0)
+        if ((*mtype != SymmetricIndefinite && *mtype != Unsymmetric) || *n < 1 || *nrhs != 1 ||
+            iparm[PardisoSinglePrecision] != 1 || iparm[PardisoZeroBased] != 0)
             return PardisoBadInput;
         switch (*phase) {
         case Analysis:
@@ -211,18 +212,19 @@ void pardiso(void *pt, const std::int32_t *, const std::int32_t *, const std::in
                 return PardisoBadInput;
             if (!allFinite(matrix.values, matrix.count()))
                 return PardisoNotFinite;
-            const std::int32_t code = handle->factorise(matrix, std::pow(10.0F, float(-iparm[9])));
+            const std::int32_t code = handle->factorise(matrix, std::pow(10.0F, float(-iparm[PardisoPivotPerturbation])));
             handle->factorised = code == 0;
-            if (code == 0 && iparm[17] < 0) {
+            if (code == 0 && iparm[PardisoFactorEntries] < 0) {
                 constexpr std::int64_t highest = std::numeric_limits<std::int32_t>::max();
-                iparm[17] = std::int32_t(std::min(handle->entryCount(), highest));
+                iparm[PardisoFactorEntries] = std::int32_t(std::min(handle->entryCount(), highest));
             }
             return code;
         }
         case Solution:
             if (!handle || !handle->factorised)
                 return PardisoBadInput;
-            return solveRefined(*handle, matrix, iparm[7], static_cast<const float *>(b), static_cast<float *>(x));
+            return solveRefined(*handle, matrix, iparm[PardisoRefinementSteps], static_cast<const float *>(b),
+                                static_cast<float *>(x));
         default:
             return PardisoBadInput;
         }

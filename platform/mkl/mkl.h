@@ -25,6 +25,25 @@ enum PardisoError : std::int32_t {
 /// thread that has not said.
 void mklSetTeamSize(int threads);
 
+/// Places in `iparm`, counted from 0. Those of the second group have no effect here.
+enum PardisoSetting : std::size_t {
+    /// Most steps of iterative refinement, with residuals formed in double. Phase 33 stops earlier when the next correction would
+    /// be lost in the rounding of x.
+    PardisoRefinementSteps = 7,
+    PardisoPivotPerturbation = 9, ///< Pivots are perturbed below 10 to the power of minus this, relative to the scaled matrix.
+    /// If negative: set to the entries of the factors, in phase 22 (what exceeds an int reads as the highest one).
+    PardisoFactorEntries = 17,
+    PardisoSinglePrecision = 27, ///< Must be 1.
+    PardisoZeroBased = 34,       ///< Must be 0: indices are one-based.
+
+    PardisoOwnValues = 0,          ///< 1: no defaults.
+    PardisoOrdering = 1,           ///< 3: nested dissection in parallel.
+    PardisoScaling = 10,           ///< 1: with scaling vectors.
+    PardisoMatching = 12,          ///< 1: weighted.
+    PardisoFactorisationWork = 18, ///< -1: reported.
+    PardisoPivoting = 20,          ///< 1: Bunch-Kaufman.
+};
+
 /// Sparse direct solution of A x = b, in phases; every argument by address. Positive definite neighbours on a grid, as an image
 /// gives them, are factorised by the team of mklSetTeamSize, with results that don't depend on its size; all else runs on the
 /// calling thread, one system of the process at a time.
@@ -36,13 +55,7 @@ void mklSetTeamSize(int threads);
 /// `x` written in phase 33, n floats each that don't overlap; x is untouched after an error. `maxfct`, `mnum`, `perm` and
 /// `msglvl` are taken for their places alone.
 ///
-/// `iparm` holds 64 settings, of which these count:
-///   [7]   most steps of iterative refinement, with residuals formed in double. Phase 33 stops earlier when the next correction
-///         would be lost in the rounding of x.
-///   [9]   pivots are perturbed below 10 to the power of minus this, relative to the scaled matrix.
-///   [17]  if negative: set to the entries of the factors, in phase 22 (what exceeds an int reads as the highest one).
-///   [27]  must be 1, single precision.
-///   [34]  must be 0, one-based indices.
+/// `iparm` holds 64 settings; see PardisoSetting.
 ///
 /// `*error` is 0, or a PardisoError; after an error everything that `pt` stood for is released and `pt` is zero again.
 void pardiso(void *pt, const std::int32_t *maxfct, const std::int32_t *mnum, const std::int32_t *mtype, const std::int32_t *phase,

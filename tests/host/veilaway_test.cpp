@@ -17,10 +17,10 @@
 
 #include "HazeState.h"
 #include "PhotoLoader.h"
+#include "Photograph.h"
 #include "RemoveHaze.h"
 #include "TestFolder.h"
 #include "gfl.h"
-#include "transpose.h"
 #include "workingForm.h"
 
 namespace {
@@ -282,7 +282,7 @@ TEST_F(Veilaway, a_wide_photograph_gets_what_the_engine_makes_of_it_with_rows_fo
     EXPECT_EQ(QDir(folder.path("")).entryList({".veilaway*"}, QDir::AllEntries | QDir::Hidden), QStringList());
     for (const auto &photo : cases) {
         VImage turned, working;
-        transpose(PhotoLoader::decode(folder.path(photo.name))->image(), turned);
+        PhotoLoader::decode(folder.path(photo.name))->image().Turn(turned, Photograph::kRowsForColumns);
         toWorkingForm(turned, working);
         HazeState state{};
         state.strength = 90;
@@ -290,7 +290,7 @@ TEST_F(Veilaway, a_wide_photograph_gets_what_the_engine_makes_of_it_with_rows_fo
         const std::unique_ptr<float[]> map(state.transmission);
         VImage reference, upright;
         working.ConvertTo(reference, photo.type, photo.bits);
-        transpose(reference, upright);
+        reference.Turn(upright, Photograph::kRowsForColumns);
         const QString suffix = QString(photo.name).section('.', 1).toLower();
         upright.Save(folder.path("reference." + suffix), suffix, -1, folder.path(photo.name));
 

@@ -315,7 +315,7 @@ TEST_F(Plugin, names_of_results)
         const char *result;
     } rows[] = {
         {"IMG.PNG", english, false, "IMG_dehazed.png"},      {"a.b.png", english, false, "a.b_dehazed.png"},
-        {"raw.nef", english, true, "raw_dehazed.tiff"},      {"bare", english, true, "bare_dehazed.tiff"},
+        {"a.other", english, true, "a_dehazed.tiff"},        {"bare", english, true, "bare_dehazed.tiff"},
         {"photo.JPG", german, false, "photo_entnebelt.jpg"},
     };
     for (const auto &row : rows) {

@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "HandOverLocker.h"
 #include "PreviewTest.h"
 #include "RemoveHaze.h"
@@ -73,12 +75,13 @@ TEST_F(Worker, a_strength_that_moves_during_the_run_stays)
     EXPECT_EQ(record.strength, 70);
 }
 
-TEST_F(Worker, an_image_without_airlight_stays_as_it_is)
+TEST_F(Worker, an_image_that_can_not_be_estimated_stays_as_it_is)
 {
-    VImage black(40, 30, VImage::Rgba, 32, /*clear=*/true);
+    const auto image = landscape(40, 30);
+    *reinterpret_cast<float *>(image->PixelAddress(20, 15)) = std::numeric_limits<float>::quiet_NaN();
     record.strength = 50;
-    run(black);
-    EXPECT_EQ(screenImage(worker.work), screenImage(black));
+    run(*image);
+    EXPECT_EQ(screenImage(worker.work), screenImage(*image));
     EXPECT_EQ(record.transmission, nullptr);
 }
 

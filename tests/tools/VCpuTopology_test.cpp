@@ -7,6 +7,8 @@
 #include <omp.h>
 #include <sched.h>
 
+#include "countTopology.h"
+#include "readTopology.h"
 #include "startLibraries.h"
 #include "threadCount.h"
 
@@ -66,6 +68,25 @@ TEST_F(StartedTools, FitAProcessThatMayUseOneProcessor)
     EXPECT_EQ(threadCount, 1);
     EXPECT_EQ(coreCount, 1);
     EXPECT_EQ(sched_setaffinity(0, sizeof before, &before), 0);
+}
+
+TEST(VCpuTopology, IsTheSameWithoutProcessorGroupsWhereThePlainMasksReach)
+{
+    TopologyRecords groups, plain;
+    std::thread([&] { groups = readTopology(); }).join(); // each walk ends with its thread, and so does the binding
+    std::thread([&] { plain = readTopology(/*withGroups=*/false); }).join();
+    ASSERT_FALSE(plain.hasGroups);
+    EXPECT_TRUE(plain.masksTold && plain.groups.empty());
+    VCpuTopology first, second;
+    countTopology(groups, first);
+    countTopology(plain, second);
+    if (plain.processorCount > 32)
+        EXPECT_EQ(second.error, VCpuTopology::TooManyProcessors);
+    else if (plain.processMask != plain.systemMask)
+        EXPECT_NE(second.error, 0u);
+    else
+        EXPECT_EQ(std::tie(second.error, second.coreCount, second.threadCount),
+                  std::tie(first.error, first.coreCount, first.threadCount));
 }
 
 TEST(VCpuTopology, FallsBackOnTheRunTime)

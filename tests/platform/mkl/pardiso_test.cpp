@@ -40,9 +40,9 @@ struct Calls
 {
     explicit Calls(const TestRows &rows) : matrix(rows), x(std::size_t(rows.order), -7.0F)
     {
-        iparm[7] = 2;
-        iparm[9] = rows.symmetric ? 8 : 13;
-        iparm[27] = 1;
+        iparm[PardisoRefinementSteps] = 2;
+        iparm[PardisoPivotPerturbation] = rows.symmetric ? 8 : 13;
+        iparm[PardisoSinglePrecision] = 1;
     }
     ~Calls() { phase(-1); }
     Calls(const Calls &) = delete;
@@ -196,8 +196,8 @@ TEST(Pardiso, RefusesWhatItCannotRead)
          [](Calls &calls) {
              calls.matrix.columns = {1, 2, 1};
          }},
-        {"double_precision", [](Calls &calls) { calls.iparm[27] = 0; }},
-        {"zero_based_setting", [](Calls &calls) { calls.iparm[34] = 1; }},
+        {"double_precision", [](Calls &calls) { calls.iparm[PardisoSinglePrecision] = 0; }},
+        {"zero_based_setting", [](Calls &calls) { calls.iparm[PardisoZeroBased] = 1; }},
     };
     for (const auto &fault : faults) {
         SCOPED_TRACE(fault.name);

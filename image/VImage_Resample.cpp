@@ -1,0 +1,68 @@
+#include "VImage.h"
+
+#include <cstdint>
+#include <memory>
+#include <new>
+
+#include "imageRows.h"
+#include "ipp.h"
+
+namespace {
+
+struct IppsRelease
+{
+    void operator()(void *block) const { ippsFree(block); }
+};
+template<typename T>
+using IppsBlock = std::unique_ptr<T, IppsRelease>;
+
+/// Below this many samples on both sides together a team costs more than it gains.
+constexpr std::int64_t kSamplesForTeam = 1 << 18;
+
+/// Scales all of `source` into all of `target`. False, with the target as it was, for a form that is not processed or an empty
+/// side. Throws std::bad_alloc.
+bool resize(const VImage &source, VImage &target)
+{
+    if (!isProcessedType(source.Type()) || !isProcessedDepth(source.BitsPerComponent()))
+        return false;
+    const int channels = source.Bitmap()->componentsPerPixel;
+    const IppiSize from{source.Width(), source.Height()};
+    const IppiSize to{target.Width(), target.Height()};
+    const auto method = to.width > from.width || to.height > from.height ? IppiInterpolation::Linear : IppiInterpolation::Super;
+    const std::size_t specBytes = ippiResizeGetSize(from, to, method);
+    if (specBytes == 0)
+        return false;
+    const IppsBlock<IppiResizeSpec> spec(static_cast<IppiResizeSpec *>(ippsMalloc(specBytes)));
+    if (!spec)
+        throw std::bad_alloc(); // a black image would be taken for the picture
+    ippiResizeInit(from, to, method, {channels, source.BitsPerComponent()}, spec.get());
+
+    const std::int64_t pixels = std::int64_t{from.width} * from.height + std::int64_t{to.width} * to.height;
+    const int team = pixels * channels < kSamplesForTeam ? 1 : teamFor(to.height);
+    const std::size_t bufferBytes = ippiResizeGetBufferSize(spec.get());
+    const IppsBlock<unsigned char> buffers(
+        static_cast<unsigned char *>(ippsMalloc(bufferBytes * static_cast<std::size_t>(team))));
+    if (!buffers)
+        throw std::bad_alloc();
+#pragma omp parallel for schedule(static) num_threads(team)
+    for (int part = 0; part < team; ++part) {
+        const int first = firstRowOf(part, team, to.height);
+        ippiResize(source.PixelAddress(0, 0), source.BytesPerLine(), target.PixelAddress(0, 0), target.BytesPerLine(), first,
+                   firstRowOf(part + 1, team, to.height) - first, spec.get(),
+                   buffers.get() + bufferBytes * static_cast<std::size_t>(part));
+    }
+    return true;
+}
+
+} // namespace
+
+void VImage::Resample(VImage &target, int width, int height) const
+{
+    if (!bitmap)
+        throw VException(QString(), V_RECORD_LOCATION);
+    if (width == Width() && height == Height())
+        return target.Assign(*this);
+    target.Create(width, height, Type(), BitsPerComponent());
+    if (!resize(*this, target))
+        target.Create(width, height, Type(), BitsPerComponent(), /*clear=*/true);
+}

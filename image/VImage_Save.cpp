@@ -1,0 +1,125 @@
+#include "VImage.h"
+
+#include <cstdint>
+#include <memory>
+
+#include "VImageSettings.h"
+#include "VTempManager.h"
+#include "gfl.h"
+#include "imageRows.h"
+#include "throwGflError.h"
+
+namespace {
+
+struct BitmapRelease
+{
+    void operator()(GflBitmap *bitmap) const { gflFreeBitmap(bitmap); }
+};
+struct ExifRelease
+{
+    void operator()(GflExif *exif) const { gflFreeEXIF2(exif); }
+};
+
+/// The codec layer's name of a format that is given in any case or by one of three short forms.
+QString formatName(const QString &format)
+{
+    const QString name = format.toLower();
+    return name == "jpg" ? "jpeg" : name == "tif" ? "tiff" : name == "hdr" ? "hdri" : name;
+}
+
+/// -1 leaves the layer's defaults. "jpeg" has a scale of 0 to 12, which becomes 4 to 100; for the others it is a compression.
+void ApplySaveQuality(QString format, int quality, GflSaveParams &params)
+{
+    if (quality == -1)
+        return;
+    if (format == "jpeg")
+        params.quality = static_cast<std::int16_t>(quality * 8 + 4);
+    else if (format == "png" || format == "hdri" || format == "psd")
+        params.compression = static_cast<std::int16_t>(quality);
+    else if (format == "tiff")
+        params.compression = quality == 2 ? 2 : quality == 3 ? 4 : 0;
+    else if (format == "exr")
+        params.compression = quality >= 1 && quality <= 8 ? static_cast<std::int16_t>(quality - 1) : 4;
+}
+
+/// Asks for all metadata and, since the pixels are thrown away, for nothing else. The raw settings of the image library go along.
+void InitLoadParameters(GflLoadParams &params)
+{
+    gflGetDefaultLoadParams(&params);
+    const VImageSettings defaults;
+    const VImageSettings &settings = imageSettings ? *imageSettings : defaults;
+    params.rawUseAutomaticBalance = settings.rawUseAutomaticBalance;
+    params.rawUseCameraBalance = settings.rawUseCameraBalance;
+    params.rawHighlight = static_cast<std::uint8_t>(settings.rawHighlight);
+    params.rawAutoBright = settings.rawAutoBright;
+    params.rawGamma = settings.rawGamma;
+    params.rawBrightness = settings.rawBrightness;
+    params.rawRedScaling = settings.rawRedScaling;
+    params.rawBlueScaling = settings.rawBlueScaling;
+    params.flags |= GFL_LOAD_METADATA | GFL_LOAD_METADATA_ONLY;
+}
+
+/// Colour profile, IPTC and EXIF of a file, each if it has it. False if memory for one is missing, which the layer doesn't say.
+bool copyMetadata(const GflBitmap *source, GflBitmap *target, GflSaveParams &params)
+{
+    if (gflBitmapHasICCProfile(source)) {
+        gflBitmapCopyICCProfile(source, target);
+        params.flags |= GFL_SAVE_ICC_PROFILE;
+        if (!gflBitmapHasICCProfile(target))
+            return false;
+    }
+    if (gflBitmapHasIPTC(source)) {
+        gflBitmapSetIPTC(target, gflBitmapGetIPTC(source));
+        if (!gflBitmapHasIPTC(target))
+            return false;
+    }
+    if (gflBitmapHasEXIF(source)) {
+        const std::unique_ptr<GflExif, ExifRelease> exif(gflBitmapGetEXIF2(source));
+        gflBitmapSetEXIF2(target, exif.get());
+        if (!gflBitmapHasEXIF(target))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+void VImage::Save(QString fileName, QString format, int quality, QString metadataSource)
+{
+    if (!bitmap)
+        throw VException("Invalid Bitmap", V_RECORD_LOCATION);
+    if (!isProcessedDepth(BitsPerComponent()))
+        throw VException("Invalid Bitmap", V_RECORD_LOCATION);
+    if (fileName.isEmpty())
+        throw VException("Invalid Parameter", V_RECORD_LOCATION);
+    if (format.isEmpty())
+        throw VException("Invalid Parameter", V_RECORD_LOCATION);
+
+    format = formatName(format);
+    GflSaveParams saveParams;
+    gflGetDefaultSaveParams(&saveParams);
+    ApplySaveQuality(format, quality, saveParams);
+    if (!metadataSource.isEmpty()) { // before the file is written, so that an unreadable source ends the save early
+        GflLoadParams loadParams;
+        InitLoadParameters(loadParams);
+        GflBitmap *read = nullptr;
+        GflFileInformation information;
+        throwGflError(gflLoadBitmapUTF8(metadataSource.toUtf8().constData(), &read, &loadParams, &information), metadataSource,
+                      V_RECORD_LOCATION);
+        const std::unique_ptr<GflBitmap, BitmapRelease> source(read);
+        const bool copied = copyMetadata(source.get(), bitmap, saveParams);
+        gflFreeFileInformation(&information);
+        if (!copied)
+            throwGflError(GFL_ERROR_NO_MEMORY, metadataSource, V_RECORD_LOCATION);
+    }
+    saveParams.formatIndex = gflGetFormatIndexByName(format.toLocal8Bit().constData());
+
+    const auto result = static_cast<std::int16_t>(gflSaveBitmapUTF8(fileName.toUtf8().constData(), bitmap, &saveParams));
+    if (result != 0) {
+        // A full disk or a locked file is a clearer sentence than the code. The count wraps around in 32 bits on purpose.
+        const auto bytes = static_cast<std::int32_t>(static_cast<std::uint32_t>(Width()) * static_cast<std::uint32_t>(Height()) *
+                                                     bitmap->bytesPerPixel);
+        checkFileWritable(fileName, bytes, V_RECORD_LOCATION);
+    }
+    throwGflError(result, fileName, V_RECORD_LOCATION);
+}
