@@ -1,12 +1,15 @@
 // How good the results are, on drawn scenes of which depth, airlight and truth are known. Draws each scene, runs the real
 // veilaway on it as a 16-bit TIFF, and compares three pictures with the truth: the untouched one, the one by the map without
-// refinement, and the result. Prints tables in Markdown; writes them, the files and a sheet of pictures a scene into FOLDER.
-// Fails if a file is not what the engine makes in this process, or with --gain if a result's PSNR is not above the untouched
-// picture's by that much. usage: quality FOLDER [--width N] [--scene NAME]... [--gain DB]
+// refinement, and the result; and the strengths, fixed, automatic and best. Prints tables in Markdown; writes them, the files and
+// a sheet of pictures a scene into FOLDER. Fails if a file is not what the engine makes in this process, or with --gain if a
+// result's PSNR is not above the untouched picture's by that much. usage: quality FOLDER [--width N] [--scene NAME]... [--gain
+// DB]
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -16,6 +19,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 
 #include "HazeState.h"
@@ -31,7 +36,9 @@
 namespace {
 
 constexpr int kFull = 100;
-constexpr int kStrengths[] = {50, 70, 85, kFull};
+constexpr int kUsual = 70;
+constexpr int kWeakest = 30, kStep = 5; ///< Strengths that are tried.
+constexpr int kShown[] = {50, kUsual, 85, kFull};
 
 std::size_t pixelsOf(const VImage &image)
 {
@@ -58,11 +65,16 @@ void readFile(const QString &file, VImage &image)
     image.Assign(view);
 }
 
-void runProgram(const QString &file, int strength)
+/// Returns the strength that was used.
+int runProgram(const QString &file, const QString &strength)
 {
-    const QStringList words{file, "--strength", QString::number(strength), "--language", "en", "--overwrite", "--quiet"};
-    if (QProcess::execute(QCoreApplication::applicationDirPath() + "/veilaway", words) != 0)
+    const QStringList words{file, "--strength", strength, "--language", "en", "--overwrite", "--json"};
+    QProcess program;
+    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    program.start(QCoreApplication::applicationDirPath() + "/veilaway", words);
+    if (!program.waitForFinished(-1) || program.exitStatus() != QProcess::NormalExit || program.exitCode() != 0)
         throw VException(QStringLiteral("veilaway failed: %1").arg(words.join(' ')), V_LOCATION);
+    return QJsonDocument::fromJson(program.readAllStandardOutput()).object()["strength"].toInt();
 }
 
 bool samePixels(const VImage &a, const VImage &b)
@@ -143,7 +155,9 @@ struct Figures
     std::optional<EdgeFigures> edges[2];
     double airlightError = 0.0;
     Likeness picture[3];
-    std::map<int, double> psnrAt;
+    std::map<int, Likeness> at; ///< By strength.
+    int automaticStrength = 0;
+    Likeness automatic;
 };
 
 Figures measure(const QString &name, int width, const QDir &folder)
@@ -176,17 +190,26 @@ Figures measure(const QString &name, int width, const QDir &folder)
 
     Figures figures;
     figures.name = name;
-    for (const int strength : kStrengths) {
-        VImage written, working;
-        runProgram(base + ".tiff", strength);
-        readFile(base + "_dehazed.tiff", written);
-        toWorkingForm(written, working);
-        figures.psnrAt[strength] = psnr(working, *truth);
-        if (strength == kFull) {
-            result.ConvertTo(file, file.Type(), file.BitsPerComponent());
-            if (!samePixels(file, written))
-                throw VException(QStringLiteral("Not what the engine makes: %1").arg(base + "_dehazed.tiff"), V_LOCATION);
-        }
+    const auto written = [&](const QString &strength, VImage &image) {
+        const int used = runProgram(base + ".tiff", strength);
+        readFile(base + "_dehazed.tiff", image);
+        return used;
+    };
+    {
+        VImage expected, seen, working;
+        written(QString::number(kFull), seen);
+        result.ConvertTo(expected, file.Type(), file.BitsPerComponent());
+        if (!samePixels(expected, seen))
+            throw VException(QStringLiteral("Not what the engine makes: %1").arg(base + "_dehazed.tiff"), V_LOCATION);
+        figures.automaticStrength = written("auto", seen);
+        toWorkingForm(seen, working);
+        figures.automatic = likeness(working);
+    }
+    for (state.strength = kWeakest; state.strength <= kFull; state.strength += kStep) {
+        VImage working;
+        working.Assign(untouched);
+        RemoveHaze(working, state);
+        figures.at[state.strength] = likeness(working);
     }
     const std::vector<float> clear(pixelsOf(untouched), 1.0f);
     const std::vector<float> rough = transmissionOf(dark.get(), clear.size()), fine = transmissionOf(map.get(), clear.size());
@@ -224,6 +247,46 @@ QString row(const QStringList &cells)
     return "| " + cells.join(" | ") + " |\n";
 }
 
+/// PSNR and SSIM of all scenes for ways to choose the strength; the best ones by either measure know the truth.
+QString meansOf(const std::vector<Figures> &all)
+{
+    using Choice = std::function<Likeness(const Figures &)>;
+    const auto mean = [&](const Choice &choice) {
+        Likeness sum;
+        for (const Figures &one : all) {
+            const Likeness likeness = choice(one);
+            sum.psnr += likeness.psnr / double(all.size());
+            sum.ssim += likeness.ssim / double(all.size());
+        }
+        return sum;
+    };
+    const auto fixed = [&](int strength) { return mean([=](const Figures &one) { return one.at.at(strength); }); };
+    QString text = row({"strength", "mean PSNR", "mean SSIM"}) + row({"---", "---", "---"});
+    const auto add = [&](const QString &name, const Likeness &likeness) {
+        text += row({name, number(likeness.psnr, 2), number(likeness.ssim, 3)});
+    };
+    add("untouched", mean([](const Figures &one) { return one.picture[0]; }));
+    add(QStringLiteral("%1").arg(kUsual), fixed(kUsual));
+    add("auto", mean([](const Figures &one) { return one.automatic; }));
+    const struct
+    {
+        const char *name;
+        double Likeness::*measure;
+    } kinds[] = {{"PSNR", &Likeness::psnr}, {"SSIM", &Likeness::ssim}};
+    for (const auto &[name, measure] : kinds) {
+        int best = kWeakest;
+        for (int strength = kWeakest; strength <= kFull; strength += kStep)
+            best = fixed(strength).*measure > fixed(best).*measure ? strength : best;
+        add(QStringLiteral("%1, the best for all by %2").arg(best).arg(QLatin1String(name)), fixed(best));
+    }
+    for (const auto &[name, measure] : kinds)
+        add(QStringLiteral("the best for each by %1").arg(QLatin1String(name)), mean([measure = measure](const Figures &one) {
+                const auto less = [=](const auto &a, const auto &b) { return a.second.*measure < b.second.*measure; };
+                return std::max_element(one.at.begin(), one.at.end(), less)->second;
+            }));
+    return text;
+}
+
 QString tablesOf(const std::vector<Figures> &all, int width)
 {
     QString text;
@@ -249,18 +312,19 @@ QString tablesOf(const std::vector<Figures> &all, int width)
             cells << number(picture.ssim, 3);
         text += row(cells);
     }
-    QStringList head{"scene, PSNR at strength"}, line{"---"};
-    for (const int strength : kStrengths) {
+    QStringList head{"scene, PSNR at strength"}, line{"---", "---"};
+    for (const int strength : kShown) {
         head << QString::number(strength);
         line << "---";
     }
-    text += "\n" + row(head) + row(line);
+    text += "\n" + row(head << "auto") + row(line);
     for (const Figures &one : all) {
         QStringList cells{one.name};
-        for (const auto &[strength, value] : one.psnrAt)
-            cells << number(value, 1);
-        text += row(cells);
+        for (const int strength : kShown)
+            cells << number(one.at.at(strength).psnr, 1);
+        text += row(cells << QStringLiteral("%1 (at %2)").arg(number(one.automatic.psnr, 1)).arg(one.automaticStrength));
     }
+    text += "\n" + meansOf(all);
     return text + QStringLiteral("\n%1 scenes of %2 x %3 pixels.\n").arg(all.size()).arg(width).arg(width * 2 / 3);
 }
 
