@@ -98,7 +98,11 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
             item.givenBytes = bytes;
         item.path = pathOf(item.given);
         const QDomElement stored = wishes.settings ? wishes.settings->element(item.path) : QDomElement();
-        item.strength = wishes.strength ? *wishes.strength : SettingsFile::strengthOf(stored).value_or(wishes.defaultStrength);
+        WantedStrength wanted = wishes.strength.value_or(wishes.defaultStrength);
+        if (const auto known = SettingsFile::strengthOf(stored); known && !wishes.strength)
+            wanted = {*known, /*automatic=*/false};
+        item.automatic = wanted.automatic;
+        item.strength = wanted.percent;
         item.refusal = PhotoLoader::complaint(item.given.isEmpty() ? item.given : item.path);
         if (!item.refusal.isEmpty()) {
             items.push_back(std::move(item));
@@ -114,8 +118,9 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         if (tiff && !PhotoLoader::rawSuffixes().contains(suffix.toLower()))
             item.note = suffix.isEmpty() ? tr("It has no suffix, so the result is a TIFF.")
                                          : tr("\"%1\" is no format that can be written, so the result is a TIFF.").arg(suffix);
-        item.settings =
-            wishes.strength || stored.isNull() ? SettingsFile::withStrength(wishes.processName, item.strength) : stored;
+        if (!item.automatic)
+            item.settings =
+                wishes.strength || stored.isNull() ? SettingsFile::withStrength(wishes.processName, item.strength) : stored;
         items.push_back(std::move(item));
     }
 

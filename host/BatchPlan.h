@@ -9,6 +9,7 @@
 
 #include "BatchRunner.h"
 #include "SettingsFile.h"
+#include "WantedStrength.h"
 
 /// Decides before any work what becomes of each photograph: its strength, the name of its result, and whether it must be refused
 /// (see BatchItem::refusal): what is no photograph, a result that is there already, a result that is itself one of the
@@ -20,8 +21,8 @@ class BatchPlan
 public:
     struct Wishes
     {
-        std::optional<int> strength; ///< For all; otherwise that of the settings, then `defaultStrength`.
-        int defaultStrength = 0;
+        std::optional<WantedStrength> strength; ///< For all; otherwise that of the settings, then `defaultStrength`.
+        WantedStrength defaultStrength;
         bool overwrite = false;
         QString processName;
         const SettingsFile *settings = nullptr; ///< May be null.

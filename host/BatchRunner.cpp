@@ -16,6 +16,7 @@
 #include <QThread>
 
 #include "BatchPlan.h"
+#include "CommandLine.h"
 #include "TransposedRun.h"
 #include "VException.h"
 #include "XmpCarrier.h"
@@ -35,12 +36,12 @@ namespace {
 /// the same for every photograph (measured: 150 MB), and at last the map of 4 bytes a pixel, with guide and map of the level
 /// before: the copy of 100,000 pixels, doubled for as long as it stays narrower. To turn a picture takes it twice, or 12 bytes a
 /// pixel of coefficients, which is less than all that.
-qint64 memoryFor(const PhotoFacts &facts, int sourceBytes, int strength)
+qint64 memoryFor(const PhotoFacts &facts, int sourceBytes, bool untouched)
 {
     constexpr int kWorkingBytes = 16, kMapBytes = 4;
     const qint64 pixels = qint64(facts.width) * facts.height;
     const qint64 images = pixels * (sourceBytes + kWorkingBytes);
-    if (strength == 0 || pixels == 0)
+    if (untouched || pixels == 0)
         return images;
     qint64 level = std::max(1, int(std::sqrt(100000.0 * facts.width / facts.height)));
     while (level * 2 < facts.width)
@@ -91,6 +92,8 @@ void BatchRunner::work(const std::vector<BatchItem> &items)
         timer.start();
         BatchOutcome outcome = process(items[index], int(index));
         outcome.seconds = double(timer.nsecsElapsed()) / 1e9;
+        if (!items[index].automatic)
+            outcome.strength = items[index].strength;
         const std::lock_guard lock(reportMutex);
         watcher.finished(int(index), outcome);
     }
@@ -114,7 +117,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     Stage stage = Stage::Reading;
     bool outOfMemory = false;
     try {
-        outcome.unchanged = attempt(item, index, stage);
+        outcome.unchanged = attempt(item, index, stage, outcome.strength);
         outcome.status = outcome.unchanged.isEmpty() ? BatchOutcome::Status::Done : BatchOutcome::Status::Unchanged;
         outcome.message = carryXmp(item.path, item.result);
         if (!outcome.message.isEmpty())
@@ -152,11 +155,12 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     return outcome;
 }
 
-QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
+QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage, std::optional<int> &strength)
 {
     Photograph &original = *application.photograph(item.path);
     const PhotoFacts facts = original.facts();
-    const int limit = item.strength > 0 ? kRefusedWidth : 0;
+    const bool untouched = !item.automatic && item.strength == 0;
+    const int limit = untouched ? 0 : kRefusedWidth;
     const bool wide = limit > 0 && facts.width >= limit;
     if (wide && facts.height >= limit)
         throw VException(Photograph::tooLarge(limit), V_LOCATION);
@@ -166,7 +170,7 @@ QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
         turned.emplace(application, item.path);
     Photograph &photograph = turned ? turned->photograph() : original;
 
-    const qint64 bytes = memoryFor(photograph.facts(), PhotoLoader::pixelBytes(item.path), item.strength);
+    const qint64 bytes = memoryFor(photograph.facts(), PhotoLoader::pixelBytes(item.path), untouched);
     reserve(bytes);
     VISettingsHandle settings = nullptr;
     const auto finish = [&](void *) {
@@ -189,9 +193,13 @@ QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage)
         const std::lock_guard lock(reportMutex);
         watcher.stageBegins(index, stage);
     });
+    if (item.automatic) {
+        photograph.decodeAhead();
+        strength = photograph.automaticStrength().value_or(CommandLine::kUsualStrength);
+    }
     {
         const std::lock_guard lock(reportMutex); // two elements may belong to one document
-        settings = one2one.createSettings(item.settings);
+        settings = one2one.createSettings(item.automatic ? SettingsFile::withStrength(one2one.name(), *strength) : item.settings);
     }
     if (turned) {
         turned->run(one2one, settings, item.result);

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 #include <QCoreApplication>
@@ -19,6 +20,7 @@ struct BatchItem
     QByteArray givenBytes;   ///< The same as it is on the disk, if that is not UTF-8, otherwise empty.
     QString path;            ///< Absolute.
     QString result;          ///< Absolute; what the process will write.
+    bool automatic = false;  ///< Its strength is chosen when it has been decoded: the next two say nothing.
     QDomElement settings;    ///< Of the process.
     int strength = 0;        ///< In `settings`.
     QString refusal;         ///< Not empty: it fails with this sentence, before any work.
@@ -32,8 +34,9 @@ struct BatchOutcome
     enum class Status { Done, Unchanged, Failed, Stopped };
     Status status = Status::Failed;
     double seconds = 0;
-    QString message;   ///< What went wrong and what helps; where there is a result, what it lacks, or empty.
-    QString unchanged; ///< For Unchanged, a result that shows the photograph as it was: why that is, and what helps.
+    QString message;               ///< What went wrong and what helps; where there is a result, what it lacks, or empty.
+    QString unchanged;             ///< For Unchanged, a result that shows the photograph as it was: why that is, and what helps.
+    std::optional<int> strength{}; ///< In per cent; nothing for one that was to be chosen, but had no chance to be.
 };
 
 /// Runs a process over many photographs, several at a time, so that reading, engine and writing of neighbours overlap. It goes on
@@ -74,8 +77,9 @@ public:
 private:
     void work(const std::vector<BatchItem> &items);
     BatchOutcome process(const BatchItem &item, int index);
-    /// Throws; otherwise the result is there, and what it gives is BatchOutcome::unchanged.
-    QString attempt(const BatchItem &item, int index, Stage &stage);
+    /// Throws; otherwise the result is there, and what it gives is BatchOutcome::unchanged. Sets the strength of an automatic
+    /// one.
+    QString attempt(const BatchItem &item, int index, Stage &stage, std::optional<int> &strength);
     void reserve(qint64 bytes);
     void giveBack(qint64 bytes);
 

@@ -16,11 +16,11 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     CommandLine line;
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    const QCommandLineOption strength("strength", {}, "N"), settings("settings", {}, "FILE"), language("language", {}, "LANG"),
-        jobs("jobs", {}, "N"), plugin("plugin", {}, "FILE"), overwrite("overwrite"), quiet("quiet"), json("json"),
-        share("share-services"), help(QStringList{"h", "help"}), version("version");
+    const QCommandLineOption strength("strength", {}, "N"), setDefault("set-default", {}, "N"), settings("settings", {}, "FILE"),
+        language("language", {}, "LANG"), jobs("jobs", {}, "N"), plugin("plugin", {}, "FILE"), overwrite("overwrite"),
+        quiet("quiet"), json("json"), share("share-services"), help(QStringList{"h", "help"}), version("version");
     for (const QCommandLineOption &option :
-         {strength, settings, language, jobs, plugin, overwrite, quiet, json, share, help, version})
+         {strength, setDefault, settings, language, jobs, plugin, overwrite, quiet, json, share, help, version})
         parser.addOption(option);
 
     const auto fail = [&](const QString &reason) {
@@ -53,9 +53,9 @@ CommandLine CommandLine::parse(const QStringList &arguments)
 
     bool whole = false;
     if (parser.isSet(strength)) {
-        line.strength = parser.value(strength).toInt(&whole);
-        if (!whole || *line.strength < 0 || *line.strength > 100)
-            return fail(tr("--strength wants a whole number from 0 to 100, not \"%1\".").arg(parser.value(strength)));
+        line.strength = WantedStrength::parse(parser.value(strength));
+        if (!line.strength)
+            return fail(tr("--strength wants a whole number from 0 to 100, or auto, not \"%1\".").arg(parser.value(strength)));
     }
     if (parser.isSet(jobs)) {
         line.jobs = parser.value(jobs).toInt(&whole);
@@ -67,6 +67,19 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     if (parser.isSet(settings) &&
         (line.settingsFile.isEmpty() || QString::fromUtf8(argumentBytes(line.settingsFile)) != line.settingsFile))
         return fail(tr("--settings wants the name of a file, in UTF-8."));
+    if (parser.isSet(setDefault)) {
+        const QString value = parser.value(setDefault);
+        line.newDefault = WantedStrength::parse(value);
+        if (!line.newDefault && value != "none")
+            return fail(tr("--set-default wants a whole number from 0 to 100, auto or none, not \"%1\".").arg(value));
+        bool alone = line.command == Command::Run && line.photographs.isEmpty();
+        for (const QCommandLineOption &option : {strength, settings, jobs, overwrite, json})
+            alone = alone && !parser.isSet(option);
+        if (!alone)
+            return fail(tr("--set-default only stores the default: leave out photographs and what is said of them."));
+        line.command = Command::SetDefault;
+        return line;
+    }
     if (line.command == Command::Wizard) {
         for (const QCommandLineOption &option : {strength, overwrite, quiet, json})
             if (parser.isSet(option))
@@ -96,8 +109,11 @@ strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all. Without it, the strength in the settings
-                    file counts, then your stored default, then 70.
+                    it is, 100 takes all, and auto fits it to each photograph: 50 for
+                    a dark one up to 80 for a bright one. Without it, the strength in
+                    the settings file counts, then your stored default, then 70.
+  --set-default N   Store this default, a number or auto, or take it back with none.
+                    Does nothing else.
   --settings FILE   Keep the strength of each photograph in this XML file. If the file
                     is there, its strengths are used, unless --strength is given too;
                     at the end it holds the strengths that were used. Without a PHOTO,
@@ -110,7 +126,7 @@ Options:
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (the reason, or null).
+                    automatic, seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program's own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -137,6 +153,7 @@ Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 )");

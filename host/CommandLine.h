@@ -6,19 +6,22 @@
 #include <QString>
 #include <QStringList>
 
+#include "WantedStrength.h"
+
 /// What the user asked for. Read before the application object exists, since that depends on it.
 class CommandLine
 {
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 
 public:
-    enum class Command { Run, Wizard, Help, Version };
+    enum class Command { Run, Wizard, SetDefault, Help, Version };
 
     static constexpr int kUsualStrength = 70; ///< Where nothing else gives one.
 
     Command command = Command::Run;
     QStringList photographs;
-    std::optional<int> strength; ///< 0 to 100.
+    std::optional<WantedStrength> strength;
+    std::optional<WantedStrength> newDefault; ///< Of SetDefault; nothing takes the stored one back.
     QString settingsFile;
     QString language;
     int jobs = 0; ///< 0: as many as fit.

@@ -124,7 +124,23 @@ HostApplication::Presets::~Presets()
 void HostApplication::setValue(const QString &group, const QString &key, const QVariant &value)
 {
     const std::lock_guard lock(settingsMutex);
-    settings.setValue(group + '/' + key, value);
+    if (value.isValid())
+        settings.setValue(group + '/' + key, value);
+    else
+        settings.remove(group + '/' + key);
+}
+
+QString HostApplication::storedText(const QString &group, const QString &key)
+{
+    const std::lock_guard lock(settingsMutex);
+    return settings.value(group + '/' + key).toString();
+}
+
+QString HostApplication::unwrittenSettings()
+{
+    const std::lock_guard lock(settingsMutex);
+    settings.sync();
+    return settings.status() == QSettings::NoError ? QString() : settings.fileName();
 }
 
 void HostApplication::loadTranslator(const QString &fileName)

@@ -53,6 +53,12 @@ public:
         HostApplication &application;
     };
 
+    /// What is stored under this key as it stands there, or a null text. setValue with an invalid value takes it away. Any
+    /// thread.
+    QString storedText(const QString &group, const QString &key);
+    /// Writes what setValue was given, and names the file if that can't be done.
+    QString unwrittenSettings();
+
     /// Who is told of a failure that no one has caught on the interface thread; the program then goes on.
     void reportTo(std::function<void(const QString &message)> next) { reporter = std::move(next); }
 

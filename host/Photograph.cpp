@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 
+#include "AutomaticStrength.h"
 #include "VException.h"
 #include "patiently.h"
 
@@ -114,7 +115,9 @@ ScaledImages::Image Photograph::makeScaled(int width, int height)
     photo->image().Resample(small, lyingWidth, lyingHeight);
     if (orientation != 1)
         lying.Turn(*upright, orientation);
+    const std::optional<int> strength = AutomaticStrength::of(photo->image());
     const std::lock_guard lock(mutex);
+    automatic = strength;
     form = Form{photo->image().Bitmap()->componentsPerPixel, photo->image().BitsPerComponent()};
     return upright;
 }
@@ -157,6 +160,31 @@ void Photograph::releaseScaled(int width, int height, int)
         scaled.erase(found);
 }
 
+void Photograph::holdFull()
+{
+    if (full)
+        return;
+    std::unique_ptr<DecodedPhoto> fresh = decode();
+    if (refusedWidth > 0 && fresh->image().Width() >= refusedWidth)
+        throw VException(tooLarge(refusedWidth), V_LOCATION);
+    full = std::move(fresh);
+}
+
+void Photograph::decodeAhead()
+{
+    if (watcher)
+        watcher(Use::Reading);
+    const std::lock_guard lock(mutex);
+    holdFull();
+    automatic = AutomaticStrength::of(full->image());
+}
+
+std::optional<int> Photograph::automaticStrength()
+{
+    const std::lock_guard lock(mutex);
+    return automatic;
+}
+
 VImage *Photograph::acquireFull(int)
 {
     if (watcher)
@@ -164,12 +192,8 @@ VImage *Photograph::acquireFull(int)
     VImage *image = nullptr;
     {
         const std::lock_guard lock(mutex);
-        std::unique_ptr<DecodedPhoto> fresh = full ? nullptr : decode();
-        image = full ? &full->image() : &fresh->image();
-        if (refusedWidth > 0 && image->Width() >= refusedWidth)
-            throw VException(tooLarge(refusedWidth), V_LOCATION);
-        if (fresh)
-            full = std::move(fresh);
+        holdFull();
+        image = &full->image();
         ++fullUses;
     }
     if (watcher)

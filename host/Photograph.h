@@ -50,6 +50,11 @@ public:
     /// The reduced copy that acquireScaled hands out, shared with all who use it. Blocks while it decodes.
     ScaledImages::Image scaledCopy(int width, int height, ScaledImages::Keep wish);
 
+    /// Decodes the full image, for its automatic strength and for the next acquireFull, which then hands it out.
+    void decodeAhead();
+    /// See AutomaticStrength. Known since decodeAhead, or since a scaled image was made from the file; before that there is none.
+    std::optional<int> automaticStrength();
+
     QString displayName() override;
     int height() override;
     int width() override;
@@ -76,6 +81,7 @@ private:
 
     std::unique_ptr<DecodedPhoto> load() const;
     std::unique_ptr<DecodedPhoto> decode(); ///< Loads and notes the form. With `mutex` held.
+    void holdFull();                        ///< Sees to it that `full` is there. With `mutex` held.
     ScaledImages::Image makeScaled(int width, int height);
     Form knownForm();
 
@@ -88,6 +94,7 @@ private:
     std::mutex mutex; ///< Over all that follows.
     std::optional<PhotoFacts> head;
     std::optional<Form> form;
+    std::optional<int> automatic;
     std::shared_ptr<DecodedPhoto> full;
     int fullUses = 0;
     std::map<std::pair<int, int>, Scaled> scaled;

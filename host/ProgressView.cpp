@@ -98,6 +98,7 @@ void ProgressView::finished(int index, const BatchOutcome &outcome)
     const bool written = unchanged || outcome.status == BatchOutcome::Status::Done;
     const bool begun = inHand.erase(index) > 0;
     const bool stopped = outcome.status == BatchOutcome::Status::Stopped;
+    strengths[std::size_t(index)] = outcome.strength;
     ++finishedCount;
     doneCount += written && !unchanged;
     unchangedCount += unchanged;
@@ -107,23 +108,24 @@ void ProgressView::finished(int index, const BatchOutcome &outcome)
         complain(item.given + ": " + outcome.message);
     if (unchanged && notes)
         complain(item.given + ": " + outcome.unchanged);
+    QString took = secondsText(outcome.seconds);
+    took = item.automatic && written ? tr("%1 %, %2 s").arg(*outcome.strength).arg(took) : tr("%1 s").arg(took);
     switch (style) {
     case Style::Bars:
         if (written)
-            say(QStringLiteral("%1 %2  %3 -> %4\n")
-                    .arg(bar(kBarWidth), tr("%1 s").arg(secondsText(outcome.seconds)), harmless(item.given),
-                         harmless(item.result)));
+            say(QStringLiteral("%1 %2  %3 -> %4\n").arg(bar(kBarWidth), took, harmless(item.given), harmless(item.result)));
         break;
     case Style::Lines:
         if (written)
-            say(tr("%1: %2 (%3 s)").arg(harmless(item.given), harmless(item.result), secondsText(outcome.seconds)) + '\n');
+            say(tr("%1: %2 (%3)").arg(harmless(item.given), harmless(item.result), took) + '\n');
         break;
     case Style::Json: {
         const char *status = unchanged ? "unchanged" : written ? "done" : stopped ? "stopped" : "failed";
         QJsonObject object{{"photo", item.given},
                            {"result", written ? QJsonValue(item.result) : QJsonValue()},
                            {"status", status},
-                           {"strength", item.strength},
+                           {"strength", outcome.strength ? QJsonValue(*outcome.strength) : QJsonValue()},
+                           {"automatic", item.automatic},
                            {"seconds", outcome.seconds},
                            {"message", outcome.message},
                            {"unchanged", unchanged ? QJsonValue(outcome.unchanged) : QJsonValue()}};

@@ -14,8 +14,10 @@ class ProgressView : public BatchRunner::Observer
 public:
     enum class Style { Bars, Lines, Json, Quiet };
 
-    /// `withNotes` tells on standard error of photographs that came back as they were, too.
-    ProgressView(Style look, bool withNotes, const std::vector<BatchItem> &batch) : style(look), notes(withNotes), items(batch) {}
+    ProgressView(Style look, bool withNotes, const std::vector<BatchItem> &batch)
+        : style(look), notes(withNotes), items(batch), strengths(batch.size())
+    {
+    }
 
     void stageBegins(int item, BatchRunner::Stage stage) override;
     void finished(int item, const BatchOutcome &outcome) override;
@@ -26,6 +28,8 @@ public:
     int done() const { return doneCount; }
     /// Whether each photograph has its result, be it unchanged.
     bool allDone() const { return doneCount + unchangedCount == int(items.size()); }
+    /// What a finished item's BatchOutcome says.
+    std::optional<int> strength(std::size_t item) const { return strengths[item]; }
 
     /// A line on standard error that begins with the program's name.
     static void complain(const QString &text);
@@ -41,6 +45,7 @@ private:
     const Style style;
     const bool notes;
     const std::vector<BatchItem> &items;
+    std::vector<std::optional<int>> strengths;
     std::map<int, BatchRunner::Stage> inHand;
     int barsDrawn = 0;
     int doneCount = 0;

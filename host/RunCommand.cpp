@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "BatchPlan.h"
+#include "DefaultStrength.h"
 #include "PluginFile.h"
 #include "ProgressView.h"
 #include "SettingsFile.h"
@@ -62,15 +63,13 @@ void RunCommand::note(const QString &text) const
         ProgressView::complain(text);
 }
 
-int RunCommand::defaultStrength(const QString &group)
+WantedStrength RunCommand::defaultStrength(const QString &group)
 {
-    const QVariant stored = application.value(group, "hazeRemove", QVariant());
-    bool whole = false;
-    const int strength = stored.toInt(&whole);
-    const bool usable = stored.isValid() && whole && strength >= 0 && strength <= 100;
-    note(usable ? tr("No --strength given: using your stored default of %1.").arg(strength)
-                : tr("No --strength given and no default stored: using %1.").arg(CommandLine::kUsualStrength));
-    return usable ? strength : CommandLine::kUsualStrength;
+    const auto stored = DefaultStrength(application, group).stored();
+    note(!stored             ? tr("No --strength given and no default stored: using %1.").arg(CommandLine::kUsualStrength)
+         : stored->automatic ? tr("No --strength given: using your stored default, the automatic strength.")
+                             : tr("No --strength given: using your stored default of %1.").arg(stored->percent));
+    return stored.value_or(WantedStrength{CommandLine::kUsualStrength, /*automatic=*/false});
 }
 
 void RunCommand::leaveOut(const QSet<QString> &results, QStringList &photographs) const
@@ -168,9 +167,11 @@ int RunCommand::run()
         for (const QString &path : recorded)
             if (results.contains(path))
                 settings->remove(path);
-        for (const BatchItem &item : items)
-            if (item.recordable)
+        for (std::size_t i = 0; i < items.size(); ++i)
+            if (const BatchItem &item = items[i]; item.recordable && !item.automatic)
                 settings->setElement(item.path, item.settings);
+            else if (const auto chosen = view.strength(i); item.recordable && chosen)
+                settings->setElement(item.path, SettingsFile::withStrength(process.name(), *chosen, /*automatic=*/true));
         try {
             settings->save();
         } catch (const VException &failure) {

@@ -19,7 +19,7 @@ public:
 
 private:
     /// The strength of photographs that nothing else gives one: the stored default, or 70.
-    int defaultStrength(const QString &group);
+    WantedStrength defaultStrength(const QString &group);
     /// Takes these out of the photographs, with one note for all.
     void leaveOut(const QSet<QString> &results, QStringList &photographs) const;
     void note(const QString &text) const;

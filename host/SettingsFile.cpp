@@ -11,6 +11,7 @@
 #include <QXmlStreamReader>
 
 #include "VException.h"
+#include "WantedStrength.h"
 
 namespace {
 
@@ -19,6 +20,7 @@ const QString kRoot = QStringLiteral("veilaway");
 const QString kEntry = QStringLiteral("photo");
 const QString kPath = QStringLiteral("path");
 const QString kStrength = QStringLiteral("hazeRemove");
+const QString kWanted = QStringLiteral("strength"); // the program's own, beside the process's
 
 /// False for a text with letters that XML can't hold, in whatever spelling.
 bool fitsXml(const QString &text)
@@ -58,12 +60,19 @@ std::optional<int> SettingsFile::strengthOf(const QDomElement &element)
     return whole && strength >= 0 && strength <= 100 ? std::optional(strength) : std::nullopt;
 }
 
-QDomElement SettingsFile::withStrength(const QString &processName, int strength)
+QDomElement SettingsFile::withStrength(const QString &processName, int strength, bool automatic)
 {
     QDomDocument factory(processName);
     QDomElement element = factory.createElement(processName);
     element.setAttribute(kStrength, strength);
+    if (automatic)
+        element.setAttribute(kWanted, QString::fromLatin1(WantedStrength::kAutomatic));
     return element;
+}
+
+bool SettingsFile::isAutomatic(const QDomElement &element)
+{
+    return element.attribute(kWanted) == QLatin1String(WantedStrength::kAutomatic);
 }
 
 void SettingsFile::load()
@@ -185,7 +194,8 @@ void SettingsFile::setElement(const QString &photograph, const QDomElement &elem
         entry = document.createElement(kEntry);
         entry.setAttribute(kPath, QFileInfo(file).absoluteDir().relativeFilePath(QDir::cleanPath(photograph)));
         document.documentElement().appendChild(entry);
-    } else if (entry.firstChildElement(tag).attribute(kStrength) == element.attribute(kStrength)) {
+    } else if (const QDomElement known = entry.firstChildElement(tag);
+               known.attribute(kStrength) == element.attribute(kStrength) && isAutomatic(known) == isAutomatic(element)) {
         return;
     }
     // Not by importNode: the copy of an attribute writes to the document that made it, which may be gone.

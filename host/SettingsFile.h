@@ -12,6 +12,7 @@
 ///
 ///     <veilaway>
 ///         <photo path="IMG_1.jpg"><Veilaway hazeRemove="40"/></photo>
+///         <photo path="IMG_2.jpg"><Veilaway hazeRemove="64" strength="auto"/></photo>
 ///     </veilaway>
 ///
 /// A relative path is relative to the file's folder. What the file holds besides stays in it. Failures are VExceptions whose
@@ -36,14 +37,17 @@ public:
     QStringList photographs() const;
     /// The settings of this photograph (absolute path); null if there are none.
     QDomElement element(const QString &photograph) const;
-    /// Copies the element's attributes; its document need not exist any more.
+    /// Copies the element's attributes; its document need not exist any more. One that says the same leaves the file's as it is.
     void setElement(const QString &photograph, const QDomElement &element);
 
     /// Drops what the file holds of this photograph (absolute path).
     void remove(const QString &photograph);
 
     static std::optional<int> strengthOf(const QDomElement &element);
-    static QDomElement withStrength(const QString &processName, int strength);
+    /// With `automatic` the element also says that this strength was chosen for the photograph, not asked for. That is a note for
+    /// the reader, and for the window: the number is what counts.
+    static QDomElement withStrength(const QString &processName, int strength, bool automatic = false);
+    static bool isAutomatic(const QDomElement &element);
 
 private:
     QDomElement entryOf(const QString &photograph) const;

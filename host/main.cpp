@@ -15,6 +15,7 @@
 #include "PluginFile.h"
 #include "ProgressView.h"
 #include "RunCommand.h"
+#include "SetDefaultCommand.h"
 #include "VException.h"
 #include "WizardCommand.h"
 #include "argumentText.h"
@@ -57,6 +58,8 @@ int answer(const CommandLine &line, HostApplication &application)
         return ExitAllDone;
     case CommandLine::Command::Version:
         return showVersion(line);
+    case CommandLine::Command::SetDefault:
+        return SetDefaultCommand(line, application).run();
     default:
         return RunCommand(line, application).run();
     }

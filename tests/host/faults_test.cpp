@@ -60,7 +60,7 @@ protected:
 
     std::vector<BatchItem> plan(const QStringList &paths, bool overwrite)
     {
-        return BatchPlan::make(paths, host, {0, 0, overwrite, "Veilaway", nullptr});
+        return BatchPlan::make(paths, host, {WantedStrength(), WantedStrength(), overwrite, "Veilaway", nullptr});
     }
 
 private:

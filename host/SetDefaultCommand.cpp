@@ -1,0 +1,25 @@
+#include "SetDefaultCommand.h"
+
+#include "DefaultStrength.h"
+#include "PluginFile.h"
+#include "ProgressView.h"
+#include "VException.h"
+
+int SetDefaultCommand::run()
+{
+    const std::optional<WantedStrength> &strength = line.newDefault;
+    try {
+        DefaultStrength(application, PluginFile(line.pluginFile).process().guid()).store(strength);
+    } catch (const VException &failure) {
+        ProgressView::complain(failure.message);
+        return ExitSomeFailed;
+    }
+    if (!line.quiet)
+        ProgressView::say(
+            (!strength
+                 ? tr("No default is stored any more; without --strength, it is %1 per cent.").arg(CommandLine::kUsualStrength)
+             : strength->automatic ? tr("From now on, each photograph gets its automatic strength.")
+                                   : tr("From now on, the default strength is %1 per cent.").arg(strength->percent)) +
+            '\n');
+    return ExitAllDone;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QCoreApplication>
+
+#include "CommandLine.h"
+#include "HostApplication.h"
+
+/// The option --set-default: stores the strength of photographs that nothing else gives one. Returns what the program ends with.
+class SetDefaultCommand
+{
+    Q_DECLARE_TR_FUNCTIONS(SetDefaultCommand)
+
+public:
+    SetDefaultCommand(const CommandLine &commandLine, HostApplication &host) : line(commandLine), application(host) {}
+    int run();
+
+private:
+    const CommandLine &line;
+    HostApplication &application;
+};
