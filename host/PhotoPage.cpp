@@ -144,7 +144,8 @@ QStringList PhotoPage::photographs() const
 
 bool PhotoPage::isComplete() const
 {
-    return list->count() > 0 && countAtLeast(Checked) == list->count() && countAtLeast(Pictured) > 0;
+    return list->count() > 0 && countAtLeast(Checked) == list->count() &&
+           countAtLeast(Pictured) >= (waitsForAll ? list->count() : 1);
 }
 
 int PhotoPage::countAtLeast(int stage) const

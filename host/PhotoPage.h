@@ -26,6 +26,8 @@ public:
     /// Absolute paths in the order of the list.
     QStringList photographs() const;
 
+    /// From now on the page is complete only when the pictures of all are there.
+    void waitForAll() { waitsForAll = true; }
     bool isComplete() const override;
 
 Q_SIGNALS:
@@ -54,5 +56,6 @@ private:
     QPushButton *removeButton;
     QHash<QString, QListWidgetItem *> items; ///< By absolute path; the list owns them.
     QStringList complaints;                  ///< Since photographs were last chosen.
+    bool waitsForAll = false;
     PhotoReader reader;
 };

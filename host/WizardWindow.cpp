@@ -11,6 +11,8 @@
 #include <QSignalBlocker>
 
 #include "BatchPlan.h"
+#include "CommandLine.h"
+#include "DefaultStrength.h"
 #include "PhotoPage.h"
 #include "ResultPage.h"
 #include "RunPage.h"
@@ -28,6 +30,10 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
 {
     if (!session)
         session = std::make_unique<SettingsFile>(QDir::current().filePath(QStringLiteral("veilaway.xml")), process.name());
+    const auto usual = DefaultStrength(application, process.guid()).stored();
+    automaticDefault = usual && usual->automatic;
+    if (automaticDefault)
+        photoPage->waitForAll();
     setWindowTitle(tr("veilaway"));
     setWizardStyle(QWizard::ClassicStyle);
     setOptions(QWizard::NoBackButtonOnStartPage | QWizard::NoBackButtonOnLastPage | QWizard::NoCancelButtonOnLastPage);
@@ -144,11 +150,10 @@ void WizardWindow::preparePluginPage()
     takeStrengths();
     // The process starts each photograph from the stored default, which it asks for in the order of the list.
     QList<QVariant> strengths;
-    for (const QString &path : paths)
-        if (const auto strength = SettingsFile::strengthOf(session->element(path)))
-            strengths << *strength;
-        else
-            strengths << QVariant();
+    for (const QString &path : paths) {
+        const auto strength = startOf(path);
+        strengths << (strength ? QVariant(*strength) : QVariant());
+    }
     const HostApplication::Presets presets(application, one2one.guid(), kStrengthKey, strengths);
     onPage = paths;
     try {
@@ -168,10 +173,27 @@ void WizardWindow::preparePluginPage()
     }
 }
 
+std::optional<int> WizardWindow::startOf(const QString &photograph)
+{
+    const QDomElement stored = session->element(photograph);
+    const auto strength = SettingsFile::strengthOf(stored);
+    automatic.remove(photograph);
+    if (strength ? !SettingsFile::isAutomatic(stored) : !automaticDefault)
+        return strength;
+    const auto chosen = strength ? strength : application.photograph(photograph)->automaticStrength();
+    return automatic[photograph] = chosen.value_or(CommandLine::kUsualStrength);
+}
+
 void WizardWindow::takeStrengths()
 {
-    for (const QString &path : qAsConst(onPage))
-        session->setElement(path, one2one.settingsFor(path));
+    for (const QString &path : qAsConst(onPage)) {
+        const QDomElement taken = one2one.settingsFor(path);
+        const auto strength = SettingsFile::strengthOf(taken);
+        if (strength && automatic.contains(path) && automatic[path] == *strength) // it still is the one chosen
+            session->setElement(path, SettingsFile::withStrength(one2one.name(), *strength, /*automatic=*/true));
+        else
+            session->setElement(path, taken);
+    }
 }
 
 void WizardWindow::prepareWork()

@@ -47,6 +47,9 @@ private:
     bool saveSession(SettingsFile &file);
     void preparePluginPage();
     void putListBack();
+    /// The number from which the page starts this photograph: that of the session, or else the automatic one if that is the
+    /// default; nothing for the default itself.
+    std::optional<int> startOf(const QString &photograph);
     void takeStrengths();
     void prepareWork();
 
@@ -55,6 +58,8 @@ private:
     std::unique_ptr<SettingsFile> session;
     bool hasFile;
     int batchJobs;
+    bool automaticDefault = false;
+    QHash<QString, int> automatic;  ///< By photograph: the strength that was chosen for it.
     QStringList onPage;             ///< What the plug-in's page edits.
     QComboBox *imageList = nullptr; ///< The one on the plug-in's page; null if it has none.
     int shownImage = -1;            ///< In that list: what the panel below shows.

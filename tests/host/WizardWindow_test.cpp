@@ -343,6 +343,45 @@ TEST_F(Wizard, a_session_goes_on_with_a_further_photograph)
     host->setValue(kProcessGuid, "hazeRemove", CommandLine::kUsualStrength);
 }
 
+TEST_F(Wizard, with_auto_as_the_default_each_photograph_starts_at_its_own_strength)
+{
+    photograph("bright.jpg", 300, 200);
+    ASSERT_TRUE(drawScene(200, 300, /*haze=*/true).convertToFormat(QImage::Format_Grayscale8).save(folder.path("grey.png")));
+    QImage dark = drawScene(300, 200, /*haze=*/true);
+    for (int y = 0; y < dark.height(); ++y)
+        for (int x = 0; x < dark.width(); ++x)
+            dark.setPixel(x, y, QColor(dark.pixel(x, y)).darker(250).rgb());
+    ASSERT_TRUE(dark.save(folder.path("dark.png")));
+    folder.write("session.xml", "<veilaway><photo path='grey.png'><Veilaway hazeRemove='20'/></photo></veilaway>");
+    host->setValue(kProcessGuid, "strength", "auto");
+    const auto sayAuto = [&] {
+        QString all;
+        SettingsFile file(folder.path("session.xml"), QStringLiteral("Veilaway"));
+        file.load();
+        for (const char *name : {"bright.jpg", "grey.png", "dark.png"})
+            all += QString::number(SettingsFile::isAutomatic(file.element(folder.path(name))));
+        return all;
+    };
+    const QStringList arguments{folder.path("bright.jpg"), folder.path("grey.png"), folder.path("dark.png"), "--settings",
+                                folder.path("session.xml")};
+    for (const bool again : {false, true})
+        use(arguments, [&] {
+            ASSERT_TRUE(reached(WizardWindow::Photographs));
+            EXPECT_TRUE(find<QLabel>("state")->text().startsWith('3')) << "some have not been read yet";
+            go(QWizard::NextButton);
+            ASSERT_TRUE(reached(WizardWindow::Strength));
+            EXPECT_EQ(strengthOf("bright.jpg"), 80);
+            EXPECT_EQ(strengthOf("dark.png"), 50);
+            EXPECT_EQ(strengthOf("grey.png"), 20);
+            if (again)
+                typeStrength("bright.jpg", "66");
+            go(QWizard::CommitButton);
+            ASSERT_TRUE(eventually([&] { return window->currentId() == WizardWindow::Work; }));
+            EXPECT_EQ(sayAuto(), again ? "001" : "101");
+        });
+    host->setValue(kProcessGuid, "strength", {});
+}
+
 TEST_F(Wizard, what_went_away_or_came_back_as_it_was_is_told_with_the_reason)
 {
     photograph("valley.jpg", 300, 200);

@@ -1,4 +1,6 @@
 #include <csignal>
+#include <limits>
+#include <map>
 
 #include <unistd.h>
 
@@ -67,6 +69,9 @@ TEST_F(Veilaway, wrong_command_lines_end_with_2_and_say_what_is_wrong)
         {{"a.png", "--strength", "70.5"}, "70.5"},
         {{"a.png", "--strength="}, "--strength wants"},
         {{"a.png", "--strength"}, "strength"},
+        {{"--set-default", "101"}, "--set-default wants"},
+        {{"--set-default", "auto", "a.png"}, "leave out photographs"},
+        {{"wizard", "--set-default", "auto"}, "leave out photographs"},
         {{"a.png", "--jobs", "0"}, "--jobs wants"},
         {{"a.png", "--language", "xx"}, "zh_TW"},
         {{"a.png", "--nonsense"}, "nonsense"},
@@ -502,16 +507,120 @@ TEST_F(Veilaway, results_among_the_photographs_are_left_out_and_settings_mend)
 TEST_F(Veilaway, strength_falls_back_to_the_stored_default_and_then_to_70)
 {
     folder.photograph("a.png");
-    for (const auto &[stored, said, used] :
-         {std::tuple("", "no default stored: using 70", 70), std::tuple("25", "default of 25", 25),
-          std::tuple("0", "default of 0", 0), std::tuple("150", "using 70", 70)}) {
-        if (*stored)
+    const struct
+    {
+        const char *set, *stored, *said;
+        int used;
+        bool automatic;
+    } cases[] = {
+        {"", "", "no default stored: using 70", 70, false},
+        {"", "25", "default of 25", 25, false},
+        {"auto", "", "the automatic strength", 80, true},
+        {"0", "", "default of 0", 0, false},
+        {"", "150", "using 70", 70, false},
+        {"auto", "30", "the automatic strength", 80, true},
+        {"none", "", "no default stored: using 70", 70, false},
+    };
+    for (const auto &[set, stored, said, used, automatic] : cases) {
+        if (*set) {
+            const Said answer = folder.run({"--set-default", set});
+            EXPECT_EQ(answer.code, 0) << answer.err;
+            EXPECT_NE(answer.out, "") << set;
+        }
+        if (*stored) // as the page in the window does
             QSettings(folder.path("config/Ombre/veilaway.ini"), QSettings::IniFormat)
                 .setValue(QString(kProcessGuid) + "/hazeRemove", QString(stored));
         const Said answer = folder.run({"a.png", "--json", "--overwrite"});
         EXPECT_EQ(answer.code, 0) << answer.err;
         EXPECT_TRUE(contains(answer.err, said));
-        EXPECT_EQ(QJsonDocument::fromJson(answer.out.toUtf8()).object()["strength"].toInt(), used);
+        const QJsonObject object = QJsonDocument::fromJson(answer.out.toUtf8()).object();
+        EXPECT_EQ(object["strength"].toInt(), used) << set << stored;
+        EXPECT_EQ(object["automatic"].toBool(), automatic) << set << stored;
+    }
+    folder.write("file", "");
+    const Said full = folder.run({"--set-default", "40"}, {"XDG_CONFIG_HOME=" + folder.path("file")});
+    EXPECT_EQ(full.code, 1);
+    EXPECT_TRUE(contains(full.err, "can't be stored in"));
+}
+
+TEST_F(Veilaway, the_automatic_strength_is_that_of_each_photograph_by_whatever_way)
+{
+    // A bright photograph, the same darkened, one that the engine can't take the haze from, and a wide one.
+    folder.photograph("bright.png", 60, 40, VImage::Rgb, 16);
+    const auto photo = PhotoLoader::decode(folder.path("bright.png"));
+    for (int y = 0; y < 40; ++y)
+        for (int i = 0; i < 60 * 3; ++i)
+            reinterpret_cast<std::uint16_t *>(photo->image().PixelAddress(0, y))[i] /= 2;
+    photo->image().Save(folder.path("dark.png"), "png", -1, QString());
+    VImage none(8, 8, VImage::Rgb, 32);
+    for (int y = 0; y < 8; ++y)
+        for (int i = 0; i < 24; ++i)
+            reinterpret_cast<float *>(none.PixelAddress(0, y))[i] = std::numeric_limits<float>::quiet_NaN();
+    none.Save(folder.path("none.tif"), "tiff", -1, QString());
+    folder.photograph("wide.png", 21475, 13);
+    folder.raw("raw.dng");
+    const QStringList photographs{"bright.png", "dark.png", "none.tif", "wide.png", "raw.dng"};
+    std::map<QString, int> strengths;
+    for (const QStringList &options : {QStringList{"--jobs", "1"}, {"--jobs", "3", "--share-services"}}) {
+        const Said answer = folder.run(photographs + options + QStringList{"--strength", "auto", "--json", "--overwrite"});
+        EXPECT_EQ(answer.code, 0) << answer.err;
+        for (const QString &line : answer.out.split('\n', Qt::SkipEmptyParts)) {
+            const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
+            const auto [entry, fresh] = strengths.emplace(object["photo"].toString(), object["strength"].toInt());
+            EXPECT_EQ(object["strength"].toInt(), entry->second) << line;
+            EXPECT_TRUE(object["automatic"].toBool()) << line;
+        }
+    }
+    EXPECT_EQ(strengths["bright.png"], 80);
+    EXPECT_EQ(strengths["dark.png"], 50);
+    EXPECT_EQ(strengths["none.tif"], 70);
+    EXPECT_EQ(strengths["wide.png"], 80);
+
+    // Each result is what its number makes.
+    for (const auto &[name, strength] : strengths) {
+        const QString result = name.section('.', 0, 0) + "_dehazed." + (name == "raw.dng" ? "tiff" : name.section('.', 1));
+        const QByteArray automatic = folder.content(result);
+        EXPECT_EQ(folder.run({name, "--strength", QString::number(strength), "--overwrite"}).code, 0);
+        EXPECT_EQ(folder.content(result), automatic) << name;
+    }
+}
+
+TEST_F(Veilaway, settings_keep_the_automatic_number_and_that_it_was_chosen)
+{
+    folder.photograph("a.png");
+    folder.photograph("b.png");
+    folder.write("b_dehazed.png", "older");
+    const auto entries = [&] {
+        QStringList all;
+        QDomDocument document;
+        EXPECT_TRUE(document.setContent(folder.content("s.xml")));
+        for (QDomElement entry = document.documentElement().firstChildElement(); !entry.isNull();
+             entry = entry.nextSiblingElement()) {
+            const QDomElement element = entry.firstChildElement();
+            all << entry.attribute("path") + ' ' + element.attribute("hazeRemove") + ' ' + element.attribute("strength");
+        }
+        return all.join('\n');
+    };
+    const struct
+    {
+        QStringList arguments;
+        const char *photo; // the automatic ones among these
+        QString kept;
+    } cases[] = {
+        {{"a.png", "b.png", "--strength", "auto"}, "a.png", "a.png 80 auto"}, // the other was refused before a number was chosen
+        {{"a.png", "b.png", "--strength", "auto", "--overwrite"}, "a.pngb.png", "a.png 80 auto\nb.png 80 auto"},
+        {{"--overwrite"}, "", "a.png 80 auto\nb.png 80 auto"}, // the same numbers again
+        {{"a.png", "--strength", "80", "--overwrite"}, "", "a.png 80 \nb.png 80 auto"},
+    };
+    for (const auto &[arguments, photo, kept] : cases) {
+        const Said answer = folder.run(arguments + QStringList{"--settings", "s.xml", "--json"});
+        EXPECT_EQ(entries(), kept) << answer.err;
+        QString automatic;
+        for (const QString &line : answer.out.split('\n', Qt::SkipEmptyParts))
+            if (const QJsonObject object = QJsonDocument::fromJson(line.toUtf8()).object();
+                object["automatic"].toBool() && object["status"] == "done")
+                automatic += object["photo"].toString();
+        EXPECT_EQ(automatic, photo) << answer.out;
     }
 }
 
