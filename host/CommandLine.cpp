@@ -76,7 +76,8 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         for (const QCommandLineOption &option : {strength, settings, jobs, overwrite, json})
             alone = alone && !parser.isSet(option);
         if (!alone)
-            return fail(tr("--set-default only stores the default: leave out photographs and what is said of them."));
+            return fail(
+                tr("--set-default stores the default and does nothing else: leave out photographs and the options for them."));
         line.command = Command::SetDefault;
         return line;
     }
@@ -97,6 +98,7 @@ Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph's name with a

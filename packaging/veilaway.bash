@@ -27,7 +27,11 @@ _veilaway()
     if [[ $names == 0 ]]; then
         case $before in
             --strength)
-                mapfile -t COMPREPLY < <(compgen -W '0 10 20 30 40 50 60 70 80 90 100' -- "$word")
+                mapfile -t COMPREPLY < <(compgen -W 'auto 0 10 20 30 40 50 60 70 80 90 100' -- "$word")
+                return
+                ;;
+            --set-default)
+                mapfile -t COMPREPLY < <(compgen -W 'auto none 0 10 20 30 40 50 60 70 80 90 100' -- "$word")
                 return
                 ;;
             --language)
@@ -49,7 +53,7 @@ _veilaway()
         esac
         if [[ $word == -* ]]; then
             local options='--settings --language --jobs --share-services --plugin'
-            [[ $wizard == 1 ]] || options+=' --strength --overwrite --quiet --json --help --version'
+            [[ $wizard == 1 ]] || options+=' --strength --set-default --overwrite --quiet --json --help --version'
             mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
             return
         fi

@@ -97,8 +97,8 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation>--strength erwartet eine ganze Zahl von 0 bis 100, nicht „%1“.</translation>
+        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <translation>--strength erwartet eine ganze Zahl von 0 bis 100 oder auto, nicht „%1“.</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -127,6 +127,7 @@ Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph&apos;s name with a
@@ -139,8 +140,11 @@ strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all. Without it, the strength in the settings
-                    file counts, then your stored default, then 70.
+                    it is, 100 takes all, and auto fits it to each photograph: 50 for
+                    a dark one up to 80 for a bright one. Without it, the strength in
+                    the settings file counts, then your stored default, then 70.
+  --set-default N   Store this default, a number or auto, or take it back with none.
+                    Does nothing else.
   --settings FILE   Keep the strength of each photograph in this XML file. If the file
                     is there, its strengths are used, unless --strength is given too;
                     at the end it holds the strengths that were used. Without a PHOTO,
@@ -153,7 +157,7 @@ Options:
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (the reason, or null).
+                    automatic, seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -180,6 +184,7 @@ Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
@@ -189,6 +194,7 @@ Aufruf:
   veilaway [run] FOTO... [Optionen]
   veilaway [run] --settings DATEI [Optionen]
   veilaway wizard [FOTO...] [Optionen]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Jedes Ergebnis wird neben seinem Foto gespeichert, unter dessen Namen mit einem
@@ -201,9 +207,12 @@ Datei enthält danach die Stärken), --language, --jobs, --share-services und --
 
 Optionen:
   --strength N      Wie viel Dunst entfernt wird, in Prozent: 0 lässt das Bild, wie es
-                    ist, 100 entfernt allen. Ohne diese Option gilt die Stärke in
-                    der Einstellungsdatei, sonst Ihre gespeicherte Voreinstellung,
-                    sonst 70.
+                    ist, 100 entfernt allen, und auto richtet sich nach jedem Foto: 50
+                    bei einem dunklen bis 80 bei einem hellen. Ohne diese Option gilt
+                    die Stärke in der Einstellungsdatei, sonst Ihre gespeicherte
+                    Voreinstellung, sonst 70.
+  --set-default N   Diese Voreinstellung speichern, eine Zahl oder auto, oder sie mit
+                    none zurücknehmen. Sonst geschieht nichts.
   --settings DATEI  Die Stärke für jedes Foto in dieser XML-Datei aufbewahren. Gibt es
                     die Datei schon, gelten ihre Stärken, sofern nicht auch --strength
                     angegeben ist; am Ende enthält sie die verwendeten Stärken. Ohne
@@ -216,7 +225,7 @@ Optionen:
   --quiet           Nur melden, was fehlgeschlagen ist.
   --json            Für jedes Foto eine Zeile mit einem JSON-Objekt ausgeben: photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (der Grund, oder null).
+                    automatic, seconds, message, unchanged (der Grund, oder null).
   --share-services  Dem Plug-in die Dienste des Programms leihen (Protokoll, Speicher-
                     pool, Anzahl der Prozessoren), statt es eigene anlegen zu lassen.
   --plugin DATEI    Diese Plug-in-Datei laden statt Nimbra.so neben dem Programm oder
@@ -244,6 +253,7 @@ hinterlassen.
 
 Beispiele:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </translation>
@@ -251,6 +261,21 @@ Beispiele:
     <message>
         <source>See veilaway --help.</source>
         <translation>Siehe veilaway --help.</translation>
+    </message>
+    <message>
+        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <translation>--set-default erwartet eine ganze Zahl von 0 bis 100, auto oder none, nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <translation>--set-default speichert nur die Voreinstellung: Lassen Sie Fotos und die Optionen für sie weg.</translation>
+    </message>
+</context>
+<context>
+    <name>DefaultStrength</name>
+    <message>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <translation>Die Voreinstellung kann nicht in „%1“ gespeichert werden. Schaffen Sie Platz, oder geben Sie sich die Berechtigung, dort zu schreiben.</translation>
     </message>
 </context>
 <context>
@@ -447,8 +472,8 @@ Beispiele:
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>%1: %2 (%3 s)</source>
-        <translation>%1: %2 (%3 s)</translation>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
@@ -488,6 +513,10 @@ Beispiele:
             <numerusform>%n Foto wurde nicht begonnen.</numerusform>
             <numerusform>%n Fotos wurden nicht begonnen.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %, %2 s</source>
+        <translation>%1 %, %2 s</translation>
     </message>
 </context>
 <context>
@@ -565,6 +594,10 @@ Beispiele:
             <numerusform>„%1“ wird ausgelassen: Es ist das Ergebnis eines der anderen Fotos.</numerusform>
             <numerusform>%n Dateien werden ausgelassen, die Ergebnisse der anderen Fotos sind, zum Beispiel „%1“.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No --strength given: using your stored default, the automatic strength.</source>
+        <translation>Kein --strength angegeben: Ihre gespeicherte Voreinstellung wird verwendet, die automatische Stärke.</translation>
     </message>
 </context>
 <context>
@@ -659,6 +692,21 @@ Beispiele:
     <message>
         <source>Kept</source>
         <translation>Behalten</translation>
+    </message>
+</context>
+<context>
+    <name>SetDefaultCommand</name>
+    <message>
+        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <translation>Es ist keine Voreinstellung mehr gespeichert; ohne --strength sind es %1 Prozent.</translation>
+    </message>
+    <message>
+        <source>From now on, each photograph gets its automatic strength.</source>
+        <translation>Von jetzt an bekommt jedes Foto seine automatische Stärke.</translation>
+    </message>
+    <message>
+        <source>From now on, the default strength is %1 per cent.</source>
+        <translation>Von jetzt an ist die voreingestellte Stärke %1 Prozent.</translation>
     </message>
 </context>
 <context>

@@ -97,8 +97,8 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation>--strength espera un número entero de 0 a 100, no «%1».</translation>
+        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <translation>--strength requiere un número entero de 0 a 100 o auto, no «%1».</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -127,6 +127,7 @@ Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph&apos;s name with a
@@ -139,8 +140,11 @@ strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all. Without it, the strength in the settings
-                    file counts, then your stored default, then 70.
+                    it is, 100 takes all, and auto fits it to each photograph: 50 for
+                    a dark one up to 80 for a bright one. Without it, the strength in
+                    the settings file counts, then your stored default, then 70.
+  --set-default N   Store this default, a number or auto, or take it back with none.
+                    Does nothing else.
   --settings FILE   Keep the strength of each photograph in this XML file. If the file
                     is there, its strengths are used, unless --strength is given too;
                     at the end it holds the strengths that were used. Without a PHOTO,
@@ -153,7 +157,7 @@ Options:
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (the reason, or null).
+                    automatic, seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -180,6 +184,7 @@ Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
@@ -189,6 +194,7 @@ Uso:
   veilaway [run] FOTO... [opciones]
   veilaway [run] --settings ARCHIVO [opciones]
   veilaway wizard [FOTO...] [opciones]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Cada resultado se guarda junto a su foto, con el nombre de esta y un sufijo: de
@@ -201,9 +207,12 @@ contiene después las potencias), --language, --jobs, --share-services y --plugi
 
 Opciones:
   --strength N      Cuánta bruma se quita, en tanto por ciento: 0 deja la imagen como
-                    está, 100 la quita toda. Sin esta opción se usa la potencia del
-                    archivo de ajustes; si no la hay, su valor predeterminado guardado
-                    y, en su defecto, 70.
+                    está, 100 la quita toda y auto se adapta a cada foto: desde 50 para
+                    una oscura hasta 80 para una clara. Sin esta opción se usa la
+                    potencia del archivo de ajustes; si no la hay, su valor
+                    predeterminado guardado y, en su defecto, 70.
+  --set-default N   Guardar este valor predeterminado, un número o auto, o retirarlo
+                    con none. No hace nada más.
   --settings ARCHIVO
                     Conservar la potencia de cada foto en este archivo XML. Si el
                     archivo existe, se usan sus potencias, salvo que se indique
@@ -217,7 +226,7 @@ Opciones:
   --quiet           Informar solo de lo que ha fallado.
   --json            Escribir por cada foto una línea con un objeto JSON: photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (el motivo, o null).
+                    automatic, seconds, message, unchanged (el motivo, o null).
   --share-services  Prestar al complemento los servicios del programa (registro,
                     reserva de memoria, número de procesadores) en vez de dejar que
                     los cree.
@@ -247,6 +256,7 @@ Ctrl-C lo termina con la señal (130 en un shell), sin dejar resultados a medias
 
 Ejemplos:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </translation>
@@ -254,6 +264,21 @@ Ejemplos:
     <message>
         <source>See veilaway --help.</source>
         <translation>Consulte veilaway --help.</translation>
+    </message>
+    <message>
+        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <translation>--set-default requiere un número entero de 0 a 100, auto o none, no «%1».</translation>
+    </message>
+    <message>
+        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <translation>--set-default guarda el valor predeterminado y no hace nada más: omita las fotos y las opciones para ellas.</translation>
+    </message>
+</context>
+<context>
+    <name>DefaultStrength</name>
+    <message>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <translation>El valor predeterminado no se puede guardar en «%1». Libere espacio o concédase permiso para escribir ahí.</translation>
     </message>
 </context>
 <context>
@@ -450,8 +475,8 @@ Ejemplos:
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>%1: %2 (%3 s)</source>
-        <translation>%1: %2 (%3 s)</translation>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
@@ -491,6 +516,10 @@ Ejemplos:
             <numerusform>No se ha empezado %n foto.</numerusform>
             <numerusform>No se han empezado %n fotos.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %, %2 s</source>
+        <translation>%1 %, %2 s</translation>
     </message>
 </context>
 <context>
@@ -568,6 +597,10 @@ Ejemplos:
             <numerusform>Se omite «%1», que es el resultado de otra de las fotos.</numerusform>
             <numerusform>Se omiten %n archivos que son resultados de las demás fotos, por ejemplo «%1».</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No --strength given: using your stored default, the automatic strength.</source>
+        <translation>No se ha indicado --strength: se usa su valor predeterminado guardado, la potencia automática.</translation>
     </message>
 </context>
 <context>
@@ -662,6 +695,21 @@ Ejemplos:
     <message>
         <source>Kept</source>
         <translation>Conservado</translation>
+    </message>
+</context>
+<context>
+    <name>SetDefaultCommand</name>
+    <message>
+        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <translation>Ya no hay ningún valor predeterminado guardado; sin --strength es %1 por ciento.</translation>
+    </message>
+    <message>
+        <source>From now on, each photograph gets its automatic strength.</source>
+        <translation>A partir de ahora, cada foto recibe su potencia automática.</translation>
+    </message>
+    <message>
+        <source>From now on, the default strength is %1 per cent.</source>
+        <translation>A partir de ahora, la potencia predeterminada es %1 por ciento.</translation>
     </message>
 </context>
 <context>

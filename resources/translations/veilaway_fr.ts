@@ -97,8 +97,8 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation>--strength attend un nombre entier de 0 à 100, et non «&#xa0;%1&#xa0;».</translation>
+        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <translation>--strength attend un nombre entier de 0 à 100 ou auto, pas «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -127,6 +127,7 @@ Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph&apos;s name with a
@@ -139,8 +140,11 @@ strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all. Without it, the strength in the settings
-                    file counts, then your stored default, then 70.
+                    it is, 100 takes all, and auto fits it to each photograph: 50 for
+                    a dark one up to 80 for a bright one. Without it, the strength in
+                    the settings file counts, then your stored default, then 70.
+  --set-default N   Store this default, a number or auto, or take it back with none.
+                    Does nothing else.
   --settings FILE   Keep the strength of each photograph in this XML file. If the file
                     is there, its strengths are used, unless --strength is given too;
                     at the end it holds the strengths that were used. Without a PHOTO,
@@ -153,7 +157,7 @@ Options:
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (the reason, or null).
+                    automatic, seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -180,6 +184,7 @@ Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
@@ -189,6 +194,7 @@ Utilisation&#xa0;:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FICHIER [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Chaque résultat est enregistré à côté de sa photo, sous le nom de celle-ci suivi
@@ -202,9 +208,12 @@ fichier contient ensuite les puissances), --language, --jobs, --share-services e
 
 Options&#xa0;:
   --strength N      Quantité de voile à retirer, en pour cent&#xa0;: 0 laisse l&apos;image telle
-                    quelle, 100 retire tout. Sans cette option, c&apos;est la puissance du
-                    fichier de réglages qui compte, sinon votre valeur par défaut
-                    enregistrée, sinon 70.
+                    quelle, 100 retire tout, et auto s&apos;adapte à chaque photo&#xa0;: de 50
+                    pour une photo sombre à 80 pour une claire. Sans cette option,
+                    c&apos;est la puissance du fichier de réglages qui compte, sinon votre
+                    valeur par défaut enregistrée, sinon 70.
+  --set-default N   Enregistrer cette valeur par défaut, un nombre ou auto, ou la
+                    retirer par none. Ne fait rien d&apos;autre.
   --settings FICHIER
                     Conserver la puissance de chaque photo dans ce fichier XML. Si le
                     fichier existe, ses puissances sont utilisées, sauf si --strength
@@ -217,9 +226,10 @@ Options&#xa0;:
                     mémoire.
   --overwrite       Remplacer les résultats qui existent déjà.
   --quiet           Ne signaler que les échecs.
-  --json            Écrire pour chaque photo une ligne avec un objet JSON&#xa0;: photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (la raison, ou null).
+  --json            Écrire pour chaque photo une ligne avec un objet JSON&#xa0;:
+                    photo, result, status (done, unchanged, failed, stopped),
+                    strength, automatic, seconds, message, unchanged (la raison, ou
+                    null).
   --share-services  Prêter au module les services du programme (journal, réserve de
                     mémoire, nombre de processeurs) au lieu de le laisser
                     créer les siens.
@@ -249,6 +259,7 @@ Ctrl-C y met fin par le signal (130 dans un shell), sans laisser de résultat in
 
 Exemples&#xa0;:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </translation>
@@ -256,6 +267,21 @@ Exemples&#xa0;:
     <message>
         <source>See veilaway --help.</source>
         <translation>Voir veilaway --help.</translation>
+    </message>
+    <message>
+        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <translation>--set-default attend un nombre entier de 0 à 100, auto ou none, pas «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <translation>--set-default enregistre la valeur par défaut et ne fait rien d&apos;autre&#xa0;: omettez les photos et les options qui les concernent.</translation>
+    </message>
+</context>
+<context>
+    <name>DefaultStrength</name>
+    <message>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <translation>La valeur par défaut ne peut pas être enregistrée dans «&#xa0;%1&#xa0;». Libérez de la place, ou donnez-vous le droit d&apos;y écrire.</translation>
     </message>
 </context>
 <context>
@@ -452,8 +478,8 @@ Exemples&#xa0;:
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>%1: %2 (%3 s)</source>
-        <translation>%1&#xa0;: %2 (%3 s)</translation>
+        <source>%1: %2 (%3)</source>
+        <translation>%1&#xa0;: %2 (%3)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
@@ -493,6 +519,10 @@ Exemples&#xa0;:
             <numerusform>%n photo n&apos;a pas été commencée.</numerusform>
             <numerusform>%n photos n&apos;ont pas été commencées.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %, %2 s</source>
+        <translation>%1&#xa0;%, %2 s</translation>
     </message>
 </context>
 <context>
@@ -570,6 +600,10 @@ Exemples&#xa0;:
             <numerusform>«&#xa0;%1&#xa0;» est laissé de côté&#xa0;: c&apos;est le résultat d&apos;une autre des photos.</numerusform>
             <numerusform>%n fichiers sont laissés de côté, car ce sont des résultats des autres photos, par exemple «&#xa0;%1&#xa0;».</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No --strength given: using your stored default, the automatic strength.</source>
+        <translation>Pas de --strength&#xa0;: votre valeur par défaut enregistrée est utilisée, la puissance automatique.</translation>
     </message>
 </context>
 <context>
@@ -664,6 +698,21 @@ Exemples&#xa0;:
     <message>
         <source>Kept</source>
         <translation>Conservé</translation>
+    </message>
+</context>
+<context>
+    <name>SetDefaultCommand</name>
+    <message>
+        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <translation>Plus aucune valeur par défaut n&apos;est enregistrée&#xa0;; sans --strength, c&apos;est %1 pour cent.</translation>
+    </message>
+    <message>
+        <source>From now on, each photograph gets its automatic strength.</source>
+        <translation>Désormais, chaque photo reçoit sa puissance automatique.</translation>
+    </message>
+    <message>
+        <source>From now on, the default strength is %1 per cent.</source>
+        <translation>Désormais, la puissance par défaut est de %1 pour cent.</translation>
     </message>
 </context>
 <context>

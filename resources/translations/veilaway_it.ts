@@ -97,8 +97,8 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation>--strength richiede un numero intero da 0 a 100, non &quot;%1&quot;.</translation>
+        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <translation>--strength richiede un numero intero da 0 a 100 oppure auto, non &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -127,6 +127,7 @@ Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph&apos;s name with a
@@ -139,8 +140,11 @@ strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all. Without it, the strength in the settings
-                    file counts, then your stored default, then 70.
+                    it is, 100 takes all, and auto fits it to each photograph: 50 for
+                    a dark one up to 80 for a bright one. Without it, the strength in
+                    the settings file counts, then your stored default, then 70.
+  --set-default N   Store this default, a number or auto, or take it back with none.
+                    Does nothing else.
   --settings FILE   Keep the strength of each photograph in this XML file. If the file
                     is there, its strengths are used, unless --strength is given too;
                     at the end it holds the strengths that were used. Without a PHOTO,
@@ -153,7 +157,7 @@ Options:
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (the reason, or null).
+                    automatic, seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -180,6 +184,7 @@ Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
@@ -189,6 +194,7 @@ Uso:
   veilaway [run] FOTO... [opzioni]
   veilaway [run] --settings FILE [opzioni]
   veilaway wizard [FOTO...] [opzioni]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Ogni risultato viene salvato accanto alla propria foto, con lo stesso nome più un
@@ -202,9 +208,12 @@ ciascuna con un&apos;anteprima in tempo reale, rimuovere la foschia e confrontar
 
 Opzioni:
   --strength N      Quanta foschia rimuovere, in percentuale: 0 lascia l&apos;immagine
-                    com&apos;è, 100 la rimuove tutta. Senza questa opzione vale la potenza
+                    com&apos;è, 100 la rimuove tutta e auto si adatta a ogni foto: da 50 per
+                    una scura a 80 per una chiara. Senza questa opzione vale la potenza
                     nel file di impostazioni, poi il valore predefinito salvato,
                     poi 70.
+  --set-default N   Salva questo valore predefinito, un numero o auto, oppure lo toglie
+                    con none. Non fa altro.
   --settings FILE   Conserva la potenza di ogni foto in questo file XML. Se il file
                     esiste, se ne usano le potenze, a meno che non sia indicato anche
                     --strength; alla fine contiene le potenze usate. Senza FOTO si
@@ -216,8 +225,8 @@ Opzioni:
   --overwrite       Sostituisce i risultati già esistenti.
   --quiet           Segnala soltanto gli errori.
   --json            Scrive per ogni foto una riga con un oggetto JSON: photo, result,
-                    status (done, unchanged, failed, stopped), strength, seconds,
-                    message, unchanged (il motivo, o null).
+                    status (done, unchanged, failed, stopped), strength, automatic,
+                    seconds, message, unchanged (il motivo, o null).
   --share-services  Presta al plugin i servizi del programma (registro, riserva di
                     memoria, numero di processori) invece di lasciare che li crei.
   --plugin FILE     Carica questo file di plugin invece di Nimbra.so accanto al
@@ -244,6 +253,7 @@ Ctrl-C lo termina con il segnale (130 in una shell), senza lasciare risultati a 
 
 Esempi:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </translation>
@@ -251,6 +261,21 @@ Esempi:
     <message>
         <source>See veilaway --help.</source>
         <translation>Vedere veilaway --help.</translation>
+    </message>
+    <message>
+        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <translation>--set-default richiede un numero intero da 0 a 100, auto o none, non &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <translation>--set-default salva il valore predefinito e non fa altro: omettere le foto e le opzioni per esse.</translation>
+    </message>
+</context>
+<context>
+    <name>DefaultStrength</name>
+    <message>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <translation>Il valore predefinito non può essere salvato in &quot;%1&quot;. Liberare spazio o concedersi il permesso di scrivere lì.</translation>
     </message>
 </context>
 <context>
@@ -447,8 +472,8 @@ Esempi:
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>%1: %2 (%3 s)</source>
-        <translation>%1: %2 (%3 s)</translation>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
@@ -488,6 +513,10 @@ Esempi:
             <numerusform>%n foto non è stata iniziata.</numerusform>
             <numerusform>%n foto non sono state iniziate.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %, %2 s</source>
+        <translation>%1 %, %2 s</translation>
     </message>
 </context>
 <context>
@@ -565,6 +594,10 @@ Esempi:
             <numerusform>&quot;%1&quot; viene tralasciato: è il risultato di un&apos;altra delle foto.</numerusform>
             <numerusform>%n file vengono tralasciati perché sono risultati delle altre foto, per esempio &quot;%1&quot;.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No --strength given: using your stored default, the automatic strength.</source>
+        <translation>Nessun --strength indicato: si usa il valore predefinito salvato, la potenza automatica.</translation>
     </message>
 </context>
 <context>
@@ -659,6 +692,21 @@ Esempi:
     <message>
         <source>Kept</source>
         <translation>Mantenuto</translation>
+    </message>
+</context>
+<context>
+    <name>SetDefaultCommand</name>
+    <message>
+        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <translation>Nessun valore predefinito è più salvato; senza --strength è %1 per cento.</translation>
+    </message>
+    <message>
+        <source>From now on, each photograph gets its automatic strength.</source>
+        <translation>D&apos;ora in poi ogni foto riceve la sua potenza automatica.</translation>
+    </message>
+    <message>
+        <source>From now on, the default strength is %1 per cent.</source>
+        <translation>D&apos;ora in poi la potenza predefinita è %1 per cento.</translation>
     </message>
 </context>
 <context>

@@ -97,8 +97,8 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation>--strength には 0 から 100 までの整数を指定してください。「%1」は使えません。</translation>
+        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <translation>--strength には 0 から 100 までの整数または auto を指定してください（「%1」は使えません）。</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -127,6 +127,7 @@ Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph&apos;s name with a
@@ -139,8 +140,11 @@ strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all. Without it, the strength in the settings
-                    file counts, then your stored default, then 70.
+                    it is, 100 takes all, and auto fits it to each photograph: 50 for
+                    a dark one up to 80 for a bright one. Without it, the strength in
+                    the settings file counts, then your stored default, then 70.
+  --set-default N   Store this default, a number or auto, or take it back with none.
+                    Does nothing else.
   --settings FILE   Keep the strength of each photograph in this XML file. If the file
                     is there, its strengths are used, unless --strength is given too;
                     at the end it holds the strengths that were used. Without a PHOTO,
@@ -153,7 +157,7 @@ Options:
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (the reason, or null).
+                    automatic, seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -180,6 +184,7 @@ Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
@@ -189,6 +194,7 @@ Examples:
   veilaway [run] PHOTO... [オプション]
   veilaway [run] --settings FILE [オプション]
   veilaway wizard [PHOTO...] [オプション]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 結果はそれぞれの写真と同じフォルダーに、写真の名前にタグを付けた名前で
@@ -203,8 +209,11 @@ Examples:
 
 オプション:
   --strength N      除去するヘイズの量（パーセント）。0 では写真はそのままで、100 では
-                    すべて除去します。指定しない場合は、設定ファイルの強さ、
+                    すべて除去します。auto では写真ごとに決まります（暗い写真の 50
+                    から明るい写真の 80 まで）。指定しない場合は、設定ファイルの強さ、
                     保存されている既定値、70 の順に使います。
+  --set-default N   この既定値（数値または auto）を保存します。none では取り消します。
+                    ほかには何もしません。
   --settings FILE   写真ごとの強さをこの XML ファイルに記録します。ファイルがすでに
                     あれば、--strength の指定がない限りその中の強さを使います。
                     終了時には、使った強さが記録されます。PHOTO を指定しないと、
@@ -216,7 +225,7 @@ Examples:
   --overwrite       すでにある結果を置き換えます。
   --quiet           失敗したもの以外は何も表示しません。
   --json            写真ごとに JSON オブジェクトを 1 行で出力します。項目は photo、
-                    result、status（done、unchanged、failed、stopped）、strength、
+                    result、status（done、unchanged、failed、stopped）、strength、automatic、
                     seconds、message、unchanged（理由、または null） です。
   --share-services  ログ、メモリプール、プロセッサ数などのサービスを、プラグインに
                     作らせずに、このプログラムのものを貸し出します。
@@ -244,6 +253,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
 
 例:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </translation>
@@ -251,6 +261,21 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
     <message>
         <source>See veilaway --help.</source>
         <translation>veilaway --help をご覧ください。</translation>
+    </message>
+    <message>
+        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <translation>--set-default には 0 から 100 までの整数、auto、none のいずれかを指定してください（「%1」は使えません）。</translation>
+    </message>
+    <message>
+        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <translation>--set-default は既定値を保存するだけです。写真と、写真のためのオプションは指定しないでください。</translation>
+    </message>
+</context>
+<context>
+    <name>DefaultStrength</name>
+    <message>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <translation>既定値を「%1」に保存できません。空き容量を増やすか、書き込みの権限を付けてください。</translation>
     </message>
 </context>
 <context>
@@ -444,8 +469,8 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>%1 秒</translation>
     </message>
     <message>
-        <source>%1: %2 (%3 s)</source>
-        <translation>%1: %2 (%3 秒)</translation>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
@@ -484,6 +509,10 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>
             <numerusform>%n 枚の写真は処理を始めていません。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %, %2 s</source>
+        <translation>%1 %、%2 秒</translation>
     </message>
 </context>
 <context>
@@ -560,6 +589,10 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>
             <numerusform>ほかの写真の結果である %n 個のファイル (「%1」など) を除外しました。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No --strength given: using your stored default, the automatic strength.</source>
+        <translation>--strength が指定されていないため、保存されている既定値（自動の強さ）を使います。</translation>
     </message>
 </context>
 <context>
@@ -653,6 +686,21 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
     <message>
         <source>Kept</source>
         <translation>既存を保持</translation>
+    </message>
+</context>
+<context>
+    <name>SetDefaultCommand</name>
+    <message>
+        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <translation>保存されている既定値はなくなりました。--strength を指定しない場合は %1 パーセントです。</translation>
+    </message>
+    <message>
+        <source>From now on, each photograph gets its automatic strength.</source>
+        <translation>今後、写真ごとに自動の強さを使います。</translation>
+    </message>
+    <message>
+        <source>From now on, the default strength is %1 per cent.</source>
+        <translation>今後、強さの既定値は %1 パーセントです。</translation>
     </message>
 </context>
 <context>

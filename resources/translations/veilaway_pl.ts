@@ -97,8 +97,8 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation>--strength wymaga liczby całkowitej od 0 do 100, a nie „%1”.</translation>
+        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <translation>--strength wymaga liczby całkowitej od 0 do 100 albo auto, a nie „%1”.</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -127,6 +127,7 @@ Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph&apos;s name with a
@@ -139,8 +140,11 @@ strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all. Without it, the strength in the settings
-                    file counts, then your stored default, then 70.
+                    it is, 100 takes all, and auto fits it to each photograph: 50 for
+                    a dark one up to 80 for a bright one. Without it, the strength in
+                    the settings file counts, then your stored default, then 70.
+  --set-default N   Store this default, a number or auto, or take it back with none.
+                    Does nothing else.
   --settings FILE   Keep the strength of each photograph in this XML file. If the file
                     is there, its strengths are used, unless --strength is given too;
                     at the end it holds the strengths that were used. Without a PHOTO,
@@ -153,7 +157,7 @@ Options:
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (the reason, or null).
+                    automatic, seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -180,6 +184,7 @@ Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
@@ -189,6 +194,7 @@ Użycie:
   veilaway [run] ZDJĘCIE... [opcje]
   veilaway [run] --settings PLIK [opcje]
   veilaway wizard [ZDJĘCIE...] [opcje]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Każdy wynik jest zapisywany obok swojego zdjęcia, pod jego nazwą z przyrostkiem:
@@ -201,8 +207,11 @@ zawiera potem poziomy), --language, --jobs, --share-services i --plugin.
 
 Opcje:
   --strength N      Ile zamglenia usunąć, w procentach: 0 pozostawia obraz bez zmian,
-                    100 usuwa całe. Bez tej opcji liczy się poziom z pliku ustawień,
-                    następnie zapisana wartość domyślna, a potem 70.
+                    100 usuwa całe, a auto dobiera poziom do każdego zdjęcia: od 50 dla
+                    ciemnego do 80 dla jasnego. Bez tej opcji liczy się poziom z pliku
+                    ustawień, następnie zapisana wartość domyślna, a potem 70.
+  --set-default N   Zapisuje tę wartość domyślną, liczbę lub auto, albo usuwa ją przy
+                    none. Nie robi nic więcej.
   --settings PLIK   Przechowuje poziom dla każdego zdjęcia w tym pliku XML. Jeśli plik
                     istnieje, używane są poziomy z niego, chyba że podano też
                     --strength; na koniec zawiera poziomy, których użyto. Bez
@@ -215,7 +224,7 @@ Opcje:
   --quiet           Zgłasza tylko to, co się nie powiodło.
   --json            Wypisuje dla każdego zdjęcia wiersz z obiektem JSON: photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (powód albo null).
+                    automatic, seconds, message, unchanged (powód albo null).
   --share-services  Użycza wtyczce usług programu (dziennik, pula pamięci, liczba
                     procesorów), zamiast pozwalać jej tworzyć własne.
   --plugin PLIK     Wczytuje ten plik wtyczki zamiast Nimbra.so obok programu lub
@@ -244,6 +253,7 @@ Ctrl-C kończy program sygnałem (130 w powłoce), bez pozostawiania niepełnego
 
 Przykłady:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </translation>
@@ -251,6 +261,21 @@ Przykłady:
     <message>
         <source>See veilaway --help.</source>
         <translation>Zobacz veilaway --help.</translation>
+    </message>
+    <message>
+        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <translation>--set-default wymaga liczby całkowitej od 0 do 100, auto albo none, a nie „%1”.</translation>
+    </message>
+    <message>
+        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <translation>--set-default zapisuje wartość domyślną i nie robi nic więcej: pomiń zdjęcia i opcje dla nich.</translation>
+    </message>
+</context>
+<context>
+    <name>DefaultStrength</name>
+    <message>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <translation>Nie można zapisać wartości domyślnej w „%1”. Zwolnij miejsce albo nadaj sobie uprawnienie do zapisu w tym miejscu.</translation>
     </message>
 </context>
 <context>
@@ -450,8 +475,8 @@ Przykłady:
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>%1: %2 (%3 s)</source>
-        <translation>%1: %2 (%3 s)</translation>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
@@ -492,6 +517,10 @@ Przykłady:
             <numerusform>Nie rozpoczęto %n zdjęć.</numerusform>
             <numerusform>Nie rozpoczęto %n zdjęć.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %, %2 s</source>
+        <translation>%1 %, %2 s</translation>
     </message>
 </context>
 <context>
@@ -570,6 +599,10 @@ Przykłady:
             <numerusform>Pominięto %n pliki, które są wynikami pozostałych zdjęć, na przykład „%1”.</numerusform>
             <numerusform>Pominięto %n plików, które są wynikami pozostałych zdjęć, na przykład „%1”.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No --strength given: using your stored default, the automatic strength.</source>
+        <translation>Nie podano --strength: używana jest zapisana wartość domyślna, poziom automatyczny.</translation>
     </message>
 </context>
 <context>
@@ -665,6 +698,21 @@ Przykłady:
     <message>
         <source>Kept</source>
         <translation>Zachowano</translation>
+    </message>
+</context>
+<context>
+    <name>SetDefaultCommand</name>
+    <message>
+        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <translation>Nie ma już zapisanej wartości domyślnej; bez --strength jest to %1 procent.</translation>
+    </message>
+    <message>
+        <source>From now on, each photograph gets its automatic strength.</source>
+        <translation>Odtąd każde zdjęcie otrzymuje swój poziom automatyczny.</translation>
+    </message>
+    <message>
+        <source>From now on, the default strength is %1 per cent.</source>
+        <translation>Odtąd domyślny poziom to %1 procent.</translation>
     </message>
 </context>
 <context>

@@ -97,8 +97,8 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation>Для --strength нужно целое число от 0 до 100, а не «%1».</translation>
+        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <translation>Для --strength нужно целое число от 0 до 100 или auto, а не «%1».</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -127,6 +127,7 @@ Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph&apos;s name with a
@@ -139,8 +140,11 @@ strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all. Without it, the strength in the settings
-                    file counts, then your stored default, then 70.
+                    it is, 100 takes all, and auto fits it to each photograph: 50 for
+                    a dark one up to 80 for a bright one. Without it, the strength in
+                    the settings file counts, then your stored default, then 70.
+  --set-default N   Store this default, a number or auto, or take it back with none.
+                    Does nothing else.
   --settings FILE   Keep the strength of each photograph in this XML file. If the file
                     is there, its strengths are used, unless --strength is given too;
                     at the end it holds the strengths that were used. Without a PHOTO,
@@ -153,7 +157,7 @@ Options:
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (the reason, or null).
+                    automatic, seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -180,6 +184,7 @@ Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
@@ -189,6 +194,7 @@ Examples:
   veilaway [run] PHOTO... [параметры]
   veilaway [run] --settings FILE [параметры]
   veilaway wizard [PHOTO...] [параметры]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Каждый результат записывается рядом со своей фотографией под её именем с добавкой:
@@ -203,8 +209,12 @@ Examples:
 
 Параметры:
   --strength N      Сколько дымки убрать, в процентах: 0 оставляет снимок как есть,
-                    100 убирает всю. Если не указано, действует интенсивность из файла
-                    настроек, затем ваше сохранённое значение по умолчанию, затем 70.
+                    100 убирает всю, а auto подбирает интенсивность к каждой
+                    фотографии: от 50 для тёмной до 80 для светлой. Если не указано,
+                    действует интенсивность из файла настроек, затем ваше сохранённое
+                    значение по умолчанию, затем 70.
+  --set-default N   Сохранить это значение по умолчанию, число или auto, либо убрать
+                    его с помощью none. Больше ничего не делает.
   --settings FILE   Хранить интенсивность для каждой фотографии в этом файле XML. Если
                     файл есть, значения берутся из него, когда не указан --strength; в
                     конце в нём остаются использованные значения. Без PHOTO
@@ -217,7 +227,8 @@ Examples:
   --quiet           Сообщать только о том, что не удалось.
   --json            Выводить для каждой фотографии объект JSON в отдельной строке с
                     полями photo, result, status (done, unchanged, failed, stopped),
-                    strength, seconds, message, unchanged (причина или null).
+                    strength, automatic, seconds, message, unchanged (причина или
+                    null).
   --share-services  Предоставить модулю собственные службы программы (журнал, пул
                     памяти, число процессоров), чтобы он не создавал свои.
   --plugin FILE     Загрузить модуль из этого файла вместо Nimbra.so, лежащего рядом с
@@ -244,6 +255,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
 
 Примеры:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </translation>
@@ -251,6 +263,21 @@ Ctrl-C завершает работу сигналом (130 в оболочке
     <message>
         <source>See veilaway --help.</source>
         <translation>См. veilaway --help.</translation>
+    </message>
+    <message>
+        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <translation>Для --set-default нужно целое число от 0 до 100, auto или none, а не «%1».</translation>
+    </message>
+    <message>
+        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <translation>--set-default сохраняет значение по умолчанию и больше ничего не делает: уберите фотографии и параметры для них.</translation>
+    </message>
+</context>
+<context>
+    <name>DefaultStrength</name>
+    <message>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <translation>Значение по умолчанию не удаётся сохранить в «%1». Освободите место или дайте себе право записи туда.</translation>
     </message>
 </context>
 <context>
@@ -450,8 +477,8 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>%1 с</translation>
     </message>
     <message>
-        <source>%1: %2 (%3 s)</source>
-        <translation>%1: %2 (%3 с)</translation>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2 (%3)</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
@@ -492,6 +519,10 @@ Ctrl-C завершает работу сигналом (130 в оболочке
             <numerusform>Не начаты %n фотографии.</numerusform>
             <numerusform>Не начато %n фотографий.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %, %2 s</source>
+        <translation>%1 %, %2 с</translation>
     </message>
 </context>
 <context>
@@ -570,6 +601,10 @@ Ctrl-C завершает работу сигналом (130 в оболочке
             <numerusform>Пропущено %n файла, которые являются результатами других фотографий, например «%1».</numerusform>
             <numerusform>Пропущено %n файлов, которые являются результатами других фотографий, например «%1».</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No --strength given: using your stored default, the automatic strength.</source>
+        <translation>--strength не указан: используется сохранённое значение по умолчанию, автоматическая интенсивность.</translation>
     </message>
 </context>
 <context>
@@ -665,6 +700,21 @@ Ctrl-C завершает работу сигналом (130 в оболочке
     <message>
         <source>Kept</source>
         <translation>Прежний результат</translation>
+    </message>
+</context>
+<context>
+    <name>SetDefaultCommand</name>
+    <message>
+        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <translation>Сохранённого значения по умолчанию больше нет; без --strength это %1 процентов.</translation>
+    </message>
+    <message>
+        <source>From now on, each photograph gets its automatic strength.</source>
+        <translation>Теперь каждая фотография получает свою автоматическую интенсивность.</translation>
+    </message>
+    <message>
+        <source>From now on, the default strength is %1 per cent.</source>
+        <translation>Теперь интенсивность по умолчанию — %1 %.</translation>
     </message>
 </context>
 <context>

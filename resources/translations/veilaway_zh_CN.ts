@@ -97,8 +97,8 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation>--strength 必须是 0 到 100 之间的整数，不能是“%1”。</translation>
+        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <translation>--strength 需要 0 到 100 之间的整数或 auto，而不是“%1”。</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -127,6 +127,7 @@ Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph&apos;s name with a
@@ -139,8 +140,11 @@ strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all. Without it, the strength in the settings
-                    file counts, then your stored default, then 70.
+                    it is, 100 takes all, and auto fits it to each photograph: 50 for
+                    a dark one up to 80 for a bright one. Without it, the strength in
+                    the settings file counts, then your stored default, then 70.
+  --set-default N   Store this default, a number or auto, or take it back with none.
+                    Does nothing else.
   --settings FILE   Keep the strength of each photograph in this XML file. If the file
                     is there, its strengths are used, unless --strength is given too;
                     at the end it holds the strengths that were used. Without a PHOTO,
@@ -153,7 +157,7 @@ Options:
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (the reason, or null).
+                    automatic, seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -180,6 +184,7 @@ Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
@@ -189,6 +194,7 @@ Examples:
   veilaway [run] PHOTO... [选项]
   veilaway [run] --settings FILE [选项]
   veilaway wizard [PHOTO...] [选项]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 每张照片的结果都写入其所在的文件夹，名称为照片名加上标记：hills.jpg 变为
@@ -200,8 +206,10 @@ _dehazed。
 和 --plugin。
 
 选项：
-  --strength N      去除薄雾的程度（百分比）：0 表示保持照片不变，100 表示全部去除。
+  --strength N      去除薄雾的程度（百分比）：0 表示保持照片不变，100 表示全部去除，
+                    auto 表示按每张照片自动选择：暗的照片为 50，亮的照片最高为 80。
                     未指定时，依次采用设置文件中的强度、您保存的默认值、70。
+  --set-default N   保存此默认值（数字或 auto），或用 none 取消。不做其他任何事。
   --settings FILE   将每张照片的强度保存在此 XML 文件中。如果文件已存在，则使用其中的
                     强度，除非另外指定了 --strength；结束时，文件记录实际使用的强度。
                     不给出 PHOTO 时，处理文件中的所有照片。
@@ -212,7 +220,7 @@ _dehazed。
   --overwrite       替换已有的结果。
   --quiet           只报告失败的内容。
   --json            为每张照片输出一行 JSON 对象，包含 photo、result、status（done、
-                    unchanged、failed、stopped）、strength、seconds、message、
+                    unchanged、failed、stopped）、strength、automatic、seconds、message、
                     unchanged（原因，或 null）。
   --share-services  让插件使用本程序自身的服务（日志、内存池、处理器数量），而不是
                     由插件自行创建。
@@ -238,6 +246,7 @@ _dehazed。
 
 示例：
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </translation>
@@ -245,6 +254,21 @@ _dehazed。
     <message>
         <source>See veilaway --help.</source>
         <translation>请参阅 veilaway --help。</translation>
+    </message>
+    <message>
+        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <translation>--set-default 需要 0 到 100 之间的整数、auto 或 none，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <translation>--set-default 只保存默认值：请去掉照片以及用于照片的选项。</translation>
+    </message>
+</context>
+<context>
+    <name>DefaultStrength</name>
+    <message>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <translation>无法将默认值保存到“%1”。请腾出空间，或为自己授予写入权限。</translation>
     </message>
 </context>
 <context>
@@ -438,8 +462,8 @@ _dehazed。
         <translation>%1 秒</translation>
     </message>
     <message>
-        <source>%1: %2 (%3 s)</source>
-        <translation>%1：%2（%3 秒）</translation>
+        <source>%1: %2 (%3)</source>
+        <translation>%1：%2（%3）</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
@@ -478,6 +502,10 @@ _dehazed。
         <translation>
             <numerusform>%n 张照片未开始处理。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %, %2 s</source>
+        <translation>%1 %，%2 秒</translation>
     </message>
 </context>
 <context>
@@ -554,6 +582,10 @@ _dehazed。
         <translation>
             <numerusform>已略过 %n 个文件，它们是其他照片的结果，例如“%1”。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No --strength given: using your stored default, the automatic strength.</source>
+        <translation>未指定 --strength：采用您保存的默认值，即自动强度。</translation>
     </message>
 </context>
 <context>
@@ -647,6 +679,21 @@ _dehazed。
     <message>
         <source>Kept</source>
         <translation>已保留</translation>
+    </message>
+</context>
+<context>
+    <name>SetDefaultCommand</name>
+    <message>
+        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <translation>不再保存默认值；未指定 --strength 时为百分之 %1。</translation>
+    </message>
+    <message>
+        <source>From now on, each photograph gets its automatic strength.</source>
+        <translation>从现在起，每张照片采用各自的自动强度。</translation>
+    </message>
+    <message>
+        <source>From now on, the default strength is %1 per cent.</source>
+        <translation>从现在起，默认强度为百分之 %1。</translation>
     </message>
 </context>
 <context>

@@ -97,8 +97,8 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, not &quot;%1&quot;.</source>
-        <translation>--strength 必須是 0 到 100 之間的整數，不能是「%1」。</translation>
+        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <translation>--strength 需要 0 到 100 之間的整數或 auto，而不是「%1」。</translation>
     </message>
     <message>
         <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -127,6 +127,7 @@ Usage:
   veilaway [run] PHOTO... [options]
   veilaway [run] --settings FILE [options]
   veilaway wizard [PHOTO...] [options]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 Each result is written beside its photograph, under the photograph&apos;s name with a
@@ -139,8 +140,11 @@ strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
   --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all. Without it, the strength in the settings
-                    file counts, then your stored default, then 70.
+                    it is, 100 takes all, and auto fits it to each photograph: 50 for
+                    a dark one up to 80 for a bright one. Without it, the strength in
+                    the settings file counts, then your stored default, then 70.
+  --set-default N   Store this default, a number or auto, or take it back with none.
+                    Does nothing else.
   --settings FILE   Keep the strength of each photograph in this XML file. If the file
                     is there, its strengths are used, unless --strength is given too;
                     at the end it holds the strengths that were used. Without a PHOTO,
@@ -153,7 +157,7 @@ Options:
   --quiet           Say nothing but what failed.
   --json            Write one JSON object a line for each photograph, with photo,
                     result, status (done, unchanged, failed, stopped), strength,
-                    seconds, message, unchanged (the reason, or null).
+                    automatic, seconds, message, unchanged (the reason, or null).
   --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
                     processor count) instead of letting it make them.
   --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
@@ -180,6 +184,7 @@ Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </source>
@@ -189,6 +194,7 @@ Examples:
   veilaway [run] PHOTO... [選項]
   veilaway [run] --settings FILE [選項]
   veilaway wizard [PHOTO...] [選項]
+  veilaway --set-default N|auto|none
   veilaway --help | --version
 
 每張照片的結果都寫入其所在的資料夾，名稱為照片名稱加上標記：hills.jpg 變為
@@ -200,8 +206,10 @@ _dehazed。
 和 --plugin。
 
 選項：
-  --strength N      去除薄霧的程度（百分比）：0 表示保持照片不變，100 表示全部去除。
+  --strength N      去除薄霧的程度（百分比）：0 表示保持照片不變，100 表示全部去除，
+                    auto 表示依每張照片自動選擇：暗的照片為 50，亮的照片最高為 80。
                     未指定時，依序採用設定檔中的強度、您儲存的預設值、70。
+  --set-default N   儲存此預設值（數字或 auto），或用 none 取消。不做其他任何事。
   --settings FILE   將每張照片的強度儲存在此 XML 檔案中。如果檔案已存在，則使用其中的
                     強度，除非另外指定了 --strength；結束時，檔案記錄實際使用的強度。
                     未指定 PHOTO 時，處理檔案中的所有照片。
@@ -212,7 +220,7 @@ _dehazed。
   --overwrite       取代已有的結果。
   --quiet           只回報失敗的內容。
   --json            為每張照片輸出一行 JSON 物件，包含 photo、result、status（done、
-                    unchanged、failed、stopped）、strength、seconds、message、
+                    unchanged、failed、stopped）、strength、automatic、seconds、message、
                     unchanged（原因，或 null）。
   --share-services  讓外掛程式使用本程式自身的服務（記錄、記憶體集區、處理器數量），
                     而不是由外掛程式自行建立。
@@ -238,6 +246,7 @@ _dehazed。
 
 範例：
   veilaway hills.jpg --strength 80
+  veilaway hills.jpg valley.jpg --strength auto
   veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
   veilaway --settings holiday/haze.xml --overwrite
 </translation>
@@ -245,6 +254,21 @@ _dehazed。
     <message>
         <source>See veilaway --help.</source>
         <translation>請參閱 veilaway --help。</translation>
+    </message>
+    <message>
+        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <translation>--set-default 需要 0 到 100 之間的整數、auto 或 none，而不是「%1」。</translation>
+    </message>
+    <message>
+        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <translation>--set-default 只儲存預設值：請去掉照片以及用於照片的選項。</translation>
+    </message>
+</context>
+<context>
+    <name>DefaultStrength</name>
+    <message>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <translation>無法將預設值儲存到「%1」。請騰出空間，或為自己授予寫入權限。</translation>
     </message>
 </context>
 <context>
@@ -438,8 +462,8 @@ _dehazed。
         <translation>%1 秒</translation>
     </message>
     <message>
-        <source>%1: %2 (%3 s)</source>
-        <translation>%1：%2（%3 秒）</translation>
+        <source>%1: %2 (%3)</source>
+        <translation>%1：%2（%3）</translation>
     </message>
     <message>
         <source>%1 photographs done.</source>
@@ -478,6 +502,10 @@ _dehazed。
         <translation>
             <numerusform>%n 張照片未開始處理。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 %, %2 s</source>
+        <translation>%1 %，%2 秒</translation>
     </message>
 </context>
 <context>
@@ -554,6 +582,10 @@ _dehazed。
         <translation>
             <numerusform>已略過 %n 個檔案，它們是其他照片的結果，例如「%1」。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No --strength given: using your stored default, the automatic strength.</source>
+        <translation>未指定 --strength：採用您儲存的預設值，即自動強度。</translation>
     </message>
 </context>
 <context>
@@ -647,6 +679,21 @@ _dehazed。
     <message>
         <source>Kept</source>
         <translation>已保留</translation>
+    </message>
+</context>
+<context>
+    <name>SetDefaultCommand</name>
+    <message>
+        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <translation>不再儲存預設值；未指定 --strength 時為百分之 %1。</translation>
+    </message>
+    <message>
+        <source>From now on, each photograph gets its automatic strength.</source>
+        <translation>從現在起，每張照片採用各自的自動強度。</translation>
+    </message>
+    <message>
+        <source>From now on, the default strength is %1 per cent.</source>
+        <translation>從現在起，預設強度為百分之 %1。</translation>
     </message>
 </context>
 <context>
