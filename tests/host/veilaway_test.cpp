@@ -613,7 +613,7 @@ TEST_F(Veilaway, settings_keep_the_automatic_number_and_that_it_was_chosen)
         {{"a.png", "--strength", "80", "--overwrite"}, "", "a.png 80 \nb.png 80 auto"},
     };
     for (const auto &[arguments, photo, kept] : cases) {
-        const Said answer = folder.run(arguments + QStringList{"--settings", "s.xml", "--json"});
+        const Said answer = folder.run(arguments + QStringList{"--settings", "s.xml", "--json", "--jobs", "1"});
         EXPECT_EQ(entries(), kept) << answer.err;
         QString automatic;
         for (const QString &line : answer.out.split('\n', Qt::SkipEmptyParts))
