@@ -87,5 +87,15 @@ TEST(Photograph, decodes_at_acquire_and_lets_go_at_release)
     photograph.refuseFrom(65);
     EXPECT_NO_THROW(photograph.acquireFull(1));
     photograph.dropFull();
+
+    // Decoded ahead, it is not decoded once more, and goes with the first use as ever.
+    Photograph ahead(folder.path("a.png"));
+    EXPECT_EQ(ahead.automaticStrength(), std::nullopt);
+    ahead.decodeAhead();
+    QFile::remove(folder.path("a.png"));
+    EXPECT_EQ(ahead.automaticStrength(), 80);
+    EXPECT_NO_THROW(ahead.acquireFull(1));
+    ahead.releaseFull(1);
+    EXPECT_THROW(ahead.acquireFull(1), VException);
     gflLibraryExit();
 }
