@@ -77,8 +77,8 @@ public:
 private:
     void work(const std::vector<BatchItem> &items);
     BatchOutcome process(const BatchItem &item, int index);
-    /// Throws; otherwise the result is there, and what it gives is BatchOutcome::unchanged. Sets the strength of an automatic
-    /// one.
+    /// Throws; otherwise the result is there, and what it gives is BatchOutcome::unchanged. Sets the strength of an
+    /// automatic item as soon as that is known.
     QString attempt(const BatchItem &item, int index, Stage &stage, std::optional<int> &strength);
     void reserve(qint64 bytes);
     void giveBack(qint64 bytes);

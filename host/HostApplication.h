@@ -53,8 +53,7 @@ public:
         HostApplication &application;
     };
 
-    /// What is stored under this key as it stands there, or a null text. setValue with an invalid value takes it away. Any
-    /// thread.
+    /// What is stored under this key, as a text; null if nothing is. setValue with an invalid value takes it away. Any thread.
     QString storedText(const QString &group, const QString &key);
     /// Writes what setValue was given, and names the file if that can't be done.
     QString unwrittenSettings();
