@@ -16,8 +16,6 @@ class CommandLine
 public:
     enum class Command { Run, Wizard, SetDefault, Help, Version };
 
-    static constexpr int kUsualStrength = 70; ///< Where nothing else gives one.
-
     Command command = Command::Run;
     QStringList photographs;
     std::optional<WantedStrength> strength;

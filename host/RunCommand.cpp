@@ -66,10 +66,10 @@ void RunCommand::note(const QString &text) const
 WantedStrength RunCommand::defaultStrength(const QString &group)
 {
     const auto stored = DefaultStrength(application, group).stored();
-    note(!stored             ? tr("No --strength given and no default stored: using %1.").arg(CommandLine::kUsualStrength)
+    note(!stored             ? tr("No --strength given and no default stored: using %1.").arg(WantedStrength::kUsual)
          : stored->automatic ? tr("No --strength given: using your stored default, the automatic strength.")
                              : tr("No --strength given: using your stored default of %1.").arg(stored->percent));
-    return stored.value_or(WantedStrength{CommandLine::kUsualStrength, /*automatic=*/false});
+    return stored.value_or(WantedStrength{WantedStrength::kUsual, /*automatic=*/false});
 }
 
 void RunCommand::leaveOut(const QSet<QString> &results, QStringList &photographs) const

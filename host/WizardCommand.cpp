@@ -13,7 +13,7 @@
 
 int WizardCommand::run()
 {
-    application.setUsual(QStringLiteral("hazeRemove"), CommandLine::kUsualStrength);
+    application.setUsual(QStringLiteral("hazeRemove"), WantedStrength::kUsual);
     std::unique_ptr<PluginFile> plugin;
     std::unique_ptr<SettingsFile> settings;
     try {

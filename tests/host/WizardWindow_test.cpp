@@ -23,10 +23,10 @@
 #include <gtest/gtest.h>
 
 #include "BeforeAfterView.h"
-#include "CommandLine.h"
 #include "HostApplication.h"
 #include "SettingsFile.h"
 #include "TestFolder.h"
+#include "WantedStrength.h"
 #include "WizardCommand.h"
 #include "WizardWindow.h"
 #include "drawScene.h"
@@ -223,7 +223,7 @@ TEST_F(Wizard, from_choosing_two_photographs_to_two_results)
         go(QWizard::NextButton);
         ASSERT_TRUE(reached(WizardWindow::Strength));
         EXPECT_EQ(find<QComboBox>("comboBoxImageDef")->count(), 2);
-        EXPECT_EQ(strengthOf("tower.png"), CommandLine::kUsualStrength);
+        EXPECT_EQ(strengthOf("tower.png"), WantedStrength::kUsual);
         typeStrength("tower.png", "30");
         typeStrength("valley.jpg", "85");
         keepPicture("2_strength");
@@ -305,7 +305,7 @@ TEST_F(Wizard, a_session_goes_on_with_a_further_photograph)
         go(QWizard::NextButton);
         ASSERT_TRUE(reached(WizardWindow::Strength));
         EXPECT_EQ(strengthOf("valley.jpg"), 25);
-        EXPECT_EQ(strengthOf("tower.png"), CommandLine::kUsualStrength);
+        EXPECT_EQ(strengthOf("tower.png"), WantedStrength::kUsual);
         typeStrength("tower.png", "55");
         click("pushButtonApplyAll");
         EXPECT_EQ(strengthOf("valley.jpg"), 55);
@@ -340,7 +340,7 @@ TEST_F(Wizard, a_session_goes_on_with_a_further_photograph)
         QTest::keyClick(window, Qt::Key_Escape);
         EXPECT_TRUE(window->isVisible());
     });
-    host->setValue(kProcessGuid, "hazeRemove", CommandLine::kUsualStrength);
+    host->setValue(kProcessGuid, "hazeRemove", WantedStrength::kUsual);
 }
 
 TEST_F(Wizard, with_auto_as_the_default_each_photograph_starts_at_its_own_strength)
@@ -452,7 +452,7 @@ TEST_F(Wizard, the_list_names_the_photograph_shown_when_another_cannot_be_read)
             const QString used = find<QTableWidget>("work")->item(names.indexOf(stays), 1)->text();
             EXPECT_TRUE(used.startsWith("40")) << used;
         });
-        host->setValue(kProcessGuid, "hazeRemove", CommandLine::kUsualStrength);
+        host->setValue(kProcessGuid, "hazeRemove", WantedStrength::kUsual);
     }
 }
 

@@ -11,7 +11,6 @@
 #include <QSignalBlocker>
 
 #include "BatchPlan.h"
-#include "CommandLine.h"
 #include "DefaultStrength.h"
 #include "PhotoPage.h"
 #include "ResultPage.h"
@@ -181,7 +180,7 @@ std::optional<int> WizardWindow::startOf(const QString &photograph)
     if (strength ? !SettingsFile::isAutomatic(stored) : !automaticDefault)
         return strength;
     const auto chosen = strength ? strength : application.photograph(photograph)->automaticStrength();
-    return automatic[photograph] = chosen.value_or(CommandLine::kUsualStrength);
+    return automatic[photograph] = chosen.value_or(WantedStrength::kUsual);
 }
 
 void WizardWindow::takeStrengths()

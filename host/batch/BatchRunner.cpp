@@ -16,9 +16,9 @@
 #include <QThread>
 
 #include "BatchPlan.h"
-#include "CommandLine.h"
 #include "TransposedRun.h"
 #include "VException.h"
+#include "WantedStrength.h"
 #include "XmpCarrier.h"
 #include "kernel32.h"
 #include "whyUnchanged.h"
@@ -195,7 +195,7 @@ QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage, std
     });
     if (item.automatic) {
         photograph.decodeAhead();
-        strength = photograph.automaticStrength().value_or(CommandLine::kUsualStrength);
+        strength = photograph.automaticStrength().value_or(WantedStrength::kUsual);
     }
     {
         const std::lock_guard lock(reportMutex); // two elements may belong to one document
