@@ -37,7 +37,7 @@ void VSparseMatrix::Solve(const float *b, float *x) const
     const std::int32_t nrhs = 1;
     const std::int32_t msglvl = 0;
     std::int32_t error = 0;
-    float dummy = 0.0F;
+    float dummy = 0.0f;
 
     std::array<std::int32_t, 64> iparm = {};
     iparm[PardisoOwnValues] = 1;

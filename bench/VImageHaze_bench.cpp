@@ -47,11 +47,11 @@ void draw(VImage &image, float roughness)
 {
     for (int y = 0; y < image.Height(); ++y) {
         auto *p = reinterpret_cast<float *>(image.PixelAddress(0, y));
-        const float v = static_cast<float>(y) / static_cast<float>(image.Height());
+        const float v = float(y) / float(image.Height());
         for (int x = 0; x < image.Width(); ++x, p += 4) {
-            const auto hash = static_cast<unsigned>(x * 73856093) ^ static_cast<unsigned>(y * 19349663);
-            const float grain = roughness * static_cast<float>(hash >> 8 & 255u) / 255.0f;
-            const float ridge = static_cast<float>((x / 97 + y / 61) % 7) / 7.0f;
+            const auto hash = unsigned(x * 73856093) ^ unsigned(y * 19349663);
+            const float grain = roughness * float(hash >> 8 & 255u) / 255.0f;
+            const float ridge = float((x / 97 + y / 61) % 7) / 7.0f;
             const float t = 0.15f + 0.8f * std::min(1.0f, v * 0.7f + ridge * 0.3f);
             p[0] = 0.85f + (0.35f * ridge + 0.5f * grain - 0.85f) * t;
             p[1] = 0.88f + (0.30f * ridge + grain - 0.88f) * t;
@@ -77,7 +77,7 @@ const VImage &scene(std::int64_t megapixels, float roughness = kFine)
 
 std::size_t pixelsOf(const VImage &image)
 {
-    return static_cast<std::size_t>(image.Width()) * static_cast<std::size_t>(image.Height());
+    return std::size_t(image.Width()) * std::size_t(image.Height());
 }
 
 /// Team for one run, and its rates at the end.
@@ -87,13 +87,13 @@ public:
     Run(benchmark::State &benchmarkState, std::size_t pixelCount, std::size_t bytesPerPixel)
         : state(benchmarkState), pixels(pixelCount), bytes(pixelCount * bytesPerPixel)
     {
-        threadCount = static_cast<std::int32_t>(state.range(1));
+        threadCount = std::int32_t(state.range(1));
     }
     ~Run()
     {
         threadCount = 1;
-        state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(pixels));
-        state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes));
+        state.SetItemsProcessed(state.iterations() * std::int64_t(pixels));
+        state.SetBytesProcessed(state.iterations() * std::int64_t(bytes));
     }
     Run(const Run &) = delete;
     Run &operator=(const Run &) = delete;
@@ -107,9 +107,9 @@ private:
 /// Size of the copy that the estimate runs on, as the driver has it.
 void reduce(const VImage &image, VImage &low)
 {
-    const double ratio = static_cast<double>(image.Width()) / static_cast<double>(image.Height());
-    const int width = static_cast<int>(std::sqrt(100000.0 * ratio));
-    image.Resample(low, width, static_cast<int>(static_cast<double>(width) / ratio));
+    const double ratio = double(image.Width()) / double(image.Height());
+    const int width = int(std::sqrt(100000.0 * ratio));
+    image.Resample(low, width, int(double(width) / ratio));
 }
 
 void Copy(benchmark::State &state)
@@ -117,7 +117,7 @@ void Copy(benchmark::State &state)
     const VImage &image = scene(state.range(0));
     VImage target(image.Width(), image.Height(), VImage::Rgba, 32, /*clear=*/true);
     const Run run(state, pixelsOf(image), 2 * kPixelBytes);
-    const auto rowBytes = static_cast<std::size_t>(image.BytesPerLine());
+    const auto rowBytes = std::size_t(image.BytesPerLine());
     for (auto _ : state) {
 #pragma omp parallel for schedule(static) num_threads(threadCount)
         for (int y = 0; y < image.Height(); ++y)
@@ -178,7 +178,7 @@ void JointUpsample(benchmark::State &state)
     image.Resample(guide, image.Width() * 100 / 194, image.Height() * 100 / 194);
     std::vector<float> values(pixelsOf(guide));
     for (std::size_t i = 0; i < values.size(); ++i)
-        values[i] = static_cast<float>(i % 1024) / 1024.0f;
+        values[i] = float(i % 1024) / 1024.0f;
     const Run run(state, pixelsOf(image), kPixelBytes + sizeof(float));
     for (auto _ : state) {
         const std::unique_ptr<float[]> map(image.HazeJointUpsample(values.data(), &guide));
@@ -225,7 +225,7 @@ void WholeEngine(benchmark::State &state)
     for (const int megapixels : kMegapixels) {
         if (megapixels == 100 && !large)
             continue;
-        for (const int team : {1, std::max(2, static_cast<int>(std::thread::hardware_concurrency()))}) {
+        for (const int team : {1, std::max(2, int(std::thread::hardware_concurrency()))}) {
             for (const auto &[name, stage] : stages)
                 benchmark::RegisterBenchmark(name, stage)
                     ->ArgNames({"megapixels", "team"})

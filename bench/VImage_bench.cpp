@@ -26,7 +26,7 @@ struct Frame
 {
     explicit Frame(std::int64_t megapixels)
     {
-        while (std::int64_t{width + 6} * (height + 4) <= megapixels * 1000000) {
+        while (std::int64_t(width + 6) * (height + 4) <= megapixels * 1000000) {
             width += 6;
             height += 4;
         }
@@ -52,7 +52,7 @@ void report(benchmark::State &state, std::int64_t pixels, std::int64_t bytes)
 void copyBandwidth(benchmark::State &state)
 {
     const Frame frame(state.range(0));
-    const int team = static_cast<int>(state.range(1));
+    const int team = int(state.range(1));
     const VImage source(frame.width, frame.height, kWorking.type, kWorking.bits, /*clear=*/true);
     VImage target(frame.width, frame.height, kWorking.type, kWorking.bits, /*clear=*/true);
     const std::int64_t bytes = bytesOf(source);
@@ -60,17 +60,17 @@ void copyBandwidth(benchmark::State &state)
 #pragma omp parallel for schedule(static) num_threads(team)
         for (int part = 0; part < team; ++part) {
             const std::int64_t from = bytes * part / team, to = bytes * (part + 1) / team;
-            std::memcpy(target.PixelAddress(0, 0) + from, source.PixelAddress(0, 0) + from, static_cast<std::size_t>(to - from));
+            std::memcpy(target.PixelAddress(0, 0) + from, source.PixelAddress(0, 0) + from, std::size_t(to - from));
         }
         benchmark::ClobberMemory();
     }
-    report(state, std::int64_t{frame.width} * frame.height, 2 * bytes);
+    report(state, std::int64_t(frame.width) * frame.height, 2 * bytes);
 }
 
 void readBandwidth(benchmark::State &state)
 {
     const Frame frame(state.range(0));
-    const int team = static_cast<int>(state.range(1));
+    const int team = int(state.range(1));
     const VImage source(frame.width, frame.height, kWorking.type, kWorking.bits, /*clear=*/true);
     const std::int64_t words = bytesOf(source) / 8;
     const auto *data = reinterpret_cast<const std::uint64_t *>(source.PixelAddress(0, 0));
@@ -81,14 +81,14 @@ void readBandwidth(benchmark::State &state)
             all |= data[word];
         benchmark::DoNotOptimize(all);
     }
-    report(state, std::int64_t{frame.width} * frame.height, bytesOf(source));
+    report(state, std::int64_t(frame.width) * frame.height, bytesOf(source));
 }
 
 /// Bytes read and written by the rectangle as a whole.
 void convert(benchmark::State &state, Form from, Form to)
 {
     const Frame frame(state.range(0));
-    threadCount = static_cast<int>(state.range(1));
+    threadCount = int(state.range(1));
     const VImage source(frame.width, frame.height, from.type, from.bits, /*clear=*/true);
     VImage target(frame.width, frame.height, to.type, to.bits, /*clear=*/true);
     for (auto _ : state) {
@@ -96,21 +96,21 @@ void convert(benchmark::State &state, Form from, Form to)
         benchmark::ClobberMemory();
     }
     threadCount = 1;
-    report(state, std::int64_t{frame.width} * frame.height, bytesOf(source) + bytesOf(target));
+    report(state, std::int64_t(frame.width) * frame.height, bytesOf(source) + bytesOf(target));
 }
 
 /// To about 100,000 pixels, as the engine does, or by a half, as the pyramid does. Bytes read.
 void reduce(benchmark::State &state, bool byHalf)
 {
     const Frame frame(state.range(0));
-    threadCount = static_cast<int>(state.range(1));
+    threadCount = int(state.range(1));
     const VImage source(frame.width, frame.height, kWorking.type, kWorking.bits, /*clear=*/true);
     const int width = byHalf ? frame.width / 2 : 387, height = byHalf ? frame.height / 2 : 258;
     VImage target;
     for (auto _ : state)
         source.Resample(target, width, height);
     threadCount = 1;
-    report(state, std::int64_t{frame.width} * frame.height, bytesOf(source));
+    report(state, std::int64_t(frame.width) * frame.height, bytesOf(source));
 }
 
 void sizes(benchmark::internal::Benchmark *run)

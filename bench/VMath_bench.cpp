@@ -24,7 +24,7 @@ void openDiagonal(VSparseFactory &factory)
     VSparseFactory::CellAccessor cell;
     for (int pixel = 0; pixel < kPixels; ++pixel) {
         (factory.*factory.cellAccess)(pixel, pixel, cell);
-        cell->second = 0.001F;
+        cell->second = 0.001f;
     }
 }
 
@@ -39,7 +39,7 @@ void fillWindows(VSparseFactory &factory, int team)
                 for (int j = i; j < 9; ++j) {
                     const int q = (y + j / 3) * kWidth + x + j % 3;
                     (factory.*factory.cellAccess)(p, q, cell);
-                    cell->second += i == j ? 8.0F / 9.0F : -1.0F / 9.0F;
+                    cell->second += i == j ? 8.0f / 9.0f : -1.0f / 9.0f;
                     cell.release();
                 }
             }
@@ -103,9 +103,9 @@ void solve(benchmark::State &state, bool joined)
         cell.release();
         factory.ToCsr(matrix);
     }
-    std::vector<float> b(std::size_t(kPixels), 0.0F);
+    std::vector<float> b(std::size_t(kPixels), 0.0f);
     for (std::size_t i = 0; i < b.size(); ++i)
-        b[i] = 0.001F * float(0.5 + 0.4 * std::sin(0.01 * double(i)));
+        b[i] = 0.001f * float(0.5 + 0.4 * std::sin(0.01 * double(i)));
     std::vector<float> x(b.size());
 
     threadCount = int(state.range(0));

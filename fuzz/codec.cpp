@@ -111,12 +111,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t cou
     if (!described || choice / 16 % 4 != 0)
         return 0;
 
-    const bool whole = picture && std::int64_t{picture->width} * picture->height <= 4096;
+    const bool whole = picture && std::int64_t(picture->width) * picture->height <= 4096;
     const Picture carrier = whole ? Picture() : pixelWith(*described);
     GflSaveParams params;
     gflGetDefaultSaveParams(&params);
     params.flags = GFL_SAVE_ICC_PROFILE;
-    params.formatIndex = static_cast<std::int32_t>(choice / 64 % 6);
+    params.formatIndex = std::int32_t(choice / 64 % 6);
     const std::string result = folder.path("result");
     require(gflSaveBitmapUTF8(result.c_str(), whole ? picture.get() : carrier.get(), &params) == GFL_NO_ERROR,
             "what was read can be written");

@@ -23,7 +23,7 @@ void describe(const std::string &name, PhotoKind kind, std::size_t count)
         described = true;
         require(facts.width >= 0 && facts.height >= 0 && facts.orientation >= 1 && facts.orientation <= 8,
                 "figures are in range");
-        require(std::int64_t{facts.width} * facts.height < std::int64_t(count + 1) << 20, "a file of its length could hold it");
+        require(std::int64_t(facts.width) * facts.height < std::int64_t(count + 1) << 20, "a file of its length could hold it");
     } catch (const VException &) {
     }
     require(!described || (kind != PhotoKind::Video && kind != PhotoKind::Other), "what is no photograph is refused");

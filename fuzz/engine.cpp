@@ -42,12 +42,12 @@ public:
     std::uint8_t byte()
     {
         state = state * 1664525u + 1013904223u;
-        return static_cast<std::uint8_t>(data.remaining_bytes() ? data.ConsumeIntegral<std::uint8_t>() : state >> 24);
+        return std::uint8_t(data.remaining_bytes() ? data.ConsumeIntegral<std::uint8_t>() : state >> 24);
     }
     float real(int kind)
     {
         if (kind == 0)
-            return static_cast<float>(byte()) / 255.0f;
+            return float(byte()) / 255.0f;
         if (kind == 1)
             return kTelling[byte() % std::size(kTelling)];
         std::uint32_t bits = 0;
@@ -82,7 +82,7 @@ public:
         : rowBytes(std::size_t(width) * std::size_t(channelsOf(type) * bits / 8)),
           stride(rowBytes + std::size_t(gapSamples) * std::size_t(bits / 8)), block(stride * std::size_t(height))
     {
-        image.Create(width, height, type, bits, false, block.data(), static_cast<int>(stride));
+        image.Create(width, height, type, bits, false, block.data(), int(stride));
         for (std::size_t y = 0; y < std::size_t(height); ++y)
             ASAN_POISON_MEMORY_REGION(block.data() + y * stride + rowBytes, stride - rowBytes);
     }
@@ -213,7 +213,7 @@ void stages(std::uint32_t shape, const VImage &source)
     float airlight[3] = {};
     VImage image, low;
     source.ConvertTo(image, VImage::Rgba, 32);
-    image.Resample(low, 1 + static_cast<int>(shape / 64 % kMaxSide), 1 + static_cast<int>(shape / 4096 % kMaxSide));
+    image.Resample(low, 1 + int(shape / 64 % kMaxSide), 1 + int(shape / 4096 % kMaxSide));
     const std::unique_ptr<float[]> map(low.HazeDarkChannel(airlight));
     if (!map || !low.HazeMatting(map.get()))
         return;

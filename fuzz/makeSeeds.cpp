@@ -55,9 +55,9 @@ Picture picture(int components, int bits)
     made->type = components == 1 ? 0x0002 : components == 3 ? 0x0010 : 0x0020;
     made->width = kWidth;
     made->height = kHeight;
-    made->bitsPerComponent = static_cast<std::uint16_t>(bits);
-    made->componentsPerPixel = static_cast<std::uint16_t>(components);
-    made->bytesPerPixel = static_cast<std::uint16_t>(components * bits / 8);
+    made->bitsPerComponent = std::uint16_t(bits);
+    made->componentsPerPixel = std::uint16_t(components);
+    made->bytesPerPixel = std::uint16_t(components * bits / 8);
     made->bytesPerLine = unsigned(kWidth) * made->bytesPerPixel;
     made->lineAlignment = made->bytesPerLine % 4 == 0 ? 4 : 2;
     made->transparentIndex = -1;
@@ -65,11 +65,11 @@ Picture picture(int components, int bits)
     made->data = std::malloc(std::size_t(made->bytesPerLine) * kHeight);
     const std::size_t samples = std::size_t(kWidth) * kHeight * unsigned(components);
     for (std::size_t i = 0; i < samples; ++i) {
-        const float value = static_cast<float>(i * 37 % 100) / 99.0f;
-        const auto wide = static_cast<std::uint16_t>(value * 65535.0f);
+        const float value = float(i * 37 % 100) / 99.0f;
+        const auto wide = std::uint16_t(value * 65535.0f);
         auto *const at = static_cast<std::uint8_t *>(made->data) + i * unsigned(bits / 8);
         if (bits == 8)
-            *at = static_cast<std::uint8_t>(wide >> 8);
+            *at = std::uint8_t(wide >> 8);
         else
             std::memcpy(at, bits == 16 ? static_cast<const void *>(&wide) : &value, std::size_t(bits / 8));
     }
@@ -121,7 +121,7 @@ void writeOwn(const std::string &folder)
                     if ((components + i) % 3 != 0)
                         attachAll(*made, orientation);
                     const GflSaveParams params{GFL_SAVE_ICC_PROFILE, gflGetFormatIndexByName(format.name),
-                                               static_cast<std::int16_t>(format.compressions[i]), GFL_DEFAULT};
+                                               std::int16_t(format.compressions[i]), GFL_DEFAULT};
                     const std::string name = folder + "/" + format.name + std::to_string(i) + "_" + std::to_string(components) +
                                              "_" + std::to_string(bits);
                     if (gflSaveBitmapUTF8(name.c_str(), made.get(), &params) != GFL_NO_ERROR)
@@ -183,7 +183,7 @@ void writeTiffs(const std::string &folder)
         }
         Bytes block(8192);
         for (std::size_t i = 0; i < block.size(); ++i)
-            block[i] = static_cast<std::uint8_t>(i * 29 >> 2);
+            block[i] = std::uint8_t(i * 29 >> 2);
         for (std::uint32_t i = 0; form.tiled && i < TIFFNumberOfTiles(tiff); ++i)
             TIFFWriteEncodedTile(tiff, i, block.data(), TIFFTileSize(tiff));
         for (std::uint32_t i = 0; !form.tiled && i < TIFFNumberOfStrips(tiff); ++i)
@@ -218,7 +218,7 @@ void writeJpegs(const std::string &folder)
         Bytes row(21 * 4);
         while (jpeg.next_scanline < jpeg.image_height) {
             for (std::size_t i = 0; i < row.size(); ++i)
-                row[i] = static_cast<std::uint8_t>(i * 3 + jpeg.next_scanline * 5);
+                row[i] = std::uint8_t(i * 3 + jpeg.next_scanline * 5);
             JSAMPROW rows[] = {row.data()};
             jpeg_write_scanlines(&jpeg, rows, 1);
         }
@@ -290,7 +290,7 @@ Bytes bigEndian(std::initializer_list<std::pair<unsigned, int>> numbers)
     Bytes bytes;
     for (const auto &[value, count] : numbers)
         for (int i = count - 1; i >= 0; --i)
-            bytes.push_back(static_cast<std::uint8_t>(value >> 8 * i));
+            bytes.push_back(std::uint8_t(value >> 8 * i));
     return bytes;
 }
 
@@ -337,7 +337,7 @@ void writeByHand(const std::string &folder)
 void put(Bytes &bytes, std::size_t at, const Bytes &part)
 {
     bytes.resize(std::max(bytes.size(), at + part.size()));
-    std::copy(part.begin(), part.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at));
+    std::copy(part.begin(), part.end(), bytes.begin() + std::ptrdiff_t(at));
 }
 
 /// Heads of what has a library's parser somewhere: videos, pictures that are not read here, and camera raw of every shape.
@@ -461,10 +461,10 @@ void writeTexts(const std::string &folder)
         for (unsigned form = 0; form < 9; ++form) {
             Bytes bytes(120);
             for (std::size_t i = 0; i < bytes.size(); ++i)
-                bytes[i] = static_cast<std::uint8_t>((i * 73 + work * 31 + form * 11) * 2654435761u >> 13);
-            bytes.back() = static_cast<std::uint8_t>(work); // numbers are taken from the end
-            bytes[bytes.size() - 2] = static_cast<std::uint8_t>(form / 3);
-            bytes[bytes.size() - 3] = static_cast<std::uint8_t>(form % 3);
+                bytes[i] = std::uint8_t((i * 73 + work * 31 + form * 11) * 2654435761u >> 13);
+            bytes.back() = std::uint8_t(work); // numbers are taken from the end
+            bytes[bytes.size() - 2] = std::uint8_t(form / 3);
+            bytes[bytes.size() - 3] = std::uint8_t(form % 3);
             writeFile(folder + "/engine/" + std::to_string(work) + "_" + std::to_string(form), bytes);
         }
 }

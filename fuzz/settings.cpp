@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t cou
         file.load();
     } catch (const VException &) {
         QDomDocument document; // no settings file, but maybe an element: a host's own, which is not that deep
-        if (count < 10000 && document.setContent(QByteArray(reinterpret_cast<const char *>(bytes), static_cast<int>(count))))
+        if (count < 10000 && document.setContent(QByteArray(reinterpret_cast<const char *>(bytes), int(count))))
             taken(document.documentElement());
         return 0;
     }

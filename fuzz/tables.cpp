@@ -5,7 +5,7 @@
 // The tables of cameras and lenses. The first line is asked for, "brand;model or identifier", in the table of the lines below it.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t count)
 {
-    const QByteArray input(reinterpret_cast<const char *>(bytes), static_cast<int>(count));
+    const QByteArray input(reinterpret_cast<const char *>(bytes), int(count));
     const QByteArray question = input.left(input.indexOf('\n'));
     const QByteArray text = input.mid(question.size());
     const QString brand = QString::fromLocal8Bit(question.left(question.indexOf(';')));

@@ -23,7 +23,7 @@ using Scratch = HazeJointRows::Scratch;
 /// Place on the coarse grid of a fine row or column: the product in 32 bits, its half step in 64.
 int centreOf(int place, float scale)
 {
-    return static_cast<int>(static_cast<double>(static_cast<float>(place) * scale) + 0.5);
+    return int(double(float(place) * scale) + 0.5);
 }
 
 /// Four pixels in, one vector a component out.
@@ -46,9 +46,9 @@ IPP_INLINE void transpose(const HazeJointRows::Neighbour *const pixels[4], FourF
 /// Entry of the range weights for a difference; not-a-number and infinity are as far as can be.
 IPP_INLINE std::uint32_t entryOf(float here, float there)
 {
-    constexpr auto kNone = static_cast<float>(kRangeEntries);
+    constexpr auto kNone = float(kRangeEntries);
     const float magnitude = std::fabs((here - there) * 1000.0f);
-    return static_cast<std::uint32_t>(static_cast<std::int32_t>(magnitude < kNone ? magnitude : kNone));
+    return std::uint32_t(std::int32_t(magnitude < kNone ? magnitude : kNone));
 }
 
 /// The products of red's and green's weight, for the differences that are common in photographs: one look-up instead of two.
@@ -124,7 +124,7 @@ IPP_INLINE void addNeighbours(const Neighbours *row, Tables tables, const double
         float sumWeights = scratch.sumWeights[x];
         float sumValues = scratch.sumValues[x];
         for (int i = 0; i < kSide; ++i) {
-            const auto weight = static_cast<float>(scratch.ranges[i][x] * spatial[i]);
+            const auto weight = float(scratch.ranges[i][x] * spatial[i]);
             sumWeights += weight;
             sumValues += row[i].map[x] * weight;
         }
@@ -144,7 +144,7 @@ IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, cons
     std::fill_n(scratch.sumWeights, kTile, 0.0f);
     std::fill_n(scratch.sumValues, kTile, 0.0f);
     for (int i = 0; i < rowCount; ++i)
-        addNeighbours(rows[i], tables, &kHazeSpatialWeights[static_cast<std::size_t>(firstOffset + i + 2)][2 - kRadius], scratch);
+        addNeighbours(rows[i], tables, &kHazeSpatialWeights[std::size_t(firstOffset + i + 2)][2 - kRadius], scratch);
     for (int x = 0; x < columns; ++x) {
         const float sumWeights = scratch.sumWeights[x];
         const float mean = scratch.sumValues[x] / sumWeights;
@@ -156,28 +156,28 @@ IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, cons
 
 HazeJointRows::HazeJointRows(const VImage &fineImage, const VImage &coarseImage, const float *map)
     : fine(fineImage), coarse(coarseImage), coarseMap(map), rangeWeights(hazeRangeWeights().data()),
-      pairWeights(pairWeightTable()), rowScale(static_cast<float>(coarseImage.Height()) / static_cast<float>(fineImage.Height())),
-      tileColumns(kTile), centres(static_cast<std::size_t>(std::max(0, fineImage.Width())))
+      pairWeights(pairWeightTable()), rowScale(float(coarseImage.Height()) / float(fineImage.Height())), tileColumns(kTile),
+      centres(std::size_t(std::max(0, fineImage.Width())))
 {
-    const float columnScale = static_cast<float>(coarse.Width()) / static_cast<float>(fine.Width());
+    const float columnScale = float(coarse.Width()) / float(fine.Width());
     if (columnScale > 1.0f)
-        tileColumns = std::max(1, static_cast<int>(kTile / columnScale));
+        tileColumns = std::max(1, int(kTile / columnScale));
     for (std::size_t x = 0; x < centres.size(); ++x)
-        centres[x] = centreOf(static_cast<int>(x), columnScale);
+        centres[x] = centreOf(int(x), columnScale);
 }
 
 void HazeJointRows::spread(int coarseRow, int firstColumn, int columns, Scratch &scratch) const
 {
     const float *const pixels = rowOf(coarse, coarseRow);
-    const float *const values = coarseMap + static_cast<std::size_t>(coarseRow) * static_cast<std::size_t>(coarse.Width());
+    const float *const values = coarseMap + std::size_t(coarseRow) * std::size_t(coarse.Width());
     const int *const centre = centres.data() + firstColumn;
-    const auto coarseWidth = static_cast<unsigned>(coarse.Width());
+    const auto coarseWidth = unsigned(coarse.Width());
     const int first = centre[0] - kRadius;
     const int reached = centre[columns - 1] + kRadius - first + 1;
     for (int i = 0; i < reached; ++i) {
         const int column = first + i;
-        const float *const pixel = pixels + static_cast<std::ptrdiff_t>(column) * kChannels;
-        const bool counts = static_cast<unsigned>(column) < coarseWidth && pixel[3] != 0.0f;
+        const float *const pixel = pixels + std::ptrdiff_t(column) * kChannels;
+        const bool counts = unsigned(column) < coarseWidth && pixel[3] != 0.0f;
         for (int c = 0; c < 3; ++c)
             scratch.coarse[i].colour[c] = counts ? pixel[c] : std::numeric_limits<float>::quiet_NaN();
         scratch.coarse[i].map = counts ? values[column] : 0.0f;
@@ -229,8 +229,8 @@ void HazeJointRows::writeTile(float *map, int firstRow, int lastRow, int firstCo
             }
             rows[row - first] = scratch.rows[slot];
         }
-        writeTileRow(rowOf(fine, y) + static_cast<std::ptrdiff_t>(firstColumn) * kChannels,
-                     map + static_cast<std::size_t>(y) * static_cast<std::size_t>(fine.Width()) + firstColumn, columns, rows,
-                     std::max(0, last - first + 1), first - centre, {rangeWeights, pairWeights}, scratch);
+        writeTileRow(rowOf(fine, y) + std::ptrdiff_t(firstColumn) * kChannels,
+                     map + std::size_t(y) * std::size_t(fine.Width()) + firstColumn, columns, rows, std::max(0, last - first + 1),
+                     first - centre, {rangeWeights, pairWeights}, scratch);
     }
 }

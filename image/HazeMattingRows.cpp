@@ -34,8 +34,7 @@ float windowStatistics(const float *corner, std::ptrdiff_t rowStep, float covari
     const float square = std::max({products[0][0], products[1][1], products[2][2]}) / 9.0f;
     for (int c = 0; c < 3; ++c) {
         // The diagonal is rounded once, so that eps does not drown in a bright window.
-        covariance[c * 3 + c] = static_cast<float>(static_cast<double>(-(mean[c] * mean[c])) +
-                                                   static_cast<double>(products[c][c] / 9.0f) + kEps / 9.0);
+        covariance[c * 3 + c] = float(double(-(mean[c] * mean[c])) + double(products[c][c] / 9.0f) + kEps / 9.0);
         for (int d = c + 1; d < 3; ++d)
             covariance[c * 3 + d] = covariance[d * 3 + c] = products[c][d] / 9.0f - mean[c] * mean[d];
     }
@@ -56,8 +55,8 @@ constexpr double kRounding = 0x1p-20;
 /// not-a-number fails.
 bool hasInverse(const float covariance[9], float square)
 {
-    const auto m = [covariance](int row, int column) { return static_cast<double>(covariance[row * 3 + column]); };
-    const double least = kRounding * static_cast<double>(square);
+    const auto m = [covariance](int row, int column) { return double(covariance[row * 3 + column]); };
+    const double least = kRounding * double(square);
     const double minor = m(0, 0) * m(1, 1) - m(0, 1) * m(0, 1);
     const double determinant = m(0, 0) * (m(1, 1) * m(2, 2) - m(1, 2) * m(1, 2)) -
                                m(0, 1) * (m(0, 1) * m(2, 2) - m(1, 2) * m(0, 2)) +
@@ -70,7 +69,7 @@ bool hasInverse(const float covariance[9], float square)
 
 HazeMattingRows::HazeMattingRows(const float *imagePixels, std::ptrdiff_t imageRowStep, int imageWidth, int imageHeight)
     : pixels(imagePixels), rowStep(imageRowStep), width(imageWidth), height(imageHeight),
-      cellsPerRow(static_cast<std::size_t>(imageWidth) * kCells), cells(cellsPerRow * kWindow)
+      cellsPerRow(std::size_t(imageWidth) * kCells), cells(cellsPerRow * kWindow)
 {
 }
 
@@ -117,13 +116,13 @@ void HazeMattingRows::addWindows(int y)
         for (int i = 0; i < kPixels; ++i) {
             float weighted[3];
             ippmMul3x3(inverse, distances[i], weighted);
-            float *const cell = rows[i / 3] + static_cast<std::ptrdiff_t>(x + i % 3) * kCells;
+            float *const cell = rows[i / 3] + std::ptrdiff_t(x + i % 3) * kCells;
             cell[0] += 1.0f;
             for (int j = i; j < kPixels; ++j) {
                 const float *const other = distances[j];
                 const float s = 1.0f + weighted[0] * other[0] + weighted[1] * other[1] + weighted[2] * other[2];
                 float &target = cell[cellIndex(j / 3 - i / 3, j % 3 - i % 3)];
-                target = static_cast<float>(static_cast<double>(target) - static_cast<double>(s) / 9.0);
+                target = float(double(target) - double(s) / 9.0);
             }
         }
     }

@@ -44,7 +44,7 @@ public:
     const float *next();
 
 private:
-    float *rowOfCells(int row) { return cells.data() + static_cast<std::size_t>(row % kWindow) * cellsPerRow; }
+    float *rowOfCells(int row) { return cells.data() + std::size_t(row % kWindow) * cellsPerRow; }
     void clearRow(int row);
     void addWindows(int y);
 

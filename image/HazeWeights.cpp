@@ -20,7 +20,7 @@ HazeRangeWeights rangeWeights()
     constexpr double kPeak = 3.989422804014327; // 1 / (0.1 * sqrt(2 * pi))
     HazeRangeWeights weights{};
     for (int k = 0; k < kRangeEntries; ++k)
-        weights[static_cast<std::size_t>(k)] = sixDigits(kPeak * std::exp(-k * k / 20000.0));
+        weights[std::size_t(k)] = sixDigits(kPeak * std::exp(-k * k / 20000.0));
     return weights;
 }
 

@@ -14,10 +14,10 @@ namespace {
 /// root, which stands for the smallest integer.
 int reducedWidth(int width, int height)
 {
-    const auto product = static_cast<std::int32_t>(static_cast<std::uint32_t>(width) * 100000u);
-    const double root = std::sqrt(static_cast<double>(product) / static_cast<double>(height));
+    const auto product = std::int32_t(std::uint32_t(width) * 100000u);
+    const double root = std::sqrt(double(product) / double(height));
     constexpr double kIntegers = 2147483648.0;
-    return root < kIntegers ? static_cast<int>(root) : std::numeric_limits<std::int32_t>::min();
+    return root < kIntegers ? int(root) : std::numeric_limits<std::int32_t>::min();
 }
 
 /// (height * reduced width) / width, the product wrapping around in 32 bits. An image without columns has a copy without rows.
@@ -25,8 +25,8 @@ int reducedHeight(int width, int height, int lowWidth)
 {
     if (width == 0)
         return 0;
-    const auto product = static_cast<std::int32_t>(static_cast<std::uint32_t>(height) * static_cast<std::uint32_t>(lowWidth));
-    return static_cast<int>(std::int64_t{product} / width);
+    const auto product = std::int32_t(std::uint32_t(height) * std::uint32_t(lowWidth));
+    return int(std::int64_t(product) / width);
 }
 
 } // namespace
@@ -45,6 +45,6 @@ void RemoveHaze(VImage &image, HazeState &state)
             return;
         state.transmission = image.HazeUpsample(darkMap.get(), &low);
     }
-    const float fraction = static_cast<float>(state.strength) / 100.0f;
+    const float fraction = float(state.strength) / 100.0f;
     image.HazeRecover(state.transmission, state.airlight, fraction);
 }

@@ -28,13 +28,13 @@ int componentsOf(unsigned short type)
 /// Bytes of a row of an owned image, or -1 if they are no positive 31-bit number.
 int alignedStride(int width, int bytesPerPixel)
 {
-    const std::int64_t stride = (std::int64_t{width} * bytesPerPixel + 3) / 4 * 4;
-    return width < 0 || bytesPerPixel < 0 || stride > std::numeric_limits<int>::max() ? -1 : static_cast<int>(stride);
+    const std::int64_t stride = (std::int64_t(width) * bytesPerPixel + 3) / 4 * 4;
+    return width < 0 || bytesPerPixel < 0 || stride > std::numeric_limits<int>::max() ? -1 : int(stride);
 }
 
 std::size_t pixelBytes(const GflBitmap &bitmap)
 {
-    return static_cast<std::size_t>(std::max(bitmap.height, 0)) * bitmap.bytesPerLine;
+    return std::size_t(std::max(bitmap.height, 0)) * bitmap.bytesPerLine;
 }
 
 } // namespace
@@ -72,23 +72,23 @@ void VImage::Create(int width, int height, unsigned short type, int bitsPerCompo
     if (!data) {
         const int stride = alignedStride(width, bytesPerPixel);
         if (stride >= 0 && height >= 0)
-            bitmap->data = allocate(static_cast<std::size_t>(height) * static_cast<std::size_t>(stride), V_SITE);
+            bitmap->data = allocate(std::size_t(height) * std::size_t(stride), V_SITE);
         if (!bitmap->data)
             throw VException("Not enough memory", V_LOCATION);
-        bitmap->bytesPerLine = static_cast<std::uint32_t>(stride);
+        bitmap->bytesPerLine = std::uint32_t(stride);
         bitmap->lineAlignment = 4;
     } else {
         bitmap->data = data;
-        bitmap->bytesPerLine = static_cast<std::uint32_t>(bytesPerLine);
+        bitmap->bytesPerLine = std::uint32_t(bytesPerLine);
         bitmap->lineAlignment = bytesPerLine % 4 == 0 ? 4 : 2;
         ownsData = false;
     }
     bitmap->type = type;
     bitmap->width = width;
     bitmap->height = height;
-    bitmap->bitsPerComponent = static_cast<std::uint16_t>(bitsPerComponent);
-    bitmap->componentsPerPixel = static_cast<std::uint16_t>(components);
-    bitmap->bytesPerPixel = static_cast<std::uint16_t>(bytesPerPixel);
+    bitmap->bitsPerComponent = std::uint16_t(bitsPerComponent);
+    bitmap->componentsPerPixel = std::uint16_t(components);
+    bitmap->bytesPerPixel = std::uint16_t(bytesPerPixel);
     bitmap->transparentIndex = -1;
     bitmap->colorUsed = type == Grey || type == kPaletteType ? 256 : 0;
     if (type == kPaletteType) {

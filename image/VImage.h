@@ -52,12 +52,12 @@ public:
     int BitsPerComponent() const { return bitmap->bitsPerComponent; }
     int Width() const { return bitmap->width; }
     int Height() const { return bitmap->height; }
-    int BytesPerLine() const { return static_cast<int>(bitmap->bytesPerLine); }
+    int BytesPerLine() const { return int(bitmap->bytesPerLine); }
     /// Byte address of pixel (x, y).
     unsigned char *PixelAddress(int x, int y) const
     {
-        return static_cast<unsigned char *>(bitmap->data) + static_cast<std::ptrdiff_t>(bitmap->bytesPerLine) * y +
-               static_cast<std::ptrdiff_t>(bitmap->bytesPerPixel) * x;
+        return static_cast<unsigned char *>(bitmap->data) + std::ptrdiff_t(bitmap->bytesPerLine) * y +
+               std::ptrdiff_t(bitmap->bytesPerPixel) * x;
     }
     /// The record, or null for an empty image.
     GflBitmap *Bitmap() const { return bitmap; }

@@ -28,7 +28,7 @@ QString invalidBitmap()
 
 std::size_t pixelCount(const VImage &image)
 {
-    return static_cast<std::size_t>(image.Width()) * static_cast<std::size_t>(image.Height());
+    return std::size_t(image.Width()) * std::size_t(image.Height());
 }
 
 struct IppiRelease
@@ -51,10 +51,7 @@ struct ErodedImage
         ippiFilterMinBorder(rowOf(image, 0), image.BytesPerLine(), raster.get(), stepBytes, region, mask, {k + 1, k + 1},
                             buffer.get());
     }
-    const float *row(int y) const
-    {
-        return raster.get() + static_cast<std::ptrdiff_t>(stepBytes) / static_cast<std::ptrdiff_t>(sizeof(float)) * y;
-    }
+    const float *row(int y) const { return raster.get() + std::ptrdiff_t(stepBytes) / std::ptrdiff_t(sizeof(float)) * y; }
 
     int stepBytes = 0;
     std::unique_ptr<float, IppiRelease> raster;
@@ -80,7 +77,7 @@ std::vector<Candidate> brightestCandidates(const VImage &image, const ErodedImag
     const int height = image.Height();
     const int seedRows = height < 1001 ? 1 : height / 1000;
     std::vector<Candidate> heap; // the first to be removed is on top
-    heap.reserve(static_cast<std::size_t>(seedRows) * static_cast<std::size_t>(width));
+    heap.reserve(std::size_t(seedRows) * std::size_t(width));
     float threshold = -std::numeric_limits<float>::infinity();
     for (int y = 0; y < height; ++y) {
         const float *pixel = rowOf(image, y);
@@ -114,8 +111,7 @@ const float *brightestPixel(const std::vector<Candidate> &candidates)
     const float *chosen = nullptr;
     for (const Candidate &candidate : candidates) {
         const float *const p = candidate.pixel;
-        const auto luminance = static_cast<float>(0.3 * static_cast<double>(p[0]) + 0.59 * static_cast<double>(p[1]) +
-                                                  0.11 * static_cast<double>(p[2]));
+        const auto luminance = float(0.3 * double(p[0]) + 0.59 * double(p[1]) + 0.11 * double(p[2]));
         if (luminance > best) {
             best = luminance;
             chosen = p;
@@ -174,14 +170,13 @@ void addMattingLaplacian(const VImage &image, VSparseFactory &factory)
     if (width < HazeMattingRows::kWindow || height < HazeMattingRows::kWindow)
         return;
     const int parts = teamFor(height);
-    const auto rowStep = static_cast<std::ptrdiff_t>(image.BytesPerLine()) / static_cast<std::ptrdiff_t>(sizeof(float));
-    std::vector<HazeMattingRows> blocks(static_cast<std::size_t>(parts),
-                                        HazeMattingRows(rowOf(image, 0), rowStep, width, height));
+    const auto rowStep = std::ptrdiff_t(image.BytesPerLine()) / std::ptrdiff_t(sizeof(float));
+    std::vector<HazeMattingRows> blocks(std::size_t(parts), HazeMattingRows(rowOf(image, 0), rowStep, width, height));
     bool outOfMemory = false;
 #pragma omp parallel for schedule(static) num_threads(parts)
     for (int part = 0; part < parts; ++part) {
         try {
-            HazeMattingRows &block = blocks[static_cast<std::size_t>(part)];
+            HazeMattingRows &block = blocks[std::size_t(part)];
             const int end = firstRowOf(part + 1, parts, height);
             int row = firstRowOf(part, parts, height);
             block.start(row, kLambdaCell);
@@ -232,7 +227,7 @@ float *VImage::HazeDarkChannel(float airlight[3])
     const int team = teamFor(height);
 #pragma omp parallel for schedule(static) num_threads(team)
     for (int y = 0; y < height; ++y)
-        normaliseRow(eroded.row(y), first + static_cast<std::size_t>(y) * static_cast<std::size_t>(width), width, airlight);
+        normaliseRow(eroded.row(y), first + std::size_t(y) * std::size_t(width), width, airlight);
     return darkMap.release();
 }
 
@@ -247,8 +242,8 @@ bool VImage::HazeMatting(float *darkMap)
     std::optional<VSparseFactory> factory(std::in_place, /*symmetricMatrix=*/true);
     // The rows of the factory grow here, on one thread; in parallel they must not.
     for (std::size_t i = 0; i < unknowns; ++i) {
-        darkMap[i] = static_cast<float>(static_cast<double>(darkMap[i]) * kLambda);
-        const int p = static_cast<int>(i);
+        darkMap[i] = float(double(darkMap[i]) * kLambda);
+        const int p = int(i);
         VSparseFactory::CellAccessor cell;
         ((*factory).*factory->cellAccess)(p, p, cell);
         cell->second = kLambdaCell;
@@ -279,12 +274,13 @@ float *VImage::HazeUpsample(float *lowMap, VImage *lowImage)
 
     int levels = 1;
     if (lowImage->Width() > 0) {
-        for (float ratio = static_cast<float>(Width()) / static_cast<float>(lowImage->Width()); ratio > 2.0f; ratio *= 0.5f)
+        for (float ratio = float(Width()) / float(lowImage->Width()); ratio > 2.0f; ratio *= 0.5f)
             ++levels;
     }
     // Guides of the levels between; each is reduced from the next finer one and dropped after its last use.
-    std::vector<std::unique_ptr<VImage>> made(static_cast<std::size_t>(levels));
-    std::vector<VImage *> guides(static_cast<std::size_t>(levels) + 1, lowImage);
+    std::vector<std::unique_ptr<VImage>> made;
+    made.resize(std::size_t(levels));
+    std::vector<VImage *> guides(std::size_t(levels) + 1, lowImage);
     guides.back() = this;
     for (std::size_t i = made.size() - 1; i > 0; --i) {
         made[i] = std::make_unique<VImage>();
@@ -315,12 +311,12 @@ float *VImage::HazeJointUpsample(float *lowMap, VImage *lowImage)
     const HazeJointRows rows(*this, *lowImage, lowMap);
     const int height = Height();
     const int parts = teamFor(height);
-    std::vector<HazeJointRows::Scratch> scratch(static_cast<std::size_t>(parts));
+    std::vector<HazeJointRows::Scratch> scratch;
+    scratch.resize(std::size_t(parts));
     float *const first = map.get();
 #pragma omp parallel for schedule(static) num_threads(parts)
     for (int part = 0; part < parts; ++part)
-        rows.write(first, firstRowOf(part, parts, height), firstRowOf(part + 1, parts, height),
-                   scratch[static_cast<std::size_t>(part)]);
+        rows.write(first, firstRowOf(part, parts, height), firstRowOf(part + 1, parts, height), scratch[std::size_t(part)]);
     return map.release();
 }
 
@@ -335,6 +331,5 @@ void VImage::HazeRecover(const float *transmission, const float airlight[3], flo
     const int team = teamFor(height);
 #pragma omp parallel for schedule(static) num_threads(team)
     for (int y = 0; y < height; ++y)
-        recoverRow(rowOf(*this, y), transmission + static_cast<std::size_t>(y) * static_cast<std::size_t>(width), width, airlight,
-                   strength);
+        recoverRow(rowOf(*this, y), transmission + std::size_t(y) * std::size_t(width), width, airlight, strength);
 }

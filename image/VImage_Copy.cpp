@@ -69,7 +69,7 @@ constexpr auto makePlans()
     std::array<std::array<Plan, kForms>, kForms> plans{};
     for (int from = 0; from < kForms; ++from)
         for (int to = 0; to < kForms; ++to)
-            plans[static_cast<std::size_t>(from)][static_cast<std::size_t>(to)] = planOf(formOf(from), formOf(to));
+            plans[std::size_t(from)][std::size_t(to)] = planOf(formOf(from), formOf(to));
     return plans;
 }
 constexpr auto kPlans = makePlans();
@@ -82,10 +82,7 @@ struct Raster
     int step;
     PixelForm form;
 
-    unsigned char *at(int x, int y) const
-    {
-        return data + std::ptrdiff_t{step} * y + x * static_cast<std::ptrdiff_t>(form.pixelBytes());
-    }
+    unsigned char *at(int x, int y) const { return data + std::ptrdiff_t(step) * y + x * std::ptrdiff_t(form.pixelBytes()); }
 };
 
 Raster rasterOf(const VImage &image, int x, int y)
@@ -155,22 +152,22 @@ void VImage::CopyRect(int x, int y, int width, int height, VImage &target, int t
         throw VException("Invalid Parameter", V_LOCATION);
     if (targetY < 0 && targetY < target.Height())
         throw VException("Invalid Parameter", V_LOCATION);
-    if (x < 0 && x < Width() && std::int64_t{x} + width <= Width())
+    if (x < 0 && x < Width() && std::int64_t(x) + width <= Width())
         throw VException("Invalid Parameter", V_LOCATION);
-    if (y < 0 && y < Height() && std::int64_t{y} + height <= Height())
+    if (y < 0 && y < Height() && std::int64_t(y) + height <= Height())
         throw VException("Invalid Parameter", V_LOCATION);
     if (width <= 0 || height <= 0)
         return;
 
     const Raster from = rasterOf(*this, x, y);
     const Raster to = rasterOf(target, targetX, targetY);
-    const Plan &plan = kPlans[static_cast<std::size_t>(formIndex(from.form))][static_cast<std::size_t>(formIndex(to.form))];
+    const Plan &plan = kPlans[std::size_t(formIndex(from.form))][std::size_t(formIndex(to.form))];
 
     const bool buffered = plan.scales && plan.changesChannels;
     const int tileWidth = buffered ? std::min(width, kTilePixels) : width;
     const int tileHeight = std::clamp(kTilePixels / tileWidth, 1, height);
     const int bands = (height - 1) / tileHeight + 1;
-    const int team = std::int64_t{width} * height < kPixelsForTeam ? 1 : teamFor(bands);
+    const int team = std::int64_t(width) * height < kPixelsForTeam ? 1 : teamFor(bands);
 
     Raster buffer{nullptr, 0, plan.between};
     std::unique_ptr<unsigned char, IppiRelease> buffers;
@@ -210,7 +207,7 @@ void VImage::ToQImage(QImage &image) const
     image = QImage(Width(), Height(), QImage::Format_ARGB32);
     if (image.isNull())
         return;
-    VImage view(Width(), Height(), Rgba, 8, /*clear=*/false, image.bits(), static_cast<int>(image.bytesPerLine()));
+    VImage view(Width(), Height(), Rgba, 8, /*clear=*/false, image.bits(), int(image.bytesPerLine()));
     ConvertTo(view, Rgba, 8);
     constexpr int kRgbaToBgra[4] = {2, 1, 0, 3}; // QImage keeps a pixel's bytes in the order B, G, R, A
     ippiSwapChannels(view.PixelAddress(0, 0), view.BytesPerLine(), {Width(), Height()}, kRgbaToBgra);

@@ -37,19 +37,17 @@ bool resize(const VImage &source, VImage &target)
         throw std::bad_alloc(); // a black image would be taken for the picture
     ippiResizeInit(from, to, method, {channels, source.BitsPerComponent()}, spec.get());
 
-    const std::int64_t pixels = std::int64_t{from.width} * from.height + std::int64_t{to.width} * to.height;
+    const std::int64_t pixels = std::int64_t(from.width) * from.height + std::int64_t(to.width) * to.height;
     const int team = pixels * channels < kSamplesForTeam ? 1 : teamFor(to.height);
     const std::size_t bufferBytes = ippiResizeGetBufferSize(spec.get());
-    const IppsBlock<unsigned char> buffers(
-        static_cast<unsigned char *>(ippsMalloc(bufferBytes * static_cast<std::size_t>(team))));
+    const IppsBlock<unsigned char> buffers(static_cast<unsigned char *>(ippsMalloc(bufferBytes * std::size_t(team))));
     if (!buffers)
         throw std::bad_alloc();
 #pragma omp parallel for schedule(static) num_threads(team)
     for (int part = 0; part < team; ++part) {
         const int first = firstRowOf(part, team, to.height);
         ippiResize(source.PixelAddress(0, 0), source.BytesPerLine(), target.PixelAddress(0, 0), target.BytesPerLine(), first,
-                   firstRowOf(part + 1, team, to.height) - first, spec.get(),
-                   buffers.get() + bufferBytes * static_cast<std::size_t>(part));
+                   firstRowOf(part + 1, team, to.height) - first, spec.get(), buffers.get() + bufferBytes * std::size_t(part));
     }
     return true;
 }

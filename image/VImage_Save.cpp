@@ -33,13 +33,13 @@ void ApplySaveQuality(QString format, int quality, GflSaveParams &params)
     if (quality == -1)
         return;
     if (format == "jpeg")
-        params.quality = static_cast<std::int16_t>(quality * 8 + 4);
+        params.quality = std::int16_t(quality * 8 + 4);
     else if (format == "png" || format == "hdri" || format == "psd")
-        params.compression = static_cast<std::int16_t>(quality);
+        params.compression = std::int16_t(quality);
     else if (format == "tiff")
         params.compression = quality == 2 ? 2 : quality == 3 ? 4 : 0;
     else if (format == "exr")
-        params.compression = quality >= 1 && quality <= 8 ? static_cast<std::int16_t>(quality - 1) : 4;
+        params.compression = quality >= 1 && quality <= 8 ? std::int16_t(quality - 1) : 4;
 }
 
 /// Asks for all metadata and, since the pixels are thrown away, for nothing else. The raw settings of the image library go along.
@@ -50,7 +50,7 @@ void InitLoadParameters(GflLoadParams &params)
     const VImageSettings &settings = imageSettings ? *imageSettings : defaults;
     params.rawUseAutomaticBalance = settings.rawUseAutomaticBalance;
     params.rawUseCameraBalance = settings.rawUseCameraBalance;
-    params.rawHighlight = static_cast<std::uint8_t>(settings.rawHighlight);
+    params.rawHighlight = std::uint8_t(settings.rawHighlight);
     params.rawAutoBright = settings.rawAutoBright;
     params.rawGamma = settings.rawGamma;
     params.rawBrightness = settings.rawBrightness;
@@ -114,11 +114,10 @@ void VImage::Save(QString fileName, QString format, int quality, QString metadat
     }
     saveParams.formatIndex = gflGetFormatIndexByName(format.toLocal8Bit().constData());
 
-    const auto result = static_cast<std::int16_t>(gflSaveBitmapUTF8(fileName.toUtf8().constData(), bitmap, &saveParams));
+    const auto result = std::int16_t(gflSaveBitmapUTF8(fileName.toUtf8().constData(), bitmap, &saveParams));
     if (result != 0) {
         // A full disk or a locked file is a clearer sentence than the code. The count wraps around in 32 bits on purpose.
-        const auto bytes = static_cast<std::int32_t>(static_cast<std::uint32_t>(Width()) * static_cast<std::uint32_t>(Height()) *
-                                                     bitmap->bytesPerPixel);
+        const auto bytes = std::int32_t(std::uint32_t(Width()) * std::uint32_t(Height()) * bitmap->bytesPerPixel);
         checkFileWritable(fileName, bytes, V_RECORD_LOCATION);
     }
     throwGflError(result, fileName, V_RECORD_LOCATION);

@@ -44,7 +44,7 @@ void exchangeRowsAndColumns(const VImage &source, VImage &target, Steps steps)
 {
     using P = Pixel<pixelBytes>;
     constexpr int kSide = 32;
-    const std::ptrdiff_t step = steps.upsideDown ? -std::ptrdiff_t{source.BytesPerLine()} : source.BytesPerLine();
+    const std::ptrdiff_t step = steps.upsideDown ? -std::ptrdiff_t(source.BytesPerLine()) : source.BytesPerLine();
     const int width = target.Width(), height = target.Height();
     for (int top = 0; top < height; top += kSide)
         for (int left = 0; left < width; left += kSide) {

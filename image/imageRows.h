@@ -35,12 +35,12 @@ inline float *rowOf(VImage &image, int y)
 /// Threads for work in `blocks` blocks: threadCount, but no more than there are blocks, and at least 1.
 inline int teamFor(int blocks)
 {
-    return std::max(1, std::min(static_cast<int>(threadCount), blocks));
+    return std::max(1, std::min(int(threadCount), blocks));
 }
 
 /// First of the `rows` rows that part `part` of `parts` takes: one contiguous block each. Part `parts` begins behind the last
 /// row.
 inline int firstRowOf(int part, int parts, int rows)
 {
-    return static_cast<int>(std::int64_t{rows} * part / parts);
+    return int(std::int64_t(rows) * part / parts);
 }

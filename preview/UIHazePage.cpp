@@ -19,8 +19,8 @@ int shorterSide(int shorter, int longestSide, int longer)
 {
     if (longer == 0)
         return 0;
-    const auto product = static_cast<int>(static_cast<unsigned>(shorter) * static_cast<unsigned>(longestSide));
-    return static_cast<int>(static_cast<double>(product) / static_cast<double>(longer));
+    const auto product = int(unsigned(shorter) * unsigned(longestSide));
+    return int(double(product) / double(longer));
 }
 
 QSize previewSize(ImageDef &image)

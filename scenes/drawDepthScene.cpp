@@ -47,7 +47,7 @@ Vector stones(float u, float v, float size, std::uint32_t seed)
     const float row = std::floor(v / size), across = u / (2 * size) + 0.5f * row;
     const float x = across - std::floor(across), y = v / size - row;
     const float joint = std::min({x * 2, (1 - x) * 2, y, 1 - y});
-    const float shade = 0.6f + 0.6f * cellValue(static_cast<int>(std::floor(across)), static_cast<int>(row), seed);
+    const float shade = 0.6f + 0.6f * cellValue(int(std::floor(across)), int(row), seed);
     return Vector{0.42f, 0.31f, 0.20f} *
            (shade * smoothstep(0.0f, 0.12f, joint) * (0.55f + 0.6f * patches(u, v, size, seed + 1)) + 0.05f);
 }
@@ -67,8 +67,8 @@ Hit ridges(float u, float v)
     constexpr float kDepth[] = {0.25f, 0.6f, 1.1f, 1.8f, 2.8f, 4.2f};
     constexpr float kTop[] = {0.86f, 0.72f, 0.59f, 0.49f, 0.40f, 0.33f};
     for (int i = 0; i < 6; ++i) {
-        const auto seed = static_cast<std::uint32_t>(210 + 10 * i);
-        const float size = 1 / static_cast<float>(i + 1);
+        const auto seed = std::uint32_t(210 + 10 * i);
+        const float size = 1 / float(i + 1);
         const float crowns = 0.03f * size * std::fabs(noise(u * 45 / size, 1.5f, seed + 1) - 0.3f);
         const float top = kTop[i] + 0.34f * (fractal(u, 3, 0.9f, 0.02f, 5, seed) - 0.5f) - crowns;
         if (v > top)
@@ -90,7 +90,7 @@ void grow(std::vector<Twig> &twigs, float u, float v, float angle, float length,
         return;
     for (int i = 0; i < 3; ++i) {
         const int child = 3 * seed + i + 1;
-        grow(twigs, endU, endV, angle + 1.3f * (chance(child, 221) - 0.5f) + 0.25f * static_cast<float>(i - 1),
+        grow(twigs, endU, endV, angle + 1.3f * (chance(child, 221) - 0.5f) + 0.25f * float(i - 1),
              length * mix(0.55f, 0.85f, chance(child, 222)), std::max(0.0012f, width * 0.66f), child);
     }
 }
@@ -106,14 +106,14 @@ Hit twigs(float u, float v)
         grow(all, 0.80f, 1.02f, -1.45f, 0.26f, 0.018f, 3);
         std::vector<std::vector<Twig>> sorted(kBins);
         for (const Twig &twig : all) {
-            const auto bin = [](float at) { return std::clamp(static_cast<int>(at / kAspect * kBins), 0, kBins - 1); };
+            const auto bin = [](float at) { return std::clamp(int(at / kAspect * kBins), 0, kBins - 1); };
             const int last = bin(std::max(twig.u, twig.endU) + twig.width);
             for (int i = bin(std::min(twig.u, twig.endU) - twig.width); i <= last; ++i)
-                sorted[static_cast<std::size_t>(i)].push_back(twig);
+                sorted[std::size_t(i)].push_back(twig);
         }
         return sorted;
     }();
-    for (const Twig &twig : bins[static_cast<std::size_t>(std::clamp(static_cast<int>(u / kAspect * kBins), 0, kBins - 1))]) {
+    for (const Twig &twig : bins[std::size_t(std::clamp(int(u / kAspect * kBins), 0, kBins - 1))]) {
         const float alongU = twig.endU - twig.u, alongV = twig.endV - twig.v;
         const float part =
             std::clamp(((u - twig.u) * alongU + (v - twig.v) * alongV) / (alongU * alongU + alongV * alongV), 0.0f, 1.0f);
@@ -130,10 +130,10 @@ Hit twigs(float u, float v)
 Hit stairs(float u, float v)
 {
     const float away = std::max(std::fabs(u - 0.75f) / 0.75f, std::fabs(v - 0.42f) / 0.58f);
-    const int step = static_cast<int>((1 - away) * 8);
+    const int step = int((1 - away) * 8);
     if (step >= 7)
         return {};
-    const auto i = static_cast<float>(step);
+    const auto i = float(step);
     return {stones(u, v, 0.05f / (1 + 0.6f * i), 230), 0.12f * std::pow(1.6f, i)};
 }
 
@@ -145,9 +145,9 @@ Hit roofs(float u, float v)
     constexpr float kFoot[] = {1.10f, 0.84f, 0.66f, 0.54f};
     constexpr Vector kWall[] = {{0.66f, 0.50f, 0.30f}, {0.50f, 0.22f, 0.16f}, {0.62f, 0.58f, 0.46f}, {0.40f, 0.30f, 0.22f}};
     for (int i = 0; i < 4; ++i) {
-        const auto seed = static_cast<std::uint32_t>(240 + 10 * i);
-        const float place = u / kWidth[i] + 0.37f * static_cast<float>(i);
-        const int house = static_cast<int>(std::floor(place));
+        const auto seed = std::uint32_t(240 + 10 * i);
+        const float place = u / kWidth[i] + 0.37f * float(i);
+        const int house = int(std::floor(place));
         const float x = place - std::floor(place), y = (kFoot[i] - v) / kWidth[i]; // upwards, in widths of a house
         const float eaves = mix(0.45f, 0.80f, chance(house, seed));
         const bool gable = chance(house, seed + 1) < 0.5f;
@@ -162,7 +162,7 @@ Hit roofs(float u, float v)
         }
         const float column = x * 5 - std::floor(x * 5), floor = y * 5 - std::floor(y * 5);
         const bool window = column > 0.3f && column < 0.7f && floor > 0.25f && floor < 0.8f && y < eaves;
-        const Vector wall = kWall[static_cast<int>(chance(house, seed + 3) * 3.99f)];
+        const Vector wall = kWall[int(chance(house, seed + 3) * 3.99f)];
         return {window ? Vector{0.05f, 0.05f, 0.06f} : wall * grain, kDepth[i]};
     }
     return {};
@@ -182,7 +182,7 @@ Hit balls(float u, float v)
 {
     constexpr float kHorizon = 0.48f;
     for (int i = 0; i < 22; ++i) {
-        const float depth = 0.10f * std::pow(1.165f, static_cast<float>(i));
+        const float depth = 0.10f * std::pow(1.165f, float(i));
         const float radius = mix(0.5f, 1.0f, chance(i, 261)) * 0.13f / (0.75f + depth);
         const float x = (u - kAspect * chance(5 * i + 2, 262)) / radius;
         const float y = (v - mix(kHorizon - 0.2f, kHorizon + 0.30f / (0.6f + depth), chance(i, 263))) / radius;
@@ -203,7 +203,7 @@ Hit wideSky(float u, float v)
     constexpr float kHorizon = 0.68f;
     constexpr float kTowerDepth = 1.3f, kTreeDepth = 0.35f;
     const float place = u / 0.09f;
-    const int tower = static_cast<int>(std::floor(place));
+    const int tower = int(std::floor(place));
     const float x = place - std::floor(place);
     const float trees = 0.80f + 0.10f * (fractal(u, 5, 0.3f, 0.003f, 6, 271) - 0.5f);
     if (v > trees && v < 0.86f)
@@ -225,7 +225,7 @@ Hit avenue(float u, float v)
     float depth = 0.25f;
     for (int i = 0; i < 10; ++i, depth *= 1.35f) {
         for (const float side : {-1.0f, 1.0f}) {
-            const auto seed = static_cast<std::uint32_t>(280 + i);
+            const auto seed = std::uint32_t(280 + i);
             const float x = (u - 0.75f) * depth - side * 0.13f, y = (kHorizon - v) * depth; // at the tree's depth
             const float crown = std::hypot(x, y - 0.07f) + 0.05f * (fractal(u * depth, v * depth, 0.03f, 0.001f, 4, seed) - 0.5f);
             if (crown < 0.075f)
@@ -248,8 +248,7 @@ Hit fogFromAbove(float u, float v)
 {
     constexpr Vector kCrop[] = {{0.42f, 0.40f, 0.10f}, {0.20f, 0.34f, 0.08f}, {0.48f, 0.30f, 0.14f}, {0.12f, 0.24f, 0.06f}};
     const float x = u / 0.17f + 0.4f * noise(u * 4, v * 4, 301), y = v / 0.14f + 0.4f * noise(u * 4, v * 4, 302);
-    const Vector crop =
-        kCrop[static_cast<int>(cellValue(static_cast<int>(std::floor(x)), static_cast<int>(std::floor(y)), 303) * 3.99f)];
+    const Vector crop = kCrop[int(cellValue(int(std::floor(x)), int(std::floor(y)), 303) * 3.99f)];
     return {crop * (0.12f + 0.95f * patches(u, v, 0.025f, 304)), 1.0f};
 }
 
@@ -284,7 +283,7 @@ Hit night(float u, float v)
             return {{0.03f, 0.03f, 0.03f}, lamp.depth};
     }
     Hit hit = roofs(u, v);
-    const float lit = cellValue(static_cast<int>(u * 40), static_cast<int>(v * 40), 321);
+    const float lit = cellValue(int(u * 40), int(v * 40), 321);
     const bool window = hit.colour.x < 0.06f && hit.colour.z > 0.055f;
     hit.colour = window && lit < 0.4f ? Vector{0.75f, 0.58f, 0.28f} : hit.colour * 0.3f;
     return hit;
@@ -354,8 +353,8 @@ void drawRow(const Design &design, DepthScene &scene, int y)
         float transmission = 0;
         for (int sample = 0; sample < kSamples * kSamples; ++sample) {
             const int column = x * kSamples + sample % kSamples, row = y * kSamples + sample / kSamples;
-            const float u = kAspect * (static_cast<float>(column) + 0.5f) / static_cast<float>(scene.width * kSamples);
-            const float v = (static_cast<float>(row) + 0.5f) / static_cast<float>(scene.height * kSamples);
+            const float u = kAspect * (float(column) + 0.5f) / float(scene.width * kSamples);
+            const float v = (float(row) + 0.5f) / float(scene.height * kSamples);
             const Vector airlight = design.glow ? design.airlight + design.glow(u, v) : design.airlight;
             const Hit hit = design.at(u, v);
             const float clear = std::exp(-hit.depth);
@@ -364,10 +363,10 @@ void drawRow(const Design &design, DepthScene &scene, int y)
             truth = truth + colour * (1.0f / (kSamples * kSamples));
             transmission += clear / (kSamples * kSamples);
         }
-        const float u = kAspect * (static_cast<float>(x) + 0.5f) / static_cast<float>(scene.width);
-        const float v = (static_cast<float>(y) + 0.5f) / static_cast<float>(scene.height);
+        const float u = kAspect * (float(x) + 0.5f) / float(scene.width);
+        const float v = (float(y) + 0.5f) / float(scene.height);
         const float alpha = !design.inside || design.inside(u, v) ? 1.0f : 0.0f;
-        const std::size_t at = static_cast<std::size_t>(y) * static_cast<std::size_t>(scene.width) + static_cast<std::size_t>(x);
+        const std::size_t at = std::size_t(y) * std::size_t(scene.width) + std::size_t(x);
         store(design.filled ? hazy : hazy * alpha, alpha, &scene.hazy[4 * at]);
         store(truth * alpha, alpha, &scene.truth[4 * at]);
         scene.transmission[at] = alpha > 0 ? transmission : std::numeric_limits<float>::quiet_NaN();
@@ -378,7 +377,7 @@ void drawRow(const Design &design, DepthScene &scene, int y)
 void addNoise(DepthScene &scene, float deviation)
 {
     for (int y = 0; y < scene.height; ++y) {
-        float *sample = &scene.hazy[4 * static_cast<std::size_t>(y) * static_cast<std::size_t>(scene.width)];
+        float *sample = &scene.hazy[4 * std::size_t(y) * std::size_t(scene.width)];
         for (int i = 0; i < 4 * scene.width; ++i) {
             if (i % 4 == 3)
                 continue;
@@ -420,7 +419,7 @@ DepthScene drawDepthScene(const QString &name, int width, int height)
                                             [&](const Design &one) { return name == QLatin1String(one.name); });
     if (design == std::end(kDesigns) || width < 1 || height < 1)
         return {};
-    const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    const std::size_t pixels = std::size_t(width) * std::size_t(height);
     DepthScene scene{width,
                      height,
                      std::vector<float>(4 * pixels),

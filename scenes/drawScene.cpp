@@ -104,10 +104,10 @@ Tree treeAt(float x, float z)
 {
     constexpr float kCell = 9.5f;
     const float u = (0.83f * x - 0.56f * z) / kCell, v = (0.56f * x + 0.83f * z) / kCell;
-    const int cellX = static_cast<int>(std::floor(u)), cellZ = static_cast<int>(std::floor(v));
+    const int cellX = int(std::floor(u)), cellZ = int(std::floor(v));
     const float radius = mix(2.6f, 4.6f, cellValue(cellX, cellZ, 61)) / kCell;
-    const float middleU = static_cast<float>(cellX) + mix(radius, 1 - radius, cellValue(cellX, cellZ, 62));
-    const float middleV = static_cast<float>(cellZ) + mix(radius, 1 - radius, cellValue(cellX, cellZ, 63));
+    const float middleU = float(cellX) + mix(radius, 1 - radius, cellValue(cellX, cellZ, 62));
+    const float middleV = float(cellZ) + mix(radius, 1 - radius, cellValue(cellX, cellZ, 63));
     float away = std::hypot(u - middleU, v - middleV) / radius;
     if (away >= 1)
         return {};
@@ -192,7 +192,7 @@ Vector fieldColour(float x, float z)
 {
     // The valley's fields: a turned grid of uneven cells, each with its own crop and furrows.
     const float u = (0.94f * x + 0.34f * z) / 95 + 0.5f * noise(x / 260, z / 260, 81), v = (0.94f * z - 0.34f * x) / 150;
-    const float crop = cellValue(static_cast<int>(std::floor(u)), static_cast<int>(std::floor(v)), 82);
+    const float crop = cellValue(int(std::floor(u)), int(std::floor(v)), 82);
     const float furrow = 0.94f + 0.06f * std::sin(u * 95 * kPi / 2.5f);
     const Vector grass{0.24f, 0.35f, 0.10f}, rape{0.62f, 0.56f, 0.12f}, corn{0.56f, 0.46f, 0.22f}, earth{0.36f, 0.25f, 0.16f},
         clover{0.17f, 0.31f, 0.09f};
@@ -238,7 +238,7 @@ Vector surfaceColour(float x, float y, float z, float smallest, const Place &pla
         if (z < 300) { // blades and flowers, as far as they can be made out
             const float blade = fractal(3 * x, z, 0.45f, smallest, 3, 95);
             colour = colour * (0.30f + 1.15f * blade * (0.55f + 0.9f * fine));
-            const float flower = cellValue(static_cast<int>(std::floor(x * 11)), static_cast<int>(std::floor(z * 4)), 96);
+            const float flower = cellValue(int(std::floor(x * 11)), int(std::floor(z * 4)), 96);
             const float patch = fractal(x, z, 18, 1, 3, 97);
             if (flower > 1.0f - 0.022f * smoothstep(0.40f, 0.75f, patch))
                 colour = patch > 0.55f ? Vector{0.80f, 0.76f, 0.62f} : Vector{0.75f, 0.55f, 0.06f};
@@ -312,33 +312,32 @@ QImage drawScene(int width, int height, bool haze, std::vector<float> *transmiss
     // Two by two samples a pixel. A column is walked from near to far: whatever rises over all that came before is seen.
     constexpr int kSamples = 2;
     const int rows = height * kSamples;
-    const float focal = 0.92f * static_cast<float>(std::max(width, height)) * kSamples;
-    const float horizon = 0.43f * static_cast<float>(rows);
+    const float focal = 0.92f * float(std::max(width, height)) * kSamples;
+    const float horizon = 0.43f * float(rows);
     const float eye = groundHeight(0, 0, 0.1f) + 11;
     const float growth = std::max(0.0012f, 1.1f / focal);
 
     if (transmission)
-        transmission->assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0.0f);
+        transmission->assign(std::size_t(width) * std::size_t(height), 0.0f);
     QImage image(width, height, QImage::Format_RGB32);
     image.bits(); // detaches before the threads write
     uchar *const bits = image.bits();
-    const auto stride = static_cast<std::size_t>(image.bytesPerLine());
+    const auto stride = std::size_t(image.bytesPerLine());
 #pragma omp parallel for schedule(dynamic, 8)
     for (int column = 0; column < width; ++column) {
-        std::vector<Vector> sum(static_cast<std::size_t>(height));
+        std::vector<Vector> sum;
+        sum.resize(std::size_t(height));
         const auto add = [&](int row, Vector colour, float clear) {
-            const auto y = static_cast<std::size_t>(row / kSamples);
+            const auto y = std::size_t(row / kSamples);
             sum[y] = sum[y] + finished(colour, haze ? clear : 1);
             if (transmission)
-                (*transmission)[y * static_cast<std::size_t>(width) + static_cast<std::size_t>(column)] +=
-                    clear / (kSamples * kSamples);
+                (*transmission)[y * std::size_t(width) + std::size_t(column)] += clear / (kSamples * kSamples);
         };
         for (int sample = 0; sample < kSamples; ++sample) {
-            const float across =
-                (static_cast<float>(column * kSamples + sample) + 0.5f - 0.5f * static_cast<float>(width * kSamples)) / focal;
+            const float across = (float(column * kSamples + sample) + 0.5f - 0.5f * float(width * kSamples)) / focal;
             int row = rows - 1; // the lowest row still without a picture
             float near = 26, nearHeight = groundHeight(across * near, near, 0.05f);
-            const auto rise = [&](int at) { return (horizon - (static_cast<float>(at) + 0.5f)) / focal; };
+            const auto rise = [&](int at) { return (horizon - (float(at) + 0.5f)) / focal; };
             for (float far = near * (1 + growth); far < 21000 && row >= 0; far *= 1 + growth) {
                 const float smallest = far / focal;
                 const Place place = placeAt(across * far, far, smallest);
@@ -369,9 +368,9 @@ QImage drawScene(int width, int height, bool haze, std::vector<float> *transmiss
             }
         }
         for (int y = 0; y < height; ++y) {
-            const Vector pixel = sum[static_cast<std::size_t>(y)] * (255.0f / (kSamples * kSamples)) + Vector{0.5f, 0.5f, 0.5f};
-            const auto value = [](float v) { return static_cast<int>(std::clamp(v, 0.0f, 255.0f)); };
-            reinterpret_cast<QRgb *>(bits + static_cast<std::size_t>(y) * stride)[column] =
+            const Vector pixel = sum[std::size_t(y)] * (255.0f / (kSamples * kSamples)) + Vector{0.5f, 0.5f, 0.5f};
+            const auto value = [](float v) { return int(std::clamp(v, 0.0f, 255.0f)); };
+            reinterpret_cast<QRgb *>(bits + std::size_t(y) * stride)[column] =
                 qRgb(value(pixel.x), value(pixel.y), value(pixel.z));
         }
     }

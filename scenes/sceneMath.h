@@ -49,17 +49,16 @@ inline float smoothstep(float from, float to, float value)
 // A number in 0..1 for each cell of the plane; wraps in unsigned arithmetic on purpose.
 inline float cellValue(int x, int z, std::uint32_t seed)
 {
-    std::uint32_t bits =
-        static_cast<std::uint32_t>(x) * 0x8da6b343u ^ static_cast<std::uint32_t>(z) * 0xd8163841u ^ seed * 0xcb1ab31fu;
+    std::uint32_t bits = std::uint32_t(x) * 0x8da6b343u ^ std::uint32_t(z) * 0xd8163841u ^ seed * 0xcb1ab31fu;
     bits = (bits ^ bits >> 15) * 0x2c1b3c6du;
     bits = (bits ^ bits >> 12) * 0x297a2d39u;
-    return static_cast<float>((bits ^ bits >> 15) >> 8) / 16777216.0f;
+    return float((bits ^ bits >> 15) >> 8) / 16777216.0f;
 }
 
 inline float noise(float x, float z, std::uint32_t seed)
 {
     const float floorX = std::floor(x), floorZ = std::floor(z);
-    const int cellX = static_cast<int>(floorX), cellZ = static_cast<int>(floorZ);
+    const int cellX = int(floorX), cellZ = int(floorZ);
     const float u = smoothstep(0, 1, x - floorX), v = smoothstep(0, 1, z - floorZ);
     return mix(mix(cellValue(cellX, cellZ, seed), cellValue(cellX + 1, cellZ, seed), u),
                mix(cellValue(cellX, cellZ + 1, seed), cellValue(cellX + 1, cellZ + 1, seed), u), v);
@@ -72,7 +71,7 @@ inline float fractal(float x, float z, float wavelength, float smallest, int oct
     x /= wavelength;
     z /= wavelength;
     for (int i = 0; i < octaves && (wavelength > smallest || i < 2); ++i) {
-        float value = noise(x, z, seed + static_cast<std::uint32_t>(i));
+        float value = noise(x, z, seed + std::uint32_t(i));
         if (ridged) {
             value = 1 - std::fabs(2 * value - 1);
             value *= value;

@@ -68,12 +68,12 @@ void releaseTopology()
 
 int coreCountOfMachine()
 {
-    return ensureEnumeration() ? static_cast<int>(cpuTopology->coreCount) : 0;
+    return ensureEnumeration() ? int(cpuTopology->coreCount) : 0;
 }
 
 int logicalCountOfMachine()
 {
-    return ensureEnumeration() ? static_cast<int>(cpuTopology->threadCount) : 0;
+    return ensureEnumeration() ? int(cpuTopology->threadCount) : 0;
 }
 
 int physicalCores()

@@ -13,7 +13,7 @@ public:
     void set(std::uint32_t processor);
     bool test(std::uint32_t processor) const;
     /// How many there is room for.
-    std::uint32_t size() const { return static_cast<std::uint32_t>(bytes.size()) * 8; }
+    std::uint32_t size() const { return std::uint32_t(bytes.size()) * 8; }
 
 private:
     std::vector<std::uint8_t> bytes;

@@ -19,14 +19,14 @@ qint64 freeDiskSpace(QString path)
 {
     constexpr std::size_t kLongest = 511;
     wchar_t wide[kLongest + 1] = {}; // stays empty, which no volume has, if the text can't be converted
-    if (std::mbstowcs(wide, path.toLocal8Bit().constData(), kLongest) == static_cast<std::size_t>(-1))
+    if (std::mbstowcs(wide, path.toLocal8Bit().constData(), kLongest) == std::size_t(-1))
         wide[0] = L'\0';
     std::uint64_t freeForCaller = 0;
     std::uint64_t total = 0;
     std::uint64_t totalFree = 0;
     if (!GetDiskFreeSpaceExW(wide, &freeForCaller, &total, &totalFree))
         return -1;
-    return static_cast<qint64>(totalFree);
+    return qint64(totalFree);
 }
 
 void checkFileWritable(QString filePath, qint64 neededBytes, QString location)

@@ -29,7 +29,7 @@ struct EnumerationAbandoned
 
 std::uint32_t bitCount(std::uint32_t word)
 {
-    return static_cast<std::uint32_t>(std::bitset<32>(word).count());
+    return std::uint32_t(std::bitset<32>(word).count());
 }
 
 std::uint32_t lowBits(std::uint32_t width)
@@ -60,7 +60,7 @@ bool hasSeveralPerPackage(const TopologyRecords &records)
 std::uint32_t placeOf(std::uint32_t value, std::vector<std::uint32_t> &values)
 {
     const auto found = std::find(values.begin(), values.end(), value);
-    const auto place = static_cast<std::uint32_t>(found - values.begin());
+    const auto place = std::uint32_t(found - values.begin());
     if (found == values.end())
         values.push_back(value);
     return place;
@@ -174,16 +174,15 @@ void describeCaches(const TopologyRecords &records, VCpuTopology &topology)
         return;
     }
     if (records.leaf4.size() > kMaximumCacheSubleafs)
-        abandon("Need bigger MAX_CACHE_SUBLEAFS(%d) at %s %d\n", static_cast<int>(kMaximumCacheSubleafs), TOPOLOGY_POSITION);
+        abandon("Need bigger MAX_CACHE_SUBLEAFS(%d) at %s %d\n", int(kMaximumCacheSubleafs), TOPOLOGY_POSITION);
     for (const CpuidRegisters &leaf : records.leaf4) {
         static const char *const kinds[] = {"none", "Data", "Instruction", "Unified"};
         const char *kind = kinds[std::min(field(leaf.eax, 0, 4), 3u)];
         const std::uint64_t bytes = std::uint64_t(field(leaf.ebx, 22, 31) + 1) * (field(leaf.ebx, 12, 21) + 1) *
                                     (field(leaf.ebx, 0, 11) + 1) * (std::uint64_t(leaf.ecx) + 1);
-        const auto kiloBytes = static_cast<std::uint32_t>(bytes / 1024);
+        const auto kiloBytes = std::uint32_t(bytes / 1024);
         char text[80];
-        std::snprintf(text, sizeof text, "Level %d %s, size(KBytes)= %d", static_cast<int>(field(leaf.eax, 5, 7)), kind,
-                      static_cast<int>(kiloBytes));
+        std::snprintf(text, sizeof text, "Level %d %s, size(KBytes)= %d", int(field(leaf.eax, 5, 7)), kind, int(kiloBytes));
         topology.caches.push_back({text, kiloBytes, ~lowBits(widthFor(field(leaf.eax, 14, 25) + 1))});
     }
 }
@@ -202,10 +201,8 @@ void cutIdentifiers(const TopologyRecords &records, VCpuTopology &topology)
         processor.index = read.index;
         processor.apicId = read.apicId;
         // A shift of 32 stands for an empty field.
-        processor.package =
-            static_cast<std::uint32_t>(std::uint64_t(read.apicId & topology.pkgSelectMask) >> topology.pkgSelectShift);
-        processor.core =
-            static_cast<std::uint32_t>(std::uint64_t(read.apicId & topology.coreSelectMask) >> topology.coreSelectShift);
+        processor.package = std::uint32_t(std::uint64_t(read.apicId & topology.pkgSelectMask) >> topology.pkgSelectShift);
+        processor.core = std::uint32_t(std::uint64_t(read.apicId & topology.coreSelectMask) >> topology.coreSelectShift);
         processor.thread = read.apicId & topology.smtSelectMask;
         for (const VCpuTopology::Cache &cache : topology.caches)
             processor.caches.push_back(read.apicId & cache.selectMask);
@@ -222,8 +219,8 @@ void takePlaces(const TopologyRecords &records, VCpuTopology &topology)
             continue;
         VCpuTopology::Processor &processor = topology.processors[count++];
         processor.index = i;
-        processor.package = static_cast<std::uint32_t>(records.places[i].package);
-        processor.core = static_cast<std::uint32_t>(records.places[i].core);
+        processor.package = std::uint32_t(records.places[i].package);
+        processor.core = std::uint32_t(records.places[i].core);
     }
     topology.threadCount = count;
 }
@@ -238,20 +235,19 @@ void countCores(VCpuTopology &topology)
     for (std::uint32_t i = 0; i < numMappings; ++i) {
         const VCpuTopology::Processor &processor = topology.processors[i];
         const std::uint32_t h = placeOf(processor.package, packages);
-        const auto found = static_cast<std::uint32_t>(packages.size());
+        const auto found = std::uint32_t(packages.size());
         if (h * numMappings >= ckDim)
             abandon("got error. maxPackageDetetcted= %d numMappings= %d maxPackageDetetcted* numMappings + 0 = %d and ckDim= %d "
                     "at %s %d\n",
-                    static_cast<int>(found), static_cast<int>(numMappings), static_cast<int>(h * numMappings),
-                    static_cast<int>(ckDim), TOPOLOGY_POSITION);
+                    int(found), int(numMappings), int(h * numMappings), int(ckDim), TOPOLOGY_POSITION);
         if (found >= table.dim[0])
             abandon("got error. maxPackageDetetcted(%d) >= glbl_ptr->perPkg_detectedCoresCount.dim[0](%d) at %s %d. Bye\n",
-                    static_cast<int>(found), static_cast<int>(table.dim[0]), TOPOLOGY_POSITION);
+                    int(found), int(table.dim[0]), TOPOLOGY_POSITION);
         cores.resize(packages.size());
         const std::uint32_t core = placeOf(processor.core, cores[h]);
         if (h * numMappings + core >= ckDim)
-            abandon("got error. h* numMappings + core = %d and ckDim= %d at %s %d\n", static_cast<int>(h * numMappings + core),
-                    static_cast<int>(ckDim), TOPOLOGY_POSITION);
+            abandon("got error. h* numMappings + core = %d and ckDim= %d at %s %d\n", int(h * numMappings + core), int(ckDim),
+                    TOPOLOGY_POSITION);
         if (table.at(h, core)++ == 0)
             ++topology.coreCount;
     }
@@ -263,7 +259,7 @@ void countCaches(VCpuTopology &topology)
     for (std::uint32_t subleaf = 0; subleaf < topology.caches.size(); ++subleaf) {
         if (subleaf >= table.dim[1])
             abandon("Error: Got subleaf(%d) >= glbl_ptr->perEachCache_detectedThreadCount.dim[1](%d) at %s %d. Bye\n",
-                    static_cast<int>(subleaf), static_cast<int>(table.dim[1]), TOPOLOGY_POSITION);
+                    int(subleaf), int(table.dim[1]), TOPOLOGY_POSITION);
         std::vector<std::uint32_t> identifiers;
         for (std::uint32_t i = 0; i < topology.threadCount; ++i) {
             if (subleaf >= topology.processors[i].caches.size())
@@ -272,7 +268,7 @@ void countCaches(VCpuTopology &topology)
             if (found >= table.dim[0])
                 abandon(
                     "Error: Got maxCacheDetected(%d) >= glbl_ptr->perEachCache_detectedThreadCount.dim[0](%d) at %s %d. Bye\n",
-                    static_cast<int>(found), static_cast<int>(table.dim[0]), TOPOLOGY_POSITION);
+                    int(found), int(table.dim[0]), TOPOLOGY_POSITION);
             ++table.at(found, subleaf);
         }
     }
@@ -316,14 +312,14 @@ void GenericAffinityMask::set(std::uint32_t processor)
     if (processor >= size())
         abandon("Error: Wanted cpu %u but mask only supports up to %u cpus at %s %d. Bye\n", processor, size(),
                 TOPOLOGY_POSITION);
-    bytes[processor / 8] = static_cast<std::uint8_t>(bytes[processor / 8] | 1u << processor % 8);
+    bytes[processor / 8] = std::uint8_t(bytes[processor / 8] | 1u << processor % 8);
 }
 
 bool GenericAffinityMask::test(std::uint32_t processor) const
 {
     if (processor >= size())
-        abandon("Error: Wanted cpu %d but mask only supports up to %d cpus at %s %d. Bye\n", static_cast<int>(processor),
-                static_cast<int>(size()), TOPOLOGY_POSITION);
+        abandon("Error: Wanted cpu %d but mask only supports up to %d cpus at %s %d. Bye\n", int(processor), int(size()),
+                TOPOLOGY_POSITION);
     return (bytes[processor / 8] >> processor % 8 & 1) != 0;
 }
 
@@ -337,11 +333,11 @@ void CountTable::allocate(std::uint32_t firstDimension)
 std::uint32_t &CountTable::at(std::uint32_t first, std::uint32_t second)
 {
     if (first >= dim[0])
-        abandon("got too large 1st dimension %d which is bigger than %d at %s %d. Bye\n", static_cast<int>(first),
-                static_cast<int>(dim[0]), TOPOLOGY_POSITION);
+        abandon("got too large 1st dimension %d which is bigger than %d at %s %d. Bye\n", int(first), int(dim[0]),
+                TOPOLOGY_POSITION);
     if (second >= dim[1])
-        abandon("got too large 2nd dimension %d which is bigger than %d at %s %d. Bye\n", static_cast<int>(second),
-                static_cast<int>(dim[1]), TOPOLOGY_POSITION);
+        abandon("got too large 2nd dimension %d which is bigger than %d at %s %d. Bye\n", int(second), int(dim[1]),
+                TOPOLOGY_POSITION);
     return counts[std::size_t(first) * dim[1] + second];
 }
 

@@ -19,7 +19,7 @@ void readGroups(TopologyRecords &records)
     if (!records.groupsTold)
         return;
     for (std::uint32_t i = 0; i < GetActiveProcessorGroupCount() && i < information.count; ++i) {
-        GroupAffinity process{0, static_cast<std::uint16_t>(i)};
+        GroupAffinity process{0, std::uint16_t(i)};
         GroupAffinity thread = process;
         const bool failed = !GetProcessGroupAffinity(&process) || !GetThreadGroupAffinity(&thread);
         records.groups.push_back({information.groups[i].activeProcessorCount, process.mask, thread.mask, failed});
@@ -56,8 +56,7 @@ std::uint32_t bindTo(std::uint32_t processor, bool withGroups)
         return ~0u;
     bool bound = false;
     if (withGroups) {
-        GroupAffinity affinity{1u << (processor % kProcessorsPerGroup),
-                               static_cast<std::uint16_t>(processor / kProcessorsPerGroup)};
+        GroupAffinity affinity{1u << (processor % kProcessorsPerGroup), std::uint16_t(processor / kProcessorsPerGroup)};
         bound = SetThreadGroupAffinity(affinity);
     } else {
         bound = processor < kProcessorsPerGroup && SetThreadAffinityMask(1u << processor);

@@ -43,7 +43,7 @@ void makeOwn()
     omp_set_schedule(omp_sched_guided, /*chunk_size=*/10);
     threadCount = physicalCores() * threadsPerCore();
     coreCount = physicalCores();
-    if (const auto quota = static_cast<std::int32_t>(GetProcessorQuota()); quota > 0 && quota < threadCount)
+    if (const auto quota = std::int32_t(GetProcessorQuota()); quota > 0 && quota < threadCount)
         threadCount = quota;
     initPool(nullptr);
     initTempManager(nullptr);

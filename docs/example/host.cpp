@@ -21,7 +21,7 @@
 #include "VImage.h"
 
 /// Does something that may fail, and says why it did.
-template<class Work>
+template<typename Work>
 bool attempt(Work work)
 {
     try {

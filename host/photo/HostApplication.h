@@ -96,7 +96,7 @@ private:
 
 /// The application object itself: Base is QCoreApplication for the command line and QApplication for a window. Plug-ins ask it by
 /// qt_metacast for the interface.
-template<class Base>
+template<typename Base>
 class HostedApplication : public Base, public HostApplication
 {
 public:

@@ -26,7 +26,7 @@ void ByteReader::seek(std::uint64_t position)
 /// Brings the next `count` bytes into the window, and what follows them, as parsers go on.
 void ByteReader::fill(std::size_t count)
 {
-    buffer.resize(static_cast<std::size_t>(std::min<std::uint64_t>(remaining(), kWindow)));
+    buffer.resize(std::size_t(std::min<std::uint64_t>(remaining(), kWindow)));
     window = buffer.data();
     windowStart = next;
     windowEnd = next + source->readAt(start + next, buffer.data(), buffer.size());
@@ -66,7 +66,7 @@ void ByteReader::read(void *target, std::size_t count)
 
 std::vector<std::uint8_t> ByteReader::bytes(std::uint64_t count)
 {
-    std::vector<std::uint8_t> result(static_cast<std::size_t>(checked(count)));
+    std::vector<std::uint8_t> result(std::size_t(checked(count)));
     read(result.data(), result.size());
     return result;
 }
@@ -77,7 +77,7 @@ std::string ByteReader::text(std::size_t longest)
     try {
         std::string result;
         for (std::uint8_t c = u8(); c != 0; c = u8())
-            result.size() < longest ? result.push_back(static_cast<char>(c)) : throw EndOfBytes{};
+            result.size() < longest ? result.push_back(char(c)) : throw EndOfBytes{};
         return result;
     } catch (const EndOfBytes &) {
         next = before;
@@ -88,8 +88,7 @@ std::string ByteReader::text(std::size_t longest)
 ByteReader ByteReader::stretch(std::uint64_t count)
 {
     checked(count);
-    ByteReader part =
-        source ? ByteReader(*source, byteOrder) : ByteReader(window + next, static_cast<std::size_t>(count), byteOrder);
+    ByteReader part = source ? ByteReader(*source, byteOrder) : ByteReader(window + next, std::size_t(count), byteOrder);
     part.start = start + next;
     part.end = count;
     next += count;

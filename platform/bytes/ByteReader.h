@@ -53,8 +53,8 @@ public:
     void seek(std::uint64_t position);
     void skip(std::uint64_t count) { next += checked(count); }
     std::uint8_t u8() { return *take(1); }
-    std::uint16_t u16() { return static_cast<std::uint16_t>(number(2)); }
-    std::uint32_t u32() { return static_cast<std::uint32_t>(number(4)); }
+    std::uint16_t u16() { return std::uint16_t(number(2)); }
+    std::uint32_t u32() { return std::uint32_t(number(4)); }
     std::uint64_t u64() { return number(8); }
     void read(void *target, std::size_t count);
     std::vector<std::uint8_t> bytes(std::uint64_t count);

@@ -29,7 +29,7 @@ constexpr Format kFormats[] = {
     {"jpeg", readJpeg, writeJpeg}, {"png", readPng, writePng}, {"tiff", readTiff, writeTiff},
     {"hdri", readHdr, writeHdr},   {"exr", readExr, writeExr}, {"psd", readPsd, writePsd},
 };
-static_assert(static_cast<std::size_t>(PhotoKind::Photoshop) + 1 == std::size(kFormats));
+static_assert(std::size_t(PhotoKind::Photoshop) + 1 == std::size(kFormats));
 
 constexpr int kRawFormat = -1; // has no name and no index
 
@@ -41,7 +41,7 @@ std::string suffixOf(const std::string &fileName)
         return {};
     std::string suffix = fileName.substr(dot + 1);
     std::transform(suffix.begin(), suffix.end(), suffix.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+                   [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; });
     return suffix;
 }
 
@@ -55,10 +55,10 @@ int formatOf(const InputFile &file)
     const std::string suffix = suffixOf(file.name());
     if (!suffixFits(kind, suffix))
         throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
-    return isRawSuffix(suffix) || isRawOnly(kind) ? kRawFormat : static_cast<int>(kind);
+    return isRawSuffix(suffix) || isRawOnly(kind) ? kRawFormat : int(kind);
 }
 
-template<class Work>
+template<typename Work>
 int coded(Work work)
 {
     try {
@@ -109,7 +109,7 @@ int gflGetFormatIndexByName(const char *name)
 {
     const auto found = std::find_if(std::begin(gfl::kFormats), std::end(gfl::kFormats),
                                     [&](const gfl::Format &format) { return name && format.name == name; });
-    return found == std::end(gfl::kFormats) ? -1 : static_cast<int>(found - std::begin(gfl::kFormats));
+    return found == std::end(gfl::kFormats) ? -1 : int(found - std::begin(gfl::kFormats));
 }
 
 void gflGetDefaultSaveParams(GflSaveParams *params)
@@ -157,7 +157,7 @@ int gflSaveBitmapUTF8(const char *fileName, const GflBitmap *bitmap, const GflSa
         return GFL_ERROR_BAD_PARAMETERS;
     if (!bitmap || !gfl::isWritable(*bitmap))
         return GFL_ERROR_BAD_BITMAP;
-    if (params->formatIndex < 0 || params->formatIndex >= static_cast<int>(std::size(gfl::kFormats)))
+    if (params->formatIndex < 0 || params->formatIndex >= int(std::size(gfl::kFormats)))
         return GFL_ERROR_BAD_FORMAT_INDEX;
     return gfl::coded([&] {
         static const gfl::Metadata kNone;

@@ -13,7 +13,7 @@ GflFreeCallback freeCallback = nullptr;
 void *allocUser = nullptr;
 
 // The setters have no way to report a failed allocation: the bitmap then simply lacks the block.
-template<class Change>
+template<typename Change>
 void changeMetadata(GflBitmap *bitmap, Change change)
 {
     if (!bitmap)

@@ -50,7 +50,7 @@ void writePsd(const WriteRequest &request);
 /// A resolution as the record holds it: 0 where it is none.
 constexpr std::uint16_t dpiFrom(double dotsPerInch)
 {
-    return dotsPerInch >= 1.0 && dotsPerInch <= 65535.0 ? static_cast<std::uint16_t>(dotsPerInch + 0.5) : std::uint16_t(0);
+    return dotsPerInch >= 1.0 && dotsPerInch <= 65535.0 ? std::uint16_t(dotsPerInch + 0.5) : std::uint16_t(0);
 }
 
 } // namespace gfl

@@ -35,7 +35,7 @@ public:
 
     bool read(char target[], int bytes) override
     {
-        if (!stream.tryRead(target, static_cast<std::size_t>(bytes)))
+        if (!stream.tryRead(target, std::size_t(bytes)))
             throw Iex::InputExc("Unexpected end of file.");
         return stream.offset() < size;
     }
@@ -52,7 +52,7 @@ class OutputAdapter : public Imf::OStream
 public:
     explicit OutputAdapter(OutputFile &target) : OStream(""), file(target) {}
 
-    void write(const char bytes[], int count) override { check(file.tryWrite(bytes, static_cast<std::size_t>(count))); }
+    void write(const char bytes[], int count) override { check(file.tryWrite(bytes, std::size_t(count))); }
     std::uint64_t tellp() override { return file.offset(); }
     void seekp(std::uint64_t offset) override { check(file.trySeek(offset)); }
     /// The library's destructor writes too, and swallows what goes wrong.
@@ -79,7 +79,7 @@ public:
 
     bool read(char target[], int bytes) override
     {
-        value.read(target, static_cast<std::size_t>(bytes));
+        value.read(target, std::size_t(bytes));
         return value.remaining() > 0;
     }
     std::uint64_t tellg() override { return value.position(); }
@@ -107,7 +107,7 @@ Imf::Header readAttributes(const InputFile &file, int &version, std::uint64_t &t
     constexpr std::size_t kLongestName = 255;
     ByteReader reader(file, ByteOrder::Little);
     reader.skip(4); // the signature
-    version = static_cast<int>(reader.u32());
+    version = int(reader.u32());
     if (Imf::isMultiPart(version) || Imf::isNonImage(version))
         throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
     Imf::Header header;
@@ -125,7 +125,7 @@ Imf::Header readAttributes(const InputFile &file, int &version, std::uint64_t &t
         Imf::Attribute &attribute = header[name];
         if (attribute.typeName() != type || size > std::uint32_t(std::numeric_limits<int>::max()))
             throw Failure{GFL_ERROR_FILE_READ};
-        attribute.readValueFrom(value, static_cast<int>(size), version);
+        attribute.readValueFrom(value, int(size), version);
         if (value.tellg() != size)
             throw Failure{GFL_ERROR_FILE_READ};
     }
@@ -175,8 +175,8 @@ std::uint64_t checkClaims(const InputFile &file)
     // What can be in one piece: 256 lines at most, or a tile. A chunk takes 8 bytes in the table and 8 before its pixels.
     constexpr std::uint64_t kLinesPerChunk = 256;
     constexpr std::uint64_t kBytesPerChunk = 16;
-    const std::uint64_t w = static_cast<std::uint64_t>(width);
-    const std::uint64_t h = static_cast<std::uint64_t>(height);
+    const std::uint64_t w = std::uint64_t(width);
+    const std::uint64_t h = std::uint64_t(height);
     const std::uint64_t chunks = tiled ? ((w + tile.xSize - 1) / tile.xSize) * ((h + tile.ySize - 1) / tile.ySize)
                                        : (h + kLinesPerChunk - 1) / kLinesPerChunk;
     std::uint64_t channels = 1; // one more than there are
@@ -250,10 +250,10 @@ void checkChunks(const InputFile &file, const Imf::Header &header, std::uint64_t
         for (std::int64_t x = window.min.x; x <= window.max.x; x += stepX) {
             std::uint64_t whole = 0;
             for (auto channel = header.channels().begin(); channel != header.channels().end(); ++channel)
-                whole += (channel.channel().type == Imf::HALF ? 2u : 4u) *
-                         static_cast<std::uint64_t>(
-                             multiples(channel.channel().xSampling, x, std::min<std::int64_t>(x + stepX - 1, window.max.x)) *
-                             multiples(channel.channel().ySampling, y, std::min<std::int64_t>(y + stepY - 1, window.max.y)));
+                whole +=
+                    (channel.channel().type == Imf::HALF ? 2u : 4u) *
+                    std::uint64_t(multiples(channel.channel().xSampling, x, std::min<std::int64_t>(x + stepX - 1, window.max.x)) *
+                                  multiples(channel.channel().ySampling, y, std::min<std::int64_t>(y + stepY - 1, window.max.y)));
             const std::uint64_t start = offsets.u64();
             if (start == 0)
                 throw Failure{GFL_ERROR_FILE_READ};
@@ -264,14 +264,14 @@ void checkChunks(const InputFile &file, const Imf::Header &header, std::uint64_t
                 throw Failure{GFL_ERROR_FILE_READ};
             if (size == whole)
                 continue; // as it is
-            std::size_t made = static_cast<std::size_t>(whole);
+            std::size_t made = std::size_t(whole);
             if (packing == Imf::NO_COMPRESSION || size == 0) {
                 made = 0;
             } else if (packing == Imf::RLE_COMPRESSION) {
-                made = static_cast<std::size_t>(unpackedRuns(reader.bytes(size)));
+                made = std::size_t(unpackedRuns(reader.bytes(size)));
             } else if (packing == Imf::ZIP_COMPRESSION || packing == Imf::ZIPS_COMPRESSION) {
                 const Bytes packed = reader.bytes(size);
-                unpacked.resize(static_cast<std::size_t>(whole));
+                unpacked.resize(std::size_t(whole));
                 if (libdeflate_zlib_decompress(inflater.get(), packed.data(), packed.size(), unpacked.data(), unpacked.size(),
                                                &made) != LIBDEFLATE_SUCCESS)
                     made = 0;
@@ -354,14 +354,14 @@ ExposureFacts factsOf(const Imf::Header &header)
 void addFacts(Imf::Header &header, const ExposureFacts &facts)
 {
     if (facts.exposureSeconds > 0)
-        Imf::addExpTime(header, static_cast<float>(facts.exposureSeconds));
+        Imf::addExpTime(header, float(facts.exposureSeconds));
     if (facts.aperture > 0)
-        Imf::addAperture(header, static_cast<float>(facts.aperture));
+        Imf::addAperture(header, float(facts.aperture));
     if (facts.isoSpeed > 0)
-        Imf::addIsoSpeed(header, static_cast<float>(facts.isoSpeed));
+        Imf::addIsoSpeed(header, float(facts.isoSpeed));
     const double *c = facts.chromaticities;
     if (std::all_of(c, c + 8, [](double value) { return value > 0; })) {
-        const auto point = [&](int i) { return Imath::V2f(static_cast<float>(c[i]), static_cast<float>(c[i + 1])); };
+        const auto point = [&](int i) { return Imath::V2f(float(c[i]), float(c[i + 1])); };
         Imf::addChromaticities(header, Imf::Chromaticities(point(0), point(2), point(4), point(6)));
     }
     if (!facts.captureDate.empty())
@@ -391,7 +391,7 @@ void readSamples(Imf::InputFile &file, const Channels &channels, NewBitmap &bitm
         // Grey with alpha becomes colour with alpha.
         const std::size_t colours = std::size_t(std::min(form.components, 3));
         for (std::size_t c = 0; c < channels.names.size(); ++c)
-            frame.insert(channels.names[c], slice(row, static_cast<int>(c), y, rows, 0.0));
+            frame.insert(channels.names[c], slice(row, int(c), y, rows, 0.0));
         if (!channels.alpha.empty())
             frame.insert(channels.alpha, slice(row, 3, y, rows, 1.0));
         file.setFrameBuffer(frame);
@@ -413,9 +413,8 @@ void readChroma(const InputFile &source, bool alpha, NewBitmap &bitmap)
     const Imath::Box2i window = file.dataWindow();
     std::vector<Imf::Rgba> row(std::size_t(bitmap.width()));
     // The library counts from x = 0, wherever the window begins.
-    auto *const base =
-        reinterpret_cast<Imf::Rgba *>(reinterpret_cast<std::uintptr_t>(row.data()) -
-                                      sizeof(Imf::Rgba) * static_cast<std::uintptr_t>(std::intptr_t(window.min.x)));
+    auto *const base = reinterpret_cast<Imf::Rgba *>(reinterpret_cast<std::uintptr_t>(row.data()) -
+                                                     sizeof(Imf::Rgba) * std::uintptr_t(std::intptr_t(window.min.x)));
     for (int y = 0; y < bitmap.height(); ++y) {
         file.setFrameBuffer(base, 1, 0);
         file.readPixels(window.min.y + y);
@@ -472,7 +471,7 @@ void writeExr(const WriteRequest &request)
     addFacts(header, exposureFacts(request.exif));
     if (bitmap.xDpi && bitmap.yDpi) {
         Imf::addXDensity(header, bitmap.xDpi);
-        header.pixelAspectRatio() = static_cast<float>(bitmap.yDpi) / static_cast<float>(bitmap.xDpi);
+        header.pixelAspectRatio() = float(bitmap.yDpi) / float(bitmap.xDpi);
     }
     static constexpr const char *kNames[] = {"R", "G", "B", "A"};
     const auto name = [&](int c) { return form.components == 1 ? "Y" : kNames[c]; };

@@ -31,8 +31,8 @@ bool writeAll(int descriptor, const std::uint8_t *bytes, std::size_t count, std:
         if (written <= 0)
             return false;
         bytes += written;
-        count -= static_cast<std::size_t>(written);
-        offset += static_cast<std::uint64_t>(written);
+        count -= std::size_t(written);
+        offset += std::uint64_t(written);
     }
     return true;
 }
@@ -61,7 +61,7 @@ InputFile::InputFile(const char *name) : fileName(name)
             ::close(descriptor);
         throw Failure{GFL_ERROR_FILE_OPEN};
     }
-    fileSize = static_cast<std::uint64_t>(status.st_size);
+    fileSize = std::uint64_t(status.st_size);
 }
 
 InputFile::~InputFile()
@@ -79,7 +79,7 @@ std::size_t InputFile::readAt(std::uint64_t offset, void *target, std::size_t by
             continue;
         if (got <= 0)
             break;
-        done += static_cast<std::size_t>(got);
+        done += std::size_t(got);
     }
     return done;
 }
@@ -134,7 +134,7 @@ std::pair<const std::uint8_t *, std::size_t> InputStream::block()
 void InputStream::seek(std::uint64_t target)
 {
     if (target >= bufferStart && target <= bufferStart + filled) {
-        position = static_cast<std::size_t>(target - bufferStart);
+        position = std::size_t(target - bufferStart);
     } else {
         bufferStart = target;
         position = filled = 0;
@@ -181,7 +181,7 @@ OutputFile::~OutputFile()
         ::unlink(temporary.c_str());
 }
 
-template<class Make>
+template<typename Make>
 bool OutputFile::underFreshName(Make make)
 {
     // Of a fixed length, so that the longest file name works too.
@@ -240,7 +240,7 @@ bool OutputFile::trySeek(std::uint64_t place) noexcept
 std::uint64_t OutputFile::size() noexcept
 {
     struct stat status;
-    const std::uint64_t onDisk = ::fstat(descriptor, &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+    const std::uint64_t onDisk = ::fstat(descriptor, &status) == 0 ? std::uint64_t(status.st_size) : 0;
     return std::max(onDisk, offset());
 }
 
@@ -251,8 +251,8 @@ std::size_t OutputFile::readBack(void *bytes, std::size_t count) noexcept
     const ssize_t got = ::pread(descriptor, bytes, count, static_cast<off_t>(position));
     if (got <= 0)
         return 0;
-    position += static_cast<std::uint64_t>(got);
-    return static_cast<std::size_t>(got);
+    position += std::uint64_t(got);
+    return std::size_t(got);
 }
 
 void OutputFile::commit()
@@ -277,8 +277,8 @@ void OutputFile::commit()
 
 void putBig16(Bytes &bytes, unsigned value)
 {
-    bytes.push_back(static_cast<std::uint8_t>(value >> 8));
-    bytes.push_back(static_cast<std::uint8_t>(value));
+    bytes.push_back(std::uint8_t(value >> 8));
+    bytes.push_back(std::uint8_t(value));
 }
 
 void putBig32(Bytes &bytes, std::uint32_t value)

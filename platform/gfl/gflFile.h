@@ -83,7 +83,7 @@ public:
 private:
     bool flush() noexcept;
     /// Calls `make` with hidden names beside the target, until it makes one of them or fails for good.
-    template<class Make>
+    template<typename Make>
     bool underFreshName(Make make);
 
     std::string target;

@@ -21,7 +21,7 @@ std::string line(InputStream &stream)
     for (int c = stream.next(); c != '\n'; c = stream.next()) {
         if (c < 0 || text.size() >= kLongest)
             throw Failure{GFL_ERROR_FILE_READ};
-        text += static_cast<char>(c);
+        text += char(c);
     }
     if (!text.empty() && text.back() == '\r')
         text.pop_back();
@@ -71,7 +71,7 @@ void readRuns(InputStream &stream, std::uint8_t *pixels, int width)
             for (int i = 0; i < count; ++i, ++x) {
                 if (code <= 128)
                     value = stream.next();
-                pixels[x * 4 + plane] = static_cast<std::uint8_t>(value);
+                pixels[x * 4 + plane] = std::uint8_t(value);
             }
             if (value < 0)
                 throw Failure{GFL_ERROR_FILE_READ};
@@ -152,8 +152,8 @@ void encode(const float *rgb, std::uint8_t *pixel)
         ++exponent;
     const float scale = std::ldexp(1.0f, 8 - exponent);
     for (int c = 0; c < 3; ++c)
-        pixel[c] = static_cast<std::uint8_t>(std::min(value[c] * scale + 0.5f, 255.0f));
-    pixel[3] = static_cast<std::uint8_t>(exponent + 128);
+        pixel[c] = std::uint8_t(std::min(value[c] * scale + 0.5f, 255.0f));
+    pixel[3] = std::uint8_t(exponent + 128);
 }
 
 void appendRuns(Bytes &out, const std::uint8_t *pixels, int width)
@@ -171,7 +171,7 @@ void appendRuns(Bytes &out, const std::uint8_t *pixels, int width)
         for (int x = 0; x < width;) {
             int run = runAt(x);
             if (run >= kWorthwhile) {
-                out.push_back(static_cast<std::uint8_t>(128 + run));
+                out.push_back(std::uint8_t(128 + run));
                 out.push_back(at(x));
                 x += run;
                 continue;
@@ -179,7 +179,7 @@ void appendRuns(Bytes &out, const std::uint8_t *pixels, int width)
             const int start = x;
             while (x < width && x - start < kLongestPart && (run = runAt(x)) < kWorthwhile)
                 x = std::min(x + run, start + kLongestPart);
-            out.push_back(static_cast<std::uint8_t>(x - start));
+            out.push_back(std::uint8_t(x - start));
             for (int i = start; i < x; ++i)
                 out.push_back(at(i));
         }
@@ -206,7 +206,7 @@ BitmapPointer readHdr(const ReadRequest &request)
             const std::uint8_t *pixel = pixels.data() + std::size_t(size.rightToLeft ? width - 1 - x : x) * 4;
             const float scale = scales.byExponent[pixel[3]];
             for (int c = 0; c < 3; ++c)
-                target[c] = static_cast<float>(pixel[c]) * scale;
+                target[c] = float(pixel[c]) * scale;
         }
     }
     for (int top = 0, bottom = bitmap.height() - 1; size.bottomUp && top < bottom; ++top, --bottom)
@@ -234,7 +234,7 @@ void writeHdr(const WriteRequest &request)
             continue;
         }
         packed.assign({2, 2});
-        putBig16(packed, static_cast<unsigned>(bitmap.width));
+        putBig16(packed, unsigned(bitmap.width));
         appendRuns(packed, pixels.data(), bitmap.width);
         request.file.write(packed);
     }

@@ -62,7 +62,7 @@ jpeg_error_mgr *prepare(ErrorState &state)
 }
 
 // Runs calls of the library. They may jump out of here, so `call` must not make objects that have a destructor.
-template<class Call>
+template<typename Call>
 void guarded(ErrorState &state, Call call)
 {
     if (setjmp(state.jump))
@@ -92,12 +92,12 @@ boolean fillSource(j_decompress_ptr info)
 void skipSource(j_decompress_ptr info, long count)
 {
     while (count > 0 && static_cast<unsigned long>(count) > info->src->bytes_in_buffer) {
-        count -= static_cast<long>(info->src->bytes_in_buffer);
+        count -= long(info->src->bytes_in_buffer);
         fillSource(info);
     }
     if (count > 0) {
         info->src->next_input_byte += count;
-        info->src->bytes_in_buffer -= static_cast<std::size_t>(count);
+        info->src->bytes_in_buffer -= std::size_t(count);
     }
 }
 
@@ -161,7 +161,7 @@ void inksToRgb(const std::uint8_t *inks, std::uint8_t *rgb, int width, bool inve
     for (int x = 0; x < width; ++x, inks += 4, rgb += 3) {
         const unsigned key = inks[3] ^ flip;
         for (int c = 0; c < 3; ++c)
-            rgb[c] = static_cast<std::uint8_t>(((inks[c] ^ flip) * key + 127) / 255);
+            rgb[c] = std::uint8_t(((inks[c] ^ flip) * key + 127) / 255);
     }
 }
 
@@ -190,7 +190,7 @@ void readPixels(Reader &reader, NewBitmap &bitmap, std::uint64_t fileBytes)
             rows[i] = inks ? inkRow.data() : bitmap.row(y + i);
         guarded(reader.error, [&] {
             for (int done = 0; done < count;)
-                done += static_cast<int>(jpeg_read_scanlines(&info, rows + done, static_cast<JDIMENSION>(count - done)));
+                done += int(jpeg_read_scanlines(&info, rows + done, static_cast<JDIMENSION>(count - done)));
         });
         if (inks)
             inksToRgb(inkRow.data(), bitmap.row(y), bitmap.width(), info.saw_Adobe_marker);
@@ -258,7 +258,7 @@ void writeSegments(Writer &writer, const WriteRequest &request)
     Bytes segment;
 
     const auto put = [&](int marker, const Bytes &data) {
-        guarded(writer.error, [&] { jpeg_write_marker(&writer.info, marker, data.data(), static_cast<unsigned>(data.size())); });
+        guarded(writer.error, [&] { jpeg_write_marker(&writer.info, marker, data.data(), unsigned(data.size())); });
     };
     if (!block.empty())
         put(JPEG_APP0 + 1, exif);
@@ -271,8 +271,7 @@ void writeSegments(Writer &writer, const WriteRequest &request)
     }
     // A profile is cut into at most 255 segments.
     if (!request.icc.empty() && request.icc.size() <= 255 * std::size_t(65519))
-        guarded(writer.error,
-                [&] { jpeg_write_icc_profile(&writer.info, request.icc.data(), static_cast<unsigned>(request.icc.size())); });
+        guarded(writer.error, [&] { jpeg_write_icc_profile(&writer.info, request.icc.data(), unsigned(request.icc.size())); });
 }
 
 /// Copies the segments as they stand, but for the two that the library writes itself.

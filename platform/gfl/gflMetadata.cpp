@@ -54,7 +54,7 @@ bool isCarried(const Exiv2::Exifdatum &datum)
                         [&](const char *name) { return group.compare(0, std::strlen(name), name) == 0; });
 }
 
-template<class Drop>
+template<typename Drop>
 void dropFrom(Exiv2::ExifData &data, Drop drop)
 {
     for (auto at = data.begin(); at != data.end();)
@@ -91,8 +91,7 @@ void addRationals(Exiv2::ExifData &data, const char *key, const double *values, 
     constexpr std::uint32_t kDenominator = 1000000;
     Exiv2::URationalValue rationals;
     for (int i = 0; i < count; ++i)
-        rationals.value_.emplace_back(static_cast<std::uint32_t>(std::lround(std::clamp(values[i], 0.0, 1.0) * kDenominator)),
-                                      kDenominator);
+        rationals.value_.emplace_back(std::uint32_t(std::lround(std::clamp(values[i], 0.0, 1.0) * kDenominator)), kDenominator);
     data.add(Exiv2::ExifKey(key), &rationals);
 }
 
@@ -100,8 +99,8 @@ void addRationals(Exiv2::ExifData &data, const char *key, const double *values, 
 Exiv2::URational fraction(double value)
 {
     if (value < 1)
-        return {1, static_cast<std::uint32_t>(std::lround(std::min(1 / value, 4e9)))};
-    return {static_cast<std::uint32_t>(std::lround(std::min(value, 4e8) * 10)), 10};
+        return {1, std::uint32_t(std::lround(std::min(1 / value, 4e9)))};
+    return {std::uint32_t(std::lround(std::min(value, 4e8) * 10)), 10};
 }
 
 } // namespace
@@ -142,7 +141,7 @@ void appendPhotoshopResource(Bytes &section, unsigned id, const Bytes &data)
     section.insert(section.end(), {'8', 'B', 'I', 'M'});
     putBig16(section, id);
     putBig16(section, 0); // no name
-    putBig32(section, static_cast<std::uint32_t>(data.size()));
+    putBig32(section, std::uint32_t(data.size()));
     section.insert(section.end(), data.begin(), data.end());
     if (data.size() % 2)
         section.push_back(0);
@@ -234,8 +233,8 @@ FileMetadata metadataFromFile(const std::string &fileName, bool raw)
             const std::lock_guard lock(xmpMutex);
             image->readMetadata();
         }
-        result.width = static_cast<int>(image->pixelWidth());
-        result.height = static_cast<int>(image->pixelHeight());
+        result.width = int(image->pixelWidth());
+        result.height = int(image->pixelHeight());
         Exiv2::ExifData &data = image->exifData();
         dropFrom(data, [](const Exiv2::Exifdatum &datum) { return !isCarried(datum); });
         result.exif = encoded(data, image->byteOrder());
@@ -257,7 +256,7 @@ Bytes shrinkExif(const Bytes &exif, std::size_t limit)
     startExiv2();
     try {
         Exiv2::ExifData data;
-        const Exiv2::ByteOrder order = Exiv2::ExifParser::decode(data, exif.data(), static_cast<std::uint32_t>(exif.size()));
+        const Exiv2::ByteOrder order = Exiv2::ExifParser::decode(data, exif.data(), std::uint32_t(exif.size()));
         dropFrom(data, [](const Exiv2::Exifdatum &datum) { return datum.groupName() == "Thumbnail"; });
         const Bytes smaller = encoded(data, order); // leaves out large unknown tags on its own
         if (smaller.size() <= limit)
@@ -275,7 +274,7 @@ ExposureFacts exposureFacts(const Bytes &exif)
         return facts;
     try {
         Exiv2::ExifData data;
-        Exiv2::ExifParser::decode(data, exif.data(), static_cast<std::uint32_t>(exif.size()));
+        Exiv2::ExifParser::decode(data, exif.data(), std::uint32_t(exif.size()));
         facts.exposureSeconds = realValue(data, "Exif.Photo.ExposureTime");
         facts.aperture = realValue(data, "Exif.Photo.FNumber");
         facts.isoSpeed = realValue(data, "Exif.Photo.ISOSpeedRatings");
@@ -303,7 +302,7 @@ Bytes exifFromFacts(const ExposureFacts &facts)
         if (facts.aperture > 0)
             data["Exif.Photo.FNumber"] = fraction(facts.aperture);
         if (facts.isoSpeed >= 1 && facts.isoSpeed <= 65535)
-            data["Exif.Photo.ISOSpeedRatings"] = static_cast<std::uint16_t>(facts.isoSpeed);
+            data["Exif.Photo.ISOSpeedRatings"] = std::uint16_t(facts.isoSpeed);
         if (facts.chromaticities[0] > 0) {
             addRationals(data, kPrimaries, facts.chromaticities, 6);
             addRationals(data, kWhitePoint, facts.chromaticities + 6, 2);
@@ -332,7 +331,7 @@ Bytes exifFromTexts(const std::vector<std::pair<std::uint16_t, std::string>> &te
         for (const auto &[tag, text] : texts)
             data[Exiv2::ExifKey(tag, "Image").key()] = text;
         if (orientation > 0)
-            data["Exif.Image.Orientation"] = static_cast<std::uint16_t>(orientation);
+            data["Exif.Image.Orientation"] = std::uint16_t(orientation);
         return encoded(data, Exiv2::littleEndian);
     } catch (const Exiv2::AnyError &) {
         return {};

@@ -31,7 +31,7 @@ struct Reader
 };
 
 // The library's own jump buffer is set here. Its calls may jump out, so `call` must not make objects that have a destructor.
-template<class Call>
+template<typename Call>
 void guarded(png_structp png, Call call)
 {
     if (setjmp(png_jmpbuf(png)))
@@ -151,7 +151,7 @@ Bytes rawProfile(const Bytes &text)
         if (high < 0) {
             high = digit;
         } else {
-            result.push_back(static_cast<std::uint8_t>(high * 16 + digit));
+            result.push_back(std::uint8_t(high * 16 + digit));
             high = -1;
         }
     }
@@ -227,7 +227,7 @@ void collect(const InputFile &file, Metadata &metadata)
 void writeChunk(OutputFile &file, const char *type, const std::uint8_t *data, std::size_t count)
 {
     Bytes head;
-    putBig32(head, static_cast<std::uint32_t>(count));
+    putBig32(head, std::uint32_t(count));
     head.insert(head.end(), type, type + 4);
     std::uint32_t check = libdeflate_crc32(0, head.data() + 4, 4);
     if (count > 0) // without a buffer the library starts anew
@@ -319,7 +319,7 @@ public:
     {
         unsigned long best = std::numeric_limits<unsigned long>::max();
         for (const int kind : {kUp, kSub, kPaeth}) {
-            candidate[0] = static_cast<std::uint8_t>(kind);
+            candidate[0] = std::uint8_t(kind);
             const unsigned long sum = apply(kind, candidate.data() + 1);
             if (sum < best) {
                 best = sum;
@@ -342,26 +342,26 @@ private:
         const std::uint8_t *c = above.data();
         if (kind == kUp) {
             for (std::size_t i = 0; i < rowBytes; ++i)
-                out[i] = static_cast<std::uint8_t>(x[i] - b[i]);
+                out[i] = std::uint8_t(x[i] - b[i]);
         } else if (kind == kSub) {
             for (std::size_t i = 0; i < rowBytes; ++i)
-                out[i] = static_cast<std::uint8_t>(x[i] - a[i]);
+                out[i] = std::uint8_t(x[i] - a[i]);
         } else {
             for (std::size_t i = 0; i < rowBytes; ++i) {
-                const short toA = static_cast<short>(b[i] - c[i]); // p - a, where p = a + b - c
-                const short toB = static_cast<short>(a[i] - c[i]);
-                const short toC = static_cast<short>(toA + toB);
-                const short sizeA = static_cast<short>(toA < 0 ? -toA : toA);
-                const short sizeB = static_cast<short>(toB < 0 ? -toB : toB);
-                const short sizeC = static_cast<short>(toC < 0 ? -toC : toC);
+                const short toA = short(b[i] - c[i]); // p - a, where p = a + b - c
+                const short toB = short(a[i] - c[i]);
+                const short toC = short(toA + toB);
+                const short sizeA = short(toA < 0 ? -toA : toA);
+                const short sizeB = short(toB < 0 ? -toB : toB);
+                const short sizeC = short(toC < 0 ? -toC : toC);
                 const std::uint8_t nearestBc = sizeB <= sizeC ? b[i] : c[i];
                 const std::uint8_t nearest = sizeA <= std::min(sizeB, sizeC) ? a[i] : nearestBc;
-                out[i] = static_cast<std::uint8_t>(x[i] - nearest);
+                out[i] = std::uint8_t(x[i] - nearest);
             }
         }
         unsigned long sum = 0;
         for (std::size_t i = 0; i < rowBytes; ++i)
-            sum += static_cast<std::uint8_t>(out[i] < 128 ? out[i] : 256 - out[i]);
+            sum += std::uint8_t(out[i] < 128 ? out[i] : 256 - out[i]);
         return sum;
     }
 
@@ -409,14 +409,14 @@ void writeStreaming(const WriteRequest &request, Form form, std::size_t rowBytes
     RowFilter filter(rowBytes, form.pixelBytes());
     const auto startChunk = [&] {
         stream.next_out = packed.data();
-        stream.avail_out = static_cast<unsigned>(packed.size());
+        stream.avail_out = unsigned(packed.size());
     };
     startChunk();
     for (int y = 0; y < bitmap.height; ++y) {
         swapSamples(rows.row(y), filter.next(), form.bits == 16 ? rowBytes / 2 : rowBytes, form.bits);
         filter.filter(filtered.data());
         stream.next_in = filtered.data();
-        stream.avail_in = static_cast<unsigned>(filtered.size());
+        stream.avail_in = unsigned(filtered.size());
         const int flush = y + 1 == bitmap.height ? Z_FINISH : Z_NO_FLUSH;
         for (bool more = true; more;) {
             const int state = deflate(&stream, flush);
@@ -480,9 +480,9 @@ void writePng(const WriteRequest &request)
 
     request.file.write(kSignature, sizeof kSignature);
     Bytes header;
-    putBig32(header, static_cast<std::uint32_t>(bitmap.width));
-    putBig32(header, static_cast<std::uint32_t>(bitmap.height));
-    header.push_back(static_cast<std::uint8_t>(form.bits));
+    putBig32(header, std::uint32_t(bitmap.width));
+    putBig32(header, std::uint32_t(bitmap.height));
+    header.push_back(std::uint8_t(form.bits));
     header.push_back(form.components == 1   ? PNG_COLOR_TYPE_GRAY
                      : form.components == 3 ? PNG_COLOR_TYPE_RGB
                                             : PNG_COLOR_TYPE_RGB_ALPHA);
@@ -490,8 +490,8 @@ void writePng(const WriteRequest &request)
     writeChunk(request.file, "IHDR", header);
     if (bitmap.xDpi && bitmap.yDpi) {
         Bytes resolution;
-        putBig32(resolution, static_cast<std::uint32_t>(bitmap.xDpi / kMetresPerInch + 0.5));
-        putBig32(resolution, static_cast<std::uint32_t>(bitmap.yDpi / kMetresPerInch + 0.5));
+        putBig32(resolution, std::uint32_t(bitmap.xDpi / kMetresPerInch + 0.5));
+        putBig32(resolution, std::uint32_t(bitmap.yDpi / kMetresPerInch + 0.5));
         resolution.push_back(PNG_RESOLUTION_METER);
         writeChunk(request.file, "pHYs", resolution);
     }

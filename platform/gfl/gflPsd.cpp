@@ -98,7 +98,7 @@ private:
             const int code = byte < 128 ? byte : byte - 256;
             if (code == -128)
                 continue;
-            const std::size_t count = static_cast<std::size_t>(code < 0 ? 1 - code : code + 1);
+            const std::size_t count = std::size_t(code < 0 ? 1 - code : code + 1);
             if (count > row.size() - out)
                 throw Failure{GFL_ERROR_FILE_READ};
             if (code < 0)
@@ -123,7 +123,7 @@ std::vector<std::uint64_t> channelStarts(const InputFile &file, const Header &he
     ByteReader reader(file);
     reader.seek(header.pixels);
     const unsigned packing = reader.u16();
-    const unsigned channels = static_cast<unsigned>(header.channels);
+    const unsigned channels = unsigned(header.channels);
     std::vector<std::uint64_t> starts;
     if (packing == Plain) {
         for (unsigned c = 0; c < channels; ++c)
@@ -143,7 +143,7 @@ std::vector<std::uint64_t> channelStarts(const InputFile &file, const Header &he
     return starts;
 }
 
-template<class Sample>
+template<typename Sample>
 void spread(const std::uint8_t *plane, std::uint8_t *pixels, int width, int components)
 {
     auto *target = reinterpret_cast<Sample *>(pixels);
@@ -155,7 +155,7 @@ void spread(const std::uint8_t *plane, std::uint8_t *pixels, int width, int comp
 }
 
 // The inks are stored inverted: full scale is no ink.
-template<class Sample>
+template<typename Sample>
 void inksToRgb(const Sample *inks, Sample *rgb, int width)
 {
     constexpr unsigned full = std::numeric_limits<Sample>::max();
@@ -229,7 +229,7 @@ void appendPacked(Bytes &out, const std::uint8_t *row, std::size_t bytes)
     for (std::size_t at = 0; at < bytes;) {
         std::size_t run = runAt(at);
         if (run >= kWorthwhile) {
-            out.push_back(static_cast<std::uint8_t>(257 - run));
+            out.push_back(std::uint8_t(257 - run));
             out.push_back(row[at]);
             at += run;
             continue;
@@ -237,12 +237,12 @@ void appendPacked(Bytes &out, const std::uint8_t *row, std::size_t bytes)
         const std::size_t start = at;
         while (at < bytes && at - start < kLongest && (run = runAt(at)) < kWorthwhile)
             at = std::min(at + run, start + kLongest);
-        out.push_back(static_cast<std::uint8_t>(at - start - 1));
+        out.push_back(std::uint8_t(at - start - 1));
         out.insert(out.end(), row + start, row + at);
     }
 }
 
-template<class Sample>
+template<typename Sample>
 void gather(const std::uint8_t *pixels, int component, int components, int width, Bytes &plane)
 {
     const auto *source = reinterpret_cast<const Sample *>(pixels) + component;
@@ -266,7 +266,7 @@ Bytes resourcesOf(const WriteRequest &request)
         appendPhotoshopResource(section, kResourceResolution, resolution);
     }
     if (bitmap.componentsPerPixel == 4) {
-        Bytes names(1, static_cast<std::uint8_t>(sizeof kAlphaName - 1));
+        Bytes names(1, std::uint8_t(sizeof kAlphaName - 1));
         names.insert(names.end(), kAlphaName, kAlphaName + sizeof kAlphaName - 1);
         appendPhotoshopResource(section, kResourceAlphaNames, names);
     }
@@ -349,15 +349,15 @@ void writePsd(const WriteRequest &request)
     // Floats don't pack in runs of bytes.
     const bool runs = request.compression != 0 && bitmap.bitsPerComponent < 32;
 
-    Bytes head{'8', 'B', 'P', 'S', 0, static_cast<std::uint8_t>(large ? 2 : 1), 0, 0, 0, 0, 0, 0};
-    putBig16(head, static_cast<unsigned>(components));
-    putBig32(head, static_cast<std::uint32_t>(bitmap.height));
-    putBig32(head, static_cast<std::uint32_t>(bitmap.width));
+    Bytes head{'8', 'B', 'P', 'S', 0, std::uint8_t(large ? 2 : 1), 0, 0, 0, 0, 0, 0};
+    putBig16(head, unsigned(components));
+    putBig32(head, std::uint32_t(bitmap.height));
+    putBig32(head, std::uint32_t(bitmap.width));
     putBig16(head, bitmap.bitsPerComponent);
     putBig16(head, components == 1 ? Grey : Rgb);
     putBig32(head, 0); // no palette
     const Bytes resources = resourcesOf(request);
-    putBig32(head, static_cast<std::uint32_t>(resources.size()));
+    putBig32(head, std::uint32_t(resources.size()));
     head.insert(head.end(), resources.begin(), resources.end());
     for (int i = 0; i < (large ? 2 : 1); ++i)
         putBig32(head, 0); // no layers
@@ -368,9 +368,9 @@ void writePsd(const WriteRequest &request)
     Bytes counts;
     const auto addCount = [&](std::size_t count) {
         if (large)
-            putBig32(counts, static_cast<std::uint32_t>(count));
+            putBig32(counts, std::uint32_t(count));
         else
-            putBig16(counts, static_cast<unsigned>(count));
+            putBig16(counts, unsigned(count));
     };
     if (runs) { // filled in at the end
         for (int i = 0; i < bitmap.height * components; ++i)

@@ -12,7 +12,7 @@
 namespace gfl {
 namespace {
 
-template<class Source, class Target, int sourceComponents, int targetComponents>
+template<typename Source, typename Target, int sourceComponents, int targetComponents>
 void convertPixels(const Source *source, Target *target, int width)
 {
     constexpr auto opaque = static_cast<Target>(kFullScale<Target>);
@@ -24,7 +24,7 @@ void convertPixels(const Source *source, Target *target, int width)
     }
 }
 
-template<class Source, class Target>
+template<typename Source, typename Target>
 void convertRow(const void *source, int sourceComponents, void *target, int targetComponents, int width)
 {
     const auto *from = static_cast<const Source *>(source);
@@ -69,7 +69,7 @@ void swapSamples(const void *source, void *target, std::size_t count, int bits)
         const auto *from = static_cast<const std::uint16_t *>(source);
         auto *to = static_cast<std::uint16_t *>(target);
         for (std::size_t i = 0; i < count; ++i)
-            to[i] = static_cast<std::uint16_t>(from[i] << 8 | from[i] >> 8);
+            to[i] = std::uint16_t(from[i] << 8 | from[i] >> 8);
     } else if (bits == 32) {
         const auto *from = static_cast<const std::uint32_t *>(source);
         auto *to = static_cast<std::uint32_t *>(target);
@@ -117,18 +117,18 @@ NewBitmap::NewBitmap(const InputFile &file, std::int64_t width, std::int64_t hei
     *record = GflBitmap{};
     bitmap.reset(record);
     record->type = form.components == 1 ? 0x0002 : form.components == 3 ? 0x0010 : 0x0020;
-    record->width = static_cast<std::int32_t>(width);
-    record->height = static_cast<std::int32_t>(height);
-    record->bytesPerLine = static_cast<std::uint32_t>(stride);
+    record->width = std::int32_t(width);
+    record->height = std::int32_t(height);
+    record->bytesPerLine = std::uint32_t(stride);
     record->lineAlignment = 4;
-    record->bitsPerComponent = static_cast<std::uint16_t>(form.bits);
-    record->componentsPerPixel = static_cast<std::uint16_t>(form.components);
-    record->bytesPerPixel = static_cast<std::uint16_t>(form.pixelBytes());
+    record->bitsPerComponent = std::uint16_t(form.bits);
+    record->componentsPerPixel = std::uint16_t(form.components);
+    record->bytesPerPixel = std::uint16_t(form.pixelBytes());
     record->transparentIndex = -1;
     record->colorUsed = form.components == 1 ? 256 : 0;
 
     const std::uint64_t total = std::uint64_t(stride) * std::uint64_t(height);
-    firstBytes = static_cast<std::size_t>(firstBlock(total, file.size()));
+    firstBytes = std::size_t(firstBlock(total, file.size()));
 }
 
 std::uint8_t *NewBitmap::row(int y)
@@ -150,7 +150,7 @@ std::uint8_t *NewBitmap::row(int y)
 int NewBitmap::rowsFrom(int y)
 {
     row(y);
-    return static_cast<int>(capacity / bitmap->bytesPerLine) - y;
+    return int(capacity / bitmap->bytesPerLine) - y;
 }
 
 } // namespace gfl

@@ -39,7 +39,7 @@ std::unique_ptr<TIFFOpenOptions, OptionsFree> quietOptions()
     return options;
 }
 
-template<class T>
+template<typename T>
 T field(TIFF *tiff, std::uint32_t tag, T fallback)
 {
     T value = fallback;
@@ -61,7 +61,7 @@ struct ReadHandle
 tmsize_t onRead(thandle_t handle, void *target, tmsize_t bytes)
 {
     auto *source = static_cast<ReadHandle *>(handle);
-    const std::size_t got = source->file->readAt(source->position, target, static_cast<std::size_t>(bytes));
+    const std::size_t got = source->file->readAt(source->position, target, std::size_t(bytes));
     source->position += got;
     return static_cast<tmsize_t>(got);
 }
@@ -202,8 +202,7 @@ Layout readLayout(TIFF *tiff)
 class PlaneRows
 {
 public:
-    PlaneRows(const InputFile &file, const Layout &shape, int plane)
-        : tiff(file), layout(shape), sample(static_cast<std::uint16_t>(plane))
+    PlaneRows(const InputFile &file, const Layout &shape, int plane) : tiff(file), layout(shape), sample(std::uint16_t(plane))
     {
         readLayout(tiff.get()); // for its setting of the colour mode
         const std::uint64_t samples = layout.planar ? 1 : unsigned(layout.samples);
@@ -223,8 +222,8 @@ public:
             std::uint64_t(tileWidth) * samples * unsigned(layout.bits) / 8 > tileRowBytes ||
             std::uint64_t(tileWidth) * samples * unsigned(layout.bits) % 8 != 0)
             throw Failure{GFL_ERROR_FILE_READ};
-        tile.resize(static_cast<std::size_t>(tileBytes));
-        band.resize(static_cast<std::size_t>(rowBytes * tileHeight));
+        tile.resize(std::size_t(tileBytes));
+        band.resize(std::size_t(rowBytes * tileHeight));
     }
 
     /// Reads row `y` to `target`; call it for each row in order.
@@ -237,10 +236,10 @@ public:
         }
         if (y % tileHeight == 0)
             readBand(y);
-        std::memcpy(target, band.data() + std::size_t(rowBytes) * (y % tileHeight), static_cast<std::size_t>(rowBytes));
+        std::memcpy(target, band.data() + std::size_t(rowBytes) * (y % tileHeight), std::size_t(rowBytes));
     }
 
-    std::size_t bytes() const { return static_cast<std::size_t>(rowBytes); }
+    std::size_t bytes() const { return std::size_t(rowBytes); }
     TIFF *handle() const { return tiff.get(); }
 
 private:
@@ -251,7 +250,7 @@ private:
         for (std::uint32_t x = 0; x < layout.width; x += tileWidth, at += tileRowBytes) {
             if (TIFFReadTile(tiff.get(), tile.data(), x, y, 0, sample) < 0)
                 throw Failure{GFL_ERROR_FILE_READ};
-            const std::size_t part = static_cast<std::size_t>(std::min(tileRowBytes, rowBytes - at));
+            const std::size_t part = std::size_t(std::min(tileRowBytes, rowBytes - at));
             for (std::uint32_t i = 0; i < rows; ++i)
                 std::memcpy(band.data() + rowBytes * i + at, tile.data() + tileRowBytes * i, part);
             if (layout.width - x <= tileWidth)
@@ -274,10 +273,10 @@ float halfToFloat(std::uint16_t half)
 {
     const int exponent = half >> 10 & 31;
     const int mantissa = half & 1023;
-    const float size = exponent == 0 ? std::ldexp(static_cast<float>(mantissa), -24)
+    const float size = exponent == 0 ? std::ldexp(float(mantissa), -24)
                        : exponent == 31
                            ? (mantissa ? std::numeric_limits<float>::quiet_NaN() : std::numeric_limits<float>::infinity())
-                           : std::ldexp(static_cast<float>(mantissa + 1024), exponent - 25);
+                           : std::ldexp(float(mantissa + 1024), exponent - 25);
     return half & 0x8000 ? -size : size;
 }
 
@@ -295,15 +294,14 @@ void unpack(const std::uint8_t *source, const Layout &layout, std::size_t count,
             double value;
             std::memcpy(&value, source + i * sizeof value, sizeof value);
             constexpr double kLargest = std::numeric_limits<float>::max(); // beyond it the conversion is not defined
-            floats[i] =
-                std::isfinite(value) ? static_cast<float>(std::clamp(value, -kLargest, kLargest)) : static_cast<float>(value);
+            floats[i] = std::isfinite(value) ? float(std::clamp(value, -kLargest, kLargest)) : float(value);
         }
     } else if (layout.sampleFormat == SAMPLEFORMAT_IEEEFP) {
         std::memcpy(floats, source, count * sizeof(float));
     } else if (layout.bits == 32) {
         const auto *values = reinterpret_cast<const std::uint32_t *>(source);
         for (std::size_t i = 0; i < count; ++i)
-            floats[i] = static_cast<float>(double(values[i]) / 4294967295.0);
+            floats[i] = float(double(values[i]) / 4294967295.0);
     } else if (layout.bits == 16) {
         std::memcpy(integers, source, count * sizeof(std::uint16_t));
     } else {
@@ -317,13 +315,13 @@ void unpack(const std::uint8_t *source, const Layout &layout, std::size_t count,
             }
             held -= layout.bits;
             const unsigned value = window >> held & largest;
-            integers[i] = static_cast<std::uint16_t>(index ? value : (value * 65535u + largest / 2) / largest);
+            integers[i] = std::uint16_t(index ? value : (value * 65535u + largest / 2) / largest);
         }
     }
 }
 
 /// From unpacked samples to the bitmap's form.
-template<class Sample>
+template<typename Sample>
 void arrange(const Sample *source, const Layout &layout, Sample *target)
 {
     constexpr bool real = std::is_same_v<Sample, float>;
@@ -331,11 +329,9 @@ void arrange(const Sample *source, const Layout &layout, Sample *target)
     const int out = layout.form.components;
     for (std::uint32_t x = 0; x < layout.width; ++x, source += layout.samples, target += out) {
         if (layout.colours == 4) {
-            const float key = static_cast<float>(full) - static_cast<float>(source[3]);
+            const float key = float(full) - float(source[3]);
             for (int c = 0; c < 3; ++c)
-                target[c] = static_cast<Sample>((static_cast<float>(full) - static_cast<float>(source[c])) * key /
-                                                    static_cast<float>(full) +
-                                                (real ? 0.0f : 0.5f));
+                target[c] = static_cast<Sample>((float(full) - float(source[c])) * key / float(full) + (real ? 0.0f : 0.5f));
             continue;
         }
         for (int c = 0; c < std::min(out, 3); ++c) {
@@ -348,9 +344,8 @@ void arrange(const Sample *source, const Layout &layout, Sample *target)
         target[3] = alpha;
         if (layout.alpha == Alpha::Associated && alpha > 0)
             for (int c = 0; c < 3; ++c) {
-                const float straight = static_cast<float>(target[c]) * (static_cast<float>(full) / static_cast<float>(alpha));
-                target[c] = real ? static_cast<Sample>(straight)
-                                 : static_cast<Sample>(std::min(straight + 0.5f, static_cast<float>(full)));
+                const float straight = float(target[c]) * (float(full) / float(alpha));
+                target[c] = real ? static_cast<Sample>(straight) : static_cast<Sample>(std::min(straight + 0.5f, float(full)));
             }
     }
 }
@@ -364,7 +359,7 @@ void applyPalette(const std::uint16_t *indices, const Layout &layout, const Pale
 {
     for (std::uint32_t x = 0; x < layout.width; ++x, indices += layout.samples, target += 3)
         for (int c = 0; c < 3; ++c)
-            target[c] = static_cast<std::uint8_t>((palette.channels[c][*indices] + 128u) / 257u);
+            target[c] = std::uint8_t((palette.channels[c][*indices] + 128u) / 257u);
 }
 
 void readOurs(const InputFile &file, const Layout &layout, NewBitmap &bitmap)
@@ -380,7 +375,7 @@ void readOurs(const InputFile &file, const Layout &layout, NewBitmap &bitmap)
                           layout.photometric != PHOTOMETRIC_MINISWHITE && layout.photometric != PHOTOMETRIC_PALETTE;
     if (straight) {
         for (std::uint32_t y = 0; y < layout.height; ++y)
-            planes[0]->read(y, bitmap.row(static_cast<int>(y)));
+            planes[0]->read(y, bitmap.row(int(y)));
         return;
     }
 
@@ -417,7 +412,7 @@ void readOurs(const InputFile &file, const Layout &layout, NewBitmap &bitmap)
                     integers[at] = integerPlane[x];
             }
         }
-        std::uint8_t *target = bitmap.row(static_cast<int>(y));
+        std::uint8_t *target = bitmap.row(int(y));
         if (indexed) {
             applyPalette(integers.data(), layout, palette, target);
         } else if (real) {
@@ -466,16 +461,16 @@ void readByLibrary(const OpenTiff &open, const InputFile &file, const Layout &la
     std::vector<std::uint32_t> raster(std::size_t(rowsPerBand) * layout.width);
     for (std::uint32_t y = 0; y < layout.height; y += rowsPerBand) {
         const std::uint32_t rows = std::min(rowsPerBand, layout.height - y);
-        image.row_offset = static_cast<int>(y);
+        image.row_offset = int(y);
         if (!TIFFRGBAImageGet(&image, raster.data(), layout.width, rows))
             throw Failure{GFL_ERROR_FILE_READ};
         for (std::uint32_t i = 0; i < rows; ++i) {
             const std::uint32_t *source = raster.data() + std::size_t(i) * layout.width;
-            std::uint8_t *target = bitmap.row(static_cast<int>(y + i));
+            std::uint8_t *target = bitmap.row(int(y + i));
             for (std::uint32_t x = 0; x < layout.width; ++x, target += 3) {
-                target[0] = static_cast<std::uint8_t>(TIFFGetR(source[x]));
-                target[1] = static_cast<std::uint8_t>(TIFFGetG(source[x]));
-                target[2] = static_cast<std::uint8_t>(TIFFGetB(source[x]));
+                target[0] = std::uint8_t(TIFFGetR(source[x]));
+                target[1] = std::uint8_t(TIFFGetG(source[x]));
+                target[2] = std::uint8_t(TIFFGetB(source[x]));
             }
         }
     }
@@ -528,12 +523,12 @@ void readMetadata(const InputFile &file, TIFF *tiff, Metadata &metadata)
 
 tmsize_t onWrite(thandle_t handle, void *source, tmsize_t bytes)
 {
-    return static_cast<OutputFile *>(handle)->tryWrite(source, static_cast<std::size_t>(bytes)) ? bytes : -1;
+    return static_cast<OutputFile *>(handle)->tryWrite(source, std::size_t(bytes)) ? bytes : -1;
 }
 
 tmsize_t onReadBack(thandle_t handle, void *target, tmsize_t bytes)
 {
-    return static_cast<tmsize_t>(static_cast<OutputFile *>(handle)->readBack(target, static_cast<std::size_t>(bytes)));
+    return static_cast<tmsize_t>(static_cast<OutputFile *>(handle)->readBack(target, std::size_t(bytes)));
 }
 
 toff_t onWriteSeek(thandle_t handle, toff_t offset, int whence)
@@ -557,8 +552,8 @@ void checked(bool done)
 void setFields(TIFF *tiff, const WriteRequest &request, std::uint16_t compression)
 {
     const GflBitmap &bitmap = request.bitmap;
-    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, static_cast<std::uint32_t>(bitmap.width));
-    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, static_cast<std::uint32_t>(bitmap.height));
+    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, std::uint32_t(bitmap.width));
+    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, std::uint32_t(bitmap.height));
     TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, bitmap.bitsPerComponent);
     TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, bitmap.componentsPerPixel);
     TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, bitmap.componentsPerPixel == 1 ? PHOTOMETRIC_MINISBLACK : PHOTOMETRIC_RGB);
@@ -573,13 +568,13 @@ void setFields(TIFF *tiff, const WriteRequest &request, std::uint16_t compressio
         TIFFSetField(tiff, TIFFTAG_PREDICTOR, bitmap.bitsPerComponent == 32 ? PREDICTOR_FLOATINGPOINT : PREDICTOR_HORIZONTAL);
     if (bitmap.xDpi && bitmap.yDpi) {
         TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
-        TIFFSetField(tiff, TIFFTAG_XRESOLUTION, static_cast<double>(bitmap.xDpi));
-        TIFFSetField(tiff, TIFFTAG_YRESOLUTION, static_cast<double>(bitmap.yDpi));
+        TIFFSetField(tiff, TIFFTAG_XRESOLUTION, double(bitmap.xDpi));
+        TIFFSetField(tiff, TIFFTAG_YRESOLUTION, double(bitmap.yDpi));
     }
     if (!request.icc.empty())
-        TIFFSetField(tiff, TIFFTAG_ICCPROFILE, static_cast<std::uint32_t>(request.icc.size()), request.icc.data());
+        TIFFSetField(tiff, TIFFTAG_ICCPROFILE, std::uint32_t(request.icc.size()), request.icc.data());
     if (!request.iptc.empty()) // counted in bytes by this library
-        TIFFSetField(tiff, TIFFTAG_RICHTIFFIPTC, static_cast<std::uint32_t>(request.iptc.size()), request.iptc.data());
+        TIFFSetField(tiff, TIFFTAG_RICHTIFFIPTC, std::uint32_t(request.iptc.size()), request.iptc.data());
 }
 
 void setTexts(TIFF *tiff, const Bytes &exif)
@@ -600,8 +595,8 @@ void writeStrips(TIFF *tiff, const GflBitmap &bitmap, bool swap, bool packed)
 {
     const std::size_t rowBytes = std::size_t(bitmap.width) * bitmap.bytesPerPixel;
     constexpr std::size_t kStripBytes = 256 * 1024;
-    const int rowsPerStrip = static_cast<int>(std::clamp<std::size_t>(kStripBytes / rowBytes, 1, std::size_t(bitmap.height)));
-    TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, static_cast<std::uint32_t>(rowsPerStrip));
+    const int rowsPerStrip = int(std::clamp<std::size_t>(kStripBytes / rowBytes, 1, std::size_t(bitmap.height)));
+    TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, std::uint32_t(rowsPerStrip));
 
     // The library changes what it packs, so that goes by way of a strip of our own.
     const bool direct = !packed && !swap && bitmap.bytesPerLine == rowBytes;
@@ -665,15 +660,15 @@ void mergeDirectories(OutputFile &file, const Bytes &exif)
     const bool bigEndian = carried.order() == ByteOrder::Big;
     const auto put = [&](Bytes &bytes, std::uint32_t value, int count) {
         for (int i = 0; i < count; ++i)
-            bytes.push_back(static_cast<std::uint8_t>(value >> 8 * (bigEndian ? count - 1 - i : i)));
+            bytes.push_back(std::uint8_t(value >> 8 * (bigEndian ? count - 1 - i : i)));
     };
-    Bytes directory(static_cast<std::size_t>(start - fileBytes), 0);
-    put(directory, static_cast<std::uint32_t>(entries.size()), 2);
+    Bytes directory(std::size_t(start - fileBytes), 0);
+    put(directory, std::uint32_t(entries.size()), 2);
     for (const IfdEntry &entry : entries)
         directory.insert(directory.end(), entry.raw, entry.raw + sizeof entry.raw);
     put(directory, 0, 4); // no further directory
     Bytes pointer;
-    put(pointer, static_cast<std::uint32_t>(start), 4);
+    put(pointer, std::uint32_t(start), 4);
     checked(file.trySeek(fileBytes));
     file.write(directory);
     checked(file.trySeek(4));

@@ -167,10 +167,10 @@ IppStatus ippiScale(const void *source, int sourceStep, int sourceBits, void *ta
 {
     if (!isDepth(sourceBits) || !isDepth(targetBits) || channels < 1 || channels > 4)
         return ippStsSizeErr;
-    const std::size_t samples = static_cast<std::size_t>(size.width) * static_cast<std::size_t>(channels);
+    const std::size_t samples = std::size_t(size.width) * std::size_t(channels);
     return overRows(source, sourceStep, target, targetStep, size, [&](const unsigned char *from, unsigned char *to) {
         if (sourceBits == targetBits)
-            std::memcpy(to, from, samples * static_cast<std::size_t>(sourceBits / 8));
+            std::memcpy(to, from, samples * std::size_t(sourceBits / 8));
         else
             scaleAnyRow(sourceBits, targetBits, from, to, samples);
     });
@@ -186,7 +186,7 @@ IppStatus ippiCopy(const void *source, int sourceStep, int sourceChannels, void 
     if (!isDepth(bits) || !(drops || adds))
         return ippStsSizeErr;
     return overRows(source, sourceStep, target, targetStep, size, [&](const unsigned char *from, unsigned char *to) {
-        copyAnyRow(bits, sourceChannels, targetChannels, from, to, static_cast<std::size_t>(size.width), alpha);
+        copyAnyRow(bits, sourceChannels, targetChannels, from, to, std::size_t(size.width), alpha);
     });
 }
 
@@ -196,7 +196,7 @@ IppStatus ippiRGBToGray(const void *source, int sourceStep, int sourceChannels, 
     if (!isDepth(bits) || (sourceChannels != 3 && sourceChannels != 4))
         return ippStsSizeErr;
     return overRows(source, sourceStep, target, targetStep, size, [&](const unsigned char *from, unsigned char *to) {
-        greyAnyRow(bits, sourceChannels, from, to, static_cast<std::size_t>(size.width));
+        greyAnyRow(bits, sourceChannels, from, to, std::size_t(size.width));
     });
 }
 
@@ -207,7 +207,6 @@ IppStatus ippiSwapChannels(void *raster, int step, IppiSize size, const int orde
     for (int channel = 0; channel < 4; ++channel)
         if (order[channel] < 0 || order[channel] > 3)
             return ippStsSizeErr;
-    return overRows(raster, step, raster, step, size, [&](const unsigned char *, unsigned char *pixels) {
-        swapRow(pixels, static_cast<std::size_t>(size.width), order);
-    });
+    return overRows(raster, step, raster, step, size,
+                    [&](const unsigned char *, unsigned char *pixels) { swapRow(pixels, std::size_t(size.width), order); });
 }

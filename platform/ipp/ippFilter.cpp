@@ -42,7 +42,7 @@ template<typename T>
 IPP_INLINE T *rowOf(T *first, int stepBytes, int row)
 {
     using Byte = std::conditional_t<std::is_const_v<T>, const unsigned char, unsigned char>;
-    return reinterpret_cast<T *>(reinterpret_cast<Byte *>(first) + std::ptrdiff_t{stepBytes} * row);
+    return reinterpret_cast<T *>(reinterpret_cast<Byte *>(first) + std::ptrdiff_t(stepBytes) * row);
 }
 
 /// Column minima of one tile of `samples` samples a row. `scratch` holds mask + 2 rows of kTileSamples.
@@ -51,10 +51,10 @@ IPP_VERSIONS void filterColumns(const float *source, int sourceStep, float *targ
 {
     std::int32_t *const head = scratch;
     std::int32_t *const tails = scratch + kTileSamples;
-    std::fill_n(tails + std::ptrdiff_t{mask} * kTileSamples, kTileSamples, kNone);
+    std::fill_n(tails + std::ptrdiff_t(mask) * kTileSamples, kTileSamples, kNone);
     for (int block = -anchor; block + anchor < height; block += mask) {
         for (int i = mask - 1; i >= 0; --i) {
-            std::int32_t *const tail = tails + std::ptrdiff_t{i} * kTileSamples;
+            std::int32_t *const tail = tails + std::ptrdiff_t(i) * kTileSamples;
             const std::int32_t *const next = tail + kTileSamples;
             const int row = block + i;
             if (row < 0 || row >= height) {
@@ -68,7 +68,7 @@ IPP_VERSIONS void filterColumns(const float *source, int sourceStep, float *targ
         std::fill_n(head, samples, kNone);
         const int windows = std::min(mask, height - block - anchor);
         for (int i = 0; i < windows; ++i) {
-            const std::int32_t *const tail = tails + std::ptrdiff_t{i} * kTileSamples;
+            const std::int32_t *const tail = tails + std::ptrdiff_t(i) * kTileSamples;
             float *const result = rowOf(target, targetStep, block + anchor + i);
             for (int s = 0; s < samples; ++s)
                 result[s] = valueOf(std::min(tail[s], head[s]));
@@ -93,25 +93,25 @@ IPP_INLINE void takeMinimum(std::int32_t *target, const std::int32_t *a, const s
 IPP_VERSIONS void filterRow(float *pixels, int width, int mask, int anchor, std::int32_t *scratch)
 {
     const int blocks = (width + mask - 1) / mask + 1;
-    const std::ptrdiff_t padded = std::ptrdiff_t{blocks} * mask * kChannels;
+    const std::ptrdiff_t padded = std::ptrdiff_t(blocks) * mask * kChannels;
     std::int32_t *const row = scratch;
     std::int32_t *const tails = scratch + padded;
-    const std::ptrdiff_t before = std::ptrdiff_t{anchor} * kChannels;
-    const std::ptrdiff_t samples = std::ptrdiff_t{width} * kChannels;
+    const std::ptrdiff_t before = std::ptrdiff_t(anchor) * kChannels;
+    const std::ptrdiff_t samples = std::ptrdiff_t(width) * kChannels;
     std::fill_n(row, before, kNone);
     // The window's reach past the last pixel may end before the last block does.
     for (std::ptrdiff_t s = 0; s < samples; ++s)
         row[before + s] = rankOf(pixels[s]);
     std::fill_n(row + before + samples, padded - before - samples, kNone);
-    std::fill_n(tails + std::ptrdiff_t{mask} * kChannels, kChannels, kNone);
+    std::fill_n(tails + std::ptrdiff_t(mask) * kChannels, kChannels, kNone);
 
     for (int block = 0; block < width; block += mask) {
-        const std::int32_t *const here = row + std::ptrdiff_t{block} * kChannels;
+        const std::int32_t *const here = row + std::ptrdiff_t(block) * kChannels;
         for (int i = mask - 1; i >= 0; --i)
             takeMinimum(tails + i * kChannels, tails + (i + 1) * kChannels, here + i * kChannels);
         std::int32_t head[kChannels] = {kNone, kNone, kNone, kNone};
-        const std::int32_t *const next = here + std::ptrdiff_t{mask} * kChannels;
-        float *const result = pixels + std::ptrdiff_t{block} * kChannels;
+        const std::int32_t *const next = here + std::ptrdiff_t(mask) * kChannels;
+        float *const result = pixels + std::ptrdiff_t(block) * kChannels;
         const int windows = std::min(mask, width - block);
         for (int i = 0; i < windows; ++i) {
             for (int c = 0; c < kChannels; ++c)
@@ -143,7 +143,7 @@ IppStatus ippiFilterMinBorder(const float *source, int sourceStep, float *target
         return ippStsSizeErr;
     auto *const scratch = static_cast<std::int32_t *>(buffer);
     for (int x = 0; x < region.width; x += kTilePixels) {
-        const std::ptrdiff_t first = std::ptrdiff_t{x} * kChannels;
+        const std::ptrdiff_t first = std::ptrdiff_t(x) * kChannels;
         const int samples = std::min(kTilePixels, region.width - x) * kChannels;
         filterColumns(source + first, sourceStep, target + first, targetStep, samples, region.height, mask.height, anchor.y,
                       scratch);

@@ -4,7 +4,7 @@
 
 IppStatus ippmInvert3x3(const float source[9], float target[9])
 {
-    const auto m = [source](int row, int column) { return static_cast<double>(source[row * 3 + column]); };
+    const auto m = [source](int row, int column) { return double(source[row * 3 + column]); };
     // Row r, column c of the adjugate is the cofactor of element (c, r); rows and columns counted modulo 3 give its sign as well.
     const auto adjugate = [&m](int row, int column) {
         const int c1 = (row + 1) % 3, c2 = (row + 2) % 3, r1 = (column + 1) % 3, r2 = (column + 2) % 3;
@@ -15,7 +15,7 @@ IppStatus ippmInvert3x3(const float source[9], float target[9])
         return ippStsSingularErr;
     for (int row = 0; row < 3; ++row) {
         for (int column = 0; column < 3; ++column)
-            target[row * 3 + column] = static_cast<float>(adjugate(row, column) / determinant);
+            target[row * 3 + column] = float(adjugate(row, column) / determinant);
     }
     return ippStsNoErr;
 }

@@ -21,7 +21,7 @@ void *ippiMalloc(int width, int height, PixelForm form, int *stepBytes)
     const std::size_t step = alignUp(std::size_t(width) * form.pixelBytes());
     if (step > std::size_t(std::numeric_limits<int>::max()))
         return nullptr;
-    *stepBytes = static_cast<int>(step);
+    *stepBytes = int(step);
     return ippsMalloc(step * std::size_t(height));
 }
 

@@ -48,7 +48,7 @@ void forTaps(const Axis &axis, int source, int index, IppiInterpolation method, 
 {
     if (method == IppiInterpolation::Linear) {
         // (index + 0.5) * source / target - 0.5, in units of 1 / weightSum of a source pixel
-        const std::int64_t position = (2 * std::int64_t{index} + 1) * axis.sourceUnits - axis.targetUnits;
+        const std::int64_t position = (2 * std::int64_t(index) + 1) * axis.sourceUnits - axis.targetUnits;
         const std::int64_t left = position < 0 ? -1 : position / axis.weightSum;
         const std::int64_t right = position - left * axis.weightSum;
         if (left < 0)
@@ -56,9 +56,9 @@ void forTaps(const Axis &axis, int source, int index, IppiInterpolation method, 
         else if (left >= source - 1)
             tap(source - 1, axis.weightSum);
         else {
-            tap(static_cast<int>(left), axis.weightSum - right);
+            tap(int(left), axis.weightSum - right);
             if (right > 0)
-                tap(static_cast<int>(left) + 1, right);
+                tap(int(left) + 1, right);
         }
         return;
     }
@@ -67,7 +67,7 @@ void forTaps(const Axis &axis, int source, int index, IppiInterpolation method, 
     for (std::int64_t pixel = begin / axis.targetUnits; pixel * axis.targetUnits < end; ++pixel) {
         const std::int64_t from = std::max(begin, pixel * axis.targetUnits);
         const std::int64_t to = std::min(end, (pixel + 1) * axis.targetUnits);
-        tap(static_cast<int>(pixel), to - from);
+        tap(int(pixel), to - from);
     }
 }
 
@@ -87,7 +87,7 @@ IPP_INLINE Sample toSample(SumOf<Sample> value)
     if constexpr (std::is_same_v<Sample, float>)
         return value;
     constexpr double kToInteger = 4503599627370496.0; // 2^52: adding and taking it away rounds to the nearest, ties to even
-    return static_cast<Sample>(static_cast<int>((value + kToInteger) - kToInteger));
+    return static_cast<Sample>(int((value + kToInteger) - kToInteger));
 }
 
 } // namespace
@@ -168,7 +168,7 @@ IPP_INLINE void sumColumns(const IppiResizeSpec &spec, const SumOf<Sample> *sums
     for (int x = 0; x < spec.target.width; ++x, target += Channels) {
         const Taps &taps = spec.taps[0][x];
         const double *weights = spec.weights[0] + taps.firstWeight;
-        const Sum *from = sums + static_cast<std::size_t>(taps.first) * Channels;
+        const Sum *from = sums + std::size_t(taps.first) * Channels;
         Sum mean[Channels] = {};
         for (int tap = 0; tap < taps.count; ++tap, from += Channels) {
             const Sum weight = static_cast<Sum>(weights[tap]);
@@ -187,7 +187,7 @@ IPP_INLINE void resizeRow(const IppiResizeSpec &spec, const unsigned char *sourc
     auto *sums = static_cast<SumOf<Sample> *>(buffer);
     const Taps &taps = spec.taps[1][y];
     sumRows<Sample>(source, step, taps, spec.weights[1] + taps.firstWeight, spec.weightSum[1],
-                    static_cast<std::size_t>(spec.source.width) * Channels, sums);
+                    std::size_t(spec.source.width) * Channels, sums);
     sumColumns<Sample, Channels>(spec, sums, static_cast<Sample *>(target));
 }
 
@@ -248,7 +248,7 @@ IppStatus ippiResizeInit(IppiSize source, IppiSize target, IppiInterpolation met
     auto *weights = reinterpret_cast<double *>(taps + std::size_t(target.width) + std::size_t(target.height));
     for (int side = 0; side < 2; ++side) {
         const Axis axis = axisOf(sourceLength[side], targetLength[side], method);
-        spec->weightSum[side] = static_cast<double>(axis.weightSum);
+        spec->weightSum[side] = double(axis.weightSum);
         spec->taps[side] = taps;
         spec->weights[side] = weights;
         std::size_t used = 0;
@@ -257,7 +257,7 @@ IppStatus ippiResizeInit(IppiSize source, IppiSize target, IppiInterpolation met
             forTaps(axis, sourceLength[side], index, method, [&](int pixel, std::int64_t weight) {
                 if (taps->count++ == 0)
                     taps->first = pixel;
-                weights[used++] = static_cast<double>(weight);
+                weights[used++] = double(weight);
             });
         }
         weights += used;
@@ -267,7 +267,7 @@ IppStatus ippiResizeInit(IppiSize source, IppiSize target, IppiInterpolation met
 
 std::size_t ippiResizeGetBufferSize(const IppiResizeSpec *spec)
 {
-    const std::size_t samples = static_cast<std::size_t>(spec->source.width) * static_cast<std::size_t>(spec->form.components);
+    const std::size_t samples = std::size_t(spec->source.width) * std::size_t(spec->form.components);
     return samples * (spec->form.bits == 32 ? sizeof(float) : sizeof(double));
 }
 
@@ -280,6 +280,6 @@ IppStatus ippiResize(const void *source, int sourceStep, void *target, int targe
         return ippStsSizeErr;
     for (int y = firstRow; y < firstRow + rowCount; ++y)
         resizeAnyRow(*spec, static_cast<const unsigned char *>(source), sourceStep,
-                     static_cast<unsigned char *>(target) + std::ptrdiff_t{targetStep} * y, y, buffer);
+                     static_cast<unsigned char *>(target) + std::ptrdiff_t(targetStep) * y, y, buffer);
     return ippStsNoErr;
 }

@@ -30,7 +30,7 @@ thread_local std::uint32_t lastError = 0;
 
 bool fail(int error)
 {
-    lastError = static_cast<std::uint32_t>(error);
+    lastError = std::uint32_t(error);
     return false;
 }
 
@@ -68,7 +68,7 @@ std::vector<std::size_t> onlineProcessors()
     ProcessorSet set = processorList("/sys/devices/system/cpu/online");
     if (set.none()) // no /sys: the kernel counts them in its own order
         for (long i = 0; i < sysconf(_SC_NPROCESSORS_ONLN); ++i)
-            set.set(static_cast<std::size_t>(i));
+            set.set(std::size_t(i));
     std::vector<std::size_t> numbers;
     for (std::size_t i = 0; i < set.size(); ++i)
         if (set[i])
@@ -106,11 +106,11 @@ bool groupAffinity(pid_t thread, GroupAffinity *affinity)
     return true;
 }
 
-template<class Number>
+template<typename Number>
 bool readNumber(const std::string &path, Number &number)
 {
     std::ifstream file(path);
-    return static_cast<bool>(file >> number);
+    return bool(file >> number);
 }
 
 /// The folders of the control groups that may limit what this controller counts for the process, from its own up to the root. In
@@ -195,7 +195,7 @@ bool GetDiskFreeSpaceExW(const wchar_t *path, std::uint64_t *freeForCaller, std:
     std::mbstate_t state{};
     const wchar_t *rest = path;
     const std::size_t length = std::wcsrtombs(nullptr, &rest, 0, &state);
-    if (length == static_cast<std::size_t>(-1))
+    if (length == std::size_t(-1))
         return fail(errno);
     std::string bytes(length, '\0');
     state = {};
@@ -232,7 +232,7 @@ bool QueryPerformanceFrequency(std::int64_t *ticksPerSecond)
 
 std::uint32_t GetMaximumProcessorCount(std::uint16_t group)
 {
-    const auto all = static_cast<std::uint32_t>(onlineProcessors().size());
+    const auto all = std::uint32_t(onlineProcessors().size());
     if (group == kAllProcessorGroups)
         return all;
     const std::uint32_t first = group * kProcessorsPerGroup;
@@ -247,7 +247,7 @@ bool HasProcessorGroups()
 std::uint16_t GetActiveProcessorGroupCount()
 {
     const std::uint32_t all = GetMaximumProcessorCount(kAllProcessorGroups);
-    return static_cast<std::uint16_t>((all + kProcessorsPerGroup - 1) / kProcessorsPerGroup);
+    return std::uint16_t((all + kProcessorsPerGroup - 1) / kProcessorsPerGroup);
 }
 
 bool GetLogicalProcessorInformationEx(std::int32_t relation, LogicalProcessorInformation *information)
@@ -269,7 +269,7 @@ bool GetLogicalProcessorInformationEx(std::int32_t relation, LogicalProcessorInf
         }
         return true;
     }
-    information->count = static_cast<std::uint32_t>(online.size());
+    information->count = std::uint32_t(online.size());
     for (std::size_t i = 0; i < online.size(); ++i) {
         const std::string folder = "/sys/devices/system/cpu/cpu" + std::to_string(online[i]) + "/topology/";
         ProcessorPlace &place = information->places[i];
@@ -340,7 +340,7 @@ std::uint32_t GetProcessorQuota(const char *root)
         if (quota > 0 && (tightest < 0 || quota < tightest))
             tightest = quota;
     }
-    return tightest < 0 ? 0 : static_cast<std::uint32_t>(std::min(std::ceil(tightest), 1e6));
+    return tightest < 0 ? 0 : std::uint32_t(std::min(std::ceil(tightest), 1e6));
 }
 
 std::uint64_t GetAvailableMemory(const char *root)
@@ -352,7 +352,7 @@ std::uint64_t GetAvailableMemory(const char *root)
             bytes = kilobytes * 1024;
     for (const std::string &folder : controlGroups(root, "memory"))
         takeMemoryLimit(folder, bytes);
-    return static_cast<std::uint64_t>(bytes);
+    return std::uint64_t(bytes);
 }
 
 void AdviseHugePages(void *block, std::size_t bytes)

@@ -23,7 +23,7 @@ constexpr std::size_t kMostFloatsPerVertex = 2000;
 constexpr std::int32_t kJobVertices = 1500;
 // What elimination may leave of a diagonal cell. Below, a float has kept three bits of it, and a solver with pivoting does
 // better.
-constexpr float kPivotFloor = 1.0F / (1 << 20);
+constexpr float kPivotFloor = 1.0f / (1 << 20);
 
 constexpr std::size_t kAlignment = kStrip * sizeof(float);
 constexpr std::size_t kHugePage = std::size_t(2) << 20;
@@ -313,11 +313,11 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
     if (strips > pivotStrips) {
         const auto count = std::size_t(contributionStart(strips - pivotStrips));
         node.contribution = allocate(count, kAlignment);
-        std::fill_n(node.contribution.get(), count, 0.0F);
+        std::fill_n(node.contribution.get(), count, 0.0f);
     }
-    std::fill_n(panel, stripFloats * std::size_t(strips), 0.0F);
+    std::fill_n(panel, stripFloats * std::size_t(strips), 0.0f);
     float *const floors = locals.get() + node.localStart;
-    std::fill(floors, floors + pivotStrips * kStrip, 0.0F);
+    std::fill(floors, floors + pivotStrips * kStrip, 0.0f);
     for (int pivot = 0; pivot < node.pivots; ++pivot) {
         const auto position = std::size_t(node.first + pivot);
         float *const column = panel + std::size_t(pivot) * kStrip;
@@ -330,7 +330,7 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
         }
     }
     for (int pad = node.pivots; pad < pivotStrips * kStrip; ++pad)
-        panel[inPanel(pad) + std::size_t(pad) * kStrip] = 1.0F;
+        panel[inPanel(pad) + std::size_t(pad) * kStrip] = 1.0f;
 
     for (const std::int32_t child : node.children) {
         if (child < 0)
@@ -381,7 +381,7 @@ void MultifrontalFactors::solve(float *rightHandSide)
     childrenFirst([&](std::int32_t number) {
         const Node &node = nodes[std::size_t(number)];
         float *const local = locals.get() + node.localStart;
-        std::fill(local, local + node.strips() * kStrip, 0.0F);
+        std::fill(local, local + node.strips() * kStrip, 0.0f);
         for (int pivot = 0; pivot < node.pivots; ++pivot)
             local[pivot] = rightHandSide[vertexAt[std::size_t(node.first + pivot)]];
         for (const std::int32_t child : node.children) {

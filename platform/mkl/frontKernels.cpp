@@ -46,9 +46,9 @@ NIMBRA_INLINE bool factorTile(float *tile, const float *floors)
         const float pivot = column[j];
         if (!(pivot > floors[j]))
             return false;
-        const float inverse = 1.0F / std::sqrt(pivot);
+        const float inverse = 1.0f / std::sqrt(pivot);
         for (int i = 0; i < j; ++i)
-            column[i] = 0.0F;
+            column[i] = 0.0f;
         lanes(column) *= inverse;
         for (int c = j + 1; c < kStrip; ++c)
             lanes(tile + c * kStrip) -= lanes(column) * column[c];

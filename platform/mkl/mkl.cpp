@@ -212,7 +212,7 @@ void pardiso(void *pt, const std::int32_t *, const std::int32_t *, const std::in
                 return PardisoBadInput;
             if (!allFinite(matrix.values, matrix.count()))
                 return PardisoNotFinite;
-            const std::int32_t code = handle->factorise(matrix, std::pow(10.0F, float(-iparm[PardisoPivotPerturbation])));
+            const std::int32_t code = handle->factorise(matrix, std::pow(10.0f, float(-iparm[PardisoPivotPerturbation])));
             handle->factorised = code == 0;
             if (code == 0 && iparm[PardisoFactorEntries] < 0) {
                 constexpr std::int64_t highest = std::numeric_limits<std::int32_t>::max();

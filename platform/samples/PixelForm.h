@@ -9,6 +9,6 @@ struct PixelForm
     int components;
     int bits;
 
-    constexpr std::size_t pixelBytes() const { return static_cast<std::size_t>(components) * static_cast<std::size_t>(bits / 8); }
+    constexpr std::size_t pixelBytes() const { return std::size_t(components) * std::size_t(bits / 8); }
     constexpr bool operator==(const PixelForm &other) const { return components == other.components && bits == other.bits; }
 };

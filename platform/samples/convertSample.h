@@ -6,7 +6,7 @@
 
 /// Value of a sample that means full light, as a float: 255, 65535 or 1.
 template<typename Sample>
-constexpr float kFullScale = std::is_same_v<Sample, float> ? 1.0f : static_cast<float>(std::numeric_limits<Sample>::max());
+constexpr float kFullScale = std::is_same_v<Sample, float> ? 1.0f : float(std::numeric_limits<Sample>::max());
 
 /// One sample at another depth; `From` and `To` are std::uint8_t, std::uint16_t or float.
 ///
@@ -21,9 +21,9 @@ template<typename From, typename To>
         return sample;
     } else if constexpr (std::is_same_v<To, float>) {
         if constexpr (std::is_same_v<From, std::uint8_t>)
-            return static_cast<float>(sample) / 255.0f;
+            return float(sample) / 255.0f;
         else
-            return static_cast<float>(sample) * (1.0f / 65535.0f); // 65535 becomes exactly 1
+            return float(sample) * (1.0f / 65535.0f); // 65535 becomes exactly 1
     } else if constexpr (std::is_same_v<From, float>) {
         // Written so that not-a-number fails the first test. Adding 2^23 and taking it away rounds to the nearest, ties to even;
         // std::nearbyint would be a call on a bare x86-64.
@@ -31,11 +31,11 @@ template<typename From, typename To>
         const float product = sample * kFullScale<To>;
         const float positive = product > 0.0f ? product : 0.0f;
         const float limited = positive < kFullScale<To> ? positive : kFullScale<To>;
-        return static_cast<To>(static_cast<std::int32_t>((limited + kToInteger) - kToInteger));
+        return static_cast<To>(std::int32_t((limited + kToInteger) - kToInteger));
     } else if constexpr (std::is_same_v<To, std::uint16_t>) {
-        return static_cast<std::uint16_t>(sample * 257);
+        return std::uint16_t(sample * 257);
     } else {
         // x / 257 to the nearest, by a factor that is 2^24 / 257 rounded up: exact for all 65536 values.
-        return static_cast<std::uint8_t>(((sample + 128u) * 65281u) >> 24);
+        return std::uint8_t(((sample + 128u) * 65281u) >> 24);
     }
 }

@@ -58,7 +58,7 @@ TEST(VSparseFactory, GrowsByDoubling)
         int row, capacity, count;
     } steps[] = {{0, 8, 1}, {7, 8, 8}, {8, 16, 9}, {1000, 1024, 1001}, {3, 1024, 1001}};
     for (const auto &step : steps) {
-        setCell(factory, step.row, step.row, 1.0F);
+        setCell(factory, step.row, step.row, 1.0f);
         EXPECT_EQ(factory.rowCapacity, step.capacity) << step.row;
         EXPECT_EQ(factory.rowCount, step.count) << step.row;
         EXPECT_EQ(factory.rows.size(), std::size_t(step.capacity)) << step.row;
@@ -72,9 +72,9 @@ TEST(VSparseFactory, StoresEveryOpenedCellInOrder)
     for (const int column : {900, 3, 256, 2, 512})
         setCell(factory, 2, column, float(column));
     factory.OpenCell(0, 4, cell); // opened only
-    EXPECT_EQ(cell->second, 0.0F);
+    EXPECT_EQ(cell->second, 0.0f);
     factory.OpenCell(2, 3, cell); // releases the other first
-    cell->second += 0.5F;
+    cell->second += 0.5f;
     cell.release();
 
     VSparseMatrix matrix;
@@ -87,7 +87,7 @@ TEST(VSparseFactory, StoresEveryOpenedCellInOrder)
         EXPECT_EQ(matrix.nonZeroCount, 6);
         EXPECT_THAT(starts(matrix), ElementsAre(1, 2, 2, 7));
         EXPECT_THAT(columns(matrix), ElementsAre(5, 3, 4, 257, 513, 901));
-        EXPECT_THAT(values(matrix), ElementsAre(0.0F, 2.0F, 3.5F, 256.0F, 512.0F, 900.0F));
+        EXPECT_THAT(values(matrix), ElementsAre(0.0f, 2.0f, 3.5f, 256.0f, 512.0f, 900.0f));
         for (const void *array : {static_cast<void *>(matrix.values), static_cast<void *>(matrix.columnIndices),
                                   static_cast<void *>(matrix.rowStarts)})
             EXPECT_EQ(reinterpret_cast<std::uintptr_t>(array) % 128, 0U);
@@ -109,7 +109,7 @@ TEST(VSparseFactory, HoldsRowsOfAnyLength)
         for (int i = 0; i < length; ++i) { // they are found again
             VSparseFactory::CellAccessor cell;
             factory.OpenCell(row, (i * 7919) % length * 3, cell);
-            cell->second += 1.0F;
+            cell->second += 1.0f;
         }
         ++row;
     }
@@ -122,7 +122,7 @@ TEST(VSparseFactory, HoldsRowsOfAnyLength)
         for (int i = 0; i < length; ++i) {
             const int place = (i * 7919) % length;
             ASSERT_EQ(matrix.columnIndices[start + place], place * 3 + 1) << length;
-            ASSERT_EQ(matrix.values[start + place], float(i) + 1.0F) << length;
+            ASSERT_EQ(matrix.values[start + place], float(i) + 1.0f) << length;
         }
     }
 }
@@ -146,7 +146,7 @@ TEST(VSparseFactory, FillsAndConvertsOnSeveralThreadsAsOnOne)
     constexpr int kRounds = 3;
     VSparseFactory factory(true);
     for (int row = 0; row < kRows; ++row)
-        setCell(factory, row, row, 1.0F);
+        setCell(factory, row, row, 1.0f);
     // Every thread goes over all rows from a start of its own: they meet at cells, and make new ones at once.
     std::vector<std::thread> team;
     for (int thread = 0; thread < kThreads; ++thread) {
@@ -156,7 +156,7 @@ TEST(VSparseFactory, FillsAndConvertsOnSeveralThreadsAsOnOne)
                 const int row = (step + thread * (kRows / kThreads)) % kRows;
                 for (const int offset : {2, 0, 1}) {
                     (factory.*factory.cellAccess)(row, row + offset, cell);
-                    cell->second += 1.0F;
+                    cell->second += 1.0f;
                 }
             }
         });
@@ -233,13 +233,13 @@ TEST(VSparseMatrix, SolvesWhatTheFactoryMade)
     EXPECT_THAT(x, ElementsAre(testing::FloatEq(1), testing::FloatEq(2), testing::FloatEq(3)));
 
     VSparseFactory whole(/*symmetricMatrix=*/false);
-    setCell(whole, 0, 1, 2.0F);
-    setCell(whole, 1, 0, 4.0F);
+    setCell(whole, 0, 1, 2.0f);
+    setCell(whole, 1, 0, 4.0f);
     whole.ToCsr(matrix);
     const float c[] = {4, 4};
     x.resize(2);
     matrix.Solve(c, x.data());
-    EXPECT_THAT(x, ElementsAre(1.0F, 2.0F));
+    EXPECT_THAT(x, ElementsAre(1.0f, 2.0f));
 }
 
 TEST(VSparseMatrix, FailuresNameThePhaseAndTheCode)

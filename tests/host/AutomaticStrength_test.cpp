@@ -34,7 +34,7 @@ void draw(const Picture &picture, VImage &image)
 
 } // namespace
 
-TEST(AutomaticStrength, is_the_strongest_that_leaves_the_picture_bright_enough)
+TEST(AutomaticStrength, IsTheStrongestThatLeavesThePictureBrightEnough)
 {
     // All are the size of their own copy of 100,000 pixels, so that nothing is scaled.
     const struct
@@ -56,7 +56,7 @@ TEST(AutomaticStrength, is_the_strongest_that_leaves_the_picture_bright_enough)
     }
 }
 
-TEST(AutomaticStrength, is_the_same_for_all_forms_and_sizes_of_a_picture)
+TEST(AutomaticStrength, IsTheSameForAllFormsAndSizesOfAPicture)
 {
     VImage image;
     draw({0, 149, 167, 316}, image);
@@ -70,7 +70,7 @@ TEST(AutomaticStrength, is_the_same_for_all_forms_and_sizes_of_a_picture)
         }
 }
 
-TEST(AutomaticStrength, is_nothing_where_the_engine_leaves_the_picture_as_it_is_and_in_range_elsewhere)
+TEST(AutomaticStrength, IsNothingWhereTheEngineLeavesThePictureAsItIsAndInRangeElsewhere)
 {
     constexpr float kNothing = std::numeric_limits<float>::quiet_NaN(), kInfinite = std::numeric_limits<float>::infinity();
     const struct

@@ -51,7 +51,7 @@ protected:
 
 } // namespace
 
-TEST_F(PhotoLoaderTest, no_library_sees_what_is_no_photograph_whatever_its_suffix)
+TEST_F(PhotoLoaderTest, NoLibrarySeesWhatIsNoPhotographWhateverItsSuffix)
 {
     const char *const video = "It is a video.", *const unknown = "It is no picture of a known format";
     const struct
@@ -107,7 +107,7 @@ TEST_F(PhotoLoaderTest, no_library_sees_what_is_no_photograph_whatever_its_suffi
     EXPECT_EQ(folder.content("result.jpg"), result);
 }
 
-TEST_F(PhotoLoaderTest, a_suffix_of_camera_raw_must_be_true_and_a_shape_of_one_is_enough)
+TEST_F(PhotoLoaderTest, ASuffixOfCameraRawMustBeTrueAndAShapeOfOneIsEnough)
 {
     const char *const unknown = "It is no picture of a known format", *const tried = "The camera raw file can't be developed";
     const struct
@@ -135,7 +135,7 @@ TEST_F(PhotoLoaderTest, a_suffix_of_camera_raw_must_be_true_and_a_shape_of_one_i
     }
 }
 
-TEST_F(PhotoLoaderTest, a_size_that_no_file_of_its_length_could_hold_is_damage)
+TEST_F(PhotoLoaderTest, ASizeThatNoFileOfItsLengthCouldHoldIsDamage)
 {
     folder.photograph("a.png");
     QByteArray png = folder.content("a.png");

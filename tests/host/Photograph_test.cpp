@@ -23,7 +23,7 @@ std::string digits(const VImage &image, bool byColumns)
 
 } // namespace
 
-TEST(Photograph, scaled_images_are_turned_as_a_viewer_shows_them)
+TEST(Photograph, ScaledImagesAreTurnedAsAViewerShowsThem)
 {
     gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr);
     TestFolder folder;
@@ -55,7 +55,7 @@ TEST(Photograph, scaled_images_are_turned_as_a_viewer_shows_them)
     gflLibraryExit();
 }
 
-TEST(Photograph, decodes_at_acquire_and_lets_go_at_release)
+TEST(Photograph, DecodesAtAcquireAndLetsGoAtRelease)
 {
     gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr);
     TestFolder folder;

@@ -34,7 +34,7 @@ bool isGone(ScaledImages &images, int number)
 
 } // namespace
 
-TEST(ScaledImages, what_was_not_asked_for_longest_goes_first_and_little_wishes_push_nothing_out)
+TEST(ScaledImages, WhatWasNotAskedForLongestGoesFirstAndLittleWishesPushNothingOut)
 {
     ScaledImages images(3 * kBytes);
     for (int number : {1, 2, 3})
@@ -60,7 +60,7 @@ TEST(ScaledImages, what_was_not_asked_for_longest_goes_first_and_little_wishes_p
     EXPECT_EQ(small.bytes(), kBytes);
 }
 
-TEST(ScaledImages, several_threads_get_one_copy_that_is_made_once)
+TEST(ScaledImages, SeveralThreadsGetOneCopyThatIsMadeOnce)
 {
     ScaledImages images(10 * kBytes);
     std::atomic<int> made{0};

@@ -45,7 +45,7 @@ void TestFolder::photograph(const QString &name, int width, int height, unsigned
                 else if (bits == 16)
                     reinterpret_cast<quint16 *>(at)[c] = static_cast<quint16>(std::lround(value * 65535));
                 else
-                    reinterpret_cast<float *>(at)[c] = static_cast<float>(value);
+                    reinterpret_cast<float *>(at)[c] = float(value);
             }
     image.Save(path(name), QFileInfo(name).suffix(), -1, QString());
 }
@@ -81,7 +81,7 @@ struct Entry
     QByteArray value;
 };
 
-template<class T>
+template<typename T>
 QByteArray numbers(std::initializer_list<T> values)
 {
     QByteArray bytes;

@@ -82,7 +82,7 @@ protected:
         return WizardCommand(line, *host).run();
     }
 
-    template<class W>
+    template<typename W>
     W *find(const char *name)
     {
         auto *widget = window->findChild<W *>(QLatin1String(name));
@@ -199,7 +199,7 @@ int sameFrom(const QImage &one, const QImage &other)
 
 } // namespace
 
-TEST_F(Wizard, from_choosing_two_photographs_to_two_results)
+TEST_F(Wizard, FromChoosingTwoPhotographsToTwoResults)
 {
     photograph("valley.jpg", 750, 500);
     photograph("tower.png", 375, 500);
@@ -283,7 +283,7 @@ TEST_F(Wizard, from_choosing_two_photographs_to_two_results)
     EXPECT_EQ(strengthIn(folder.path("evening.xml"), folder.path("tower.png")), "30");
 }
 
-TEST_F(Wizard, a_session_goes_on_with_a_further_photograph)
+TEST_F(Wizard, ASessionGoesOnWithAFurtherPhotograph)
 {
     photograph("valley.jpg", 300, 200);
     QDir().mkdir(folder.path("more"));
@@ -343,7 +343,7 @@ TEST_F(Wizard, a_session_goes_on_with_a_further_photograph)
     host->setValue(kProcessGuid, "hazeRemove", WantedStrength::kUsual);
 }
 
-TEST_F(Wizard, with_auto_as_the_default_each_photograph_starts_at_its_own_strength)
+TEST_F(Wizard, WithAutoAsTheDefaultEachPhotographStartsAtItsOwnStrength)
 {
     photograph("bright.jpg", 300, 200);
     ASSERT_TRUE(drawScene(200, 300, /*haze=*/true).convertToFormat(QImage::Format_Grayscale8).save(folder.path("grey.png")));
@@ -383,7 +383,7 @@ TEST_F(Wizard, with_auto_as_the_default_each_photograph_starts_at_its_own_streng
     host->setValue(kProcessGuid, "strength", {});
 }
 
-TEST_F(Wizard, what_went_away_or_came_back_as_it_was_is_told_with_the_reason)
+TEST_F(Wizard, WhatWentAwayOrCameBackAsItWasIsToldWithTheReason)
 {
     photograph("valley.jpg", 300, 200);
     folder.photograph("nan.tif", 300, 200, VImage::Rgb, 32);
@@ -411,7 +411,7 @@ TEST_F(Wizard, what_went_away_or_came_back_as_it_was_is_told_with_the_reason)
     });
 }
 
-TEST_F(Wizard, the_list_names_the_photograph_shown_when_another_cannot_be_read)
+TEST_F(Wizard, TheListNamesThePhotographShownWhenAnotherCannotBeRead)
 {
     for (const bool firstGoes : {false, true}) {
         SCOPED_TRACE(firstGoes);
@@ -456,7 +456,7 @@ TEST_F(Wizard, the_list_names_the_photograph_shown_when_another_cannot_be_read)
     }
 }
 
-TEST_F(Wizard, closing_stops_the_work_between_photographs)
+TEST_F(Wizard, ClosingStopsTheWorkBetweenPhotographs)
 {
     QStringList arguments{"--jobs", "1"};
     for (const char *name : {"a.png", "b.png", "c.png"}) {

@@ -93,7 +93,7 @@ private:
 
 } // namespace
 
-TEST_F(BatchFaults, a_photograph_that_changes_meanwhile)
+TEST_F(BatchFaults, APhotographThatChangesMeanwhile)
 {
     const auto bytesOf = [this](const char *suffix) {
         folder.photograph(QStringLiteral("other.") + suffix);
@@ -151,7 +151,7 @@ TEST_F(BatchFaults, a_photograph_that_changes_meanwhile)
     }
 }
 
-TEST_F(BatchFaults, a_disk_that_is_full_when_the_result_is_written)
+TEST_F(BatchFaults, ADiskThatIsFullWhenTheResultIsWritten)
 {
     for (const QString &suffix : kSuffixes)
         for (const bool older : {false, true}) {
@@ -174,7 +174,7 @@ TEST_F(BatchFaults, a_disk_that_is_full_when_the_result_is_written)
         }
 }
 
-TEST_F(BatchFaults, a_photograph_and_its_result_in_one_batch)
+TEST_F(BatchFaults, APhotographAndItsResultInOneBatch)
 {
     folder.photograph("photo.png");
     folder.photograph("photo_dehazed.png");
@@ -182,7 +182,7 @@ TEST_F(BatchFaults, a_photograph_and_its_result_in_one_batch)
         EXPECT_TRUE(item.refusal.endsWith("Leave out one of the two.")) << item.given << item.refusal;
 }
 
-TEST_F(BatchFaults, another_program_is_done_first)
+TEST_F(BatchFaults, AnotherProgramIsDoneFirst)
 {
     const auto other = [this] { folder.write("photo_dehazed.png", "the other's"); };
     folder.photograph("photo.png");
@@ -251,7 +251,7 @@ protected:
 
 } // namespace
 
-TEST_F(ProgramFaults, a_file_system_without_room)
+TEST_F(ProgramFaults, AFileSystemWithoutRoom)
 {
     QStringList photographs;
     for (const QString &suffix : kSuffixes) {
@@ -289,7 +289,7 @@ TEST_F(ProgramFaults, a_file_system_without_room)
         EXPECT_EQ(folder.content("left/" + photograph), folder.content(photograph)) << photograph;
 }
 
-TEST_F(ProgramFaults, write_protection)
+TEST_F(ProgramFaults, WriteProtection)
 {
     folder.photograph("a.png");
     folder.photograph("b.jpg");
@@ -311,7 +311,7 @@ TEST_F(ProgramFaults, write_protection)
     EXPECT_THAT(folder.files(), testing::ElementsAre("a.png", "b.jpg", "b_dehazed.jpg"));
 }
 
-TEST_F(ProgramFaults, killed_at_any_moment)
+TEST_F(ProgramFaults, KilledAtAnyMoment)
 {
     folder.photograph("a.png", 600, 400, VImage::Rgb, 16);
     folder.photograph("b.tif", 400, 300, VImage::Rgb, 32);
@@ -380,7 +380,7 @@ TEST_F(ProgramFaults, killed_at_any_moment)
 #    define __has_feature(feature) 0
 #endif
 #if !__has_feature(address_sanitizer) && !__has_feature(thread_sanitizer) // they need address space without end, and /proc
-TEST_F(ProgramFaults, too_little_memory)
+TEST_F(ProgramFaults, TooLittleMemory)
 {
     folder.photograph("a.tif", 300, 200);
     ASSERT_EQ(folder.run({"a.tif", "--strength", "60"}).code, 0);
@@ -403,7 +403,7 @@ TEST_F(ProgramFaults, too_little_memory)
     EXPECT_EQ(folder.content("a_dehazed.tif"), whole);
 }
 
-TEST_F(ProgramFaults, too_few_threads)
+TEST_F(ProgramFaults, TooFewThreads)
 {
     for (const char *name : {"a.png", "b.png", "c.png"})
         folder.photograph(name);
@@ -414,7 +414,7 @@ TEST_F(ProgramFaults, too_few_threads)
     EXPECT_EQ(folder.files().size(), 6);
 }
 
-TEST_F(ProgramFaults, a_file_system_where_every_file_has_a_name)
+TEST_F(ProgramFaults, AFileSystemWhereEveryFileHasAName)
 {
     folder.photograph("new.tif", 300, 200);
     folder.photograph("old.tif", 300, 200);
@@ -432,7 +432,7 @@ TEST_F(ProgramFaults, a_file_system_where_every_file_has_a_name)
 }
 #endif
 
-TEST_F(ProgramFaults, two_programs_on_one_photograph)
+TEST_F(ProgramFaults, TwoProgramsOnOnePhotograph)
 {
     folder.photograph("a.tif", 300, 200, VImage::Rgb, 16);
     ASSERT_EQ(folder.run({"a.tif", "--strength", "0"}).code, 0);
@@ -456,7 +456,7 @@ TEST_F(ProgramFaults, two_programs_on_one_photograph)
     }
 }
 
-TEST_F(ProgramFaults, names_of_any_letters)
+TEST_F(ProgramFaults, NamesOfAnyLetters)
 {
     const QStringList names{" two  blanks ",
                             "quotes\"'`",
@@ -491,7 +491,7 @@ TEST_F(ProgramFaults, names_of_any_letters)
     EXPECT_EQ(folder.files().size(), 2 * names.size() + 1);
 }
 
-TEST_F(ProgramFaults, a_name_that_the_settings_can_not_hold)
+TEST_F(ProgramFaults, ANameThatTheSettingsCanNotHold)
 {
     folder.photograph("bell\a.png", 16, 12);
     folder.photograph("plain.png", 16, 12);
@@ -502,7 +502,7 @@ TEST_F(ProgramFaults, a_name_that_the_settings_can_not_hold)
     EXPECT_EQ(folder.run({"--settings", "s.xml", "--overwrite"}).code, 0) << "of the others it keeps the strength";
 }
 
-TEST_F(ProgramFaults, a_name_that_is_no_utf_8_is_refused)
+TEST_F(ProgramFaults, ANameThatIsNoUtf8IsRefused)
 {
     // It does not come through the interface of the plug-in.
     folder.photograph("plain.png", 16, 12);
@@ -523,7 +523,7 @@ TEST_F(ProgramFaults, a_name_that_is_no_utf_8_is_refused)
     EXPECT_THAT(folder.files(), testing::ElementsAre("plain.png", "plain_dehazed.png"));
 }
 
-TEST_F(ProgramFaults, a_photograph_that_the_solver_can_not_take_is_written_as_it_was)
+TEST_F(ProgramFaults, APhotographThatTheSolverCanNotTakeIsWrittenAsItWas)
 {
     VImage image(40, 30, VImage::Rgb, 32, /*clear=*/true);
     for (int y = 0; y < 30; ++y)

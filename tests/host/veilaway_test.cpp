@@ -47,7 +47,7 @@ testing::AssertionResult contains(const QString &text, const QString &part)
 
 } // namespace
 
-TEST_F(Veilaway, wrong_command_lines_end_with_2_and_say_what_is_wrong)
+TEST_F(Veilaway, WrongCommandLinesEndWith2AndSayWhatIsWrong)
 {
     folder.photograph("a.png");
     folder.write("broken.xml", "<veilaway><photo path=");
@@ -95,7 +95,7 @@ TEST_F(Veilaway, wrong_command_lines_end_with_2_and_say_what_is_wrong)
     EXPECT_EQ(folder.content("broken.xml"), "<veilaway><photo path=");
 }
 
-TEST_F(Veilaway, the_wizard_says_what_helps_where_no_window_can_be_shown)
+TEST_F(Veilaway, TheWizardSaysWhatHelpsWhereNoWindowCanBeShown)
 {
     folder.write("broken.xml", "<veilaway>");
     const char kNone[] = "^veilaway: The window can't be shown: [^\n]*ssh -X[^\n]*\n$";
@@ -124,7 +124,7 @@ TEST_F(Veilaway, the_wizard_says_what_helps_where_no_window_can_be_shown)
     }
 }
 
-TEST_F(Veilaway, help_and_version_answer_on_standard_output)
+TEST_F(Veilaway, HelpAndVersionAnswerOnStandardOutput)
 {
     const Said help = folder.run({"--help"});
     EXPECT_EQ(help.code, 0);
@@ -138,7 +138,7 @@ TEST_F(Veilaway, help_and_version_answer_on_standard_output)
     EXPECT_TRUE(contains(lost.err, "--plugin FILE"));
 }
 
-TEST_F(Veilaway, takes_haze_away_and_keeps_format_depth_and_source)
+TEST_F(Veilaway, TakesHazeAwayAndKeepsFormatDepthAndSource)
 {
     const struct
     {
@@ -175,7 +175,7 @@ TEST_F(Veilaway, takes_haze_away_and_keeps_format_depth_and_source)
     }
 }
 
-TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
+TEST_F(Veilaway, RefusesWhatWouldDoHarmAndGoesOn)
 {
     folder.photograph("good.png");
     folder.photograph("there.png");
@@ -247,7 +247,7 @@ TEST_F(Veilaway, refuses_what_would_do_harm_and_goes_on)
     EXPECT_NE(folder.content("there_dehazed.png"), "older");
 }
 
-TEST_F(Veilaway, a_wide_photograph_gets_what_the_engine_makes_of_it_with_rows_for_columns)
+TEST_F(Veilaway, AWidePhotographGetsWhatTheEngineMakesOfItWithRowsForColumns)
 {
     constexpr int kWidth = 21475, kHeight = 13;
     const struct
@@ -318,7 +318,7 @@ TEST_F(Veilaway, a_wide_photograph_gets_what_the_engine_makes_of_it_with_rows_fo
     }
 }
 
-TEST_F(Veilaway, a_failed_save_leaves_no_file_and_the_older_result)
+TEST_F(Veilaway, AFailedSaveLeavesNoFileAndTheOlderResult)
 {
     folder.photograph("new.tif", 300, 200, VImage::Rgb, 16);
     folder.photograph("old.tif", 300, 200, VImage::Rgb, 16);
@@ -332,7 +332,7 @@ TEST_F(Veilaway, a_failed_save_leaves_no_file_and_the_older_result)
     EXPECT_EQ(folder.content("old_dehazed.tif"), "older");
 }
 
-TEST_F(Veilaway, says_the_same_to_programs_for_any_number_of_jobs_and_with_lent_services)
+TEST_F(Veilaway, SaysTheSameToProgramsForAnyNumberOfJobsAndWithLentServices)
 {
     QStringList photographs;
     for (int i = 0; i < 3; ++i) {
@@ -373,7 +373,7 @@ TEST_F(Veilaway, says_the_same_to_programs_for_any_number_of_jobs_and_with_lent_
     EXPECT_EQ(quiet.out + quiet.err, "");
 }
 
-TEST_F(Veilaway, tells_of_a_photograph_that_came_back_as_it_was)
+TEST_F(Veilaway, TellsOfAPhotographThatCameBackAsItWas)
 {
     folder.photograph("good.png");
     for (const char *name : {"nan.tif", "nan.exr"}) {
@@ -417,7 +417,7 @@ TEST_F(Veilaway, tells_of_a_photograph_that_came_back_as_it_was)
     EXPECT_EQ(none.err, "2 photographs done.\n");
 }
 
-TEST_F(Veilaway, settings_make_a_batch_repeatable)
+TEST_F(Veilaway, SettingsMakeABatchRepeatable)
 {
     QDir(folder.path(".")).mkdir("sub");
     folder.photograph("a.png");
@@ -451,7 +451,7 @@ TEST_F(Veilaway, settings_make_a_batch_repeatable)
     EXPECT_TRUE(QFile::exists(folder.path("moved/a_dehazed.png")));
 }
 
-TEST_F(Veilaway, results_among_the_photographs_are_left_out_and_settings_mend)
+TEST_F(Veilaway, ResultsAmongThePhotographsAreLeftOutAndSettingsMend)
 {
     const QStringList photographs{"a.png", "B.JPG", "c.dng", "plain"};
     folder.photograph("a.png");
@@ -504,7 +504,7 @@ TEST_F(Veilaway, results_among_the_photographs_are_left_out_and_settings_mend)
     EXPECT_TRUE(folder.files().contains("a_dehazed_dehazed.png"));
 }
 
-TEST_F(Veilaway, strength_falls_back_to_the_stored_default_and_then_to_70)
+TEST_F(Veilaway, StrengthFallsBackToTheStoredDefaultAndThenTo70)
 {
     folder.photograph("a.png");
     const struct
@@ -543,7 +543,7 @@ TEST_F(Veilaway, strength_falls_back_to_the_stored_default_and_then_to_70)
     EXPECT_TRUE(contains(full.err, "can't be stored in"));
 }
 
-TEST_F(Veilaway, the_automatic_strength_is_that_of_each_photograph_by_whatever_way)
+TEST_F(Veilaway, TheAutomaticStrengthIsThatOfEachPhotographByWhateverWay)
 {
     // A bright photograph, the same darkened, one that the engine can't take the haze from, and a wide one.
     folder.photograph("bright.png", 60, 40, VImage::Rgb, 16);
@@ -585,7 +585,7 @@ TEST_F(Veilaway, the_automatic_strength_is_that_of_each_photograph_by_whatever_w
     }
 }
 
-TEST_F(Veilaway, settings_keep_the_automatic_number_and_that_it_was_chosen)
+TEST_F(Veilaway, SettingsKeepTheAutomaticNumberAndThatItWasChosen)
 {
     folder.photograph("a.png");
     folder.photograph("b.png");
@@ -624,7 +624,7 @@ TEST_F(Veilaway, settings_keep_the_automatic_number_and_that_it_was_chosen)
     }
 }
 
-TEST_F(Veilaway, the_tag_follows_the_language)
+TEST_F(Veilaway, TheTagFollowsTheLanguage)
 {
     folder.photograph("a.png");
     const struct
@@ -650,7 +650,7 @@ TEST_F(Veilaway, the_tag_follows_the_language)
     }
 }
 
-TEST_F(Veilaway, metadata_goes_from_the_photograph_into_the_result)
+TEST_F(Veilaway, MetadataGoesFromThePhotographIntoTheResult)
 {
     const std::string packet =
         "<?xpacket begin='' id='W5M0MpCehiHzreSzNTczkc9d'?><x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
@@ -688,7 +688,7 @@ TEST_F(Veilaway, metadata_goes_from_the_photograph_into_the_result)
     EXPECT_EQ(folder.files().size(), 6);
 }
 
-TEST_F(Veilaway, camera_raw_and_unknown_suffixes_become_tiff)
+TEST_F(Veilaway, CameraRawAndUnknownSuffixesBecomeTiff)
 {
     folder.raw("shot.dng");
     folder.raw("shot2.xyz");
@@ -717,7 +717,7 @@ TEST_F(Veilaway, camera_raw_and_unknown_suffixes_become_tiff)
     EXPECT_TRUE(contains(cut.err, "cut.dng: The camera raw file"));
 }
 
-TEST_F(Veilaway, interrupted_it_keeps_what_is_whole_and_leaves_nothing_else)
+TEST_F(Veilaway, InterruptedItKeepsWhatIsWholeAndLeavesNothingElse)
 {
     QStringList photographs;
     for (int i = 0; i < 60; ++i) {
@@ -758,7 +758,7 @@ TEST_F(Veilaway, interrupted_it_keeps_what_is_whole_and_leaves_nothing_else)
     }
 }
 
-TEST_F(Veilaway, says_that_standard_output_can_not_be_written)
+TEST_F(Veilaway, SaysThatStandardOutputCanNotBeWritten)
 {
     folder.photograph("a.png");
     for (const char *arguments :
@@ -772,7 +772,7 @@ TEST_F(Veilaway, says_that_standard_output_can_not_be_written)
     EXPECT_NO_THROW(PhotoLoader::decode(folder.path("a_dehazed.png")));
 }
 
-TEST_F(Veilaway, shows_a_bar_for_each_photograph_on_a_terminal)
+TEST_F(Veilaway, ShowsABarForEachPhotographOnATerminal)
 {
     if (!QFile::exists("/usr/bin/script"))
         GTEST_SKIP() << "no terminal to be had: script(1) is missing";

@@ -39,32 +39,31 @@ double rangeWeight(float difference)
 } // namespace
 
 Picture::Picture(int pictureWidth, int pictureHeight)
-    : width(pictureWidth), height(pictureHeight), stride(static_cast<std::size_t>(width) * 4 + 5),
-      samples(stride * static_cast<std::size_t>(height), -7.0f)
+    : width(pictureWidth), height(pictureHeight), stride(std::size_t(width) * 4 + 5), samples(stride * std::size_t(height), -7.0f)
 {
-    image = std::make_unique<VImage>(width, height, VImage::Rgba, 32, /*clear=*/false, samples.data(),
-                                     static_cast<int>(stride * sizeof(float)));
+    image =
+        std::make_unique<VImage>(width, height, VImage::Rgba, 32, /*clear=*/false, samples.data(), int(stride * sizeof(float)));
 }
 
 Picture makePicture(int width, int height, Kind kind, unsigned seed)
 {
     Picture picture(width, height);
     std::mt19937 random(seed);
-    const auto below = [&random](unsigned limit) { return static_cast<int>(random() % limit); };
-    const auto fraction = [&random] { return static_cast<float>(random() >> 8) * 0x1p-24f; };
+    const auto below = [&random](unsigned limit) { return int(random() % limit); };
+    const auto fraction = [&random] { return float(random() >> 8) * 0x1p-24f; };
     const float wild[] = {kNan, kInfinity, -kInfinity, -0.0f, 0.0f, 3.5f, -0.25f, 1e30f};
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             float *const p = picture.at(x, y);
-            const float depth = static_cast<float>(y) / static_cast<float>(height);
+            const float depth = float(y) / float(height);
             const bool edge = x * 3 > width && y * 3 > height;
             for (int c = 0; c < 3; ++c) {
                 switch (kind) {
                 case Kind::Smooth:
-                    p[c] = 0.8f - 0.5f * depth + (edge ? -0.15f : 0.1f) + 0.02f * static_cast<float>(c) + 0.02f * fraction();
+                    p[c] = 0.8f - 0.5f * depth + (edge ? -0.15f : 0.1f) + 0.02f * float(c) + 0.02f * fraction();
                     break;
                 case Kind::Steps:
-                    p[c] = static_cast<float>(below(4)) / 4.0f;
+                    p[c] = float(below(4)) / 4.0f;
                     break;
                 case Kind::Wild:
                     p[c] = below(16) == 0 ? wild[below(8)] : fraction();
@@ -82,10 +81,10 @@ Picture makePicture(int width, int height, Kind kind, unsigned seed)
 
 std::vector<float> makeMap(int width, int height, unsigned seed)
 {
-    std::vector<float> map(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    std::vector<float> map(std::size_t(width) * std::size_t(height));
     std::mt19937 random(seed);
     for (float &value : map)
-        value = static_cast<float>(random() >> 8) * 0x1p-24f * 1.2f - 0.1f;
+        value = float(random() >> 8) * 0x1p-24f * 1.2f - 0.1f;
     return map;
 }
 
@@ -121,7 +120,7 @@ std::optional<DarkChannel> darkChannel(const Picture &picture)
     float best = -1.0f;
     const float *chosen = nullptr;
     for (const auto &[dark, p] : candidates) {
-        const auto luminance = static_cast<float>(0.3 * double{p[0]} + 0.59 * double{p[1]} + 0.11 * double{p[2]});
+        const auto luminance = float(0.3 * double(p[0]) + 0.59 * double(p[1]) + 0.11 * double(p[2]));
         if (luminance > best) {
             best = luminance;
             chosen = p;
@@ -144,7 +143,7 @@ std::optional<DarkChannel> darkChannel(const Picture &picture)
 std::vector<float> mattingMatrix(const Picture &picture)
 {
     const int width = picture.width;
-    const auto n = static_cast<std::size_t>(width * picture.height);
+    const auto n = std::size_t(width * picture.height);
     std::vector<float> matrix(n * n);
     for (std::size_t i = 0; i < n; ++i)
         matrix[i * n + i] = 0.001f;
@@ -167,8 +166,8 @@ std::vector<float> mattingMatrix(const Picture &picture)
                     moment /= 9.0f;
                     const float square = mean[a] * mean[b];
                     const float mixed = moment - square;
-                    const auto own = static_cast<float>(-double{square} + double{moment} + 0.001 / 9.0);
-                    c[a][b] = double{a == b ? own : mixed};
+                    const auto own = float(-double(square) + double(moment) + 0.001 / 9.0);
+                    c[a][b] = double(a == b ? own : mixed);
                 }
             }
             for (int k = 0; k < 3; ++k) { // positive definite: needs no pivoting
@@ -183,18 +182,17 @@ std::vector<float> mattingMatrix(const Picture &picture)
                 const float d[3] = {at(i)[0] - mean[0], at(i)[1] - mean[1], at(i)[2] - mean[2]};
                 float v[3];
                 for (int a = 0; a < 3; ++a)
-                    v[a] = static_cast<float>(c[a][3]) * d[0] + static_cast<float>(c[a][4]) * d[1] +
-                           static_cast<float>(c[a][5]) * d[2];
+                    v[a] = float(c[a][3]) * d[0] + float(c[a][4]) * d[1] + float(c[a][5]) * d[2];
                 for (int j = i; j < 9; ++j) {
                     float s = 1.0f;
                     for (int a = 0; a < 3; ++a)
                         s += v[a] * (at(j)[a] - mean[a]);
-                    const auto p = static_cast<std::size_t>((y + i / 3) * width + x + i % 3);
-                    const auto q = static_cast<std::size_t>((y + j / 3) * width + x + j % 3);
+                    const auto p = std::size_t((y + i / 3) * width + x + i % 3);
+                    const auto q = std::size_t((y + j / 3) * width + x + j % 3);
                     float &cell = matrix[p * n + q];
                     if (i == j)
                         cell += 1.0f;
-                    cell = static_cast<float>(double{cell} - double{s} / 9.0);
+                    cell = float(double(cell) - double(s) / 9.0);
                 }
             }
         }
@@ -227,14 +225,14 @@ std::vector<double> solve(const std::vector<float> &upper, std::vector<double> b
 std::vector<float> jointUpsample(const Picture &fine, const Picture &coarse, const std::vector<float> &map)
 {
     constexpr double kSpatial[3] = {15.5 / 285.5, 26.0 / 285.5, 63.5 / 285.5}; // by how many offsets are 0
-    const float scaleX = static_cast<float>(coarse.width) / static_cast<float>(fine.width);
-    const float scaleY = static_cast<float>(coarse.height) / static_cast<float>(fine.height);
+    const float scaleX = float(coarse.width) / float(fine.width);
+    const float scaleY = float(coarse.height) / float(fine.height);
     std::vector<float> result;
     for (int y = 0; y < fine.height; ++y) {
         for (int x = 0; x < fine.width; ++x) {
             const float *const p = fine.at(x, y);
-            const int cy = static_cast<int>(double{static_cast<float>(y) * scaleY} + 0.5);
-            const int cx = static_cast<int>(double{static_cast<float>(x) * scaleX} + 0.5);
+            const int cy = int(double(float(y) * scaleY) + 0.5);
+            const int cx = int(double(float(x) * scaleX) + 0.5);
             float sumW = 0.0f;
             float sumV = 0.0f;
             for (int dy = std::max(-cy, -1); dy < std::min(coarse.height - cy, 2) && p[3] != 0.0f; ++dy) {
@@ -243,9 +241,9 @@ std::vector<float> jointUpsample(const Picture &fine, const Picture &coarse, con
                     if (q[3] == 0.0f)
                         continue;
                     const double range = rangeWeight(p[0] - q[0]) * rangeWeight(p[1] - q[1]) * rangeWeight(p[2] - q[2]);
-                    const auto weight = static_cast<float>(range * kSpatial[(dx == 0) + (dy == 0)]);
+                    const auto weight = float(range * kSpatial[(dx == 0) + (dy == 0)]);
                     sumW += weight;
-                    sumV += map[static_cast<std::size_t>((cy + dy) * coarse.width + cx + dx)] * weight;
+                    sumV += map[std::size_t((cy + dy) * coarse.width + cx + dx)] * weight;
                 }
             }
             result.push_back(sumW == 0.0f ? 0.0f : sumV / sumW);
@@ -261,8 +259,8 @@ void recover(Picture &picture, const std::vector<float> &map, const float airlig
             float *const p = picture.at(x, y);
             if (p[3] == 0.0f)
                 continue;
-            float t = 1.0f - map[static_cast<std::size_t>(y * picture.width + x)] * strength;
-            if (double{t} < 0.1)
+            float t = 1.0f - map[std::size_t(y * picture.width + x)] * strength;
+            if (double(t) < 0.1)
                 t = 0.1f;
             for (int c = 0; c < 3; ++c) {
                 const float recovered = airlight[c] + (p[c] - airlight[c]) / t;

@@ -15,7 +15,7 @@ namespace hazeReference {
 struct Picture
 {
     Picture(int width, int height);
-    float *at(int x, int y) { return samples.data() + static_cast<std::size_t>(y) * stride + static_cast<std::size_t>(x) * 4; }
+    float *at(int x, int y) { return samples.data() + std::size_t(y) * stride + std::size_t(x) * 4; }
     const float *at(int x, int y) const { return const_cast<Picture *>(this)->at(x, y); }
 
     int width;

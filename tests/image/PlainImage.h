@@ -40,10 +40,10 @@ inline void setSample(VImage &image, int x, int y, int channel, double value)
     if (image.BitsPerComponent() == 8) {
         *address = static_cast<unsigned char>(value);
     } else if (image.BitsPerComponent() == 16) {
-        const auto sample = static_cast<std::uint16_t>(value);
+        const auto sample = std::uint16_t(value);
         std::memcpy(address, &sample, sizeof(sample));
     } else {
-        const auto sample = static_cast<float>(value);
+        const auto sample = float(value);
         std::memcpy(address, &sample, sizeof(sample));
     }
 }

@@ -35,7 +35,7 @@ Picture makeHazyScene(int width, int height)
     Picture picture(width, height);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
-            const float t = 0.1f + 0.9f * static_cast<float>(y) / static_cast<float>(height);
+            const float t = 0.1f + 0.9f * float(y) / float(height);
             const float scene[3] = {(x / 4) % 2 ? 0.4f : 0.05f, 0.3f, (x / 8) % 2 ? 0.02f : 0.2f};
             for (int c = 0; c < 3; ++c)
                 picture.at(x, y)[c] = 0.95f + (scene[c] - 0.95f) * t;
@@ -87,7 +87,7 @@ TEST(RemoveHaze, ASecondStrengthUsesTheMapAndThreadsDontMatter)
 int threadsOfTheProcess()
 {
     const std::filesystem::directory_iterator tasks("/proc/self/task");
-    return static_cast<int>(std::distance(begin(tasks), end(tasks)));
+    return int(std::distance(begin(tasks), end(tasks)));
 }
 
 TEST(RemoveHaze, StartsNoThreadBeyondItsTeam)
@@ -218,7 +218,7 @@ TEST(RemoveHaze, SizesOfTheCopy)
         for (int y = 0; y < row.height; ++y) {
             auto *p = reinterpret_cast<float *>(image.PixelAddress(0, y));
             for (int x = 0; x < row.width; ++x, p += 4) {
-                p[0] = p[1] = p[2] = 0.25f + static_cast<float>((x / 16 + y) % 4) / 8.0f;
+                p[0] = p[1] = p[2] = 0.25f + float((x / 16 + y) % 4) / 8.0f;
                 p[3] = 1.0f;
             }
         }

@@ -74,7 +74,7 @@ TEST(HazeDarkChannel, EqualsThePlainVersion)
     for (const auto &[width, height] : sizes) {
         for (const Kind kind : kKinds) {
             const Picture picture = makePicture(width, height, kind);
-            SCOPED_TRACE(testing::Message() << width << " x " << height << ", kind " << static_cast<int>(kind));
+            SCOPED_TRACE(testing::Message() << width << " x " << height << ", kind " << int(kind));
             const auto expected = darkChannel(picture);
             for (const int threads : {1, 3}) {
                 const Threads team(threads);
@@ -105,7 +105,7 @@ TEST(HazeDarkChannel, SpreadsATransparentBlackPixelOverItsWindow)
         ASSERT_TRUE(map);
         EXPECT_EQ(airlight[1], 0.75f);
         for (int x = 45; x < 56; ++x)
-            EXPECT_EQ(map[static_cast<std::size_t>(50 * row.width + x)], std::abs(x - 50) <= row.radius ? 0.0f : 1.0f) << x;
+            EXPECT_EQ(map[std::size_t(50 * row.width + x)], std::abs(x - 50) <= row.radius ? 0.0f : 1.0f) << x;
     }
 }
 
@@ -154,9 +154,9 @@ TEST(HazeDarkChannel, IsNullWithoutACandidateAndLeavesTheAirlight)
 /// The cells that HazeMattingRows gives from `blocks` blocks of rows, as the upper triangle of a dense matrix.
 std::vector<float> mattingCells(const Picture &picture, int blocks)
 {
-    const auto n = static_cast<std::size_t>(picture.width * picture.height);
+    const auto n = std::size_t(picture.width * picture.height);
     std::vector<float> matrix(n * n);
-    HazeMattingRows rows(picture.samples.data(), static_cast<std::ptrdiff_t>(picture.stride), picture.width, picture.height);
+    HazeMattingRows rows(picture.samples.data(), std::ptrdiff_t(picture.stride), picture.width, picture.height);
     for (int block = 0; block < blocks; ++block) {
         const int end = picture.height * (block + 1) / blocks;
         int y = picture.height * block / blocks;
@@ -168,8 +168,7 @@ std::vector<float> mattingCells(const Picture &picture, int blocks)
                     const int qx = x + offset.column;
                     const int qy = y + offset.row;
                     if (qx >= 0 && qx < picture.width && qy < picture.height)
-                        matrix[static_cast<std::size_t>(y * picture.width + x) * n +
-                               static_cast<std::size_t>(qy * picture.width + qx)] = *cells;
+                        matrix[std::size_t(y * picture.width + x) * n + std::size_t(qy * picture.width + qx)] = *cells;
                 }
             }
         }
@@ -182,7 +181,7 @@ TEST(HazeMatting, CellsAndSolutionAgreeWithThePlainVersion)
     const std::pair<int, int> sizes[] = {{3, 3}, {4, 3}, {3, 9}, {17, 11}};
     for (const auto &[width, height] : sizes) {
         for (const Kind kind : {Kind::Smooth, Kind::Noise, Kind::Steps}) {
-            SCOPED_TRACE(testing::Message() << width << " x " << height << ", kind " << static_cast<int>(kind));
+            SCOPED_TRACE(testing::Message() << width << " x " << height << ", kind " << int(kind));
             Picture picture = makePicture(width, height, kind);
             picture.at(1, 1)[3] = 0.0f; // has a say like any other
             const auto expected = mattingMatrix(picture);
@@ -194,11 +193,11 @@ TEST(HazeMatting, CellsAndSolutionAgreeWithThePlainVersion)
             auto map = makeMap(width, height);
             std::vector<double> b;
             for (const float value : map)
-                b.push_back(double{value} * 0.001);
+                b.push_back(double(value) * 0.001);
             const auto solution = solve(expected, b);
             ASSERT_TRUE(picture.image->HazeMatting(map.data()));
             for (std::size_t i = 0; i < map.size(); ++i)
-                EXPECT_NEAR(static_cast<double>(map[i]), solution[i], 5e-4) << i;
+                EXPECT_NEAR(double(map[i]), solution[i], 5e-4) << i;
         }
     }
 }
@@ -228,7 +227,7 @@ TEST(HazeMatting, AFailedSolveLeavesTheMapTimesLambda)
         const auto before = map;
         EXPECT_FALSE(picture.image->HazeMatting(map.data()));
         for (std::size_t i = 0; i < map.size(); ++i)
-            EXPECT_EQ(map[i], static_cast<float>(double{before[i]} * 0.001));
+            EXPECT_EQ(map[i], float(double(before[i]) * 0.001));
     }
 }
 
@@ -299,7 +298,7 @@ TEST(HazeJointUpsample, EqualsThePlainVersion)
     for (const auto &row : rows) {
         for (const Kind kind : kKinds) {
             SCOPED_TRACE(testing::Message() << row.fineWidth << " x " << row.fineHeight << " from " << row.coarseWidth << " x "
-                                            << row.coarseHeight << ", kind " << static_cast<int>(kind));
+                                            << row.coarseHeight << ", kind " << int(kind));
             const Picture fine = makePicture(row.fineWidth, row.fineHeight, kind, 1);
             const Picture coarse = makePicture(row.coarseWidth, row.coarseHeight, kind, 2);
             auto map = makeMap(row.coarseWidth, row.coarseHeight);
@@ -391,7 +390,7 @@ TEST(HazeRecover, EqualsThePlainVersion)
                     const Picture picture = makePicture(width, height, kind);
                     picture.image->HazeRecover(map.data(), airlight, strength);
                     EXPECT_EQ(firstDifference(picture.samples.data(), expected.samples.data(), expected.samples.size()), "")
-                        << width << " x " << height << ", kind " << static_cast<int>(kind) << ", strength " << strength;
+                        << width << " x " << height << ", kind " << int(kind) << ", strength " << strength;
                 }
             }
         }

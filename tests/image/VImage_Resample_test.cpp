@@ -115,7 +115,7 @@ TEST(VImage_Resample, NamedFacts)
     };
     for (const Fact &fact : facts) {
         SCOPED_TRACE(fact.name);
-        const int width = static_cast<int>(fact.source.size()) / fact.rows;
+        const int width = int(fact.source.size()) / fact.rows;
         VImage source(width, fact.rows, fact.form.type, fact.form.bits), target;
         for (int i = 0; i < width * fact.rows; ++i)
             setSample(source, i % width, i / width, 0, fact.source[std::size_t(i)]);

@@ -35,7 +35,7 @@ protected:
         Numbers numbers;
         for (int y = 0; y < image.Height(); ++y)
             for (int x = 0; x < image.Width() * 3; ++x)
-                setSample(image, x / 3, y, x % 3, static_cast<int>(numbers.next() % 64) + x);
+                setSample(image, x / 3, y, x % 3, int(numbers.next() % 64) + x);
     }
     QString path(const char *name) const { return folder.filePath(name); }
     QByteArray content(const QString &file) const
@@ -50,7 +50,7 @@ protected:
 };
 
 /// The codec layer's own file with these two fields; kDefault leaves one as it is.
-TEST_F(VImage_Save, formats_and_qualities)
+TEST_F(VImage_Save, FormatsAndQualities)
 {
     constexpr int kDefault = GFL_DEFAULT;
     const struct
@@ -79,7 +79,7 @@ TEST_F(VImage_Save, formats_and_qualities)
     }
 }
 
-TEST_F(VImage_Save, colour_profile_iptc_and_exif_of_the_source_and_nothing_it_lacks)
+TEST_F(VImage_Save, ColourProfileIptcAndExifOfTheSourceAndNothingItLacks)
 {
     for (const char *format : {"jpg", "png", "tif", "psd"})
         for (const int kinds : {0, 1, 2, 4, 7}) { // EXIF, IPTC, profile
@@ -118,7 +118,7 @@ TEST_F(VImage_Save, colour_profile_iptc_and_exif_of_the_source_and_nothing_it_la
         }
 }
 
-TEST_F(VImage_Save, refusals_write_nothing)
+TEST_F(VImage_Save, RefusalsWriteNothing)
 {
     VImage empty, bits4(2, 2, VImage::Grey, 4);
     EXPECT_EQ("Invalid Bitmap", messageOf([&] { empty.Save(path("a.png"), "png", -1, ""); }));
@@ -131,7 +131,7 @@ TEST_F(VImage_Save, refusals_write_nothing)
     EXPECT_EQ(files(), 0);
 }
 
-TEST_F(VImage_Save, the_clearest_reason_of_a_failure_comes_first)
+TEST_F(VImage_Save, TheClearestReasonOfAFailureComesFirst)
 {
     const QString beyond = path("no-such-folder/out.png");
     EXPECT_EQ("Cannot write into file \"" + beyond + "\"", messageOf([&] { image.Save(beyond, "png", -1, ""); }));

@@ -14,7 +14,7 @@ struct Size
     int width, height;
 };
 
-TEST(VImage_Turn, each_orientation_as_a_viewer_shows_it)
+TEST(VImage_Turn, EachOrientationAsAViewerShowsIt)
 {
     VImage image(3, 2, VImage::Grey, 8), turned; // 1 2 3 / 4 5 6
     for (int i = 0; i < 6; ++i)
@@ -26,25 +26,25 @@ TEST(VImage_Turn, each_orientation_as_a_viewer_shows_it)
         for (int y = 0; y < turned.Height(); ++y) {
             seen += y > 0 ? "/" : "";
             for (int x = 0; x < turned.Width(); ++x)
-                seen += static_cast<char>('0' + static_cast<int>(sampleOf(turned, x, y, 0)));
+                seen += char('0' + int(sampleOf(turned, x, y, 0)));
         }
         EXPECT_EQ(seen, shown[orientation - 1]) << orientation;
     }
 }
 
 /// What takes each of them back; the bytes between the rows belong to the caller.
-TEST(VImage_Turn, forth_and_back_gives_each_form_at_sizes_beside_a_square)
+TEST(VImage_Turn, ForthAndBackGivesEachFormAtSizesBesideASquare)
 {
     constexpr int kBack[] = {1, 2, 3, 4, 5, 8, 7, 6};
     Numbers numbers;
     for (const Form form : kForms)
         for (const Size size : {Size{1, 1}, Size{1, 33}, Size{64, 1}, Size{31, 65}, Size{70, 33}}) {
-            const std::size_t row = static_cast<std::size_t>(size.width * form.channels() * form.bits / 8), stride = row + 6;
-            std::vector<unsigned char> memory(stride * static_cast<std::size_t>(size.height));
+            const std::size_t row = std::size_t(size.width * form.channels() * form.bits / 8), stride = row + 6;
+            std::vector<unsigned char> memory(stride * std::size_t(size.height));
             for (unsigned char &byte : memory)
                 byte = static_cast<unsigned char>(numbers.next());
             const std::vector<unsigned char> before = memory;
-            VImage view(size.width, size.height, form.type, form.bits, /*clear=*/false, memory.data(), static_cast<int>(stride));
+            VImage view(size.width, size.height, form.type, form.bits, /*clear=*/false, memory.data(), int(stride));
             for (int orientation = 1; orientation <= 8; ++orientation) {
                 VImage turned, back;
                 view.Turn(turned, orientation);
@@ -69,7 +69,7 @@ TEST(VImage_Turn, forth_and_back_gives_each_form_at_sizes_beside_a_square)
         }
 }
 
-TEST(VImage_Turn, what_cannot_be_turned_leaves_the_target)
+TEST(VImage_Turn, WhatCannotBeTurnedLeavesTheTarget)
 {
     VImage image(2, 3, VImage::Rgb, 8, /*clear=*/true), four(2, 2, VImage::Grey, 4, /*clear=*/true),
         target(1, 1, VImage::Grey, 8);

@@ -201,14 +201,14 @@ TEST(VImage, EveryFailedAllocationLeavesAnImageToFree)
     const char *const assignMessages[] = {"Not enough memory", "Not enough memory", "Not enough memory", "no exception"};
     for (std::size_t failing = 0; failing < std::size(createMessages); ++failing) {
         VImage image;
-        allocationsUntilFailure = static_cast<int>(failing);
+        allocationsUntilFailure = int(failing);
         EXPECT_EQ(createMessages[failing], messageOf([&] { image.Create(2, 2, 0x0004, 8); })) << failing;
         allocationsUntilFailure = -1;
         EXPECT_EQ(failing != 0, image.Bitmap() != nullptr);
     }
     for (std::size_t failing = 0; failing < std::size(assignMessages); ++failing) {
         VImage image;
-        allocationsUntilFailure = static_cast<int>(failing);
+        allocationsUntilFailure = int(failing);
         EXPECT_EQ(assignMessages[failing], messageOf([&] { image.Assign(source); })) << failing;
         allocationsUntilFailure = -1;
         image.Create(2, 2, 0x0004, 8);

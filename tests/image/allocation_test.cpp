@@ -87,7 +87,7 @@ protected:
     void expectUntouched() const { EXPECT_EQ(firstDifference(picture.samples.data(), before.data(), before.size()), ""); }
 };
 
-TEST_F(Allocation, conversion_and_resampling_give_a_whole_image_or_none)
+TEST_F(Allocation, ConversionAndResamplingGiveAWholeImageOrNone)
 {
     VImage grey(kWidth, kHeight, VImage::Grey, 16, /*clear=*/true);
     const struct
@@ -118,7 +118,7 @@ TEST_F(Allocation, conversion_and_resampling_give_a_whole_image_or_none)
     }
 }
 
-TEST_F(Allocation, the_dark_channel)
+TEST_F(Allocation, TheDarkChannel)
 {
     std::unique_ptr<float[]> map;
     float airlight[3];
@@ -128,7 +128,7 @@ TEST_F(Allocation, the_dark_channel)
     expectUntouched();
 }
 
-TEST_F(Allocation, matting_ends_with_its_map_or_the_one_that_it_got_times_lambda)
+TEST_F(Allocation, MattingEndsWithItsMapOrTheOneThatItGotTimesLambda)
 {
     const std::vector<float> given = hazeReference::makeMap(kWidth, kHeight);
     std::vector<float> expected = given, scaled = given, map;
@@ -155,7 +155,7 @@ TEST_F(Allocation, matting_ends_with_its_map_or_the_one_that_it_got_times_lambda
     expectUntouched();
 }
 
-TEST_F(Allocation, the_pyramid)
+TEST_F(Allocation, ThePyramid)
 {
     VImage low;
     picture.image->Resample(low, kWidth / 5, kHeight / 5); // three levels
@@ -170,7 +170,7 @@ TEST_F(Allocation, the_pyramid)
     expectUntouched();
 }
 
-TEST_F(Allocation, the_whole_engine_leaves_image_and_state_as_they_were)
+TEST_F(Allocation, TheWholeEngineLeavesImageAndStateAsTheyWere)
 {
     HazeState state = {70, {}, nullptr};
     const auto run = [&] { RemoveHaze(*picture.image, state); };
@@ -217,7 +217,7 @@ void addMetadata(const QString &path)
     image->writeMetadata();
 }
 
-TEST_F(Allocation, a_file_is_read_whole_and_written_whole_or_not_at_all)
+TEST_F(Allocation, AFileIsReadWholeAndWrittenWholeOrNotAtAll)
 {
     QTemporaryDir folder;
     const auto content = [](const QString &path) {

@@ -44,7 +44,7 @@ public:
     std::map<QString, std::unique_ptr<Still>> stills;
 };
 
-TEST(Concurrent, eight_runs_give_what_each_gives_alone)
+TEST(Concurrent, EightRunsGiveWhatEachGivesAlone)
 {
     int argumentCount = 1;
     char programName[] = "test";

@@ -34,7 +34,7 @@ protected:
     const QTemporaryDir folder;
 };
 
-TEST_F(End, of_the_example)
+TEST_F(End, OfTheExample)
 {
     const QString photograph = folder.filePath("hills.png");
     const QString result = folder.filePath("hills_dehazed.png");
@@ -68,7 +68,7 @@ TEST_F(End, of_the_example)
     }
 }
 
-TEST_F(End, of_a_host_that_leaves_its_page_behind)
+TEST_F(End, OfAHostThatLeavesItsPageBehind)
 {
     const char *const rows[][3] = {
         {"return", "wizard", "shown"},   {"return", "wizard", "computing"}, {"return", "alone", "shown"},

@@ -108,7 +108,7 @@ protected:
     QTemporaryDir folder;
 };
 
-TEST_F(Plugin, exports_two_functions_and_no_folder_of_the_builder)
+TEST_F(Plugin, ExportsTwoFunctionsAndNoFolderOfTheBuilder)
 {
     QProcess symbols;
     symbols.start(QStringLiteral("nm"), {QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix"),
@@ -128,7 +128,7 @@ TEST_F(Plugin, exports_two_functions_and_no_folder_of_the_builder)
 #endif
 }
 
-TEST_F(Plugin, metadata)
+TEST_F(Plugin, Metadata)
 {
     const QJsonObject data = plugin().metaData();
     EXPECT_EQ(data.value("IID").toString(), "com.ombre.haze");
@@ -138,7 +138,7 @@ TEST_F(Plugin, metadata)
     EXPECT_TRUE(data.value("MetaData").toObject().isEmpty());
 }
 
-TEST_F(Plugin, identities_of_library_and_process)
+TEST_F(Plugin, IdentitiesOfLibraryAndProcess)
 {
     VIPluginOne2One *const process = newProcess();
     auto *const about = qobject_cast<VIAbout *>(library);
@@ -163,7 +163,7 @@ TEST_F(Plugin, identities_of_library_and_process)
     EXPECT_EQ(process->beforeAfterIcon().availableSizes(), QList<QSize>{QSize(256, 128)});
 }
 
-TEST_F(Plugin, casts_by_name)
+TEST_F(Plugin, CastsByName)
 {
     auto *const process = static_cast<VIPluginOne2One *>(newProcess());
     EXPECT_EQ(library->qt_metacast("Library"), library);
@@ -184,7 +184,7 @@ TEST_F(Plugin, casts_by_name)
     EXPECT_EQ(made->parent(), nullptr);
 }
 
-TEST_F(Plugin, start_asks_the_host_in_order_and_works_without_one)
+TEST_F(Plugin, StartAsksTheHostInOrderAndWorksWithoutOne)
 {
     delete library;
     host.calls.clear();
@@ -208,7 +208,7 @@ TEST_F(Plugin, start_asks_the_host_in_order_and_works_without_one)
     ASSERT_NE(plugin().instance(), nullptr);
 }
 
-TEST_F(Plugin, processes_are_made_on_request_and_belong_to_the_library)
+TEST_F(Plugin, ProcessesAreMadeOnRequestAndBelongToTheLibrary)
 {
     delete library;
     interface = qobject_cast<VIPluginLibrary *>(plugin().instance());
@@ -226,7 +226,7 @@ TEST_F(Plugin, processes_are_made_on_request_and_belong_to_the_library)
     EXPECT_TRUE(both[1].isNull());
 }
 
-TEST_F(Plugin, strength_of_new_settings)
+TEST_F(Plugin, StrengthOfNewSettings)
 {
     const struct
     {
@@ -258,7 +258,7 @@ TEST_F(Plugin, strength_of_new_settings)
     process->saveDefaults();
 }
 
-TEST_F(Plugin, settings_go_to_an_element_and_between_handles)
+TEST_F(Plugin, SettingsGoToAnElementAndBetweenHandles)
 {
     host.stored[kStored] = 25;
     VIPluginOne2One *const process = newProcess();
@@ -280,7 +280,7 @@ TEST_F(Plugin, settings_go_to_an_element_and_between_handles)
     EXPECT_EQ(host.stored.value(kStored), QVariant(25));
 }
 
-TEST_F(Plugin, images_of_the_page_have_settings_of_their_own)
+TEST_F(Plugin, ImagesOfThePageHaveSettingsOfTheirOwn)
 {
     host.stored[kStored] = 25;
     VIPluginOne2One *const process = newProcess();
@@ -295,7 +295,7 @@ TEST_F(Plugin, images_of_the_page_have_settings_of_their_own)
     process->setImages({});
 }
 
-TEST_F(Plugin, run_calls_the_host_in_order)
+TEST_F(Plugin, RunCallsTheHostInOrder)
 {
     const QString path = folder.filePath("photo.png");
     host.calls.clear();
@@ -303,7 +303,7 @@ TEST_F(Plugin, run_calls_the_host_in_order)
     EXPECT_EQ(host.calls, QStringList({"acquireFull 1", "releaseFull 1"}));
 }
 
-TEST_F(Plugin, names_of_results)
+TEST_F(Plugin, NamesOfResults)
 {
     const QLocale german(QLocale::German, QLocale::Germany);
     const QLocale english(QLocale::English, QLocale::UnitedStates);
@@ -333,7 +333,7 @@ TEST_F(Plugin, names_of_results)
     host.language = english;
 }
 
-TEST_F(Plugin, failures_reach_a_host_built_apart_as_values)
+TEST_F(Plugin, FailuresReachAHostBuiltApartAsValues)
 {
     const QString bare = folder.filePath("bare");
     const QString empty = folder.filePath("empty.png");
@@ -379,7 +379,7 @@ double hazyMean(const QImage &image)
     return sum / (image.height() / 3) / image.width();
 }
 
-TEST_F(Plugin, every_form_is_dehazed_and_keeps_its_channels_and_depth)
+TEST_F(Plugin, EveryFormIsDehazedAndKeepsItsChannelsAndDepth)
 {
     const struct
     {
@@ -405,7 +405,7 @@ TEST_F(Plugin, every_form_is_dehazed_and_keeps_its_channels_and_depth)
     }
 }
 
-TEST_F(Plugin, an_image_that_the_engine_gives_up_is_written_untouched)
+TEST_F(Plugin, AnImageThatTheEngineGivesUpIsWrittenUntouched)
 {
     const QString path = folder.filePath("void.png");
     host.image(path).type = VImage::Rgba;
@@ -415,7 +415,7 @@ TEST_F(Plugin, an_image_that_the_engine_gives_up_is_written_untouched)
     EXPECT_EQ(result.pixel(10, 10), qRgba(0, 0, 0, 128));
 }
 
-TEST_F(Plugin, catalogues_hold_the_texts)
+TEST_F(Plugin, CataloguesHoldTheTexts)
 {
     const struct
     {
@@ -480,7 +480,7 @@ TEST_F(Plugin, catalogues_hold_the_texts)
     EXPECT_FALSE(QFile::exists(QStringLiteral(":/Translation/Nimbra_ru.qm")));
 }
 
-TEST_F(Plugin, pictures)
+TEST_F(Plugin, Pictures)
 {
     const QString pictures = QStringLiteral(":/%1/Resources/").arg(kProcessGuid);
     const QStringList files = QDir(pictures).entryList(QDir::Files, QDir::Name);

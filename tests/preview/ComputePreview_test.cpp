@@ -32,7 +32,7 @@ protected:
     HazeState record = {};
 };
 
-TEST_F(Worker, at_strength_0_the_work_is_the_source)
+TEST_F(Worker, AtStrength0TheWorkIsTheSource)
 {
     const auto image = landscape(40, 30);
     run(*image);
@@ -40,7 +40,7 @@ TEST_F(Worker, at_strength_0_the_work_is_the_source)
     EXPECT_EQ(record.transmission, nullptr);
 }
 
-TEST_F(Worker, the_map_of_the_first_run_serves_the_second)
+TEST_F(Worker, TheMapOfTheFirstRunServesTheSecond)
 {
     const auto image = landscape(40, 30);
     record.strength = 50;
@@ -60,7 +60,7 @@ TEST_F(Worker, the_map_of_the_first_run_serves_the_second)
     EXPECT_EQ(screenImage(worker.work), screenImage(expected)) << "a fresh copy each time";
 }
 
-TEST_F(Worker, a_strength_that_moves_during_the_run_stays)
+TEST_F(Worker, AStrengthThatMovesDuringTheRunStays)
 {
     const auto image = landscape(40, 30);
     record = recordWithMap(40, 30);
@@ -75,7 +75,7 @@ TEST_F(Worker, a_strength_that_moves_during_the_run_stays)
     EXPECT_EQ(record.strength, 70);
 }
 
-TEST_F(Worker, an_image_that_can_not_be_estimated_stays_as_it_is)
+TEST_F(Worker, AnImageThatCanNotBeEstimatedStaysAsItIs)
 {
     const auto image = landscape(40, 30);
     *reinterpret_cast<float *>(image->PixelAddress(20, 15)) = std::numeric_limits<float>::quiet_NaN();
@@ -85,7 +85,7 @@ TEST_F(Worker, an_image_that_can_not_be_estimated_stays_as_it_is)
     EXPECT_EQ(record.transmission, nullptr);
 }
 
-TEST_F(Worker, an_exception_ends_the_run_as_quietly)
+TEST_F(Worker, AnExceptionEndsTheRunAsQuietly)
 {
     VImage refused(40, 30, VImage::Grey, 8, /*clear=*/true); // the engine throws "Invalid Bitmap"
     record.strength = 50;
@@ -100,7 +100,7 @@ TEST_F(Worker, an_exception_ends_the_run_as_quietly)
     omp_unset_lock(&worker.busy);
 }
 
-TEST_F(Worker, input_withdrawn_before_the_run_begins)
+TEST_F(Worker, InputWithdrawnBeforeTheRunBegins)
 {
     const auto image = landscape(40, 30);
     record.strength = 50;

@@ -22,7 +22,7 @@ protected:
     QAnimatedLabel label{nullptr};
 };
 
-TEST_F(AnimatedLabel, shows_the_pictures_in_turn)
+TEST_F(AnimatedLabel, ShowsThePicturesInTurn)
 {
     label.changeImage();
     EXPECT_EQ(shown(), 0) << "nothing before the start";
@@ -39,7 +39,7 @@ TEST_F(AnimatedLabel, shows_the_pictures_in_turn)
     EXPECT_EQ(shown(), 3);
 }
 
-TEST_F(AnimatedLabel, its_timer_turns_it)
+TEST_F(AnimatedLabel, ItsTimerTurnsIt)
 {
     label.startAnimation({folder.filePath("missing.png"), picture(6)}, 1);
     QEventLoop loop;

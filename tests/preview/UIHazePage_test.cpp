@@ -50,7 +50,7 @@ protected:
     QSpinBox *strength = nullptr;
 };
 
-TEST_F(Page, stands_as_its_form_says)
+TEST_F(Page, StandsAsItsFormSays)
 {
     open();
     EXPECT_EQ(page->title(), "Veilaway");
@@ -66,7 +66,7 @@ TEST_F(Page, stands_as_its_form_says)
     EXPECT_FALSE(panel->thread.isRunning());
 }
 
-TEST_F(Page, size_of_the_preview)
+TEST_F(Page, SizeOfThePreview)
 {
     const struct
     {
@@ -92,7 +92,7 @@ TEST_F(Page, size_of_the_preview)
     process->setImages({});
 }
 
-TEST_F(Page, prev_and_next_wrap_around)
+TEST_F(Page, PrevAndNextWrapAround)
 {
     open();
     process->setImages({"/p/only.png"});
@@ -114,7 +114,7 @@ TEST_F(Page, prev_and_next_wrap_around)
     ASSERT_TRUE(watch->finish());
 }
 
-TEST_F(Page, leaving_an_image_during_a_run)
+TEST_F(Page, LeavingAnImageDuringARun)
 {
     const QString wide = "/p/wide.png", tall = "/p/tall.png";
     host.image(wide).fullWidth = 90;
@@ -138,7 +138,7 @@ TEST_F(Page, leaving_an_image_during_a_run)
     EXPECT_EQ(storedFor(tall), 40);
 }
 
-TEST_F(Page, apply_to_all)
+TEST_F(Page, ApplyToAll)
 {
     open();
     process->setImages({"/p/a.png", "/p/b.png", "/p/c.png"});
@@ -155,7 +155,7 @@ TEST_F(Page, apply_to_all)
     EXPECT_EQ(host.stored.last(), QVariant(40));
 }
 
-TEST_F(Page, a_stored_strength_beyond_the_control_is_clamped_by_it)
+TEST_F(Page, AStoredStrengthBeyondTheControlIsClampedByIt)
 {
     host.stored[process->guid() + "/hazeRemove"] = 150;
     open();
@@ -164,7 +164,7 @@ TEST_F(Page, a_stored_strength_beyond_the_control_is_clamped_by_it)
     EXPECT_EQ(storedFor("/p/a.png"), 100);
 }
 
-TEST_F(Page, sixteen_bit_grey_is_dehazed)
+TEST_F(Page, SixteenBitGreyIsDehazed)
 {
     host.image("/p/grey.png").type = VImage::Grey;
     host.image("/p/grey.png").bits = 16;
@@ -176,7 +176,7 @@ TEST_F(Page, sixteen_bit_grey_is_dehazed)
     EXPECT_NE(panel->afterImage, panel->beforeImage);
 }
 
-TEST_F(Page, a_new_list_or_the_end_of_the_process_waits_for_the_run)
+TEST_F(Page, ANewListOrTheEndOfTheProcessWaitsForTheRun)
 {
     open();
     process->setImages({"/p/a.png", "/p/b.png"});
@@ -201,7 +201,7 @@ TEST_F(Page, a_new_list_or_the_end_of_the_process_waits_for_the_run)
     EXPECT_EQ(host.calls, QStringList()) << "no image is loaded";
 }
 
-TEST_F(Page, the_page_may_be_gone)
+TEST_F(Page, ThePageMayBeGone)
 {
     host.stored[process->guid() + "/hazeRemove"] = 45;
     open();

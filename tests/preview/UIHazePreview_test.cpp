@@ -77,7 +77,7 @@ protected:
     QAnimatedLabel *wait = panel->findChild<QAnimatedLabel *>("labelState");
 };
 
-TEST_F(Panel, form)
+TEST_F(Panel, Form)
 {
     const struct
     {
@@ -107,7 +107,7 @@ TEST_F(Panel, form)
                                   "on_checkBoxSplit_stateChanged(int)", "computePreview()", "updatePreview()"}));
 }
 
-TEST_F(Panel, controls_follow_one_another_and_do_nothing_before_the_first_image)
+TEST_F(Panel, ControlsFollowOneAnotherAndDoNothingBeforeTheFirstImage)
 {
     slider->setValue(30);
     EXPECT_EQ(strength->value(), 30);
@@ -119,7 +119,7 @@ TEST_F(Panel, controls_follow_one_another_and_do_nothing_before_the_first_image)
     EXPECT_TRUE(panel->afterPixmap.isNull());
 }
 
-TEST_F(Panel, a_change_of_strength_ends_in_its_picture)
+TEST_F(Panel, AChangeOfStrengthEndsInItsPicture)
 {
     load();
     strength->setValue(60);
@@ -133,7 +133,7 @@ TEST_F(Panel, a_change_of_strength_ends_in_its_picture)
     EXPECT_EQ(parent.told, QList<bool>({false, true}));
 }
 
-TEST_F(Panel, three_changes_during_one_run_make_one_more)
+TEST_F(Panel, ThreeChangesDuringOneRunMakeOneMore)
 {
     load();
     strength->setValue(20);
@@ -150,7 +150,7 @@ TEST_F(Panel, three_changes_during_one_run_make_one_more)
     EXPECT_EQ(watch.runs, 1) << "and then it is as before";
 }
 
-TEST_F(Panel, a_request_between_the_end_of_the_run_and_its_finished_is_not_lost)
+TEST_F(Panel, ARequestBetweenTheEndOfTheRunAndItsFinishedIsNotLost)
 {
     load();
     strength->setValue(20);
@@ -162,7 +162,7 @@ TEST_F(Panel, a_request_between_the_end_of_the_run_and_its_finished_is_not_lost)
     EXPECT_EQ(parent.told, QList<bool>({false, false, false, true}));
 }
 
-TEST_F(Panel, an_image_that_changes_before_the_run_begins)
+TEST_F(Panel, AnImageThatChangesBeforeTheRunBegins)
 {
     load();
     omp_set_lock(&panel->thread.busy);
@@ -180,7 +180,7 @@ TEST_F(Panel, an_image_that_changes_before_the_run_begins)
     panel->releaseRecord();
 }
 
-TEST_F(Panel, alt_shows_the_map)
+TEST_F(Panel, AltShowsTheMap)
 {
     load();
     strength->setValue(60);
@@ -208,7 +208,7 @@ TEST_F(Panel, alt_shows_the_map)
     EXPECT_EQ(panel->afterImage, expectedAt(60));
 }
 
-TEST_F(Panel, alt_without_a_map_shows_the_work)
+TEST_F(Panel, AltWithoutAMapShowsTheWork)
 {
     load();
     delete[] std::exchange(record.transmission, nullptr);
@@ -218,14 +218,14 @@ TEST_F(Panel, alt_without_a_map_shows_the_work)
     EXPECT_EQ(panel->afterImage, panel->beforeImage);
 }
 
-TEST_F(Panel, no_key_goes_further)
+TEST_F(Panel, NoKeyGoesFurther)
 {
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QApplication::sendEvent(panel, &enter);
     EXPECT_TRUE(enter.isAccepted());
 }
 
-TEST_F(Panel, the_picture_is_split_in_its_middle)
+TEST_F(Panel, ThePictureIsSplitInItsMiddle)
 {
     load();
     panel->beforePixmap.fill(Qt::red);
@@ -250,7 +250,7 @@ TEST_F(Panel, the_picture_is_split_in_its_middle)
     EXPECT_EQ(colours(), QList<QColor>({Qt::red, Qt::red, Qt::red, Qt::red}));
 }
 
-TEST_F(Panel, resizing_scales_the_pictures_and_centres_the_wait_sign)
+TEST_F(Panel, ResizingScalesThePicturesAndCentresTheWaitSign)
 {
     load();
     strength->setValue(10);
@@ -262,7 +262,7 @@ TEST_F(Panel, resizing_scales_the_pictures_and_centres_the_wait_sign)
     EXPECT_EQ(wait->pos(), frame->pos() + QPoint((frame->width() - wait->width()) / 2, (frame->height() - wait->height()) / 2));
 }
 
-TEST_F(Panel, a_parent_without_the_slot_costs_nothing)
+TEST_F(Panel, AParentWithoutTheSlotCostsNothing)
 {
     QWidget plain;
     for (QWidget *other : {&plain, static_cast<QWidget *>(nullptr)}) {
@@ -276,7 +276,7 @@ TEST_F(Panel, a_parent_without_the_slot_costs_nothing)
     }
 }
 
-TEST_F(Panel, a_storm_of_changes_with_images_that_come_and_go)
+TEST_F(Panel, AStormOfChangesWithImagesThatComeAndGo)
 {
     constexpr int kChanges = 1000;
     struct Slot
@@ -327,7 +327,7 @@ TEST_F(Panel, a_storm_of_changes_with_images_that_come_and_go)
         delete[] slot.state.transmission;
 }
 
-TEST_F(Panel, closing_during_a_run)
+TEST_F(Panel, ClosingDuringARun)
 {
     load();
     strength->setValue(60);

@@ -5,7 +5,7 @@
 
 #include "TestFolder.h"
 
-TEST(Dehaze, gives_the_program_what_the_user_named_and_nothing_else)
+TEST(Dehaze, GivesTheProgramWhatTheUserNamedAndNothingElse)
 {
     const TestFolder folder;
     const Said made = folder.shell("mkdir -p tree/scripts tree/build/release/bin photos; cp \"$DEHAZE\" tree/scripts/dehaze; "

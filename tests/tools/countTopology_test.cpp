@@ -17,7 +17,7 @@ constexpr std::uint32_t kHyperThreading = 1u << 28;
 Records machine(const std::vector<std::uint32_t> &apicIds)
 {
     Records records;
-    records.processorCount = static_cast<std::uint32_t>(apicIds.size());
+    records.processorCount = std::uint32_t(apicIds.size());
     records.groupsTold = true;
     for (std::uint32_t first = 0; first < records.processorCount; first += 32) {
         const std::uint32_t count = std::min(records.processorCount - first, 32u);

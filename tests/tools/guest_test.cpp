@@ -122,7 +122,7 @@ private:
 std::size_t entriesOf(const char *folder)
 {
     const std::filesystem::directory_iterator entries(folder);
-    return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
+    return std::size_t(std::distance(begin(entries), end(entries)));
 }
 
 class Guest : public testing::TestWithParam<bool>

@@ -29,7 +29,7 @@ Bytes counted(std::size_t count)
 {
     Bytes bytes(count);
     for (std::size_t i = 0; i < count; ++i)
-        bytes[i] = static_cast<std::uint8_t>(i * 7 + i / 256);
+        bytes[i] = std::uint8_t(i * 7 + i / 256);
     return bytes;
 }
 

@@ -18,7 +18,7 @@ struct Stream
     void put(unsigned value, int count)
     {
         for (int i = 0; i < count; ++i)
-            bytes.push_back(static_cast<std::uint8_t>(value >> 8 * (bigEndian ? count - 1 - i : i)));
+            bytes.push_back(std::uint8_t(value >> 8 * (bigEndian ? count - 1 - i : i)));
     }
     void entry(unsigned tag, unsigned type, unsigned count, unsigned value, int valueBytes = 4)
     {
@@ -32,9 +32,8 @@ struct Stream
 
 FileBytes segment(unsigned marker, const FileBytes &data)
 {
-    const unsigned length = static_cast<unsigned>(data.size()) + 2;
-    FileBytes bytes{0xFF, static_cast<std::uint8_t>(marker), static_cast<std::uint8_t>(length >> 8),
-                    static_cast<std::uint8_t>(length)};
+    const unsigned length = unsigned(data.size()) + 2;
+    FileBytes bytes{0xFF, std::uint8_t(marker), std::uint8_t(length >> 8), std::uint8_t(length)};
     append(bytes, data);
     return bytes;
 }
@@ -95,7 +94,7 @@ FileBytes profileBlock()
     std::memcpy(&profile[12], "mntrRGB XYZ ", 12);
     std::memcpy(&profile[36], "acsp", 4);
     for (std::size_t i = 132; i < profile.size(); ++i)
-        profile[i] = static_cast<std::uint8_t>(i * 7);
+        profile[i] = std::uint8_t(i * 7);
     return profile;
 }
 
@@ -113,7 +112,7 @@ FileBytes photograph()
     append(exif, exifBlock(true));
     FileBytes resources{'P', 'h', 'o', 't', 'o', 's', 'h', 'o', 'p', ' ', '3', '.', '0', 0};
     append(resources, {'8', 'B', 'I', 'M', 0x04, 0x25, 0, 0, 0, 0, 0, 1, 9, 0}); // an odd block to be passed by
-    append(resources, {'8', 'B', 'I', 'M', 0x04, 0x04, 0, 0, 0, 0, 0, static_cast<std::uint8_t>(iptcBlock().size())});
+    append(resources, {'8', 'B', 'I', 'M', 0x04, 0x04, 0, 0, 0, 0, 0, std::uint8_t(iptcBlock().size())});
     append(resources, iptcBlock());
     resources.push_back(0);
     FileBytes profile{'I', 'C', 'C', '_', 'P', 'R', 'O', 'F', 'I', 'L', 'E', 0, 1, 1};

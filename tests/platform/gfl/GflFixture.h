@@ -32,13 +32,13 @@ constexpr const char *kSuffixes[] = {"jpg", "png", "tif", "hdr", "exr", "psd"};
 inline Picture makePicture(int width, int height, int components, int bits)
 {
     Picture picture(static_cast<GflBitmap *>(std::calloc(1, sizeof(GflBitmap))));
-    picture->type = static_cast<std::uint16_t>(components == 1 ? 0x0002 : components == 3 ? 0x0010 : 0x0020);
+    picture->type = std::uint16_t(components == 1 ? 0x0002 : components == 3 ? 0x0010 : 0x0020);
     picture->width = width;
     picture->height = height;
-    picture->bitsPerComponent = static_cast<std::uint16_t>(bits);
-    picture->componentsPerPixel = static_cast<std::uint16_t>(components);
-    picture->bytesPerPixel = static_cast<std::uint16_t>(components * bits / 8);
-    picture->bytesPerLine = (static_cast<std::uint32_t>(width) * picture->bytesPerPixel + 3) / 4 * 4 + 8;
+    picture->bitsPerComponent = std::uint16_t(bits);
+    picture->componentsPerPixel = std::uint16_t(components);
+    picture->bytesPerPixel = std::uint16_t(components * bits / 8);
+    picture->bytesPerLine = (std::uint32_t(width) * picture->bytesPerPixel + 3) / 4 * 4 + 8;
     picture->lineAlignment = 4;
     picture->transparentIndex = -1;
     picture->data = std::calloc(std::size_t(height), picture->bytesPerLine);
@@ -70,10 +70,10 @@ inline double fractionAt(const GflBitmap &bitmap, int x, int y, int c)
 inline void setFraction(const GflBitmap &bitmap, int x, int y, int c, double fraction)
 {
     std::uint8_t *at = sampleAt(bitmap, x, y, c);
-    const auto wide = static_cast<std::uint16_t>(std::lround(fraction * 65535));
-    const auto real = static_cast<float>(fraction);
+    const auto wide = std::uint16_t(std::lround(fraction * 65535));
+    const auto real = float(fraction);
     if (bitmap.bitsPerComponent == 8)
-        *at = static_cast<std::uint8_t>(std::lround(fraction * 255));
+        *at = std::uint8_t(std::lround(fraction * 255));
     else if (bitmap.bitsPerComponent == 16)
         std::memcpy(at, &wide, sizeof wide);
     else
@@ -121,8 +121,8 @@ inline int save(const std::string &name, const GflBitmap *bitmap, const char *fo
     gflGetDefaultSaveParams(&params);
     params.flags |= GFL_SAVE_ICC_PROFILE;
     params.formatIndex = gflGetFormatIndexByName(format);
-    params.quality = static_cast<std::int16_t>(quality);
-    params.compression = static_cast<std::int16_t>(compression);
+    params.quality = std::int16_t(quality);
+    params.compression = std::int16_t(compression);
     return gflSaveBitmapUTF8(name.c_str(), bitmap, &params);
 }
 

@@ -94,7 +94,7 @@ TEST_F(GflDamageTest, ChangedBytesNeverDoMoreThanFail)
     std::uint64_t state = 20240506;
     const auto draw = [&](std::size_t below) {
         state = state * 6364136223846793005u + 1442695040888963407u;
-        return static_cast<std::size_t>(state >> 33) % below;
+        return std::size_t(state >> 33) % below;
     };
     for (const Seed &seed : kSeeds) {
         const FileBytes whole = seedFile(seed);
@@ -105,7 +105,7 @@ TEST_F(GflDamageTest, ChangedBytesNeverDoMoreThanFail)
             for (std::size_t change = 0, count = 1 + draw(8); change < count; ++change) {
                 static constexpr std::uint8_t kTelling[] = {0x00, 0xFF, 0x7F, 0x80, 0x01};
                 std::uint8_t &at = bytes[draw(front)];
-                at = draw(2) ? kTelling[draw(5)] : static_cast<std::uint8_t>(at ^ 1u << draw(8));
+                at = draw(2) ? kTelling[draw(5)] : std::uint8_t(at ^ 1u << draw(8));
             }
             if (draw(8) == 0)
                 bytes.resize(draw(bytes.size()));
@@ -131,7 +131,7 @@ TEST_F(GflDamageTest, ChangedBytesNeverDoMoreThanFail)
 void putBig(FileBytes &bytes, std::size_t at, std::uint32_t value, int count)
 {
     for (int i = 0; i < count; ++i)
-        bytes[at + std::size_t(i)] = static_cast<std::uint8_t>(value >> 8 * (count - 1 - i));
+        bytes[at + std::size_t(i)] = std::uint8_t(value >> 8 * (count - 1 - i));
 }
 
 std::size_t find(const FileBytes &bytes, const std::string &text)
@@ -171,8 +171,8 @@ void claim(FileBytes &bytes, const std::string &format, std::uint32_t width, std
     } else if (format == "exr") {
         const std::size_t window = find(bytes, "dataWindow") + 11 + 6 + 4;
         for (int i = 0; i < 4; ++i) {
-            bytes[window + 8 + std::size_t(i)] = static_cast<std::uint8_t>((width - 1) >> 8 * i);
-            bytes[window + 12 + std::size_t(i)] = static_cast<std::uint8_t>((height - 1) >> 8 * i);
+            bytes[window + 8 + std::size_t(i)] = std::uint8_t((width - 1) >> 8 * i);
+            bytes[window + 12 + std::size_t(i)] = std::uint8_t((height - 1) >> 8 * i);
         }
     } else {
         putBig(bytes, 14, height, 4);

@@ -32,7 +32,7 @@ void appendQuoted(FileBytes &bytes, std::istream &words)
     for (char c; words.get(c) && c != '"';) {
         if (c == '\\' && words.get(c))
             c = '\n';
-        bytes.push_back(static_cast<std::uint8_t>(c));
+        bytes.push_back(std::uint8_t(c));
     }
 }
 
@@ -48,7 +48,7 @@ void appendBytes(FileBytes &bytes, const std::string &line)
         std::string word;
         words >> word;
         std::size_t end = 0;
-        const auto value = static_cast<std::uint8_t>(std::stoul(word, &end, 16));
+        const auto value = std::uint8_t(std::stoul(word, &end, 16));
         bytes.insert(bytes.end(), end < word.size() ? std::stoul(word.substr(end + 1)) : 1, value);
     }
 }

@@ -77,7 +77,7 @@ TEST_F(GflTest, DepthsChangeAsInTheImagePrimitives)
 {
     const Picture picture = makePicture(256, 256, 3, 16); // every value there is
     for (unsigned i = 0; i < 65536 * 3; ++i) {
-        const auto value = static_cast<std::uint16_t>(i / 3);
+        const auto value = std::uint16_t(i / 3);
         std::memcpy(sampleAt(*picture, int(value % 256), int(value / 256), int(i % 3)), &value, sizeof value);
     }
     Picture read;
@@ -248,7 +248,7 @@ TEST_F(GflTest, LargeExifIsMadeToFitIntoJpeg)
 {
     // A thumbnail of 70,000 bytes behind the second directory of a block that is fine otherwise.
     FileBytes block = exifBlock(false);
-    const std::uint32_t second = static_cast<std::uint32_t>(block.size());
+    const std::uint32_t second = std::uint32_t(block.size());
     std::memcpy(&block[8 + 2 + 5 * 12], &second, 4);
     const std::uint32_t thumbnailAt = second + 2 + 2 * 12 + 4;
     const std::uint32_t thumbnailBytes = 70000;
@@ -262,7 +262,7 @@ TEST_F(GflTest, LargeExifIsMadeToFitIntoJpeg)
     FileBytes png = readFile(path("a.png"));
     FileBytes chunk{0, 0, 0, 0, 'e', 'X', 'I', 'f'};
     for (int i = 0; i < 4; ++i)
-        chunk[std::size_t(i)] = static_cast<std::uint8_t>(block.size() >> (24 - 8 * i));
+        chunk[std::size_t(i)] = std::uint8_t(block.size() >> (24 - 8 * i));
     chunk.insert(chunk.end(), block.begin(), block.end());
     chunk.insert(chunk.end(), 4, 0); // its checksum is not looked at
     png.insert(png.begin() + 33, chunk.begin(), chunk.end());

@@ -27,7 +27,7 @@ TEST(ippiScale, FloatsToIntegersAtEveryTurn)
         constexpr float kInfinity = std::numeric_limits<float>::infinity();
         samples.insert(samples.end(), {std::nanf(""), -std::nanf(""), kInfinity, -kInfinity, -0.0f, 3e38f, -3e38f, 1e-45f});
         std::vector<std::uint16_t> result(samples.size());
-        const int count = static_cast<int>(samples.size());
+        const int count = int(samples.size());
         ASSERT_EQ(ippStsNoErr, ippiScale(samples.data(), count * 4, 32, result.data(), count * 2, bits, 1, {count, 1}));
         const auto *bytes = reinterpret_cast<const std::uint8_t *>(result.data());
         int wrong = 0;

@@ -40,10 +40,10 @@ TEST(ippiFilterMinBorder, EqualsThePlainMinimum)
                                             << ", share " << share);
             const int sourceStride = width * 4 + 3;
             const int targetStride = width * 4 + 8;
-            std::vector<float> source(static_cast<std::size_t>(sourceStride * height));
+            std::vector<float> source(std::size_t(sourceStride * height));
             for (float &value : source)
-                value = share && random() % share == 0 ? special[random() % 8] : static_cast<float>(random() % 1000) / 1000.0f;
-            std::vector<float> target(static_cast<std::size_t>(targetStride * height), 9.0f);
+                value = share && random() % share == 0 ? special[random() % 8] : float(random() % 1000) / 1000.0f;
+            std::vector<float> target(std::size_t(targetStride * height), 9.0f);
             std::vector<std::int32_t> buffer(ippiFilterMinGetBufferSize(row.region, row.mask) / sizeof(std::int32_t));
             ASSERT_EQ(ippiFilterMinBorder(source.data(), sourceStride * 4, target.data(), targetStride * 4, row.region, row.mask,
                                           row.anchor, buffer.data()),
@@ -57,12 +57,12 @@ TEST(ippiFilterMinBorder, EqualsThePlainMinimum)
                         for (int wx = s / 4 - row.anchor.x; wx < s / 4 - row.anchor.x + row.mask.width; ++wx) {
                             const int cx = std::clamp(wx, 0, width - 1); // the border is replicated
                             const int cy = std::clamp(wy, 0, height - 1);
-                            const float value = source[static_cast<std::size_t>(cy * sourceStride + cx * 4 + s % 4)];
+                            const float value = source[std::size_t(cy * sourceStride + cx * 4 + s % 4)];
                             if (std::isnan(expected) || isBelow(value, expected))
                                 expected = value;
                         }
                     }
-                    const float result = target[static_cast<std::size_t>(y * targetStride + s)];
+                    const float result = target[std::size_t(y * targetStride + s)];
                     ASSERT_TRUE(std::memcmp(&result, &expected, sizeof result) == 0 ||
                                 (std::isnan(result) && std::isnan(expected)))
                         << s << ", " << y << ": " << result << " and " << expected;

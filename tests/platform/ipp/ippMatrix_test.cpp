@@ -36,9 +36,9 @@ TEST(ippmInvert3x3, NearlySingularKeepsItsDigits)
     const float source[9] = {c + e, c, c, c, c + e, c, c, c, c + e};
     float inverse[9];
     ASSERT_EQ(ippmInvert3x3(source, inverse), ippStsNoErr);
-    const double share = double{c} / (double{e} + 3.0 * double{c});
+    const double share = double(c) / (double(e) + 3.0 * double(c));
     for (int i = 0; i < 9; ++i)
-        EXPECT_FLOAT_EQ(inverse[i], static_cast<float>(((i % 4 == 0 ? 1.0 : 0.0) - share) / double{e})) << i;
+        EXPECT_FLOAT_EQ(inverse[i], float(((i % 4 == 0 ? 1.0 : 0.0) - share) / double(e))) << i;
 }
 
 TEST(ippmInvert3x3, SingularLeavesTheTarget)

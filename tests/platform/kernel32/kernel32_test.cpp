@@ -55,8 +55,8 @@ TEST(Kernel32, GroupsAddUpToTheMachine)
         sum += groups.groups[i].activeProcessorCount;
     }
     EXPECT_EQ(sum, all);
-    EXPECT_EQ(GetMaximumProcessorCount(static_cast<std::uint16_t>(groups.count)), 0u);
-    GroupAffinity beyond{0, static_cast<std::uint16_t>(groups.count)};
+    EXPECT_EQ(GetMaximumProcessorCount(std::uint16_t(groups.count)), 0u);
+    GroupAffinity beyond{0, std::uint16_t(groups.count)};
     EXPECT_FALSE(GetThreadGroupAffinity(&beyond));
     EXPECT_FALSE(GetLogicalProcessorInformationEx(99, &groups));
     EXPECT_EQ(groups.relation, RelationGroup); // as it was
@@ -89,7 +89,7 @@ TEST(Kernel32, BindsTheCallingThreadAlone)
     EXPECT_EQ(after.mask, before.mask);
 }
 
-TEST(Kernel32, finds_the_tightest_limits_from_its_own_control_group_upwards)
+TEST(Kernel32, FindsTheTightestLimitsFromItsOwnControlGroupUpwards)
 {
     namespace fs = std::filesystem;
     const struct
@@ -177,7 +177,7 @@ TEST(Kernel32, finds_the_tightest_limits_from_its_own_control_group_upwards)
     EXPECT_GT(GetAvailableMemory(), 0u);
 }
 
-TEST(Kernel32, reserved_memory_is_zero_up_to_its_last_byte_and_costs_nothing_untouched)
+TEST(Kernel32, ReservedMemoryIsZeroUpToItsLastByteAndCostsNothingUntouched)
 {
     constexpr std::size_t kBytes = (std::size_t(1) << 36) + 4096; // more than most machines have
     auto *const memory = static_cast<char *>(ReserveMemory(kBytes));

@@ -28,7 +28,7 @@ TestRows fromDense(bool symmetric, const Dense &dense)
     result.symmetric = symmetric;
     for (std::size_t row = 0; row < dense.size(); ++row) {
         for (std::size_t column = symmetric ? row : 0; column < dense.size(); ++column)
-            if (dense[row][column] != 0.0F)
+            if (dense[row][column] != 0.0f)
                 result.add(std::int32_t(column), dense[row][column]);
         result.endRow();
     }
@@ -38,7 +38,7 @@ TestRows fromDense(bool symmetric, const Dense &dense)
 /// The calls of one solve; public fields are what a test bends.
 struct Calls
 {
-    explicit Calls(const TestRows &rows) : matrix(rows), x(std::size_t(rows.order), -7.0F)
+    explicit Calls(const TestRows &rows) : matrix(rows), x(std::size_t(rows.order), -7.0f)
     {
         iparm[PardisoRefinementSteps] = 2;
         iparm[PardisoPivotPerturbation] = rows.symmetric ? 8 : 13;
@@ -89,7 +89,7 @@ std::vector<float> waves(std::size_t count)
 {
     std::vector<float> result(count);
     for (std::size_t i = 0; i < count; ++i)
-        result[i] = 0.001F * float(0.5 + 0.4 * std::sin(0.05 * double(i)));
+        result[i] = 0.001f * float(0.5 + 0.4 * std::sin(0.05 * double(i)));
     return result;
 }
 
@@ -115,9 +115,9 @@ TEST(Pardiso, SolvesSmallSystems)
         Dense a;
         std::vector<float> b, x;
     } systems[] = {
-        {"one_by_one", true, {{0.001F}}, {0.002F}, {2}},
-        {"one_by_one_unsymmetric", false, {{-4}}, {2}, {-0.5F}},
-        {"diagonal", true, {{2, 0, 0}, {0, 0.5F, 0}, {0, 0, 8}}, {2, 1, 4}, {1, 2, 0.5F}},
+        {"one_by_one", true, {{0.001f}}, {0.002f}, {2}},
+        {"one_by_one_unsymmetric", false, {{-4}}, {2}, {-0.5f}},
+        {"diagonal", true, {{2, 0, 0}, {0, 0.5f, 0}, {0, 0, 8}}, {2, 1, 4}, {1, 2, 0.5f}},
         {"definite", true, {{4, 1, 0}, {1, 3, 1}, {0, 1, 2}}, {6, 10, 8}, {1, 2, 3}},
         {"negative_definite", true, {{-4, 1}, {1, -2}}, {-2, -3}, {1, 2}},
         {"indefinite_with_zero_diagonal", true, {{0, 1}, {1, 0}}, {2, 3}, {3, 2}},
@@ -163,7 +163,7 @@ TEST(Pardiso, ErrorsReleaseEverythingAndLeaveTheSolution)
         Calls calls(fromDense(system.symmetric, system.a));
         EXPECT_EQ(calls.solve(system.b), system.code);
         EXPECT_TRUE(calls.released());
-        EXPECT_THAT(calls.x, testing::Each(-7.0F));
+        EXPECT_THAT(calls.x, testing::Each(-7.0f));
     }
 }
 
@@ -227,20 +227,20 @@ TEST(Pardiso, SolvesRandomPatternsAsGaussInDouble)
             for (const bool indefinite : {false, true}) {
                 SCOPED_TRACE(std::to_string(order) + (symmetric ? " symmetric" : " unsymmetric") +
                              (indefinite ? " indefinite" : ""));
-                Dense dense(order, std::vector<float>(order, 0.0F));
+                Dense dense(order, std::vector<float>(order, 0.0f));
                 for (std::size_t i = 0; i < order; ++i) {
                     // Nothing joins the two halves: the graph falls apart.
                     for (int k = 0; k < 4; ++k) {
                         const std::size_t half = order / 2;
                         const std::size_t j = i < half ? random() % half : half + random() % (order - half);
-                        const float value = float(random() % 2000) / 1000.0F - 1.0F;
+                        const float value = float(random() % 2000) / 1000.0f - 1.0f;
                         dense[i][j] = value;
                         if (symmetric)
                             dense[j][i] = value;
                     }
                 }
                 for (std::size_t i = 0; i < order; ++i) {
-                    float sum = 1.0F;
+                    float sum = 1.0f;
                     for (std::size_t j = 0; j < order; ++j)
                         sum += std::fabs(dense[i][j]);
                     dense[i][i] = indefinite && i % 3 == 0 ? -sum : sum;
@@ -311,7 +311,7 @@ TEST(Pardiso, SolvesGridsOfManyKinds)
     std::mt19937 random(11);
     for (const auto &grid : grids) {
         SCOPED_TRACE(grid.name);
-        std::vector<float> diagonal(std::size_t(grid.order), 1.0F);
+        std::vector<float> diagonal(std::size_t(grid.order), 1.0f);
         std::vector<std::vector<std::pair<int, float>>> upper(std::size_t(grid.order));
         for (int vertex = 0; vertex < grid.order; ++vertex) {
             for (const Offset &offset : grid.stencil) {
@@ -319,7 +319,7 @@ TEST(Pardiso, SolvesGridsOfManyKinds)
                 const int other = vertex + offset.dy * grid.width + offset.dx;
                 if (x < 0 || x >= grid.width || other >= grid.order)
                     continue;
-                const float value = float(random() % 2000) / 1000.0F - 1.0F;
+                const float value = float(random() % 2000) / 1000.0f - 1.0f;
                 upper[std::size_t(vertex)].push_back({other, value});
                 diagonal[std::size_t(vertex)] += std::fabs(value);
                 diagonal[std::size_t(other)] += std::fabs(value);
@@ -365,7 +365,7 @@ TEST(Pardiso, SeveralCallersAtOnce)
     const TestRows matting = mattingSystem(60, 50, 2);
     TestRows pivoting = matting;
     for (std::int32_t row = 0; row < pivoting.order; row += 2)
-        pivoting.values[std::size_t(pivoting.rowStarts[std::size_t(row)] - 1)] *= -1.0F;
+        pivoting.values[std::size_t(pivoting.rowStarts[std::size_t(row)] - 1)] *= -1.0f;
     const std::vector<float> b = waves(std::size_t(matting.order));
 
     const auto solution = [&b](const TestRows &matrix) {
