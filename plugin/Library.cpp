@@ -11,8 +11,8 @@ Library *current = nullptr;
 
 } // namespace
 
-/// The end of this file's static objects is the last moment at which every library that it uses is still whole: the OpenMP
-/// run-time ends before Qt's clean-up deletes the library object. So the previews end here, and the image library stops.
+/// When this file's static objects are destroyed, every library that it uses is still intact for the last time: the OpenMP
+/// run-time ends before Qt's clean-up deletes the library object. So previews are ended and the image library is stopped here.
 struct Library::EndAtExit
 {
     ~EndAtExit()
@@ -28,7 +28,7 @@ struct Library::EndAtExit
 
 Library::Library(QObject *parent) : QObject(parent)
 {
-    static const EndAtExit endAtExit; // made after everything that is made at load, so it goes first
+    static const EndAtExit endAtExit; // constructed after everything that is constructed at load, so destroyed first
     current = this;
     setObjectName(QString::fromLatin1("Nimbra"));
     VIApplication *const app = hostApplication();
@@ -72,7 +72,7 @@ QString Library::company()
 
 QString Library::description()
 {
-    return tr("Comment"); // the word itself is the whole description
+    return tr("Comment"); // the word itself is the whole description. Fixed: hosts rely on it.
 }
 
 QString Library::version()

@@ -5,11 +5,12 @@
 #include "VIAbout.h"
 #include "VIPluginLibrary.h"
 
-/// What the host gets when it loads the plug-in file: who the plug-in is, and the maker of its processes. One per loaded file.
+/// The object that the host gets when it loads the plug-in file: it says who the plug-in is and makes its processes. One per
+/// loaded file.
 ///
-/// Made by qt_plugin_instance on the thread that loads the file. If the application object is a host (VIApplication),
-/// construction has the host load the plug-in's catalogue and starts the image library and the interface library with what the
-/// host lends; otherwise the object works in English with nothing started.
+/// Created by qt_plugin_instance on the thread that loads the file. If the application object is a host (VIApplication), the
+/// constructor asks it to load the plug-in's catalogue, and starts the image library and the interface library with what the host
+/// lends; otherwise the object works in English with nothing started.
 class Library : public QObject, public VIPluginLibrary, public VIAbout
 {
     Q_OBJECT
@@ -18,9 +19,9 @@ class Library : public QObject, public VIPluginLibrary, public VIAbout
 
 public:
     explicit Library(QObject *parent = nullptr);
-    /// Deletes the processes that still live, then stops the image library. If the host ends without an unload, Qt's clean-up
-    /// calls it after the end of the application object and of some of the libraries that this file uses; what needs those has
-    /// been done by then (EndAtExit).
+    /// Deletes the remaining processes, then stops the image library. If the host ends without an unload, Qt's clean-up calls it
+    /// after the application object and some of the libraries that this file uses are gone; whatever needs those has been done by
+    /// then (EndAtExit).
     ~Library() override;
 
     QList<QPointer<QObject>> processes(int create) override;

@@ -75,7 +75,7 @@ QString NimbraOne2One::company()
 
 QString NimbraOne2One::description()
 {
-    // No blank after "layer.": the catalogues know the text in this form.
+    // No blank after "layer.". Fixed: hosts rely on it, since the catalogues have the text in this form.
     return tr(
         "Haze is an atmospheric phenomenon that can affect outdoor photos. Everything far from the shooter seems to be covered "
         "by a white layer.This plugin helps you to remove the haze and clean your photo. To do that, it analyses each pixel to "
@@ -99,7 +99,7 @@ QString NimbraOne2One::guid()
 
 QWizardPage *NimbraOne2One::wizardPage()
 {
-    if (!page)
+    if (!page) // the first call makes the page, every later one returns it. Fixed: hosts rely on it.
         page = new UIHazePage(this, nullptr);
     return page;
 }
@@ -114,6 +114,7 @@ void NimbraOne2One::saveDefaults()
 VISettingsHandle NimbraOne2One::createSettings(QDomElement element)
 {
     auto settings = std::make_unique<HazeState>();
+    // The fallback is a text, and the strength is not clamped. Fixed: hosts rely on it.
     if (VIApplication *const app = hostApplication())
         settings->strength = app->value(pluginIdentity::processGuid(), kStrengthKey, QVariant(QString::fromLatin1("0"))).toInt();
     if (!element.isNull())
@@ -131,7 +132,7 @@ QDomElement NimbraOne2One::settingsToElement(VISettingsHandle settings)
 
 void NimbraOne2One::copySettings(VISettingsHandle destination, VISettingsHandle source)
 {
-    destination->strength = source->strength; // the map belongs to one image
+    destination->strength = source->strength; // the map belongs to a single image
 }
 
 void NimbraOne2One::destroySettings(VISettingsHandle settings)
@@ -156,6 +157,7 @@ void NimbraOne2One::run(QString inputPath, VISettingsHandle settings, QString *o
     QString extension = input.suffix().toLower();
     if (def->needsTiffOutput())
         extension = QString::fromLatin1("tiff");
+    // The dot is there even without a suffix. Fixed: hosts rely on it.
     *outputPath = input.absolutePath() + QDir::separator() + input.completeBaseName() + tr("_dehazed") + '.' + extension;
 
     VImage working;

@@ -20,8 +20,8 @@ class NimbraOne2One : public QObject, public VIPluginOne2One
 public:
     /// Reads the host's stored strength into the default settings; 0 without a host.
     Q_INVOKABLE explicit NimbraOne2One(QObject *parent = nullptr);
-    /// Calls releaseRecords and frees the default. The page stays as it looks, for it belongs to whoever took it, but it does
-    /// nothing any more.
+    /// Calls releaseRecords and frees the default settings. The page belongs to whoever took it and keeps its appearance, but
+    /// does nothing any more.
     ~NimbraOne2One() override;
 
     QString name() override;
@@ -32,32 +32,33 @@ public:
     QIcon icon() override;
     QString guid() override;
 
-    /// Made anew if the host has deleted the one before.
+    /// Makes a new page if the host has deleted the previous one.
     QWizardPage *wizardPage() override;
     void saveDefaults() override;
-    /// The strength is taken as it stands, also outside 0 to 100. An element without the attribute, or with a text that is no
-    /// number, gives 0 and not the host's stored value.
-    VISettingsHandle createSettings(QDomElement element) override;
+    /// The strength is used unchanged, even outside 0 to 100. An element without the attribute, or with a text that is not a
+    /// number, gives 0 instead of the host's stored value. Fixed: hosts rely on it.
+    [[nodiscard]] VISettingsHandle createSettings(QDomElement element) override;
     QDomElement settingsToElement(VISettingsHandle settings) override;
     void copySettings(VISettingsHandle destination, VISettingsHandle source) override;
     void destroySettings(VISettingsHandle settings) override;
     QIcon beforeAfterIcon() override;
-    /// The result stands beside the source as <base name><tag>.<suffix in lower case>, the tag being the translated "_dehazed",
-    /// with the source's channels, depth and metadata. An image that the engine leaves alone, for whatever reason, is written all
-    /// the same. Throws VException; then the full image has not been released, and no result exists unless writing had begun.
+    /// The result is written beside the source as <base name><tag>.<suffix in lower case>, where the tag is the translated
+    /// "_dehazed", with the source's channels, depth and metadata. An image that the engine leaves unchanged, for whatever
+    /// reason, is written all the same. Throws VException; after a failed conversion or a failure of the engine the full image
+    /// has not been released, and no result exists unless writing had begun.
     void run(QString inputPath, VISettingsHandle settings, QString *outputPath) override;
-    /// Waits for a preview that still computes. Without a page the records are made all the same.
+    /// Waits for a preview that is being computed. Works without a page, too: the records are made all the same.
     void setImages(QStringList paths) override;
     QDomElement settingsFor(QString path) override;
 
-    /// What "Apply to all images" chose becomes the default that saveDefaults writes.
+    /// Makes this strength the default that saveDefaults writes: "Apply to all images" calls it.
     virtual void setDefaultSettings(HazeState *settings);
 
-    /// Waits for a preview that still computes, takes the records of the list back from the page and frees them. Touches no
+    /// Waits for a preview that is being computed, withdraws the records of the list from the page and frees them. Touches no
     /// widget.
     void releaseRecords();
 
-    /// The door into the engine (see RemoveHaze.h), for run and for the preview. Reads no member: any thread.
+    /// Calls the engine (see RemoveHaze.h), for run and for the preview. Uses no member, so any thread may call it.
     void RemoveHaze(VImage &image, HazeState &state);
 
 private:

@@ -4,8 +4,8 @@
 
 #include "VIApplication.h"
 
-/// The host as the application object answers for it, asked anew at each use; null without an application object or when that one
-/// is no host of ours.
+/// The host behind the application object, looked up at each use; null if there is no application object or if it does not
+/// implement VIApplication.
 inline VIApplication *hostApplication()
 {
     return qobject_cast<VIApplication *>(QCoreApplication::instance());

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QtPlugin>
 
-/// Who an object of the plug-in is. Abstract, without data.
+/// What an object of the plug-in says about itself. Abstract, without data.
 class VIAbout
 {
 public:

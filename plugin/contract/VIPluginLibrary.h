@@ -5,14 +5,14 @@
 #include <QPointer>
 #include <QtPlugin>
 
-/// What the host gets from a plug-in file: the maker of its processes. Abstract, without data.
+/// The object that the host gets from a plug-in file; it makes the processes. Abstract, without data.
 class VIPluginLibrary
 {
 public:
     virtual ~VIPluginLibrary() = default;
-    /// Makes one more process if `create` is not 0. Returns every process made so far, oldest first; an element is null when its
-    /// object was deleted by someone else. The library owns the objects; the host casts an element with qobject_cast. Not to be
-    /// called from two threads at once.
+    /// Makes one more process if `create` is not 0. Returns every process made so far, oldest first; an element is null if
+    /// someone else has deleted its object. The library owns the objects; the host casts an element with qobject_cast. Must not
+    /// be called from two threads at once.
     virtual QList<QPointer<QObject>> processes(int create) = 0;
 };
 

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// What the library object and its process say alike.
+/// What the library object and its process both say about themselves.
 namespace pluginIdentity {
 
 inline QString author()
@@ -26,7 +26,7 @@ inline QString processGuid()
     return QString::fromLatin1("51D2A7E4-93C6-4F08-B1E5-6A0C7D3E9F21");
 }
 
-/// A path that no resource answers, so that the icon is empty.
+/// No resource has this path, so the icon is empty. Fixed: hosts rely on it, and show an icon of their own.
 inline QString iconPath()
 {
     return QString::fromLatin1(":/%1/Resources/Nimbra.png").arg(processGuid());
