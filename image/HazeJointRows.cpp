@@ -14,19 +14,19 @@ namespace {
 
 constexpr int kChannels = 4; ///< R, G, B, A.
 constexpr int kRadius = 1;
-constexpr int kBand = 64; ///< Rows that are done tile after tile, so that few pages of memory are in use at a time.
+constexpr int kBand = 64; ///< Rows to finish tile by tile, so that few pages of memory are in use at a time.
 constexpr int kTile = HazeJointRows::kTile;
 constexpr int kSide = HazeJointRows::kSide;
 using Neighbours = HazeJointRows::Neighbours;
 using Scratch = HazeJointRows::Scratch;
 
-/// Place on the coarse grid of a fine row or column: the product in 32 bits, its half step in 64.
+/// Place of a fine row or column on the coarse grid: multiplied in 32 bits, rounded in 64.
 int centreOf(int place, float scale)
 {
     return int(double(float(place) * scale) + 0.5);
 }
 
-/// Four pixels in, one vector a component out.
+/// Four pixels in, one vector per component out.
 using FourFloats = float __attribute__((vector_size(16)));
 IPP_INLINE void transpose(const HazeJointRows::Neighbour *const pixels[4], FourFloats components[4])
 {
@@ -43,7 +43,7 @@ IPP_INLINE void transpose(const HazeJointRows::Neighbour *const pixels[4], FourF
     components[3] = __builtin_shufflevector(high01, high23, 2, 3, 6, 7);
 }
 
-/// Entry of the range weights for a difference; not-a-number and infinity are as far as can be.
+/// Index into the range weights for a difference; not-a-number and infinity count as the largest difference.
 IPP_INLINE std::uint32_t entryOf(float here, float there)
 {
     constexpr auto kNone = float(kRangeEntries);
@@ -51,7 +51,7 @@ IPP_INLINE std::uint32_t entryOf(float here, float there)
     return std::uint32_t(std::int32_t(magnitude < kNone ? magnitude : kNone));
 }
 
-/// The products of red's and green's weight, for the differences that are common in photographs: one look-up instead of two.
+/// Products of the weights of red and green for the differences that are common in photographs: one look-up instead of two.
 constexpr int kPairBits = 6;
 constexpr std::uint32_t kPairEntries = 1u << kPairBits;
 const double *pairWeightTable()
@@ -67,11 +67,11 @@ const double *pairWeightTable()
     }();
     return table.data();
 }
-constexpr int kBlueShift = 18; ///< Behind the pair entry, which any red and green fit below.
-constexpr int kBlock = 64;     ///< Columns that take the pair table all together or not at all.
+constexpr int kBlueShift = 18; ///< Above the pair index, which fits below for any red and green.
+constexpr int kBlock = 64;     ///< Columns that all use the pair table, or none of them does.
 static_assert((kRangeEntries << kPairBits) + kRangeEntries < 1 << kBlueShift && kTile % kBlock == 0);
 
-/// By value, so that the loops need not read the pointers again.
+/// Passed by value, so that the loops need not read the pointers again.
 struct Tables
 {
     const double *range;
@@ -81,7 +81,7 @@ struct Tables
 /// Range weights of a tile for the neighbours at one offset.
 IPP_INLINE void lookUp(const Neighbours &neighbours, Tables tables, double *ranges, Scratch &scratch)
 {
-    std::uint32_t reach[kTile / kBlock]; // kPairEntries where the pair table doesn't do
+    std::uint32_t reach[kTile / kBlock]; // kPairEntries if the pair table does not reach
     for (int block = 0; block < kTile / kBlock; ++block) {
         std::uint32_t farthest = 0;
         for (int x = block * kBlock; x < (block + 1) * kBlock; ++x) {
@@ -96,7 +96,7 @@ IPP_INLINE void lookUp(const Neighbours &neighbours, Tables tables, double *rang
     }
     const double *const weights = tables.range;
     const double *const pairWeights = tables.pairs;
-    // What bounds these loops are their loads. Gathering ones are slower still.
+    // Loads limit these loops; gather instructions would be slower still.
     for (int block = 0; block < kTile / kBlock; ++block) {
         const int first = block * kBlock;
         if (reach[block] < kPairEntries) {
@@ -133,7 +133,7 @@ IPP_INLINE void addNeighbours(const Neighbours *row, Tables tables, const double
     }
 }
 
-/// One row of a tile; `rows` are its kSide or fewer coarse rows, the first at row offset `firstOffset`.
+/// Writes one row of a tile; `rows` are the coarse rows that it needs, at most kSide, the first at row offset `firstOffset`.
 IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, const Neighbours *const *rows, int rowCount,
                                int firstOffset, Tables tables, Scratch &scratch)
 {
@@ -186,7 +186,7 @@ void HazeJointRows::spread(int coarseRow, int firstColumn, int columns, Scratch 
     int places[kTile];
     for (int x = 0; x < kTile; ++x)
         places[x] = centre[std::min(x, columns - 1)] - centre[0];
-    // Single floats would wait for each other on their way to memory.
+    // Four columns at a time: single floats would wait for one another on their way to memory.
     for (int x = 0; x < columns; x += 4) {
         const Neighbour *four[4];
         for (int i = 0; i < 4; ++i)

@@ -14,8 +14,8 @@ constexpr int cellIndex(int rowOffset, int columnOffset)
     return rowOffset == 0 ? columnOffset : 3 + (rowOffset - 1) * 5 + columnOffset + 2;
 }
 
-/// Covariance of the nine colours, with eps / 9 on its diagonal, and each colour's distance from their mean. Returns the largest
-/// mean square of a channel.
+/// Computes the covariance of the nine colours, with eps / 9 added to its diagonal, and each colour's distance from their mean.
+/// Returns the largest mean square of a channel.
 float windowStatistics(const float *corner, std::ptrdiff_t rowStep, float covariance[9], float distances[kPixels][3])
 {
     float sum[3] = {};
@@ -33,7 +33,7 @@ float windowStatistics(const float *corner, std::ptrdiff_t rowStep, float covari
         mean[c] = sum[c] / 9.0f;
     const float square = std::max({products[0][0], products[1][1], products[2][2]}) / 9.0f;
     for (int c = 0; c < 3; ++c) {
-        // The diagonal is rounded once, so that eps does not drown in a bright window.
+        // The diagonal is rounded only once, so that eps is not lost in a bright window.
         covariance[c * 3 + c] = float(double(-(mean[c] * mean[c])) + double(products[c][c] / 9.0f) + kEps / 9.0);
         for (int d = c + 1; d < 3; ++d)
             covariance[c * 3 + d] = covariance[d * 3 + c] = products[c][d] / 9.0f - mean[c] * mean[d];
@@ -46,13 +46,13 @@ float windowStatistics(const float *corner, std::ptrdiff_t rowStep, float covari
     return square;
 }
 
-/// Share of a mean square by which rounding may have moved a cell of the covariance: sums of nine, and their products, in 32
+/// How far rounding can move a cell of the covariance, as a fraction of a mean square: sums of nine, and their products, in 32
 /// bits.
 constexpr double kRounding = 0x1p-20;
 
-/// Whether the covariance is positive definite beyond its rounding, which eps makes sure of up to samples of about 10. Where it
-/// is not, as in highlights of thousands, an inverse would be made of roundings, and break the system. Written so that
-/// not-a-number fails.
+/// Whether the covariance is positive definite by more than its rounding errors, which eps ensures for samples up to about 10.
+/// Where it is not, as in highlights of thousands, the inverse would consist of rounding errors and make the system unsolvable.
+/// Written so that not-a-number fails.
 bool hasInverse(const float covariance[9], float square)
 {
     const auto m = [covariance](int row, int column) { return double(covariance[row * 3 + column]); };
@@ -77,7 +77,7 @@ void HazeMattingRows::start(int firstRow, float diagonalCell)
 {
     diagonal = diagonalCell;
     nextRow = firstRow;
-    // The windows above have their share in the first row, too.
+    // The windows that start above reach into the first row, too.
     const int firstWindow = std::max(0, firstRow - (kWindow - 1));
     for (int r = firstWindow; r < firstWindow + kWindow - 1; ++r)
         clearRow(r);

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// `value` as it reads with six significant decimal digits, whatever the locale.
+/// `value` rounded to six significant decimal digits, independently of the locale.
 double sixDigits(double value)
 {
     char text[16]; // "3.98942e+00", or an exponent of three digits

@@ -13,7 +13,8 @@ namespace {
 constexpr std::size_t kPaletteBytes = 1024;
 constexpr unsigned short kPaletteType = 0x0004;
 
-/// `site` names the allocation for a heap that cares. A size of 0 gets a block as well: a null says that there is no memory.
+/// `site` names the place of the allocation, for heaps that record it. A size of 0 also gets a block, since null means that there
+/// is no memory.
 void *allocate(std::size_t bytes, const char *site)
 {
     return gflAllocCallback(std::max<std::size_t>(bytes, 1), const_cast<char *>(site));
@@ -25,7 +26,7 @@ int componentsOf(unsigned short type)
     return (type & 0x0007) ? 1 : (type & 0x1050) ? 3 : (type & 0x27A0) ? 4 : 0;
 }
 
-/// Bytes of a row of an owned image, or -1 if they are no positive 31-bit number.
+/// Bytes per row of an owned image, or -1 if the number is negative or does not fit in 31 bits.
 int alignedStride(int width, int bytesPerPixel)
 {
     const std::int64_t stride = (std::int64_t(width) * bytesPerPixel + 3) / 4 * 4;
@@ -52,7 +53,7 @@ VImage::~VImage()
 
 void VImage::Create(int width, int height, unsigned short type, int bitsPerComponent, bool clear, void *data, int bytesPerLine)
 {
-    // A record without pixels is what a failed allocation left behind.
+    // A record without pixels is left over from a failed allocation.
     if (bitmap && bitmap->data && !data && bitmap->width == width && bitmap->height == height && bitmap->type == type &&
         bitmap->bitsPerComponent == bitsPerComponent) {
         if (clear)
@@ -121,7 +122,7 @@ void VImage::Assign(const VImage &source)
     bitmap = static_cast<GflBitmap *>(allocate(sizeof(GflBitmap), V_SITE));
     if (!bitmap)
         throw VException("Not enough memory", V_LOCATION);
-    // Until each block has its copy the record must not hold the source's: Free would release them.
+    // Until each block has been copied, the record must not point to the source's blocks: Free would release them.
     *bitmap = *source.bitmap;
     bitmap->data = bitmap->colorMap = bitmap->comment = bitmap->metaData = nullptr;
     bitmap->name = nullptr;

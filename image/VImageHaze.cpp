@@ -57,20 +57,21 @@ struct ErodedImage
     std::unique_ptr<float, IppiRelease> raster;
 };
 
-/// A pixel that may stand for the densest haze.
+/// A pixel that may show the densest haze.
 struct Candidate
 {
     float darkValue;
-    const float *pixel; ///< In the source. Pixels are visited by rising address, so that of two candidates this tells the newer.
+    const float *pixel; ///< In the source. Pixels are visited in order of address, so a higher one is newer.
 };
 
-/// Whether `a` is behind `b` in walking order: by rising dark value, and among equal ones the newest first.
-bool walksBehind(const Candidate &a, const Candidate &b)
+/// Whether `a` comes after `b` in walking order: by rising dark value, and among equal values the newest first. Fixed: hosts rely
+/// on it.
+bool comesAfter(const Candidate &a, const Candidate &b)
 {
     return a.darkValue != b.darkValue ? a.darkValue > b.darkValue : std::less<>()(a.pixel, b.pixel);
 }
 
-/// The brightest pixels of the dark channel: as many as the seed rows hold, in walking order.
+/// The brightest pixels of the dark channel, as many as the seed rows hold, in walking order.
 std::vector<Candidate> brightestCandidates(const VImage &image, const ErodedImage &eroded)
 {
     const int width = image.Width();
@@ -86,25 +87,26 @@ std::vector<Candidate> brightestCandidates(const VImage &image, const ErodedImag
         for (int x = 0; x < width; ++x, pixel += kChannels, minima += kChannels) {
             const float darkValue = std::fmin(std::fmin(minima[0], minima[1]), minima[2]);
             if (seed) {
-                // Not-a-number has no place in an order: it ranks with the lowest.
+                // Not-a-number can't be ordered: it ranks with the lowest.
                 heap.push_back({std::isnan(darkValue) ? threshold : darkValue, pixel});
             } else if (threshold < darkValue) {
-                std::pop_heap(heap.begin(), heap.end(), walksBehind);
+                std::pop_heap(heap.begin(), heap.end(), comesAfter);
                 heap.back() = {darkValue, pixel};
-                std::push_heap(heap.begin(), heap.end(), walksBehind);
+                std::push_heap(heap.begin(), heap.end(), comesAfter);
                 threshold = heap.front().darkValue;
             }
         }
         if (y == seedRows - 1) {
-            std::make_heap(heap.begin(), heap.end(), walksBehind);
+            std::make_heap(heap.begin(), heap.end(), comesAfter);
             threshold = heap.front().darkValue;
         }
     }
-    std::sort(heap.begin(), heap.end(), [](const Candidate &a, const Candidate &b) { return walksBehind(b, a); });
+    std::sort(heap.begin(), heap.end(), [](const Candidate &a, const Candidate &b) { return comesAfter(b, a); });
     return heap;
 }
 
-/// The source pixel of the highest luminance, the first in walking order among equals; null if none is above -1.0.
+/// The source pixel with the highest luminance, the first in walking order among equals; null if none is above -1.0. The weights
+/// differ from those of conversions to grey. Fixed: hosts rely on it.
 const float *brightestPixel(const std::vector<Candidate> &candidates)
 {
     float best = -1.0f;
@@ -120,8 +122,8 @@ const float *brightestPixel(const std::vector<Candidate> &candidates)
     return chosen;
 }
 
-/// A channel that neither the window nor the airlight has anything of gives not-a-number, and has no say; where no channel has
-/// one, the pixel counts as clear. std::min and std::max keep their first operand against not-a-number, and among equals.
+/// A channel that is 0.0 in both window and airlight gives not-a-number and is ignored; if all three are, the pixel counts as
+/// clear. std::min and std::max return their first operand if the second is not a number or equal to it.
 IPP_VERSIONS void normaliseRow(const float *minima, float *darkMap, int width, const float *airlight)
 {
     const float airR = airlight[0];
@@ -133,7 +135,7 @@ IPP_VERSIONS void normaliseRow(const float *minima, float *darkMap, int width, c
         const float b = minima[2] / airB;
         const float lowest = std::min(std::min(std::min(std::numeric_limits<float>::infinity(), b), g), r);
         const float highest = std::max(std::max(std::max(0.0f, b), g), r);
-        darkMap[x] = std::min(lowest, highest); // they change places only where there is no number
+        darkMap[x] = std::min(lowest, highest); // they are the wrong way round only where all three are not a number
     }
 }
 
@@ -148,7 +150,7 @@ IPP_VERSIONS void recoverRow(float *pixel, const float *transmission, int width,
         const float b = pixel[2];
         const bool keep = pixel[3] == 0.0f;
         float t = 1.0f - transmission[x] * strength;
-        // No float lies between the double 0.1 and the float 0.1, so that this is the comparison with the former.
+        // No float lies between the double 0.1 and the float 0.1, so this is the same as comparing with the double.
         t = t < 0.1f ? 0.1f : t;
         const float newR = airR + (r - airR) / t;
         const float newG = airG + (g - airG) / t;
@@ -162,7 +164,7 @@ IPP_VERSIONS void recoverRow(float *pixel, const float *transmission, int width,
 constexpr double kLambda = 0.001;
 constexpr float kLambdaCell = 0.001f;
 
-/// Adds the matting Laplacian to the factory, whose rows exist already.
+/// Adds the matting Laplacian to the factory, whose rows already exist.
 void addMattingLaplacian(const VImage &image, VSparseFactory &factory)
 {
     const int width = image.Width();
@@ -195,7 +197,7 @@ void addMattingLaplacian(const VImage &image, VSparseFactory &factory)
                     }
                 }
             }
-        } catch (...) { // nothing but memory for a cell can fail here
+        } catch (...) { // only the memory for a cell can fail here
 #pragma omp atomic write
             outOfMemory = true;
         }
@@ -240,7 +242,7 @@ bool VImage::HazeMatting(float *darkMap)
     const std::size_t unknowns = pixelCount(*this);
     const std::unique_ptr<float[]> x(new float[unknowns]);
     std::optional<VSparseFactory> factory(std::in_place, /*symmetricMatrix=*/true);
-    // The rows of the factory grow here, on one thread; in parallel they must not.
+    // The factory's rows are created here, on one thread, because they must not grow in parallel.
     for (std::size_t i = 0; i < unknowns; ++i) {
         darkMap[i] = float(double(darkMap[i]) * kLambda);
         const int p = int(i);
@@ -256,7 +258,7 @@ bool VImage::HazeMatting(float *darkMap)
         matrix.Solve(darkMap, x.get());
         std::copy_n(x.get(), unknowns, darkMap);
     } catch (...) {
-        return false; // by contract nothing is said of why
+        return false; // without the reason. Fixed: hosts rely on it.
     }
     return true;
 }
@@ -277,7 +279,7 @@ float *VImage::HazeUpsample(float *lowMap, VImage *lowImage)
         for (float ratio = float(Width()) / float(lowImage->Width()); ratio > 2.0f; ratio *= 0.5f)
             ++levels;
     }
-    // Guides of the levels between; each is reduced from the next finer one and dropped after its last use.
+    // Guide images of the levels in between, each reduced from the next finer one and released after its last use.
     std::vector<std::unique_ptr<VImage>> made;
     made.resize(std::size_t(levels));
     std::vector<VImage *> guides(std::size_t(levels) + 1, lowImage);

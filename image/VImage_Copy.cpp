@@ -16,7 +16,7 @@ constexpr int kDepths[] = {8, 16, 32};
 constexpr int kChannels[] = {1, 3, 4};
 constexpr int kForms = 9;
 
-/// Number of a form: depths rank first, then channels.
+/// Index of a form: ordered by depth, then by channels.
 constexpr int formIndex(PixelForm form)
 {
     return form.bits / 16 * 3 + form.components / 2;
@@ -36,13 +36,13 @@ struct Plan
 {
     bool scales;
     bool changesChannels;
-    bool scalesFirst; ///< Where both steps are needed; the other one reads the form `between`.
+    bool scalesFirst; ///< Matters if both steps are needed; the second one then reads the form `between`.
     PixelForm between;
-    const void *alpha; ///< What the alpha of the target is set to, or null: it is copied, or there is none, or it stays.
+    const void *alpha; ///< Value for the target's alpha, or null if alpha is copied, absent or kept.
 };
 
-/// The rule. Falling channels are mixed at the wider depth, so that nothing is lost before the grey is rounded; rising channels
-/// are spread last, since fewer samples are to be scaled then.
+/// The rule. When channels are reduced, they are mixed at the greater depth, so that nothing is lost before the grey is rounded;
+/// when channels are added, this comes last, so that fewer samples have to be scaled.
 constexpr Plan planOf(PixelForm from, PixelForm to)
 {
     Plan plan{};
@@ -54,8 +54,8 @@ constexpr Plan planOf(PixelForm from, PixelForm to)
         plan.alpha = to.bits == 8    ? static_cast<const void *>(&kOpaque8)
                      : to.bits == 16 ? static_cast<const void *>(&kOpaque16)
                                      : static_cast<const void *>(&kOpaque32);
-        // Three pairs stand apart, as the hosts know them: 16-bit grey leaves alpha as the target held it, and float grey gives
-        // 16-bit alpha the full scale of 8 bits.
+        // Three exceptions: 16-bit grey keeps the target's 16-bit or float alpha, and float grey sets 16-bit alpha to the full
+        // scale of 8 bits. Fixed: hosts rely on it.
         if (from.components == 1 && from.bits == 16 && to.bits != 8)
             plan.alpha = nullptr;
         if (from.components == 1 && from.bits == 32 && to.bits == 16)
@@ -123,8 +123,8 @@ struct IppiRelease
     void operator()(unsigned char *raster) const { ippiFree(raster); }
 };
 
-/// Where a buffer stands between the two steps, both run over one tile at a time. So small a one (4 KB of buffer at most) keeps
-/// the reading of memory going between the steps.
+/// With a buffer between the two steps, both run over one tile at a time. A tile this small (at most 4 KB of buffer) keeps memory
+/// reads going between the steps.
 constexpr int kTilePixels = 256;
 /// Below this many pixels a team costs more than it gains.
 constexpr std::int64_t kPixelsForTeam = 1 << 17;
@@ -147,7 +147,8 @@ void VImage::CopyRect(int x, int y, int width, int height, VImage &target, int t
         throw VException("Invalid Parameter", V_LOCATION);
     if (!isProcessedDepth(target.BitsPerComponent()))
         throw VException("Invalid Parameter", V_LOCATION);
-    // No wider on purpose: a rectangle that runs past a far edge is the caller's affair.
+    // These tests and no others; in particular, a rectangle that runs past a far edge is neither refused nor clipped. Fixed:
+    // hosts rely on it.
     if (targetX < 0 && targetX < target.Width())
         throw VException("Invalid Parameter", V_LOCATION);
     if (targetY < 0 && targetY < target.Height())
@@ -209,6 +210,6 @@ void VImage::ToQImage(QImage &image) const
         return;
     VImage view(Width(), Height(), Rgba, 8, /*clear=*/false, image.bits(), int(image.bytesPerLine()));
     ConvertTo(view, Rgba, 8);
-    constexpr int kRgbaToBgra[4] = {2, 1, 0, 3}; // QImage keeps a pixel's bytes in the order B, G, R, A
+    constexpr int kRgbaToBgra[4] = {2, 1, 0, 3}; // QImage stores a pixel's bytes in the order B, G, R, A
     ippiSwapChannels(view.PixelAddress(0, 0), view.BytesPerLine(), {Width(), Height()}, kRgbaToBgra);
 }

@@ -16,12 +16,12 @@ struct IppsRelease
 template<typename T>
 using IppsBlock = std::unique_ptr<T, IppsRelease>;
 
-/// Below this many samples on both sides together a team costs more than it gains.
+/// Below this many samples in source and target together a team costs more than it gains.
 constexpr std::int64_t kSamplesForTeam = 1 << 18;
 
-/// Scales all of `source` into all of `target`. False, with the target as it was, for a form that is not processed or an empty
-/// side. Throws std::bad_alloc.
-bool resize(const VImage &source, VImage &target)
+/// Scales all of `source` into all of `target`. Returns false, with the target unchanged, for a form that is not processed or an
+/// image without pixels. Throws std::bad_alloc.
+[[nodiscard]] bool resize(const VImage &source, VImage &target)
 {
     if (!isProcessedType(source.Type()) || !isProcessedDepth(source.BitsPerComponent()))
         return false;
@@ -34,7 +34,7 @@ bool resize(const VImage &source, VImage &target)
         return false;
     const IppsBlock<IppiResizeSpec> spec(static_cast<IppiResizeSpec *>(ippsMalloc(specBytes)));
     if (!spec)
-        throw std::bad_alloc(); // a black image would be taken for the picture
+        throw std::bad_alloc(); // the black target would be mistaken for the picture
     ippiResizeInit(from, to, method, {channels, source.BitsPerComponent()}, spec.get());
 
     const std::int64_t pixels = std::int64_t(from.width) * from.height + std::int64_t(to.width) * to.height;
@@ -57,7 +57,7 @@ bool resize(const VImage &source, VImage &target)
 void VImage::Resample(VImage &target, int width, int height) const
 {
     if (!bitmap)
-        throw VException(QString(), V_RECORD_LOCATION);
+        throw VException(QString(), V_RECORD_LOCATION); // without a message. Fixed: hosts rely on it.
     if (width == Width() && height == Height())
         return target.Assign(*this);
     target.Create(width, height, Type(), BitsPerComponent());

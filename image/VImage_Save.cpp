@@ -20,14 +20,15 @@ struct ExifRelease
     void operator()(GflExif *exif) const { gflFreeEXIF2(exif); }
 };
 
-/// The codec layer's name of a format that is given in any case or by one of three short forms.
+/// The codec layer's name for a format, which may be given in any case or by one of three short forms.
 QString formatName(const QString &format)
 {
     const QString name = format.toLower();
     return name == "jpg" ? "jpeg" : name == "tif" ? "tiff" : name == "hdr" ? "hdri" : name;
 }
 
-/// -1 leaves the layer's defaults. "jpeg" has a scale of 0 to 12, which becomes 4 to 100; for the others it is a compression.
+/// -1 keeps the layer's defaults. For "jpeg" the scale of 0 to 12 becomes 4 to 100; for the other formats `quality` chooses the
+/// compression.
 void ApplySaveQuality(QString format, int quality, GflSaveParams &params)
 {
     if (quality == -1)
@@ -42,7 +43,8 @@ void ApplySaveQuality(QString format, int quality, GflSaveParams &params)
         params.compression = quality >= 1 && quality <= 8 ? std::int16_t(quality - 1) : 4;
 }
 
-/// Asks for all metadata and, since the pixels are thrown away, for nothing else. The raw settings of the image library go along.
+/// Parameters for loading all metadata but no pixels, which would be thrown away. The image library's raw settings are passed on.
+/// Fixed: hosts rely on them, although without pixels they have no effect.
 void InitLoadParameters(GflLoadParams &params)
 {
     gflGetDefaultLoadParams(&params);
@@ -59,8 +61,9 @@ void InitLoadParameters(GflLoadParams &params)
     params.flags |= GFL_LOAD_METADATA | GFL_LOAD_METADATA_ONLY;
 }
 
-/// Colour profile, IPTC and EXIF of a file, each if it has it. False if memory for one is missing, which the layer doesn't say.
-bool copyMetadata(const GflBitmap *source, GflBitmap *target, GflSaveParams &params)
+/// Copies colour profile, IPTC and EXIF, as far as the source has them. False if there was no memory for one of them, which the
+/// layer itself does not report.
+[[nodiscard]] bool copyMetadata(const GflBitmap *source, GflBitmap *target, GflSaveParams &params)
 {
     if (gflBitmapHasICCProfile(source)) {
         gflBitmapCopyICCProfile(source, target);
@@ -99,7 +102,7 @@ void VImage::Save(QString fileName, QString format, int quality, QString metadat
     GflSaveParams saveParams;
     gflGetDefaultSaveParams(&saveParams);
     ApplySaveQuality(format, quality, saveParams);
-    if (!metadataSource.isEmpty()) { // before the file is written, so that an unreadable source ends the save early
+    if (!metadataSource.isEmpty()) { // read before the file is written, so that an unreadable source ends the save early
         GflLoadParams loadParams;
         InitLoadParameters(loadParams);
         GflBitmap *read = nullptr;
@@ -116,7 +119,8 @@ void VImage::Save(QString fileName, QString format, int quality, QString metadat
 
     const auto result = std::int16_t(gflSaveBitmapUTF8(fileName.toUtf8().constData(), bitmap, &saveParams));
     if (result != 0) {
-        // A full disk or a locked file is a clearer sentence than the code. The count wraps around in 32 bits on purpose.
+        // A full disk or a locked file makes a clearer message than the code. The byte count is a signed 32-bit product that
+        // wraps around. Fixed: hosts rely on it.
         const auto bytes = std::int32_t(std::uint32_t(Width()) * std::uint32_t(Height()) * bitmap->bytesPerPixel);
         checkFileWritable(fileName, bytes, V_RECORD_LOCATION);
     }

@@ -8,12 +8,12 @@
 
 namespace {
 
-/// What each orientation does to the picture as it is stored: first the mirrors, then rows become columns.
+/// What each orientation does to the stored picture: first the mirroring, then rows become columns.
 struct Steps
 {
-    bool mirrored;      ///< Left and right change places.
-    bool upsideDown;    ///< Top and bottom change places.
-    bool rowsToColumns; ///< Pixel (x, y) comes to (y, x).
+    bool mirrored;      ///< Left and right are exchanged.
+    bool upsideDown;    ///< Top and bottom are exchanged.
+    bool rowsToColumns; ///< Pixel (x, y) moves to (y, x).
 };
 constexpr Steps kSteps[] = {{false, false, false}, {true, false, false}, {true, true, false}, {false, true, false},
                             {false, false, true},  {false, true, true},  {true, true, true},  {true, false, true}};
@@ -37,8 +37,8 @@ void flip(const VImage &source, VImage &target, Steps steps)
     }
 }
 
-/// Rows become columns, in squares, so that both images stay within the cache: taken by rows, each pixel of the one would fetch a
-/// line of the other.
+/// Rows become columns. Works in squares, so that both images stay within the cache: row by row, each pixel of one image would
+/// fetch another cache line of the other.
 template<int pixelBytes>
 void exchangeRowsAndColumns(const VImage &source, VImage &target, Steps steps)
 {

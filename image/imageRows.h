@@ -7,12 +7,13 @@
 #include "VImage.h"
 #include "threadCount.h"
 
-// What the sources of this room have in common; no other room includes it.
+// Shared by the sources of this room; no other room includes it.
 
-/// V_LOCATION in a further module of the record: hosts know these throws under the record's own source.
+/// V_LOCATION for a module that has moved out of VImage.cpp. Fixed: hosts rely on it, since they know these failures under the
+/// record's own source.
 #define V_RECORD_LOCATION V_LOCATION_IN("../image/VImage.cpp")
 
-/// The nine forms that are processed: one of three types, one of three depths.
+/// Whether this is part of one of the nine processed forms: three types by three depths.
 inline bool isProcessedType(unsigned short type)
 {
     return type == VImage::Grey || type == VImage::Rgb || type == VImage::Rgba;
@@ -32,13 +33,13 @@ inline float *rowOf(VImage &image, int y)
     return reinterpret_cast<float *>(image.PixelAddress(0, y));
 }
 
-/// Threads for work in `blocks` blocks: threadCount, but no more than there are blocks, and at least 1.
+/// Number of threads for `blocks` blocks of work: threadCount, but no more than there are blocks, and at least 1.
 inline int teamFor(int blocks)
 {
     return std::max(1, std::min(int(threadCount), blocks));
 }
 
-/// First of the `rows` rows that part `part` of `parts` takes: one contiguous block each. Part `parts` begins behind the last
+/// First row of part `part` when `rows` rows are divided into `parts` contiguous blocks. Part `parts` starts just past the last
 /// row.
 inline int firstRowOf(int part, int parts, int rows)
 {

@@ -2,7 +2,7 @@
 
 class VImage;
 
-/// Turns `source`, in any of the nine forms, into the engine's form, Rgba with 32-bit samples, in `working`, which gets its size.
-/// A source without alpha gives an opaque image, 16-bit grey too, for which ConvertTo leaves the alpha as it finds it. Throws
-/// what ConvertTo throws.
+/// Converts `source`, in any of the nine forms, to the engine's form, Rgba with 32-bit samples, in `working`, which takes its
+/// size. A source without alpha gives an opaque image; that includes 16-bit grey, for which ConvertTo does not set the alpha.
+/// Throws what ConvertTo throws.
 void toWorkingForm(const VImage &source, VImage &working);
