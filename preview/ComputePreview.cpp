@@ -40,7 +40,7 @@ void ComputePreview::run()
         {
             const HandOverLocker locker(mutex);
             if (!source)
-                return; // the image was changed since; a new request follows
+                return; // the image has been replaced meanwhile; a new request follows
             work.Assign(*source);
             workSettings = pendingSettings;
             cachedMap = workSettings.transmission;
@@ -48,8 +48,8 @@ void ComputePreview::run()
         }
         process->RemoveHaze(work, workSettings);
     } catch (...) {
-        // No caller stands above this thread. The engine writes pixels only in its last pass, behind everything that can fail, so
-        // `work` is the untouched copy; a copy that failed itself is none.
+        // This thread has no caller to catch it. The engine writes pixels only in its last pass, after everything that can fail,
+        // so `work` is the untouched copy, unless the copying itself failed.
         if (!record)
             work.Free();
         else if (workSettings.transmission != cachedMap)

@@ -9,7 +9,7 @@
 #    endif
 #endif
 
-/// Holds a mutex of Qt for a scope, and tells ThreadSanitizer of it, which can't see into the locks of a Qt built without it.
+/// Holds a Qt mutex for a scope and reports it to ThreadSanitizer, which can't see the locks of a Qt that was built without it.
 class HandOverLocker
 {
 public:

@@ -5,7 +5,7 @@
 #include <QPixmap>
 #include <QTimer>
 
-/// A label that shows a list of pictures in turn, at a fixed period, for as long as it lives, hidden or not.
+/// A label that shows a list of pictures in turn, at a fixed period, for as long as it exists, even while hidden.
 class QAnimatedLabel : public QLabel
 {
     Q_OBJECT
@@ -13,12 +13,12 @@ class QAnimatedLabel : public QLabel
 public:
     explicit QAnimatedLabel(QWidget *parent = nullptr);
 
-    /// Starts anew with these picture files; the first one shows after one period, and its size becomes the label's minimum size.
-    /// A file that can't be read stands for an empty picture. An empty list stops the animation at the picture that it shows.
+    /// Starts over with these picture files; the first one appears after one period, and its size becomes the label's minimum
+    /// size. A file that can't be read counts as an empty picture. An empty list stops the animation at the current picture.
     void startAnimation(const QStringList &files, int periodMs);
 
 public Q_SLOTS:
-    /// Shows the next picture; after the last comes the first.
+    /// Shows the next picture; the first one follows the last.
     void changeImage();
 
 private:

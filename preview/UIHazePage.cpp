@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kLongestSide = 1024;
 
-/// The shorter side of the preview, truncated; the product wraps around in 32 bits.
+/// The shorter side of the preview, truncated; the product wraps around in 32 bits. Fixed: hosts rely on it.
 int shorterSide(int shorter, int longestSide, int longer)
 {
     if (longer == 0)
@@ -59,7 +59,7 @@ void UIHazePage::imageChanged(ImageDef *image, HazeState *settings)
 
     preview->setImage(std::move(previewImage));
     preview->settings = settings;
-    preview->ui->spinBoxPourcent->setValue(settings->strength);
+    preview->ui->spinBoxPourcent->setValue(settings->strength); // clamps it, in the record too. Fixed: hosts rely on it.
     preview->previewImage->ToQImage(preview->beforeImage);
     preview->beforePixmap = preview->fitFrame(preview->beforeImage);
     preview->computePreview();

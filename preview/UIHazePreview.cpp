@@ -26,7 +26,7 @@ UIHazePreview::UIHazePreview(NimbraOne2One *process, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::UIHazePreviewClass>()), thread(process, this)
 {
     {
-        // The slot of this name has no button in the form, which Qt would report on the console.
+        // The form has no button for the slot of this name, which Qt would report on the console.
         QPushButton buttonOfTheSlot(this);
         buttonOfTheSlot.setObjectName(QStringLiteral("pushButtonComputePreview"));
         ui->setupUi(this);
@@ -45,7 +45,7 @@ UIHazePreview::~UIHazePreview()
 
 void UIHazePreview::setImage(std::unique_ptr<VImage> image)
 {
-    // Old pixels with the new record, or the other way round, would pair a map with an image of another size.
+    // Old pixels with the new record, or new pixels with the old one, would pair a map with an image of another size.
     const HandOverLocker locker(thread.mutex);
     thread.source = nullptr;
     previewImage = std::move(image);
@@ -74,7 +74,7 @@ QPixmap UIHazePreview::fitFrame(const QImage &image) const
 void UIHazePreview::setComplete(bool complete)
 {
     setProperty("isComplete", complete);
-    // By name, for the parent may be any widget; one without the method is none of our concern.
+    // By name, because the parent may be any widget; without the method there is nobody to notify.
     if (parent() && parent()->metaObject()->indexOfMethod("completeChanged()") != -1)
         QMetaObject::invokeMethod(parent(), "completeChanged");
 }
@@ -86,7 +86,7 @@ void UIHazePreview::on_pushButtonComputePreview_clicked()
 
 void UIHazePreview::on_spinBoxPourcent_valueChanged(int value)
 {
-    if (!settings) // the form's set-up, and changes before the first image
+    if (!settings) // during set-up of the form, or before the first image
         return;
     settings->strength = value;
     computePreview();
@@ -140,6 +140,8 @@ void UIHazePreview::updatePreview()
     ui->labelState->setVisible(underWay);
     update();
 }
+
+// Neither handler passes a key on, and letting Alt go completes the page even during a run. Fixed: hosts rely on it.
 
 void UIHazePreview::keyPressEvent(QKeyEvent *event)
 {

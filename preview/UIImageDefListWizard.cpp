@@ -9,7 +9,8 @@ UIImageDefListWizard::UIImageDefListWizard(QWidget *parent)
     : QWizardPage(parent), ui(std::make_unique<Ui::UIImageDefListWizardClass>())
 {
     ui->setupUi(this);
-    // The host's style sheet dresses the buttons under these names; the slots are connected under the form's names by now.
+    // The host's style sheet dresses the buttons under these names, and the slots are already connected under those of the form.
+    // Fixed: hosts rely on it.
     ui->toolButtonPrev->setObjectName(QStringLiteral("QToolButton_Prev"));
     ui->toolButtonPrev->setToolTip(tr("Prev"));
     ui->toolButtonNext->setObjectName(QStringLiteral("QToolButton_Next"));
@@ -24,6 +25,7 @@ void UIImageDefListWizard::setImages(const QMap<ImageDef *, HazeState *> &images
     {
         const QSignalBlocker blocker(ui->comboBoxImageDef);
         ui->comboBoxImageDef->clear();
+        // The map's order, that of the pointers. Fixed: hosts rely on it.
         for (auto image = imageSettings.constKeyValueBegin(); image != imageSettings.constKeyValueEnd(); ++image)
             ui->comboBoxImageDef->addItem((*image).first->displayName(),
                                           QVariant::fromValue(static_cast<void *>((*image).first)));

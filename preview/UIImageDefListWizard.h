@@ -12,8 +12,8 @@ namespace Ui {
 class UIImageDefListWizardClass;
 }
 
-/// A wizard page with a place for a preview and a row for walking through the host's images, with one record each. Images stand
-/// in the order of their pointers. Interface thread only.
+/// A wizard page with room for a preview and a row of controls for stepping through the host's images, each with its record.
+/// Images are listed in the order of their pointers. Interface thread only.
 class UIImageDefListWizard : public QWizardPage
 {
     Q_OBJECT
@@ -22,26 +22,27 @@ public:
     explicit UIImageDefListWizard(QWidget *parent);
     ~UIImageDefListWizard() override;
 
-    /// The images to walk through; the first one becomes current. The records stay their owner's, and must outlive this list.
+    /// Sets the images to step through; the first one becomes current. The records are not owned and must outlive this list.
     void setImages(const QMap<ImageDef *, HazeState *> &images);
-    /// Puts the widget over the row; the page takes its window title, and its dynamic property "isComplete" as its own state.
+    /// Places the widget above the row. The page takes over its window title, and its dynamic property "isComplete" becomes the
+    /// page's own state.
     void setPreviewWidget(QWidget *widget);
-    /// The preview's "isComplete"; true while that was never set.
+    /// The preview's "isComplete"; true if that has never been set.
     bool isComplete() const override;
 
-    /// The page is now on this image.
+    /// Called when the page has changed to this image.
     virtual void imageChanged(ImageDef *image, HazeState *settings) = 0;
-    /// The current image's settings go to all.
+    /// Applies the current image's settings to all images.
     virtual void applyToAll() = 0;
 
 public Q_SLOTS:
     void on_pushButtonApplyAll_clicked();
-    void on_toolButtonPrev_clicked(); ///< From the first to the last.
-    void on_toolButtonNext_clicked(); ///< From the last to the first.
+    void on_toolButtonPrev_clicked(); ///< Wraps around from the first to the last.
+    void on_toolButtonNext_clicked(); ///< Wraps around from the last to the first.
     void on_comboBoxImageDef_currentIndexChanged(int index);
 
 protected:
-    /// The image at this place of the list; null for none.
+    /// The image at this index of the list, or null.
     ImageDef *imageAt(int index) const;
 
     const std::unique_ptr<Ui::UIImageDefListWizardClass> ui;
