@@ -14,9 +14,9 @@
 #include "VImage.h"
 #include "threadCount.h"
 
-/// Every stage of the engine, on a drawn scene. The first argument is the size in megapixels, the second the team. Copy is the
-/// machine's own limit: the same pixels copied from one image to another. Bytes are those that a stage must move at the least.
-/// 100 megapixels take 6 GB: --benchmark_filter=/100/ asks for them, and NIMBRA_BENCH_LARGE must be set.
+// Every stage of the engine, on a drawn scene. The first argument is the size in megapixels, the second the size of the team.
+// Copy is the machine's limit: the same pixels copied from one image to another. The bytes are the fewest that a stage must move.
+// 100 megapixels take 6 GB: they run with --benchmark_filter=/100/ and only if NIMBRA_BENCH_LARGE is set.
 
 namespace {
 
@@ -37,12 +37,12 @@ std::pair<int, int> sizeOf(std::int64_t megapixels)
     }
 }
 
-/// Grain of a photograph, as bench/end_to_end has it, and of one that is hardly more than noise: share of white between the
-/// darkest and the brightest of one tone.
+/// Grain of an ordinary photograph, as in bench/end_to_end, and of one that is hardly more than noise: the range of one tone as a
+/// fraction of white.
 constexpr float kFine = 0.06f;
 constexpr float kRough = 0.2f;
 
-/// Hills one behind the other, with grain, under a veil that thickens with their distance.
+/// Rows of hills, with grain, in haze that thickens with distance.
 void draw(VImage &image, float roughness)
 {
     for (int y = 0; y < image.Height(); ++y) {
@@ -61,7 +61,7 @@ void draw(VImage &image, float roughness)
     }
 }
 
-/// One scene at a time, since the large ones fill the memory.
+/// Keeps one scene at a time, because the large ones fill the memory.
 const VImage &scene(std::int64_t megapixels, float roughness = kFine)
 {
     static std::pair<std::int64_t, float> drawn;
@@ -80,7 +80,7 @@ std::size_t pixelsOf(const VImage &image)
     return std::size_t(image.Width()) * std::size_t(image.Height());
 }
 
-/// Team for one run, and its rates at the end.
+/// Sets the team for one run, and reports its rates at the end.
 class Run
 {
 public:
@@ -104,7 +104,7 @@ private:
     std::size_t bytes;
 };
 
-/// Size of the copy that the estimate runs on, as the driver has it.
+/// Makes the copy that the estimate runs on, with the size that the engine chooses.
 void reduce(const VImage &image, VImage &low)
 {
     const double ratio = double(image.Width()) / double(image.Height());
@@ -137,7 +137,7 @@ void DarkChannel(benchmark::State &state)
     }
 }
 
-/// Assembly and solve; always of the copy, whatever the image.
+/// Assembly and solve, always of the copy, whatever the image's size.
 void Matting(benchmark::State &state)
 {
     VImage low;
@@ -168,7 +168,7 @@ void Upsample(benchmark::State &state)
     }
 }
 
-/// The last level alone, from a guide that is smaller by 1.94, as for 24 megapixels.
+/// The last level alone, from a guide image smaller by a factor of 1.94, as for 24 megapixels.
 template<const float &roughness>
 void JointUpsample(benchmark::State &state)
 {
@@ -190,14 +190,14 @@ void Recover(benchmark::State &state)
 {
     VImage image;
     image.Assign(scene(state.range(0)));
-    const std::vector<float> map(pixelsOf(image), 0.001f); // hardly changes the image, however often
+    const std::vector<float> map(pixelsOf(image), 0.001f); // hardly changes the image, even when repeated
     const float airlight[3] = {0.85f, 0.88f, 0.92f};
     const Run run(state, pixelsOf(image), 2 * kPixelBytes + sizeof(float));
     for (auto _ : state)
         image.HazeRecover(map.data(), airlight, 0.7f);
 }
 
-/// First call on an image: estimate, map and recovery.
+/// The first call on an image: estimate, map and recovery.
 void WholeEngine(benchmark::State &state)
 {
     VImage image;

@@ -8,8 +8,7 @@
 #include "VImage.h"
 #include "threadCount.h"
 
-// Conversions and reductions against the machine's own copy and read bandwidth, measured in the same run: compare
-// bytes_per_second.
+// Conversions and reductions against the machine's copy and read bandwidth, measured in the same run: compare bytes_per_second.
 
 namespace {
 
@@ -21,7 +20,7 @@ struct Form
 constexpr Form kRgb8{VImage::Rgb, 8}, kRgba8{VImage::Rgba, 8}, kRgb16{VImage::Rgb, 16}, kRgba16{VImage::Rgba, 16},
     kGrey8{VImage::Grey, 8}, kWorking{VImage::Rgba, 32};
 
-/// 3 to 2 like a photograph's frame.
+/// Aspect ratio 3:2, like a photograph.
 struct Frame
 {
     explicit Frame(std::int64_t megapixels)
@@ -48,7 +47,7 @@ void report(benchmark::State &state, std::int64_t pixels, std::int64_t bytes)
 
 // Arguments: megapixels, threads.
 
-/// What goes through memory if an image in the working form is copied: bytes read and bytes written.
+/// Copies an image in the working form; counts the bytes read and written.
 void copyBandwidth(benchmark::State &state)
 {
     const Frame frame(state.range(0));
@@ -84,7 +83,7 @@ void readBandwidth(benchmark::State &state)
     report(state, std::int64_t(frame.width) * frame.height, bytesOf(source));
 }
 
-/// Bytes read and written by the rectangle as a whole.
+/// Counts the bytes of the whole rectangle, read and written.
 void convert(benchmark::State &state, Form from, Form to)
 {
     const Frame frame(state.range(0));
@@ -99,7 +98,7 @@ void convert(benchmark::State &state, Form from, Form to)
     report(state, std::int64_t(frame.width) * frame.height, bytesOf(source) + bytesOf(target));
 }
 
-/// To about 100,000 pixels, as the engine does, or by a half, as the pyramid does. Bytes read.
+/// Reduces to about 100,000 pixels, like the engine, or to half the size, like the pyramid. Counts the bytes read.
 void reduce(benchmark::State &state, bool byHalf)
 {
     const Frame frame(state.range(0));

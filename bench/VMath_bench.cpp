@@ -47,7 +47,7 @@ void fillWindows(VSparseFactory &factory, int team)
     }
 }
 
-/// Everything between the first cell and the last release, in milliseconds by stage; each iteration starts from fresh memory.
+/// Everything from the first cell to the last release, in milliseconds per stage; each iteration starts with fresh memory.
 void assembly(benchmark::State &state)
 {
     threadCount = std::int32_t(state.range(0));
@@ -83,8 +83,8 @@ void assembly(benchmark::State &state)
 }
 BENCHMARK(assembly)->Arg(1)->Arg(2)->UseRealTime()->MeasureProcessCPUTime()->Unit(benchmark::kMillisecond);
 
-/// One whole VSparseMatrix::Solve of a matting system. A further cell of value 0 that joins the first pixel to the last changes
-/// no solution, but the pattern is no grid any more, and the library solves the same system.
+/// One whole VSparseMatrix::Solve of a matting system. An extra cell of value 0 that joins the first pixel to the last does not
+/// change the solution, but the pattern is no longer a grid, so the library solves the same system instead.
 void solve(benchmark::State &state, bool joined)
 {
     VSparseMatrix matrix;

@@ -1,6 +1,6 @@
-// The whole program on a drawn photograph, as JPEG of 8 bits and TIFF of 16, beside what the machine can do at best, all measured
-// in one run: copy bandwidth, and reading and writing the same file with the codec layer alone. Prints medians of several rounds;
-// judges nothing. usage: end_to_end [--megapixels N] [--rounds N] [--batch N]
+// The whole program on a drawn photograph, as an 8-bit JPEG and a 16-bit TIFF, compared with the best that the machine can do,
+// all measured in one run: copy bandwidth, and reading and writing the same file with the codec layer alone. Prints medians of
+// several rounds and judges nothing. usage: end_to_end [--megapixels N] [--rounds N] [--batch N]
 
 #include <algorithm>
 #include <chrono>
@@ -39,9 +39,9 @@
 namespace {
 
 constexpr int kStrength = 80;
-constexpr double kPixelBytes = 16.0; ///< Of the working form.
+constexpr double kPixelBytes = 16.0; ///< In the working form.
 
-/// What something took: seconds, and for a program its peak of memory.
+/// What something costs: seconds and, for a program, its peak memory.
 struct Cost
 {
     double wall = 0.0;
@@ -70,7 +70,7 @@ Cost costOf(const std::function<void()> &work)
     return {wall.count(), cpuOf(after) - cpuOf(before), 0.0};
 }
 
-/// Starts programs from a process of its own that stays small: a program's peak of memory is at least that of its starter.
+/// Starts programs from a separate small process, because the peak memory of a program is at least that of its parent process.
 class Launcher
 {
 public:
@@ -94,7 +94,7 @@ public:
     Launcher(const Launcher &) = delete;
     Launcher &operator=(const Launcher &) = delete;
 
-    /// Runs a program to its end, without its output. Throws VException if it fails.
+    /// Runs a program to its end and discards its output. Throws VException if it fails.
     Cost run(const QStringList &words)
     {
         const QByteArray text = words.join(QChar(0)).toUtf8() + '\0';
@@ -103,7 +103,7 @@ public:
         if (write(requests, &bytes, sizeof bytes) == sizeof bytes && write(requests, text.data(), bytes) == ssize_t(bytes) &&
             read(answers, &cost, sizeof cost) == sizeof cost && cost.wall >= 0.0)
             return cost;
-        throw VException(QStringLiteral("It failed: %1").arg(words.join(' ')), V_LOCATION);
+        throw VException(QStringLiteral("This command failed: %1").arg(words.join(' ')), V_LOCATION);
     }
 
 private:
@@ -124,7 +124,7 @@ private:
         }
         _exit(0);
     }
-    /// The words of `text` each end with a null. A negative time: it failed.
+    /// Each word of `text` ends with a null. Returns a negative time if the program failed.
     static Cost execute(std::string &text)
     {
         std::vector<char *> arguments;
@@ -159,7 +159,7 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-/// Medians, each of its own.
+/// The median of each figure.
 Cost median(const std::vector<Cost> &costs)
 {
     const auto of = [&](double Cost::*member) {
@@ -176,8 +176,8 @@ std::size_t bytesOf(const VImage &image)
     return std::size_t(image.Height()) * std::size_t(image.BytesPerLine());
 }
 
-/// The landscape at a size of 3 to 2, drawn small, since drawing takes far longer than all that is measured, and enlarged; the
-/// grain on it is a photograph's.
+/// The landscape in 3:2, drawn small and enlarged, because drawing takes far longer than everything that is measured; with grain
+/// like that of a photograph.
 void drawPhotograph(double megapixels, VImage &photograph)
 {
     const int unit = std::max(1, int(std::sqrt(megapixels * 1e6 / 6.0)));
@@ -196,7 +196,7 @@ void drawPhotograph(double megapixels, VImage &photograph)
     }
 }
 
-/// Bytes read and written a second when one working image is copied to another.
+/// Bytes read and written per second when one working image is copied to another.
 double copyBandwidth(const VImage &source, VImage &target, int team)
 {
     std::vector<double> walls;
@@ -228,12 +228,12 @@ Bitmap decode(const QString &file)
     gflGetDefaultLoadParams(&params);
     GflBitmap *bitmap = nullptr;
     if (gflLoadBitmapUTF8(file.toUtf8().constData(), &bitmap, &params, nullptr) != GFL_NO_ERROR)
-        throw VException(QStringLiteral("Not readable: %1").arg(file), V_LOCATION);
+        throw VException(QStringLiteral("Can't read %1").arg(file), V_LOCATION);
     return Bitmap(bitmap);
 }
 
-/// A run's stages one by one, as the process and the driver call them, each with the bytes a pixel of the full image that it
-/// reads and writes at least; 0 where pixels are not what it costs.
+/// One stage of a run, called as the process and the engine call it, with the fewest bytes per pixel of the full image that it
+/// reads and writes; 0 if its cost does not depend on them.
 struct Stage
 {
     const char *name;
@@ -244,7 +244,7 @@ struct Stage
 class Stages
 {
 public:
-    /// The same calls in the same order find the same entries in each round.
+    /// Starts a round. Each round must make the same calls in the same order, so that they find their entries again.
     void begin() { next = 0; }
     void run(const char *name, double bytesPerPixel, const std::function<void()> &work)
     {
@@ -333,7 +333,7 @@ void measureFormat(Launcher &launcher, const QString &program, const QString &fi
             gflGetDefaultSaveParams(&params);
             params.formatIndex = gflGetFormatIndexByName(format.toLatin1().constData());
             if (gflSaveBitmapUTF8(copy.toUtf8().constData(), bitmap.get(), &params) != GFL_NO_ERROR)
-                throw VException(QStringLiteral("Not writable: %1").arg(copy), V_LOCATION);
+                throw VException(QStringLiteral("Can't write %1").arg(copy), V_LOCATION);
         }));
         whole.push_back(launcher.run({program, file, "--strength", QString::number(kStrength), "--overwrite", "--quiet"}));
         runStages(file, result, format, stages);
@@ -350,7 +350,7 @@ void measureFormat(Launcher &launcher, const QString &program, const QString &fi
     stages.print(pixels, bandwidth);
 }
 
-/// A preview image's first run and a change of its strength.
+/// The first run on a preview image, and a change of its strength.
 void measurePreview(const VImage &photograph, int rounds)
 {
     VImage small, fresh;
@@ -424,8 +424,8 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
     const QCommandLineOption megapixels("megapixels", "Size of the photograph.", "N", "24");
-    const QCommandLineOption rounds("rounds", "Medians are of so many.", "N", "5");
-    const QCommandLineOption batch("batch", "Photographs of the batch; 0 for none.", "N", "20");
+    const QCommandLineOption rounds("rounds", "Number of rounds; medians are printed.", "N", "5");
+    const QCommandLineOption batch("batch", "Photographs in the batch; 0 for none.", "N", "20");
     parser.addOptions({megapixels, rounds, batch});
     parser.addHelpOption();
     parser.process(application);

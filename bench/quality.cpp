@@ -1,9 +1,9 @@
-// How good the results are, on drawn scenes of which depth, airlight and truth are known. Draws each scene, runs the real
-// veilaway on it as a 16-bit TIFF, and compares three pictures with the truth: the untouched one, the one by the map without
-// refinement, and the result; and the strengths, fixed, automatic and best. Prints tables in Markdown; writes them, the files and
-// a sheet of pictures a scene into FOLDER. Fails if a file is not what the engine makes in this process, or with --gain if a
-// result's PSNR is not above the untouched picture's by that much. usage: quality FOLDER [--width N] [--scene NAME]... [--gain
-// DB]
+// How good the results are, on drawn scenes whose depth, airlight and truth are known. Draws each scene, runs the real veilaway
+// on it as a 16-bit TIFF, and compares three pictures with the truth: the untouched one, the one made with the unrefined map, and
+// the result. Also compares the strengths: fixed, automatic and best. Prints tables in Markdown; writes them, the files and a
+// sheet of pictures per scene into FOLDER. Fails if a file differs from what the engine makes in this process, or, with --gain,
+// if the PSNR of a result is not higher by that much than that of the untouched picture. usage: quality FOLDER [--width N]
+// [--scene NAME]... [--gain DB]
 
 #include <algorithm>
 #include <cmath>
@@ -37,7 +37,7 @@ namespace {
 
 constexpr int kFull = 100;
 constexpr int kUsual = 70;
-constexpr int kWeakest = 30, kStep = 5; ///< Strengths that are tried.
+constexpr int kWeakest = 30, kStep = 5; ///< The strengths to try.
 constexpr int kShown[] = {50, kUsual, 85, kFull};
 
 std::size_t pixelsOf(const VImage &image)
@@ -45,7 +45,7 @@ std::size_t pixelsOf(const VImage &image)
     return std::size_t(image.Width()) * std::size_t(image.Height());
 }
 
-/// A picture of RGBA floats seen as an image.
+/// A view of RGBA floats as an image.
 std::unique_ptr<VImage> viewOf(DepthScene &scene, std::vector<float> &pixels)
 {
     return std::make_unique<VImage>(scene.width, scene.height, VImage::Rgba, 32, /*clear=*/false, pixels.data(),
@@ -58,7 +58,7 @@ void readFile(const QString &file, VImage &image)
     gflGetDefaultLoadParams(&params);
     GflBitmap *bitmap = nullptr;
     if (gflLoadBitmapUTF8(file.toUtf8().constData(), &bitmap, &params, nullptr) != GFL_NO_ERROR)
-        throw VException(QStringLiteral("Not readable: %1").arg(file), V_LOCATION);
+        throw VException(QStringLiteral("Can't read %1").arg(file), V_LOCATION);
     const std::unique_ptr<GflBitmap, void (*)(GflBitmap *)> owner(bitmap, [](GflBitmap *one) { gflFreeBitmap(one); });
     const VImage view(bitmap->width, bitmap->height, bitmap->type, bitmap->bitsPerComponent, /*clear=*/false, bitmap->data,
                       int(bitmap->bytesPerLine));
@@ -89,7 +89,7 @@ bool samePixels(const VImage &a, const VImage &b)
     return true;
 }
 
-/// Transmission at full strength, as the estimate has it: the recovery's floor is not part of it.
+/// The estimated transmission at full strength, without the lower limit that the recovery applies.
 std::vector<float> transmissionOf(const float *map, std::size_t pixels)
 {
     std::vector<float> transmission(map, map + pixels);
@@ -98,7 +98,7 @@ std::vector<float> transmissionOf(const float *map, std::size_t pixels)
     return transmission;
 }
 
-/// The driver's estimate without its matting step.
+/// The engine's estimate without the matting step.
 std::unique_ptr<float[]> mapWithoutRefinement(VImage &image)
 {
     const int width = int(std::sqrt(100000.0 * image.Width() / image.Height()));
@@ -147,7 +147,7 @@ struct Likeness
     double psnr = 0.0, ssim = 0.0;
 };
 
-/// Of the untouched picture, the map without refinement, and the result.
+/// For the untouched picture, the unrefined map and the result.
 struct Figures
 {
     QString name;
@@ -247,7 +247,8 @@ QString row(const QStringList &cells)
     return "| " + cells.join(" | ") + " |\n";
 }
 
-/// PSNR and SSIM of all scenes for ways to choose the strength; the best ones by either measure know the truth.
+/// Mean PSNR and SSIM over all scenes for several ways to choose the strength; the best ones by each measure are chosen knowing
+/// the truth.
 QString meansOf(const std::vector<Figures> &all)
 {
     using Choice = std::function<Likeness(const Figures &)>;
@@ -334,11 +335,11 @@ int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     QCommandLineParser parser;
-    const QCommandLineOption width("width", "Width of the scenes; they are 3 to 2.", "N", "1500");
+    const QCommandLineOption width("width", "Width of the scenes, which have the aspect ratio 3:2.", "N", "1500");
     const QCommandLineOption scene("scene", "Only this one; may be given several times.", "NAME");
-    const QCommandLineOption gain("gain", "Least gain of each result's PSNR over the untouched picture's.", "DB");
+    const QCommandLineOption gain("gain", "Fail if a result's PSNR does not exceed the untouched picture's by this.", "DB");
     parser.addOptions({width, scene, gain});
-    parser.addPositionalArgument("FOLDER", "Where files and pictures go.");
+    parser.addPositionalArgument("FOLDER", "Folder for files and pictures.");
     parser.addHelpOption();
     parser.process(application);
     const QStringList folders = parser.positionalArguments();

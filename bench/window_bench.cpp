@@ -11,7 +11,7 @@
 #include "WizardWindow.h"
 #include "drawScene.h"
 
-// What a photographer waits for before the window. The window is painted as on a screen; QT_QPA_PLATFORM=offscreen does without.
+// How long a photographer waits for the window. It is painted as on a screen; QT_QPA_PLATFORM=offscreen needs none.
 
 namespace {
 
@@ -33,7 +33,7 @@ struct Window
         until([&] { return window.currentPage()->isComplete(); });
         window.repaint();
     }
-    /// From the choice of a photograph to the first result on the screen.
+    /// From choosing a photograph to the first result on the screen.
     void begin(const QString &photograph)
     {
         window.addPhotographs({photograph});
@@ -59,7 +59,7 @@ QString drawn(std::int64_t megapixels)
     return path;
 }
 
-/// The first time counts: each round has a photograph of its own that nothing has been kept of.
+/// Measures the first time: each round opens a new photograph, for which nothing is cached.
 void choosing_to_first_result(benchmark::State &state)
 {
     const QString source = drawn(state.range(0));

@@ -10,10 +10,10 @@
 
 #include <unistd.h>
 
-/// One run of a fuzz target; defined once in each. Called by libFuzzer, or by replay.cpp over files.
+/// One run of a fuzz target; each target defines it. Called by libFuzzer, or by replay.cpp with files.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t count);
 
-/// A promise that the input has broken.
+/// Aborts if the input has broken this promise.
 inline void require(bool holds, const char *promise)
 {
     if (holds)
@@ -31,7 +31,7 @@ inline std::uint32_t digest(const std::uint8_t *bytes, std::size_t count)
     return value ^ value >> 15;
 }
 
-/// A folder of this process, in memory where there is such a place and TMPDIR names no other one.
+/// A folder for this process alone: in memory if the system has such a place and TMPDIR is not set.
 class ScratchFolder
 {
 public:

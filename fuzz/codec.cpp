@@ -9,14 +9,14 @@
 #include "XmpCarrier.h"
 #include "gfl.h"
 
-// Photographs of one format, with their metadata: a result code and nothing worse, and whatever was read can be written. The
-// codecs take files, which lie in memory here.
+// Photographs of one format, with their metadata: reading ends with a result code and nothing worse, and whatever was read can be
+// written. The codecs take files, which are kept in memory here.
 namespace {
 
 constexpr std::string_view kSuffix = FUZZ_SUFFIX;
 
-constexpr std::size_t kMemory = 64 << 20; // what a picture may take here
-int fresh = 0;                            // what new memory is filled with
+constexpr std::size_t kMemory = 64 << 20; // limit for one picture
+int fresh = 0;                            // the byte that fills new memory
 
 void *takeMemory(std::size_t bytes, void *)
 {
@@ -49,7 +49,7 @@ std::pair<int, Picture> load(const std::string &name, std::uint32_t flags, GflFi
     return {code, Picture(bitmap)};
 }
 
-/// A pixel with all the metadata of the picture.
+/// A single pixel with all the metadata of the picture.
 Picture pixelWith(const GflBitmap &source)
 {
     Picture pixel(static_cast<GflBitmap *>(std::calloc(1, sizeof(GflBitmap))));
@@ -92,11 +92,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t cou
     const Picture described = load(source, GFL_LOAD_METADATA_ONLY, &head).second;
     const Picture picture = load(source, GFL_LOAD_METADATA, &body).second;
     if (picture) {
-        // A file that lacks no more than its end mark is read, but not described.
+        // A file that lacks only its end mark can be read, but not described.
         require(!described ||
                     (head.width == body.width && head.height == body.height && head.bitsPerComponent == body.bitsPerComponent &&
                      head.componentsPerPixel == body.componentsPerPixel),
-                "the description is that of the picture");
+                "the description matches the picture");
         const std::uint32_t samples = digestOf(*picture);
         fresh ^= 0xFF;
         if (choice % 8 == 1)

@@ -8,11 +8,11 @@
 #include "gfl.h"
 #include "photoKind.h"
 
-// Heads of files under names that may be true or not: what is no photograph is refused, and all else has a size that it could
-// hold.
+// Heads of files under names that may be wrong: whatever is not a photograph is refused, and everything else has a size that the
+// file could hold.
 namespace {
 
-/// Names of one file: the first leaves it to the content, the others say what it is.
+/// Names for one file: the first says nothing about its content, the others claim a kind.
 constexpr const char *kNames[] = {"source.mp4", "source.nef", "source.jpg", "source.tif", "source.cr2", "source.psd"};
 
 void describe(const std::string &name, PhotoKind kind, std::size_t count)
@@ -26,7 +26,7 @@ void describe(const std::string &name, PhotoKind kind, std::size_t count)
         require(std::int64_t(facts.width) * facts.height < std::int64_t(count + 1) << 20, "a file of its length could hold it");
     } catch (const VException &) {
     }
-    require(!described || (kind != PhotoKind::Video && kind != PhotoKind::Other), "what is no photograph is refused");
+    require(!described || (kind != PhotoKind::Video && kind != PhotoKind::Other), "what is not a photograph is refused");
 }
 
 } // namespace

@@ -17,8 +17,8 @@
 #include "gflRows.h"
 #include "ipp.h"
 
-// Conversion, resampling and the engine on images of any shape, stride, form and values: nothing outside of the pixels is
-// touched, and what the headers promise of the result holds.
+// Conversion, resampling and the engine on images of any shape, stride, form and values: nothing outside the pixels is touched,
+// and the results are as the headers promise.
 namespace {
 
 constexpr int kMaxSide = 12;
@@ -34,7 +34,7 @@ int channelsOf(unsigned short type)
     return type == VImage::Grey ? 1 : type == VImage::Rgb ? 3 : 4;
 }
 
-/// Samples from the input, and when that is used up from a sequence that it started.
+/// Samples from the input and, once that is used up, from a sequence seeded by it.
 class Samples
 {
 public:
@@ -74,7 +74,7 @@ private:
     std::uint32_t state;
 };
 
-/// An image whose rows have a gap behind them that nobody may touch.
+/// An image with a gap after each row that must not be touched.
 class Padded
 {
 public:
@@ -107,8 +107,8 @@ double sampleAt(const unsigned char *row, int bits, int index)
     return double(reinterpret_cast<const float *>(row)[index]);
 }
 
-/// Against the codec layer's conversion, which takes whole pixels in one step. Colour to grey is the image room's own, and so is
-/// what becomes of an alpha that the source lacks.
+/// Compares with the codec layer's conversion, which converts whole pixels in one step. Colour to grey is left out, and so is the
+/// alpha that a source lacks: both belong to the image room alone.
 void compareWithCodecLayer(const VImage &from, int fromX, int fromY, const VImage &to, int toX, int toY, int width, int height)
 {
     const int source = channelsOf(from.Type()), target = channelsOf(to.Type()), bits = to.BitsPerComponent();
@@ -153,7 +153,7 @@ void resample(FuzzedDataProvider &data, const VImage &source)
 {
     const int width = data.ConsumeIntegralInRange(1, 2 * kMaxSide), height = data.ConsumeIntegralInRange(1, 2 * kMaxSide);
     if (width == source.Width() && height == source.Height())
-        return; // a copy with the gaps, which are the record's
+        return; // gives a deep copy with the gaps, which belong to the record
     VImage target;
     source.Resample(target, width, height);
     if (source.BitsPerComponent() == 32)
@@ -168,7 +168,7 @@ void resample(FuzzedDataProvider &data, const VImage &source)
         return found;
     };
     const auto before = limits(source), after = limits(target);
-    require(after.first >= before.first && after.second <= before.second, "means lie between what they are the means of");
+    require(after.first >= before.first && after.second <= before.second, "means lie between the samples that they are made of");
 }
 
 void smallest(FuzzedDataProvider &data, const VImage &source)
@@ -185,7 +185,7 @@ void smallest(FuzzedDataProvider &data, const VImage &source)
                         anchor, const_cast<float *>(buffer.data()));
 }
 
-/// The last pass, whose result is never negative and always a number.
+/// The last pass, whose results are always numbers and never negative.
 void recover(FuzzedDataProvider &data, VImage &image, Samples &samples)
 {
     HazeState state{};
@@ -205,8 +205,8 @@ void recover(FuzzedDataProvider &data, VImage &image, Samples &samples)
     }
 }
 
-// The stages take long, and the whole way, which always works on 100,000 pixels, takes very long: they run once in a while, by a
-// number that mutations can't aim at.
+// The stages take long, and the whole engine, which always works on 100,000 pixels, takes very long: they run only occasionally,
+// chosen by a number that mutations can't aim at.
 
 void stages(std::uint32_t shape, const VImage &source)
 {
@@ -221,7 +221,7 @@ void stages(std::uint32_t shape, const VImage &source)
     image.HazeRecover(full.get(), airlight, 0.8f);
 }
 
-void wholeWay(const VImage &image)
+void wholeEngine(const VImage &image)
 {
     VImage working;
     image.ConvertTo(working, VImage::Rgba, 32);
@@ -260,6 +260,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t cou
     else
         recover(data, source.image, samples);
     if (aim % 1000000 == 0)
-        wholeWay(source.image);
+        wholeEngine(source.image);
     return 0;
 }

@@ -20,8 +20,8 @@
 #include "gflBitmapParts.h"
 #include "gflMetadata.h"
 
-// Small files for the fuzzers to start from: every format in every form that is written here, with metadata, and forms that only
-// other programs write. usage: make_seeds FOLDER     a folder a target is made in it
+// Small files for the fuzzers to start from: every format in every form that this program writes, with metadata, and forms that
+// only other programs write. usage: make_seeds FOLDER     makes one folder per target in it
 namespace {
 
 using gfl::Bytes;
@@ -90,14 +90,14 @@ void attachAll(GflBitmap &bitmap, int orientation)
     metadata.exif.block = orientation % 2 ? plain : gfl::exifFromFacts(facts);
     metadata.iptc.block = {0x1C, 2, 80, 0, 3, 'A', 'n', 'n', 0x1C, 2, 25, 0, 4, 'h', 'a', 'z', 'e'};
     metadata.icc.assign(132, 0);
-    metadata.icc[3] = 132; // its own size
+    metadata.icc[3] = 132; // the size of the profile
     std::memcpy(&metadata.icc[8], "\2\x10\0\0mntrRGB XYZ ", 16);
     std::memcpy(&metadata.icc[36], "acsp", 4);
     if (bitmap.componentsPerPixel == 1)
         std::memcpy(&metadata.icc[16], "GRAY", 4);
 }
 
-/// Everything that the layer writes.
+/// Everything that the codec layer writes.
 void writeOwn(const std::string &folder)
 {
     constexpr struct
@@ -129,7 +129,7 @@ void writeOwn(const std::string &folder)
                 }
 }
 
-/// TIFF files with other depths, colour spaces, orders, tiles and compressions.
+/// TIFF files with other depths, colour spaces, byte orders, tiles and compressions.
 void writeTiffs(const std::string &folder)
 {
     TIFFSetErrorHandler(nullptr);
@@ -294,7 +294,7 @@ Bytes bigEndian(std::initializer_list<std::pair<unsigned, int>> numbers)
     return bytes;
 }
 
-/// What has no writer at hand: PSD in its other modes, HDR in its other orders, XMP in JPEG.
+/// Files that no available library writes: PSD in its other modes, HDR in its other orders, XMP in JPEG.
 void writeByHand(const std::string &folder)
 {
     for (const unsigned mode : {0u, 1u, 2u, 3u, 4u, 8u, 9u})
@@ -340,7 +340,7 @@ void put(Bytes &bytes, std::size_t at, const Bytes &part)
     std::copy(part.begin(), part.end(), bytes.begin() + std::ptrdiff_t(at));
 }
 
-/// Heads of what has a library's parser somewhere: videos, pictures that are not read here, and camera raw of every shape.
+/// Heads of files that some library would parse: videos, pictures that are not read here, and camera raw of every kind.
 void writeHeads(const std::string &folder)
 {
     const struct
@@ -418,8 +418,8 @@ void writeHeads(const std::string &folder)
     writeFile(folder + "/raf", raf);
 }
 
-/// The target that a file belongs to, by its first bytes, or by its name where a camera's raw file is a TIFF; empty: it is for
-/// none of the codecs.
+/// The target that a file belongs to, by its first bytes, or by its name if a raw file is a TIFF; empty if it is for none of the
+/// codecs.
 std::string formatOf(const std::filesystem::path &file)
 {
     using namespace std::string_view_literals;
@@ -462,7 +462,7 @@ void writeTexts(const std::string &folder)
             Bytes bytes(120);
             for (std::size_t i = 0; i < bytes.size(); ++i)
                 bytes[i] = std::uint8_t((i * 73 + work * 31 + form * 11) * 2654435761u >> 13);
-            bytes.back() = std::uint8_t(work); // numbers are taken from the end
+            bytes.back() = std::uint8_t(work); // FuzzedDataProvider takes numbers from the end
             bytes[bytes.size() - 2] = std::uint8_t(form / 3);
             bytes[bytes.size() - 3] = std::uint8_t(form % 3);
             writeFile(folder + "/engine/" + std::to_string(work) + "_" + std::to_string(form), bytes);

@@ -3,7 +3,7 @@
 
 #include "FuzzTarget.h"
 
-// Runs a target over files, without libFuzzer. usage: replay_<target> FILE-OR-FOLDER...
+// Runs a target on files, without libFuzzer. usage: replay_<target> FILE-OR-FOLDER...
 int main(int argumentCount, char **arguments)
 {
     const auto run = [](const std::filesystem::path &path) {

@@ -8,7 +8,8 @@
 #include "SettingsFile.h"
 #include "VException.h"
 
-// The settings file of a batch, and the plug-in's settings from any element. What the program takes it can write, and read again.
+// The settings file of a batch, and the plug-in's settings from any element. What the program accepts it can write and read
+// again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t count)
 {
     static const ScratchFolder folder;
@@ -30,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t cou
     try {
         file.load();
     } catch (const VException &) {
-        QDomDocument document; // no settings file, but maybe an element: a host's own, which is not that deep
+        QDomDocument document; // not a settings file, but perhaps an element from a host, which is not nested that deeply
         if (count < 10000 && document.setContent(QByteArray(reinterpret_cast<const char *>(bytes), int(count))))
             taken(document.documentElement());
         return 0;

@@ -2,7 +2,7 @@
 #include "FuzzTarget.h"
 #include "LensIDProperties.h"
 
-// The tables of cameras and lenses. The first line is asked for, "brand;model or identifier", in the table of the lines below it.
+// The tables of cameras and lenses. The first line, "brand;model or identifier", is looked up in the table of the lines below it.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t count)
 {
     const QByteArray input(reinterpret_cast<const char *>(bytes), int(count));

@@ -14,11 +14,11 @@ namespace {
 
 using namespace sceneMath;
 
-constexpr float kAspect = 1.5f; // the pictures are 1.5 wide and 1 high
+constexpr float kAspect = 1.5f; // in scene coordinates the pictures are 1.5 wide and 1 high
 constexpr float kSmallest = 0.001f;
 constexpr float kInfinite = std::numeric_limits<float>::infinity();
 
-/// What a ray meets: its colour without air, encoded, and the depth as exponent of the transmission, beta d.
+/// What a ray hits: its encoded colour without air, and its depth as the exponent of the transmission, beta d.
 struct Hit
 {
     Vector colour;
@@ -30,7 +30,7 @@ float chance(int i, std::uint32_t seed)
     return cellValue(i, 7, seed);
 }
 
-/// 0..1 with much of it near both ends, as light and shadow among leaves and stones.
+/// 0..1, mostly near one of the ends, like light and shadow among leaves and stones.
 float patches(float u, float v, float wavelength, std::uint32_t seed)
 {
     return smoothstep(0.30f, 0.68f, fractal(u, v, wavelength, kSmallest, 5, seed));
@@ -52,7 +52,7 @@ Vector stones(float u, float v, float size, std::uint32_t seed)
            (shade * smoothstep(0.0f, 0.12f, joint) * (0.55f + 0.6f * patches(u, v, size, seed + 1)) + 0.05f);
 }
 
-// A wall with a straight, slanted edge before wooded slopes.
+// A wall with a straight, slanted edge in front of wooded slopes.
 Hit straightEdge(float u, float v)
 {
     if (u < 0.62f + 0.12f * (v - 0.5f))
@@ -61,7 +61,7 @@ Hit straightEdge(float u, float v)
     return v > top ? Hit{leaves(u, v, 0.02f, 203), 1.6f} : Hit{};
 }
 
-// Six ridges, wooded, each nearer at its foot than at its top.
+// Six wooded ridges, each nearer at its foot than at its top.
 Hit ridges(float u, float v)
 {
     constexpr float kDepth[] = {0.25f, 0.6f, 1.1f, 1.8f, 2.8f, 4.2f};
@@ -95,7 +95,7 @@ void grow(std::vector<Twig> &twigs, float u, float v, float angle, float length,
     }
 }
 
-// Bare branches, down to a pixel or two, before hills and sky.
+// Bare branches, down to a pixel or two wide, in front of hills and sky.
 Hit twigs(float u, float v)
 {
     constexpr int kBins = 512; // columns of the picture, each with the twigs that reach into it
@@ -126,7 +126,7 @@ Hit twigs(float u, float v)
     return v > hill ? Hit{leaves(u, v, 0.015f, 226), 2.0f} : Hit{};
 }
 
-// Steps that lead away from all four sides, each at one depth; the sky is at their end.
+// Steps that lead away from all four sides, each at a single depth, with the sky at the end.
 Hit stairs(float u, float v)
 {
     const float away = std::max(std::fabs(u - 0.75f) / 0.75f, std::fabs(v - 0.42f) / 0.58f);
@@ -168,7 +168,7 @@ Hit roofs(float u, float v)
     return {};
 }
 
-// Leaves near the camera with holes of all sizes, through which the ridges are seen.
+// Leaves near the camera with gaps of all sizes, through which the ridges are seen.
 Hit foliage(float u, float v)
 {
     const float border = std::max(std::fabs(u - 0.75f) / 0.75f, std::fabs(v - 0.5f) / 0.5f);
@@ -197,7 +197,7 @@ Hit balls(float u, float v)
     return v > kHorizon + 0.01f ? Hit{leaves(u, v, 0.08f * (v - kHorizon), 266), 0.12f / (v - kHorizon)} : Hit{};
 }
 
-// A low horizon with towers and trees; two thirds of the picture are sky.
+// A low horizon with towers and trees; two thirds of the picture is sky.
 Hit wideSky(float u, float v)
 {
     constexpr float kHorizon = 0.68f;
@@ -218,7 +218,7 @@ Hit wideSky(float u, float v)
     return v > kHorizon + 0.01f ? Hit{leaves(u, v, 0.15f * (v - kHorizon), 276), 0.11f / (v - kHorizon)} : Hit{};
 }
 
-// A road with trees on both sides: depth that grows without a step, and trunks before it.
+// A road with trees on both sides: depth that increases smoothly, with trunks in front of it.
 Hit avenue(float u, float v)
 {
     constexpr float kHorizon = 0.45f;
@@ -273,7 +273,7 @@ struct Lamp
 };
 constexpr Lamp kLamps[] = {{0.30f, 0.26f, 0.3f}, {1.15f, 0.34f, 0.6f}, {0.62f, 0.42f, 1.2f}, {0.86f, 0.46f, 2.0f}};
 
-// A street at night: lamps, lit windows, all else dark.
+// A street at night: lamps and lit windows, everything else dark.
 Hit night(float u, float v)
 {
     for (const Lamp &lamp : kLamps) {
@@ -289,7 +289,7 @@ Hit night(float u, float v)
     return hit;
 }
 
-// What the lamps add to the air's light around them.
+// What the lamps add to the airlight around them.
 Vector lampLight(float u, float v)
 {
     float light = 0;
@@ -310,9 +310,9 @@ struct Design
     const char *name;
     Hit (*at)(float u, float v); ///< Null: the sample landscape.
     Vector airlight;
-    float noise = 0; ///< Standard deviation of the sensor's noise where the picture is white.
+    float noise = 0; ///< Standard deviation of the sensor noise where the picture is white.
     bool (*inside)(float u, float v) = nullptr;
-    bool filled = false; ///< What is outside, under alpha 0, is the scene and not black.
+    bool filled = false; ///< The area outside, with alpha 0, shows the scene instead of black.
     Vector (*glow)(float u, float v) = nullptr;
 };
 
@@ -373,7 +373,7 @@ void drawRow(const Design &design, DepthScene &scene, int y)
     }
 }
 
-/// Photon noise and a little of the electronics', at its `deviation` where the picture is white.
+/// Photon noise and a little read-out noise; `deviation` is the standard deviation where the picture is white.
 void addNoise(DepthScene &scene, float deviation)
 {
     for (int y = 0; y < scene.height; ++y) {
@@ -381,7 +381,7 @@ void addNoise(DepthScene &scene, float deviation)
         for (int i = 0; i < 4 * scene.width; ++i) {
             if (i % 4 == 3)
                 continue;
-            float normal = -6; // of twelve even ones
+            float normal = -6; // the sum of twelve uniform numbers, less its mean
             for (std::uint32_t k = 0; k < 12; ++k)
                 normal += cellValue(i, y, 331 + k);
             sample[i] = std::clamp(sample[i] + normal * deviation * std::sqrt(0.1f + 0.9f * sample[i]), 0.0f, 1.0f);
@@ -389,7 +389,7 @@ void addNoise(DepthScene &scene, float deviation)
     }
 }
 
-/// The landscape has the haze mixed on whole pixels, not on 8-bit samples.
+/// The landscape's haze is mixed from whole pixels, and not rounded to 8 bits.
 void drawLandscape(const Design &design, DepthScene &scene)
 {
     const QImage clear = drawScene(scene.width, scene.height, /*haze=*/false, &scene.transmission);

@@ -13,9 +13,9 @@
 #include "drawScene.h"
 #include "workingForm.h"
 
-// Draws the plug-in's pictures from the sample landscape, and the program's icon: draw_resources FOLDER writes
-// NimbraBeforeAfter.png, iconwait_01.png to iconwait_12.png, and veilaway_16.png to veilaway_256.png. The folder in the tree is
-// resources/pictures.
+// Draws the plug-in's pictures from the sample landscape, and the program's icon. draw_resources FOLDER writes
+// NimbraBeforeAfter.png, iconwait_01.png to iconwait_12.png, and veilaway_16.png to veilaway_256.png. In the source tree they are
+// in resources/pictures.
 
 namespace {
 
@@ -30,7 +30,7 @@ constexpr int kFrames = 12;
 constexpr int kProgramIcons[] = {16, 24, 32, 48, 64, 128, 256};
 constexpr double kPi = 3.14159265358979323846;
 
-/// The engine's own result for the hazy scene.
+/// The engine's result for the hazy scene.
 QImage withoutHaze(const QImage &hazy)
 {
     VImage source(hazy.width(), hazy.height(), VImage::Rgb, 8);
@@ -66,7 +66,7 @@ QImage transparent(int width, int height)
     return image;
 }
 
-/// Before at the left, after at the right, a white seam between them.
+/// Before on the left, after on the right, with a white seam between them.
 QImage beforeAfter(const QImage &hazy, const QImage &clear)
 {
     QImage image = transparent(2 * kHalf, kHalf);
@@ -81,7 +81,7 @@ QImage beforeAfter(const QImage &hazy, const QImage &clear)
     return image;
 }
 
-/// One frame of the wait sign: twelve dots that run around a small view of the scene, from which the haze goes and comes.
+/// One frame of the wait sign: twelve dots circling a small view of the scene, whose haze clears and returns.
 QImage waitFrame(int frame, const QImage &hazy, const QImage &clear)
 {
     QImage image = transparent(kIcon, kIcon);
@@ -113,7 +113,7 @@ QImage waitFrame(int frame, const QImage &hazy, const QImage &clear)
     return image;
 }
 
-/// The program's icon: mountains, over which a veil is half drawn aside. In hundredths of the icon's side.
+/// The program's icon: mountains behind a half-opened veil. Coordinates are hundredths of the icon's side.
 QImage programIcon(int side)
 {
     constexpr double kUnits = 100.0;

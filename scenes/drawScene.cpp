@@ -93,13 +93,13 @@ float woodiness(float x, float z)
 
 struct Tree
 {
-    float height = 0; // of the tree, 0: none here
-    float above = 0;  // of its surface at the asked place over the ground
-    float shade = 0;  // 0..1, one tint for each tree
+    float height = 0; // of the tree; 0 if there is none
+    float above = 0;  // height of its surface above the ground at this place
+    float shade = 0;  // 0..1, one tint per tree
     bool conifer = false;
 };
 
-// Every cell of a turned grid holds one tree at most, wholly inside the cell.
+// Each cell of a rotated grid holds at most one tree, which lies entirely inside the cell.
 Tree treeAt(float x, float z)
 {
     constexpr float kCell = 9.5f;
@@ -176,7 +176,7 @@ Place placeAt(float x, float z, float smallest)
 
 const Vector kSun = normalised({-0.74f, 0.44f, -0.16f});
 
-// How much of the sun reaches a point: steps towards it that grow with the way.
+// How much sunlight reaches a point: walks towards the sun in steps that grow with the distance.
 float sunlight(float x, float y, float z, float smallest)
 {
     float light = 1, way = 1.5f + smallest;
@@ -190,7 +190,7 @@ float sunlight(float x, float y, float z, float smallest)
 
 Vector fieldColour(float x, float z)
 {
-    // The valley's fields: a turned grid of uneven cells, each with its own crop and furrows.
+    // The valley's fields: a rotated grid of uneven cells, each with its own crop and furrows.
     const float u = (0.94f * x + 0.34f * z) / 95 + 0.5f * noise(x / 260, z / 260, 81), v = (0.94f * z - 0.34f * x) / 150;
     const float crop = cellValue(int(std::floor(u)), int(std::floor(v)), 82);
     const float furrow = 0.94f + 0.06f * std::sin(u * 95 * kPi / 2.5f);
@@ -200,7 +200,7 @@ Vector fieldColour(float x, float z)
     return colour * (crop > 0.5f ? furrow : 1);
 }
 
-// The colour in the air-free scene, linear light.
+// The colour in the scene without air, in linear light.
 Vector surfaceColour(float x, float y, float z, float smallest, const Place &place)
 {
     const float step = std::max(0.25f, smallest);
@@ -235,7 +235,7 @@ Vector surfaceColour(float x, float y, float z, float smallest, const Place &pla
         colour = mix(grass, fieldColour(x, z),
                      smoothstep(230, 330, z) * (1 - smoothstep(1500, 2100, z)) *
                          (1 - smoothstep(0.35f, 0.45f, hump(x, z, 25, 455, 150, 100))));
-        if (z < 300) { // blades and flowers, as far as they can be made out
+        if (z < 300) { // blades and flowers, as far away as they can be made out
             const float blade = fractal(3 * x, z, 0.45f, smallest, 3, 95);
             colour = colour * (0.30f + 1.15f * blade * (0.55f + 0.9f * fine));
             const float flower = cellValue(int(std::floor(x * 11)), int(std::floor(z * 4)), 96);
@@ -261,7 +261,7 @@ Vector surfaceColour(float x, float y, float z, float smallest, const Place &pla
         const Vector needles = mix(Vector{0.035f, 0.085f, 0.035f}, Vector{0.075f, 0.14f, 0.05f}, tree.shade);
         const Vector leaves = mix(Vector{0.09f, 0.17f, 0.03f}, Vector{0.27f, 0.30f, 0.05f}, tree.shade);
         colour = (tree.conifer ? needles : leaves) * (0.05f + 1.9f * leaf);
-        // A round crown for the light, whatever rough surface the eye sees.
+        // A round crown for the lighting, however rough the visible surface is.
         const float reach = 0.8f;
         const float across = treeAt(x - reach, z).above - treeAt(x + reach, z).above;
         const float deep = treeAt(x, z - reach).above - treeAt(x, z + reach).above;
@@ -287,7 +287,7 @@ Vector skyColour(float across, float up)
                0.85f * body);
 }
 
-// Linear light to sRGB samples (IEC 61966-2-1) with a soft shoulder for what is brighter than the picture can show.
+// Linear light to sRGB samples (IEC 61966-2-1), with a soft shoulder for what is too bright for the picture.
 float encoded(float linear)
 {
     const float toned = linear < 0.6f ? linear : 0.6f + 0.4f * (1 - std::exp(-(linear - 0.6f) / 0.4f));
@@ -309,7 +309,7 @@ QImage drawScene(int width, int height, bool haze, std::vector<float> *transmiss
 {
     if (width < 1 || height < 1)
         return {};
-    // Two by two samples a pixel. A column is walked from near to far: whatever rises over all that came before is seen.
+    // Two by two samples per pixel. Each column is walked from near to far: what rises above everything before it is visible.
     constexpr int kSamples = 2;
     const int rows = height * kSamples;
     const float focal = 0.92f * float(std::max(width, height)) * kSamples;
@@ -335,14 +335,14 @@ QImage drawScene(int width, int height, bool haze, std::vector<float> *transmiss
         };
         for (int sample = 0; sample < kSamples; ++sample) {
             const float across = (float(column * kSamples + sample) + 0.5f - 0.5f * float(width * kSamples)) / focal;
-            int row = rows - 1; // the lowest row still without a picture
+            int row = rows - 1; // the lowest row not yet drawn
             float near = 26, nearHeight = groundHeight(across * near, near, 0.05f);
             const auto rise = [&](int at) { return (horizon - (float(at) + 0.5f)) / focal; };
             for (float far = near * (1 + growth); far < 21000 && row >= 0; far *= 1 + growth) {
                 const float smallest = far / focal;
                 const Place place = placeAt(across * far, far, smallest);
                 while (row >= 0 && eye + rise(row) * far <= place.height) {
-                    // Where the ray meets the line from the last height to this one; a wall is met at its face.
+                    // Where the ray meets the line from the previous height to this one; a wall is hit at its face.
                     const float below = eye + rise(row) * near - nearHeight, above = place.height - (eye + rise(row) * far);
                     const float part = below <= 0 ? 0.0f : below / (below + above);
                     const float distance = mix(near, far, part);

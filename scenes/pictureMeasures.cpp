@@ -27,7 +27,7 @@ std::size_t indexOf(int x, int y, int width)
 
 using Plane = std::vector<double>;
 
-/// One value of each pixel.
+/// One value per pixel.
 template<typename Value>
 Plane planeOf(const VImage &image, Value value)
 {
@@ -43,7 +43,7 @@ Plane planeOf(const VImage &image, Value value)
 
 constexpr int kRadius = 5; // of an SSIM window
 
-/// Means over the windows; at the borders, where no whole window fits, they mean nothing.
+/// Means over the windows; they are meaningless at the borders, where no whole window fits.
 Plane windowMeans(const Plane &plane, int width, int height)
 {
     std::array<double, 2 * kRadius + 1> weights{};
@@ -73,7 +73,7 @@ double median(std::vector<float> &values)
     return double(*middle);
 }
 
-/// The way from one edge pixel outwards on one side.
+/// The line from an edge pixel outwards on one side.
 class Side
 {
 public:
@@ -81,7 +81,7 @@ public:
         : truth(truth), width(width), height(height), reach(reach)
     {
     }
-    /// False if the picture ends on the way. The first place is two pixels off, behind what the edge crosses.
+    /// False if the line leaves the picture. It starts two pixels away, past the pixels that the edge crosses.
     bool walk(int x, int y, double stepX, double stepY)
     {
         places.clear();
@@ -214,7 +214,7 @@ std::optional<EdgeFigures> edgeFigures(const std::vector<float> &estimate, const
             const double length = std::hypot(gradientX, gradientY);
             if (!(length > 0.0) || !far.walk(x, y, -gradientX / length, -gradientY / length))
                 continue;
-            std::size_t clearest = indexOf(x, y, width); // of a twig this may be all that is seen
+            std::size_t clearest = indexOf(x, y, width); // for a twig this may be all there is
             for (int i = -1; i <= 1; ++i)
                 for (int j = -1; j <= 1; ++j)
                     if (at(j, i) > double(truth[clearest]))

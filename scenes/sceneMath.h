@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdint>
 
-/// What drawn scenes are made of: vectors for colours and places, and noise that is the same on every machine.
+/// Building blocks of drawn scenes: vectors for colours and places, and noise that is the same on every machine.
 namespace sceneMath {
 
 struct Vector
@@ -46,7 +46,7 @@ inline float smoothstep(float from, float to, float value)
     return part * part * (3 - 2 * part);
 }
 
-// A number in 0..1 for each cell of the plane; wraps in unsigned arithmetic on purpose.
+// A number in 0..1 for each cell of the plane. The unsigned arithmetic wraps around on purpose.
 inline float cellValue(int x, int z, std::uint32_t seed)
 {
     std::uint32_t bits = std::uint32_t(x) * 0x8da6b343u ^ std::uint32_t(z) * 0xd8163841u ^ seed * 0xcb1ab31fu;
@@ -64,7 +64,7 @@ inline float noise(float x, float z, std::uint32_t seed)
                mix(cellValue(cellX, cellZ + 1, seed), cellValue(cellX + 1, cellZ + 1, seed), u), v);
 }
 
-// Sum of noises of halving wavelength, in 0..1. Wavelengths below `smallest` are left out: nobody would see them from that far.
+// Sum of noises with halving wavelengths, in 0..1. Wavelengths below `smallest` are omitted: they can't be seen at that distance.
 inline float fractal(float x, float z, float wavelength, float smallest, int octaves, std::uint32_t seed, bool ridged = false)
 {
     float sum = 0, weight = 0.5f, total = 0;
@@ -80,7 +80,7 @@ inline float fractal(float x, float z, float wavelength, float smallest, int oct
         total += weight;
         weight *= 0.5f;
         wavelength *= 0.5f;
-        // Each octave is turned, or the cells' edges would add up to visible lines.
+        // Each octave is rotated; otherwise the edges of the cells would add up to visible lines.
         const float turned = 2 * (0.8f * x - 0.6f * z);
         z = 2 * (0.6f * x + 0.8f * z);
         x = turned;

@@ -1,8 +1,8 @@
-// A whole host in one file: it has the haze taken out of photographs, at the stored strength or, with --edit, as strongly as a
-// person chooses on the plug-in's own page. docs/host-contract.md says what each call promises.
-// usage: host [--edit [--accept | --cancel]] PLUGIN PHOTOGRAPH...    all paths absolute; --accept and --cancel answer for the
-// person as soon as the preview is there
-// Exit code: 0 if each photograph has its result, 1 if one has none, because something failed or the person cancelled.
+// A complete host in one file: it removes the haze from photographs, at the stored strength or, with --edit, at the strength that
+// a person chooses on the plug-in's page. docs/host-contract.md says what each call promises.
+// usage: host [--edit [--accept | --cancel]] PLUGIN PHOTOGRAPH...    All paths are absolute. --accept and --cancel answer for the
+// person as soon as the preview is shown.
+// Exit status: 0 if each photograph has its result, 1 if one has none, because something failed or the person cancelled.
 #include <QApplication>
 #include <QFileInfo>
 #include <QPluginLoader>
@@ -20,22 +20,23 @@
 #include "VIPluginOne2One.h"
 #include "VImage.h"
 
-/// Does something that may fail, and says why it did.
+/// Does something that may fail and reports the reason; false if it failed.
 template<typename Work>
 bool attempt(Work work)
 {
     try {
         work();
         return true;
-    } catch (const VException &failure) { // no std::exception
+    } catch (const VException &failure) { // not a std::exception
         std::fprintf(stderr, "host: %s\n", qPrintable(failure.message));
-    } catch (const std::exception &failure) { // no memory
+    } catch (const std::exception &failure) { // out of memory
         std::fprintf(stderr, "host: %s\n", failure.what());
     }
     return false;
 }
 
-/// One photograph, its pixels decoded at an acquire and freed at the release. Eight bits a sample are enough for an example.
+/// One photograph, whose pixels are decoded when acquired and freed when released. Eight bits per sample are enough for an
+/// example.
 struct Photograph : ImageDef
 {
     explicit Photograph(const QString &path) : file(path), size(QImage(path).size()) {}
@@ -54,7 +55,7 @@ struct Photograph : ImageDef
     {
         QImage picture(file);
         if (picture.isNull())
-            throw VException("Can't read " + file, V_LOCATION); // comes back out of the plug-in's call
+            throw VException("Can't read " + file, V_LOCATION); // propagates through the plug-in's call to the host
         picture = picture.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGB888);
         image.Create(picture.width(), picture.height(), VImage::Rgb, 8);
         for (int y = 0; y < picture.height(); ++y)
@@ -101,17 +102,17 @@ struct Host : QApplication, VIApplication
     QTranslator translator;
 };
 
-/// What answers for the person: accept or reject; null if the person does.
+/// Answers for the person: accept or reject; null if the person answers.
 using Answer = void (QDialog::*)();
 
-/// Shows the page and takes the settings from it; false if the person cancels, or the first photograph can't be read. The wizard
+/// Shows the page and takes the settings from it; false if the person cancels or the first photograph can't be read. The wizard
 /// deletes the page.
 bool edit(Host &host, VIPluginOne2One &process, const QStringList &paths, Answer answer)
 {
     QWizard wizard;
     QWizardPage *const page = process.wizardPage();
-    wizard.addPage(page); // and owns it from now on
-    if (answer)           // the page is complete when it shows its preview
+    wizard.addPage(page); // the wizard owns it from now on
+    if (answer)           // the page is complete once it shows its preview
         QObject::connect(page, &QWizardPage::completeChanged, [&] { page->isComplete() ? (wizard.*answer)() : void(); });
     if (!attempt([&] { process.setImages(paths); }) || wizard.exec() != QDialog::Accepted)
         return false;
@@ -121,7 +122,8 @@ bool edit(Host &host, VIPluginOne2One &process, const QStringList &paths, Answer
     return true;
 }
 
-/// Makes the result of each photograph; returns how many have none. A run works on the thread that calls it, which may be any.
+/// Makes the result of each photograph; returns the number of failures. A run works on the calling thread, which may be any
+/// thread.
 int run(Host &host, VIPluginOne2One *process)
 {
     int failures = 0;
@@ -156,6 +158,6 @@ int main(int argc, char **argv)
     } else {
         std::fprintf(stderr, "host: %s\n", qPrintable(loader.errorString()));
     }
-    loader.unload(); // whatever happened: deletes the library object, and the process with it, while the application still lives
+    loader.unload(); // in every case: deletes the library object, and the process with it, while the application still exists
     return done ? 0 : 1;
 }
