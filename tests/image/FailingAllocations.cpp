@@ -54,7 +54,7 @@ ALLOCATES(realloc, (void *block, std::size_t bytes), (block, bytes), return null
 ALLOCATES(aligned_alloc, (std::size_t alignment, std::size_t bytes), (alignment, bytes), return nullptr)
 ALLOCATES(mmap, (void *place, std::size_t bytes, int protection, int flags, int file, off_t offset),
           (place, bytes, protection, flags, file, offset), return MAP_FAILED)
-// new and new[], plain, aligned, and such as return null.
+// new and new[]: plain, aligned and nothrow.
 ALLOCATES(_Znwm, (std::size_t bytes), (bytes), throw std::bad_alloc())
 ALLOCATES(_Znam, (std::size_t bytes), (bytes), throw std::bad_alloc())
 ALLOCATES(_ZnwmSt11align_val_t, (std::size_t bytes, std::align_val_t alignment), (bytes, alignment), throw std::bad_alloc())

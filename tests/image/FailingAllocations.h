@@ -2,12 +2,12 @@
 
 #include <functional>
 
-/// Lets one allocation fail: of the memory that this program's own objects ask for (new, malloc and its kin, address space), the
-/// libraries of others left alone. The linker leads the calls here; see this folder's CMakeLists.txt.
+/// Makes one allocation fail among those of this program's own objects (new, the malloc family, address space); other libraries
+/// are not affected. The linker redirects the calls; see this folder's CMakeLists.txt.
 class FailingAllocations
 {
 public:
-    /// Counts from here on, on all threads, until the end of the scope; the call with this number fails, 0 for none.
+    /// Counts allocations on all threads until the end of the scope; the one with this number fails, or none for 0.
     explicit FailingAllocations(long number);
     ~FailingAllocations();
     FailingAllocations(const FailingAllocations &) = delete;

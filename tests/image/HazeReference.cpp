@@ -16,7 +16,7 @@ namespace {
 constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
-/// Not-a-number is passed over, -0.0 is below 0.0.
+/// Ignores not-a-number; -0.0 is below 0.0.
 float minimum(float a, float b)
 {
     if (std::isnan(a) || std::isnan(b))
@@ -151,7 +151,7 @@ std::vector<float> mattingMatrix(const Picture &picture)
         for (int x = 0; x + 3 <= width; ++x) {
             const auto at = [&](int i) { return picture.at(x + i % 3, y + i / 3); };
             float mean[3] = {};
-            double c[3][6] = {}; // covariance, and the unit matrix that turns into its inverse
+            double c[3][6] = {}; // the covariance, and the unit matrix that becomes its inverse
             for (int a = 0; a < 3; ++a) {
                 for (int i = 0; i < 9; ++i)
                     mean[a] += at(i)[a];
@@ -224,7 +224,7 @@ std::vector<double> solve(const std::vector<float> &upper, std::vector<double> b
 
 std::vector<float> jointUpsample(const Picture &fine, const Picture &coarse, const std::vector<float> &map)
 {
-    constexpr double kSpatial[3] = {15.5 / 285.5, 26.0 / 285.5, 63.5 / 285.5}; // by how many offsets are 0
+    constexpr double kSpatial[3] = {15.5 / 285.5, 26.0 / 285.5, 63.5 / 285.5}; // indexed by the number of offsets that are 0
     const float scaleX = float(coarse.width) / float(fine.width);
     const float scaleY = float(coarse.height) / float(fine.height);
     std::vector<float> result;

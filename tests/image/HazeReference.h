@@ -8,7 +8,7 @@
 
 #include "VImage.h"
 
-/// The engine's stages once more, slow and plain, one pixel after the other.
+/// The engine's stages in a second, slow and plain version, one pixel after another.
 namespace hazeReference {
 
 /// R, G, B, A floats. `image` is a view of them with padded rows.
@@ -20,16 +20,16 @@ struct Picture
 
     int width;
     int height;
-    std::size_t stride; ///< Floats.
+    std::size_t stride; ///< In floats.
     std::vector<float> samples;
     std::unique_ptr<VImage> image;
 };
 
 enum class Kind {
     Smooth, ///< A shaded scene with two hard edges.
-    Noise,  ///< Every sample anything from 0 to 1.
-    Steps,  ///< Few levels: equal values everywhere.
-    Wild,   ///< Now and then not-a-number, infinity, -0.0, values far outside of 0..1, and alpha 0.0.
+    Noise,  ///< Every sample random between 0 and 1.
+    Steps,  ///< Few levels, so that many values are equal.
+    Wild,   ///< Some samples are not-a-number, infinity, -0.0 or far outside 0..1, and some have alpha 0.0.
 };
 Picture makePicture(int width, int height, Kind kind, unsigned seed = 1);
 std::vector<float> makeMap(int width, int height, unsigned seed = 1);
@@ -41,7 +41,7 @@ struct DarkChannel
 };
 std::optional<DarkChannel> darkChannel(const Picture &picture);
 
-/// (L + lambda I), the upper triangle of a dense matrix, with an inverse in 64 bits by elimination.
+/// (L + lambda I) as the upper triangle of a dense matrix; windows are inverted by elimination in 64 bits.
 std::vector<float> mattingMatrix(const Picture &picture);
 /// Solves A x = b by elimination in 64 bits, from the upper triangle.
 std::vector<double> solve(const std::vector<float> &upper, std::vector<double> b);
@@ -50,7 +50,7 @@ std::vector<float> jointUpsample(const Picture &fine, const Picture &coarse, con
 
 void recover(Picture &picture, const std::vector<float> &map, const float airlight[3], float strength);
 
-/// Where the bits of two runs of floats differ first, all kinds of not-a-number being one; empty if nowhere.
+/// The first place where the bits of two arrays of floats differ, or an empty text; every not-a-number counts as the same.
 std::string firstDifference(const float *a, const float *b, std::size_t count);
 
 } // namespace hazeReference

@@ -20,7 +20,7 @@ using namespace hazeReference;
 
 namespace {
 
-/// The state with the release that its owner owes.
+/// A state that releases its map, as its owner must.
 struct OwnedState : HazeState
 {
     explicit OwnedState(int percent) : HazeState{percent, {-1.0f, -2.0f, -3.0f}, nullptr} {}
@@ -29,7 +29,7 @@ struct OwnedState : HazeState
     OwnedState &operator=(const OwnedState &) = delete;
 };
 
-/// Stripes under a veil that thickens towards the top, which is white.
+/// Stripes in haze that thickens towards the top, which is white.
 Picture makeHazyScene(int width, int height)
 {
     Picture picture(width, height);
@@ -47,14 +47,14 @@ Picture makeHazyScene(int width, int height)
 
 TEST(RemoveHaze, StrengthZeroTouchesNothing)
 {
-    VImage unfit(3, 3, VImage::Grey, 8, /*clear=*/true); // not even looked at
+    VImage unfit(3, 3, VImage::Grey, 8, /*clear=*/true); // never examined
     OwnedState state(0);
     RemoveHaze(unfit, state);
     EXPECT_EQ(state.airlight[0], -1.0f);
     EXPECT_EQ(state.transmission, nullptr);
 }
 
-TEST(RemoveHaze, ASecondStrengthUsesTheMapAndThreadsDontMatter)
+TEST(RemoveHaze, ASecondStrengthReusesTheMapAndTheTeamMakesNoDifference)
 {
     Picture first = makeHazyScene(100, 100);
     OwnedState state(70);
@@ -62,7 +62,7 @@ TEST(RemoveHaze, ASecondStrengthUsesTheMapAndThreadsDontMatter)
     ASSERT_NE(state.transmission, nullptr);
     const float *const map = state.transmission;
     EXPECT_NEAR(state.airlight[0], 0.9f, 0.1f);
-    // The veil at the top is gone for the most part; at the bottom there was hardly any.
+    // Most of the haze at the top is gone; at the bottom there was hardly any.
     const Picture before = makeHazyScene(100, 100);
     EXPECT_LT(first.at(50, 30)[1], before.at(50, 30)[1] - 0.1f);
     EXPECT_NEAR(first.at(50, 95)[1], before.at(50, 95)[1], 0.25f);
@@ -92,11 +92,11 @@ int threadsOfTheProcess()
 
 TEST(RemoveHaze, StartsNoThreadBeyondItsTeam)
 {
-    // The run-time keeps its workers, so that each count wants a process of its own.
+    // The run-time keeps its workers, so each count needs a separate process.
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     for (const int team : {1, 3}) {
         const auto startedThreads = [team] {
-            omp_set_num_threads(5); // what the run-time would take by itself
+            omp_set_num_threads(5); // what the run-time would use by default
             threadCount = team;
             const Picture picture = makeHazyScene(100, 100);
             OwnedState state(70);
@@ -108,7 +108,7 @@ TEST(RemoveHaze, StartsNoThreadBeyondItsTeam)
     }
 }
 
-TEST(RemoveHaze, ScenesWithoutRedAreDone)
+TEST(RemoveHaze, ScenesWithoutRedAreDehazed)
 {
     const struct
     {
@@ -116,7 +116,7 @@ TEST(RemoveHaze, ScenesWithoutRedAreDone)
         float (*red)(int x, int y, float red);
     } rows[] = {
         {"no red at all", [](int, int, float) { return 0.0f; }},
-        {"under water", [](int x, int y, float red) { return y > 60 && x % 8 == 0 ? red : 0.0f; }}, // near things have some
+        {"under water", [](int x, int y, float red) { return y > 60 && x % 8 == 0 ? red : 0.0f; }}, // near objects have some
     };
     for (const auto &row : rows) {
         Picture picture = makeHazyScene(100, 100);
@@ -133,7 +133,7 @@ TEST(RemoveHaze, ScenesWithoutRedAreDone)
     }
 }
 
-TEST(RemoveHaze, BrightFloatPicturesAreSolvedAlikeOnAnyTeam)
+TEST(RemoveHaze, BrightFloatPicturesAreSolvedTheSameByAnyTeam)
 {
     const struct
     {
@@ -162,13 +162,13 @@ TEST(RemoveHaze, BrightFloatPicturesAreSolvedAlikeOnAnyTeam)
             maps[team / 8].assign(state.transmission, state.transmission + 120 * 90);
         }
         EXPECT_EQ(firstDifference(maps[0].data(), maps[1].data(), maps[0].size()), "") << row.name;
-        // Of a dark map from 0 to 1 the refinement makes one that hardly leaves it.
+        // A dark map within 0 to 1 hardly leaves that range when it is refined.
         for (const float value : maps[0])
             ASSERT_TRUE(value > -0.1f && value < 1.1f) << row.name << ' ' << value;
     }
 }
 
-TEST(RemoveHaze, QuietExitsLeaveTheImage)
+TEST(RemoveHaze, QuietExitsLeaveTheImageUnchanged)
 {
     const float kNan = std::numeric_limits<float>::quiet_NaN();
     const float kInfinity = std::numeric_limits<float>::infinity();
@@ -188,7 +188,7 @@ TEST(RemoveHaze, QuietExitsLeaveTheImage)
     }
     VImage noRows(40, 0, VImage::Rgba, 32);
     OwnedState state(70);
-    EXPECT_THROW(RemoveHaze(noRows, state), VException); // no size of a copy can be given
+    EXPECT_THROW(RemoveHaze(noRows, state), VException); // there is no valid size for the copy
     VImage noColumns(0, 40, VImage::Rgba, 32);
     RemoveHaze(noColumns, state);
     EXPECT_EQ(state.transmission, nullptr);
@@ -203,7 +203,7 @@ TEST(RemoveHaze, SizesOfTheCopy)
         const char *failure;
     } rows[] = {
         {20000, 5, true, ""},                    // the copy has the image's size
-        {21475, 10, false, "Not enough memory"}, // wraps below 0, as all do up to 42949
+        {21475, 10, false, "Not enough memory"}, // wraps below 0, as all widths do up to 42949
         {30000, 2, false, "Not enough memory"},
         {42949, 2, false, "Not enough memory"},
         {42950, 100, false, ""}, // wraps to 18 x 0
@@ -232,13 +232,6 @@ TEST(RemoveHaze, SizesOfTheCopy)
         EXPECT_EQ(failure.toStdString(), row.failure) << row.width;
         EXPECT_EQ(state.transmission != nullptr, row.map) << row.width;
     }
-}
-
-TEST(RemoveHaze, OtherFormsAreRefused)
-{
-    VImage rgb(30, 20, VImage::Rgb, 32, /*clear=*/true);
-    OwnedState state(50);
-    EXPECT_THROW(RemoveHaze(rgb, state), VException);
 }
 
 } // namespace

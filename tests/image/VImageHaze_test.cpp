@@ -58,13 +58,13 @@ TEST(VImageHaze, EveryStageRefusesOtherForms)
     };
     for (VImage *image : {&rgb, &shallow}) {
         const QString expected = QStringLiteral("Invalid Bitmap");
-        EXPECT_EQ(message([&] { image->HazeDarkChannel(airlight); }), expected);
-        EXPECT_EQ(message([&] { image->HazeMatting(map); }), expected);
+        EXPECT_EQ(message([&] { return image->HazeDarkChannel(airlight); }), expected);
+        EXPECT_EQ(message([&] { return image->HazeMatting(map); }), expected);
         EXPECT_EQ(message([&] { image->HazeRecover(map, airlight, 0.5f); }), expected);
-        EXPECT_EQ(message([&] { image->HazeUpsample(map, &rgba); }), expected);
-        EXPECT_EQ(message([&] { rgba.HazeUpsample(map, image); }), expected);
-        EXPECT_EQ(message([&] { image->HazeJointUpsample(map, &rgba); }), expected);
-        EXPECT_EQ(message([&] { rgba.HazeJointUpsample(map, image); }), expected);
+        EXPECT_EQ(message([&] { return image->HazeUpsample(map, &rgba); }), expected);
+        EXPECT_EQ(message([&] { return rgba.HazeUpsample(map, image); }), expected);
+        EXPECT_EQ(message([&] { return image->HazeJointUpsample(map, &rgba); }), expected);
+        EXPECT_EQ(message([&] { return rgba.HazeJointUpsample(map, image); }), expected);
     }
 }
 
@@ -109,7 +109,7 @@ TEST(HazeDarkChannel, SpreadsATransparentBlackPixelOverItsWindow)
     }
 }
 
-TEST(HazeDarkChannel, ChannelsWithoutLightHaveNoSay)
+TEST(HazeDarkChannel, ChannelsWithoutLightAreIgnored)
 {
     const struct
     {
@@ -137,7 +137,7 @@ TEST(HazeDarkChannel, ChannelsWithoutLightHaveNoSay)
     }
 }
 
-TEST(HazeDarkChannel, IsNullWithoutACandidateAndLeavesTheAirlight)
+TEST(HazeDarkChannel, IsNullWithoutACandidateAndDoesNotWriteTheAirlight)
 {
     for (const float value : {kNan, -1.0f, -kInfinity}) {
         Picture picture(6, 5);
@@ -151,7 +151,7 @@ TEST(HazeDarkChannel, IsNullWithoutACandidateAndLeavesTheAirlight)
     EXPECT_EQ(empty.HazeDarkChannel(airlight), nullptr);
 }
 
-/// The cells that HazeMattingRows gives from `blocks` blocks of rows, as the upper triangle of a dense matrix.
+/// The cells from HazeMattingRows, computed in `blocks` blocks of rows, as the upper triangle of a dense matrix.
 std::vector<float> mattingCells(const Picture &picture, int blocks)
 {
     const auto n = std::size_t(picture.width * picture.height);
@@ -183,11 +183,11 @@ TEST(HazeMatting, CellsAndSolutionAgreeWithThePlainVersion)
         for (const Kind kind : {Kind::Smooth, Kind::Noise, Kind::Steps}) {
             SCOPED_TRACE(testing::Message() << width << " x " << height << ", kind " << int(kind));
             Picture picture = makePicture(width, height, kind);
-            picture.at(1, 1)[3] = 0.0f; // has a say like any other
+            picture.at(1, 1)[3] = 0.0f; // counts like any other pixel
             const auto expected = mattingMatrix(picture);
             const auto cells = mattingCells(picture, 1);
             for (std::size_t i = 0; i < cells.size(); ++i)
-                ASSERT_NEAR(cells[i], expected[i], 2e-6f) << i; // an inverse that is rounded the other way
+                ASSERT_NEAR(cells[i], expected[i], 2e-6f) << i; // for an inverse that is rounded the other way
             EXPECT_EQ(firstDifference(mattingCells(picture, 3).data(), cells.data(), cells.size()), "");
 
             auto map = makeMap(width, height);
@@ -202,7 +202,7 @@ TEST(HazeMatting, CellsAndSolutionAgreeWithThePlainVersion)
     }
 }
 
-TEST(HazeMatting, WithoutWindowsOrWithoutContrastTheMapStays)
+TEST(HazeMatting, WithoutWindowsOrWithoutContrastTheMapIsUnchanged)
 {
     const std::pair<int, int> sizes[] = {{1, 1}, {2, 9}, {9, 2}, {12, 10}};
     for (const auto &[width, height] : sizes) {
@@ -210,11 +210,11 @@ TEST(HazeMatting, WithoutWindowsOrWithoutContrastTheMapStays)
         fill(picture, 0.25f, 0.5f, 0.75f);
         auto map = makeMap(width, height);
         if (width > 2 && height > 2)
-            std::fill(map.begin(), map.end(), 0.625f); // only a constant one has to stay
+            std::fill(map.begin(), map.end(), 0.625f); // only a constant map has to stay unchanged
         const auto before = map;
         ASSERT_TRUE(picture.image->HazeMatting(map.data()));
         for (std::size_t i = 0; i < map.size(); ++i)
-            EXPECT_NEAR(map[i], before[i], 1e-4f) << width << " x " << height; // condition of 1000 times 2^-24
+            EXPECT_NEAR(map[i], before[i], 1e-4f) << width << " x " << height; // condition number 1000, times 2^-24
     }
 }
 
@@ -242,7 +242,7 @@ TEST(HazeMatting, AWindowWithoutInverseCountsAsFlat)
         float factor[3];
         float grey; ///< Added to each channel.
     } rows[] = {{"the covariance overflows", {1e25f, 1.0f, 1.0f}, 0.0f},
-                {"rounding drowns eps", {0.01f, 0.01f, 0.01f}, 60000.0f}};
+                {"eps is lost in rounding", {0.01f, 0.01f, 0.01f}, 60000.0f}};
     for (const auto &row : rows) {
         Picture picture = makePicture(12, 8, Kind::Noise);
         for (int y = 0; y < 8; ++y) {
@@ -258,7 +258,7 @@ TEST(HazeMatting, AWindowWithoutInverseCountsAsFlat)
     }
 }
 
-TEST(HazeMatting, ThreadsGiveTheSameBits)
+TEST(HazeMatting, AnyTeamGivesTheSameBits)
 {
     const Picture picture = makePicture(61, 43, Kind::Smooth);
     auto one = makeMap(61, 43);
@@ -314,25 +314,25 @@ TEST(HazeJointUpsample, EqualsThePlainVersion)
     }
 }
 
-TEST(HazeJointUpsample, TransparentOrAloneGivesZero)
+TEST(HazeJointUpsample, TransparentOrWithoutSimilarNeighboursGivesZero)
 {
     Picture fine(4, 4);
     Picture coarse(4, 4);
     fill(fine, 0.5f, 0.5f, 0.5f);
     fill(coarse, 0.5f, 0.5f, 0.5f);
     fine.at(1, 1)[3] = 0.0f;
-    fine.at(3, 3)[0] = 40.0f; // farther than the table reaches: like nobody
+    fine.at(3, 3)[0] = 40.0f; // beyond the table: similar to no neighbour
     std::vector<float> map(16, 0.5f);
     const std::unique_ptr<float[]> result(fine.image->HazeJointUpsample(map.data(), coarse.image.get()));
     for (std::size_t i = 0; i < 16; ++i)
         EXPECT_EQ(result[i], i == 5 || i == 15 ? 0.0f : 0.5f) << i;
-    // Differences below a thousandth don't count.
+    // Differences below a thousandth are ignored.
     fill(fine, 0.5004f, 0.5f, 0.4996f);
     const std::unique_ptr<float[]> near(fine.image->HazeJointUpsample(map.data(), coarse.image.get()));
     EXPECT_EQ(near[5], 0.5f);
 }
 
-TEST(HazeUpsample, GoesThroughGuidesAtPowersOfTwo)
+TEST(HazeUpsample, UsesGuidesAtPowersOfTwo)
 {
     const struct
     {
@@ -404,16 +404,16 @@ TEST(HazeRecover, ByHand)
         const char *name;
         float colour, alpha, map, strength, expected;
     } rows[] = {
-        {"the airlight stays", 0.5f, 1.0f, 0.75f, 1.0f, 0.5f},
-        {"half the veil", 0.75f, 1.0f, 0.5f, 1.0f, 1.0f},
+        {"the airlight is unchanged", 0.5f, 1.0f, 0.75f, 1.0f, 0.5f},
+        {"half the haze", 0.75f, 1.0f, 0.5f, 1.0f, 1.0f},
         {"the floor is a tenth", 0.53125f, 1.0f, 1.0f, 1.0f, 0.5f + 0.03125f / 0.1f},
         {"nothing below 0", 0.25f, 1.0f, 0.75f, 1.0f, 0.0f},
         {"no upper limit", 1.0f, 1.0f, 0.75f, 1.0f, 2.5f},
-        {"transparent stays", 0.25f, 0.0f, 0.75f, 1.0f, 0.25f},
-        {"an alpha that is no number counts", 0.75f, kNan, 0.5f, 1.0f, 1.0f},
-        {"a colour that is no number becomes 0", kNan, 1.0f, 0.5f, 1.0f, 0.0f},
-        {"a map value that is no number gives 0", 0.75f, 1.0f, kNan, 1.0f, 0.0f},
-        {"a map below 0 pulls to the airlight", 1.0f, 1.0f, -1.0f, 1.0f, 0.75f},
+        {"transparent is unchanged", 0.25f, 0.0f, 0.75f, 1.0f, 0.25f},
+        {"an alpha that is not a number counts as opaque", 0.75f, kNan, 0.5f, 1.0f, 1.0f},
+        {"a colour that is not a number becomes 0", kNan, 1.0f, 0.5f, 1.0f, 0.0f},
+        {"a map value that is not a number gives 0", 0.75f, 1.0f, kNan, 1.0f, 0.0f},
+        {"a map below 0 moves towards the airlight", 1.0f, 1.0f, -1.0f, 1.0f, 0.75f},
     };
     const float airlight[3] = {0.5f, 0.5f, 0.5f};
     for (const auto &row : rows) {

@@ -8,30 +8,18 @@
 #include <gmock/gmock.h>
 
 #include "PlainImage.h"
-#include "VException.h"
+#include "messageOf.h"
 #include "threadCount.h"
 
 namespace {
 
+constexpr const char *kSource = "VImage_Copy.cpp";
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-/// What `work` throws, or "no exception".
-template<typename Work>
-QString messageOf(const Work &work)
-{
-    try {
-        work();
-    } catch (const VException &exception) {
-        EXPECT_TRUE(exception.location.startsWith("File: \"../image/VImage_Copy.cpp\" Line: "));
-        return exception.message;
-    }
-    return "no exception";
-}
-
 using Pixel = std::array<double, 4>;
 
-// The plain version of the conversion: one pixel at a time, one step after the other.
+// A plain version of the conversion: one pixel at a time, one step after another.
 
 double plainDepth(double sample, int from, int to)
 {
@@ -108,7 +96,7 @@ struct Fact
 
 TEST(VImage_Copy, NamedFacts)
 {
-    const double held = 7.0; // what each target sample holds before
+    const double held = 7.0; // the initial value of each target sample
     const Form grey8 = kForms[0], rgb8 = kForms[1], rgba8 = kForms[2], grey16 = kForms[3], rgb16 = kForms[4], rgba16 = kForms[5],
                grey32 = kForms[6], rgb32 = kForms[7], rgba32 = kForms[8];
     const Fact facts[] = {
@@ -121,7 +109,7 @@ TEST(VImage_Copy, NamedFacts)
         {"float_not_numbers", rgb32, rgb8, {kNaN, kInfinity, -kInfinity}, {0, 255, 0}},
         {"16_full_is_one", rgba16, rgba32, {65535, 0, 65535, 65535}, {1, 0, 1, 1}},
         {"8_full_is_one", rgb8, rgba32, {255, 0, 255}, {1, 0, 1, 1}},
-        {"alpha_has_no_say_in_grey", rgba8, grey8, {255, 255, 255, 0}, {255}},
+        {"alpha_is_ignored_by_grey", rgba8, grey8, {255, 255, 255, 0}, {255}},
         {"grey_weights", rgb8, grey8, {255, 0, 0}, {76}},
         {"grey_at_the_wider_depth", rgb8, grey16, {1, 0, 0}, {77}},
         {"grey_before_depth_falls", rgb16, grey8, {0, 65535, 0}, {150}},
@@ -150,11 +138,11 @@ TEST(VImage_Copy, NamedFacts)
 struct Area
 {
     int width, height;
-    int x, y;         ///< Its corner in the source and, exchanged, in the target.
-    int extraSamples; ///< Behind each row of the views.
+    int x, y;         ///< Its corner in the source; in the target x and y are exchanged.
+    int extraSamples; ///< After each row of the views.
 };
 
-/// A view with rows longer than its pixels, over memory of its own.
+/// A view with padded rows, and its memory.
 struct PaddedImage
 {
     PaddedImage(int width, int height, Form form, int extraSamples)
@@ -167,7 +155,7 @@ struct PaddedImage
     VImage image;
 };
 
-/// Compares the target with the plain version; around the rectangle it must be as `before` has it.
+/// Compares the target with the plain version; outside the rectangle it must equal `before`.
 void expectPlain(const VImage &source, const VImage &before, const VImage &target, const Area &area, Form from, Form to)
 {
     int wrong = 0;
@@ -213,7 +201,7 @@ TEST(VImage_Copy, AllPairsAtAwkwardSizes)
         }
 }
 
-TEST(VImage_Copy, ATeamGivesTheSame)
+TEST(VImage_Copy, ATeamGivesTheSameResult)
 {
     Numbers numbers;
     const int width = 515, height = 301; // large enough for a team
@@ -284,15 +272,15 @@ TEST(VImage_Copy, Refusals)
         if (refusal.to.bits)
             target.Create(4, 3, refusal.to.type, refusal.to.bits, /*clear=*/true);
         const int *r = refusal.rect;
-        EXPECT_EQ(refusal.message, messageOf([&] { source.CopyRect(r[0], r[1], r[2], r[3], target, r[4], r[5]); }))
+        EXPECT_EQ(refusal.message, messageOf([&] { source.CopyRect(r[0], r[1], r[2], r[3], target, r[4], r[5]); }, kSource))
             << refusal.name;
     }
     VImage same;
-    EXPECT_EQ("Invalid Parameter", messageOf([&] { same.CopyRect(0, 0, 1, 1, same, 0, 0); }));
-    EXPECT_EQ("Invalid Bitmap", messageOf([&] { same.ConvertTo(same, VImage::Rgb, 8); }));
+    EXPECT_EQ("Invalid Parameter", messageOf([&] { same.CopyRect(0, 0, 1, 1, same, 0, 0); }, kSource));
+    EXPECT_EQ("Invalid Bitmap", messageOf([&] { same.ConvertTo(same, VImage::Rgb, 8); }, kSource));
     const VImage unknown(2, 2, 0x0080, 8);
     VImage target(3, 3, VImage::Grey, 8);
-    EXPECT_EQ("Invalid Bitmap", messageOf([&] { unknown.ConvertTo(target, VImage::Rgb, 8); }));
+    EXPECT_EQ("Invalid Bitmap", messageOf([&] { unknown.ConvertTo(target, VImage::Rgb, 8); }, kSource));
     EXPECT_EQ(VImage::Grey, target.Type()) << "refused before the target is shaped";
 }
 
@@ -325,7 +313,7 @@ TEST(VImage_Copy, ToQImage)
     noRows.ToQImage(picture);
     EXPECT_TRUE(picture.isNull());
     const VImage unknown(2, 2, 0x0080, 8);
-    EXPECT_EQ("Invalid Bitmap", messageOf([&] { unknown.ToQImage(picture); }));
+    EXPECT_EQ("Invalid Bitmap", messageOf([&] { unknown.ToQImage(picture); }, kSource));
 }
 
 } // namespace

@@ -9,23 +9,10 @@
 #include <gtest/gtest.h>
 
 #include "PlainImage.h"
-#include "VException.h"
 #include "gfl.h"
+#include "messageOf.h"
 
 namespace {
-
-/// What `work` throws, or "no exception".
-template<typename Work>
-QString messageOf(const Work &work)
-{
-    try {
-        work();
-    } catch (const VException &exception) {
-        EXPECT_TRUE(exception.location.startsWith("File: \"../image/VImage.cpp\" Line: ")) << qPrintable(exception.location);
-        return exception.message;
-    }
-    return "no exception";
-}
 
 class VImage_Save : public testing::Test
 {
@@ -49,13 +36,13 @@ protected:
     QTemporaryDir folder;
 };
 
-/// The codec layer's own file with these two fields; kDefault leaves one as it is.
+/// The file that the codec layer writes with these two fields; kDefault leaves a field unchanged.
 TEST_F(VImage_Save, FormatsAndQualities)
 {
     constexpr int kDefault = GFL_DEFAULT;
     const struct
     {
-        const char *format; ///< As given; the layer's name below.
+        const char *format; ///< As passed to Save; the layer's name is below.
         const char *name;
         int quality;
         int compressionField, qualityField;
@@ -79,7 +66,7 @@ TEST_F(VImage_Save, FormatsAndQualities)
     }
 }
 
-TEST_F(VImage_Save, ColourProfileIptcAndExifOfTheSourceAndNothingItLacks)
+TEST_F(VImage_Save, CopiesColourProfileIptcAndExifThatTheSourceHas)
 {
     for (const char *format : {"jpg", "png", "tif", "psd"})
         for (const int kinds : {0, 1, 2, 4, 7}) { // EXIF, IPTC, profile
@@ -94,7 +81,7 @@ TEST_F(VImage_Save, ColourProfileIptcAndExifOfTheSourceAndNothingItLacks)
                     file->iptcData()["Iptc.Application2.Headline"] = "Fog";
                 Exiv2::DataBuf profile(132);
                 std::memset(profile.pData_, 0, 132);
-                profile.pData_[3] = 132; // its own size
+                profile.pData_[3] = 132; // the size of the profile
                 std::memcpy(profile.pData_ + 12, "mntrRGB XYZ ", 12);
                 if (kinds & 4)
                     file->setIccProfile(profile);
@@ -125,7 +112,7 @@ TEST_F(VImage_Save, RefusalsWriteNothing)
     EXPECT_EQ("Invalid Bitmap", messageOf([&] { bits4.Save(path("a.png"), "png", -1, ""); }));
     EXPECT_EQ("Invalid Parameter", messageOf([&] { image.Save("", "png", -1, ""); }));
     EXPECT_EQ("Invalid Parameter", messageOf([&] { image.Save(path("a.png"), "", -1, ""); }));
-    // The metadata are read first, so that an unreadable source spares an older result.
+    // The metadata is read first, so that an unreadable source leaves an older result untouched.
     EXPECT_EQ("Error GFL : \"GFL_ERROR_FILE_OPEN\"\nFile : \"" + QDir::current().absoluteFilePath("gone.jpg") + "\"",
               messageOf([&] { image.Save(path("a.png"), "png", -1, "gone.jpg"); }));
     EXPECT_EQ(files(), 0);
@@ -135,8 +122,8 @@ TEST_F(VImage_Save, TheClearestReasonOfAFailureComesFirst)
 {
     const QString beyond = path("no-such-folder/out.png");
     EXPECT_EQ("Cannot write into file \"" + beyond + "\"", messageOf([&] { image.Save(beyond, "png", -1, ""); }));
-    // A view may claim any size without its memory: 2^40 bytes fit nowhere, but counted in 32 bits they are none. What the layer
-    // refuses before it looks at a pixel is its own code then.
+    // A view may claim any size without the memory for it: 2^40 bytes fit nowhere, but in 32 bits the count is 0. What the layer
+    // refuses before it reads a pixel is then reported by its code.
     float pixel[4] = {};
     VImage huge(1 << 18, 1 << 18, VImage::Rgba, 32, /*clear=*/false, pixel, 1 << 22);
     for (VImage *refused : {&image, &huge})

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "PlainImage.h"
-#include "VException.h"
+#include "messageOf.h"
 
 namespace {
 
@@ -14,7 +14,7 @@ struct Size
     int width, height;
 };
 
-TEST(VImage_Turn, EachOrientationAsAViewerShowsIt)
+TEST(VImage_Turn, EachOrientationAsAViewerDisplaysIt)
 {
     VImage image(3, 2, VImage::Grey, 8), turned; // 1 2 3 / 4 5 6
     for (int i = 0; i < 6; ++i)
@@ -32,8 +32,8 @@ TEST(VImage_Turn, EachOrientationAsAViewerShowsIt)
     }
 }
 
-/// What takes each of them back; the bytes between the rows belong to the caller.
-TEST(VImage_Turn, ForthAndBackGivesEachFormAtSizesBesideASquare)
+/// Undoes each orientation; the bytes between the rows belong to the caller.
+TEST(VImage_Turn, ThereAndBackGivesTheSameImageInEachForm)
 {
     constexpr int kBack[] = {1, 2, 3, 4, 5, 8, 7, 6};
     Numbers numbers;
@@ -48,7 +48,7 @@ TEST(VImage_Turn, ForthAndBackGivesEachFormAtSizesBesideASquare)
             for (int orientation = 1; orientation <= 8; ++orientation) {
                 VImage turned, back;
                 view.Turn(turned, orientation);
-                const int x = size.width / 2, y = size.height / 3; // one pixel in the middle, and all of them there and back
+                const int x = size.width / 2, y = size.height / 3; // one pixel in the middle; the way back checks all
                 const bool lies = orientation >= 5;
                 ASSERT_EQ(turned.Width(), lies ? size.height : size.width);
                 const int across = orientation == 2 || orientation == 3 || orientation >= 7 ? size.width - 1 - x : x;
@@ -69,23 +69,18 @@ TEST(VImage_Turn, ForthAndBackGivesEachFormAtSizesBesideASquare)
         }
 }
 
-TEST(VImage_Turn, WhatCannotBeTurnedLeavesTheTarget)
+TEST(VImage_Turn, WhatCannotBeTurnedLeavesTheTargetUnchanged)
 {
     VImage image(2, 3, VImage::Rgb, 8, /*clear=*/true), four(2, 2, VImage::Grey, 4, /*clear=*/true),
         target(1, 1, VImage::Grey, 8);
-    const auto messageOf = [](const VImage &source, VImage &to, int orientation) {
-        try {
-            source.Turn(to, orientation);
-        } catch (const VException &failure) {
-            return failure.message;
-        }
-        return QString("none");
+    const auto refusal = [](const VImage &source, VImage &to, int orientation) {
+        return messageOf([&] { source.Turn(to, orientation); }, "VImage_Turn.cpp");
     };
-    EXPECT_EQ(messageOf(VImage(), target, 1), "Invalid Bitmap");
-    EXPECT_EQ(messageOf(four, target, 1), "Invalid Bitmap");
-    EXPECT_EQ(messageOf(image, target, 0), "Invalid Parameter");
-    EXPECT_EQ(messageOf(image, target, 9), "Invalid Parameter");
-    EXPECT_EQ(messageOf(image, image, 5), "Invalid Parameter");
+    EXPECT_EQ(refusal(VImage(), target, 1), "Invalid Bitmap");
+    EXPECT_EQ(refusal(four, target, 1), "Invalid Bitmap");
+    EXPECT_EQ(refusal(image, target, 0), "Invalid Parameter");
+    EXPECT_EQ(refusal(image, target, 9), "Invalid Parameter");
+    EXPECT_EQ(refusal(image, image, 5), "Invalid Parameter");
     EXPECT_EQ(target.Width(), 1);
 }
 

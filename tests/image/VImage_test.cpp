@@ -8,10 +8,10 @@
 
 #include <gmock/gmock.h>
 
-#include "VException.h"
 #include "gflCallbacks.h"
+#include "messageOf.h"
 
-// The image record takes its memory from these three; here the first fails on request and hands out blocks that are not zero.
+// The image record gets its memory through these three; here the first one fails on request and returns blocks that are not zero.
 // This program links the record alone, as a host may.
 namespace {
 int allocationsUntilFailure = -1;
@@ -36,19 +36,6 @@ void gflFreeCallback(void *block, void *)
 }
 
 namespace {
-
-/// What `work` throws, or "no exception".
-template<typename Work>
-QString messageOf(const Work &work)
-{
-    try {
-        work();
-    } catch (const VException &exception) {
-        EXPECT_TRUE(exception.location.startsWith("File: \"../image/VImage.cpp\" Line: ")) << qPrintable(exception.location);
-        return exception.message;
-    }
-    return "no exception";
-}
 
 struct Shape
 {
@@ -112,10 +99,10 @@ TEST(VImage, SameShapeKeepsPixels)
 
     unsigned char memory[12];
     std::memset(memory, 9, sizeof(memory));
-    image.Create(3, 2, VImage::Grey, 8, /*clear=*/false, memory, 6); // same shape, but other memory
+    image.Create(3, 2, VImage::Grey, 8, /*clear=*/false, memory, 6); // same shape, but different memory
     EXPECT_EQ(memory + 7, image.PixelAddress(1, 1));
     EXPECT_EQ(2, image.Bitmap()->lineAlignment);
-    image.Create(3, 2, VImage::Grey, 8, /*clear=*/true); // still the view
+    image.Create(3, 2, VImage::Grey, 8, /*clear=*/true); // still a view
     EXPECT_EQ(memory, image.PixelAddress(0, 0));
     EXPECT_THAT(memory, testing::Each(0));
     image.Create(2, 2, VImage::Grey, 8, /*clear=*/false, memory, 8);
@@ -124,7 +111,7 @@ TEST(VImage, SameShapeKeepsPixels)
     EXPECT_FALSE(image.PixelAddress(0, 0) >= memory && image.PixelAddress(0, 0) < memory + sizeof(memory));
 }
 
-TEST(VImage, FreeLeavesAViewsMemory)
+TEST(VImage, FreeDoesNotReleaseTheMemoryOfAView)
 {
     unsigned char memory[8] = {1, 2, 3, 4, 5, 6, 7, 8};
     VImage image(2, 2, VImage::Grey, 8, /*clear=*/false, memory, 4);
@@ -179,7 +166,7 @@ TEST(VImage, UnknownTypeLeavesTheImageEmpty)
     EXPECT_EQ(nullptr, image.Bitmap());
 }
 
-TEST(VImage, SizesThatNoMemoryHolds)
+TEST(VImage, SizesTooLargeForMemory)
 {
     constexpr int kMost = std::numeric_limits<int>::max();
     const int sizes[][2] = {{-1, 1}, {1, -1}, {-1, -1}, {-46341, -46341}, {kMost, 1}, {kMost / 16 + 1, 1}, {1 << 26, kMost}};
@@ -191,12 +178,12 @@ TEST(VImage, SizesThatNoMemoryHolds)
     }
 }
 
-TEST(VImage, EveryFailedAllocationLeavesAnImageToFree)
+TEST(VImage, AfterEveryFailedAllocationTheImageCanBeFreed)
 {
     VImage source(2, 2, 0x0004, 8, /*clear=*/true);
     char name[] = "n";
     source.Bitmap()->name = name;
-    // Record, pixels and palette; a palette of Create and a name of Assign that can't be had are simply missing.
+    // Record, pixels and palette. A palette that Create or a name that Assign can't allocate is simply missing.
     const char *const createMessages[] = {"Not enough memory", "Not enough memory", "no exception"};
     const char *const assignMessages[] = {"Not enough memory", "Not enough memory", "Not enough memory", "no exception"};
     for (std::size_t failing = 0; failing < std::size(createMessages); ++failing) {
@@ -228,7 +215,7 @@ TEST(VImage, MoreThanTwoGibibytes)
     if (messageOf([&] { image.Create(12000, 12000, VImage::Rgba, 32); }) != "no exception")
         GTEST_SKIP() << "no 2.3 GB of memory here";
     EXPECT_EQ(std::ptrdiff_t{192000} * 11999 + 191984, image.PixelAddress(11999, 11999) - image.PixelAddress(0, 0));
-    *image.PixelAddress(11999, 11999) = 1; // the last pixel is really there
+    *image.PixelAddress(11999, 11999) = 1; // the last pixel really exists
     EXPECT_EQ(1, *image.PixelAddress(11999, 11999));
 }
 

@@ -1,4 +1,4 @@
-// Memory that runs out at each place in turn: what is left behind is as the headers say, and the next run does not notice.
+// Memory runs out at each place in turn: what is left behind is as the headers say, and the next run is not affected.
 
 #include <cstring>
 #include <functional>
@@ -33,7 +33,7 @@ namespace {
 
 enum class End { Done, NoMemory, Other };
 
-/// Runs `work` with the allocation of this number failing. Only what says that memory was missing is NoMemory.
+/// Runs `work` while the allocation with this number fails. NoMemory is only what reports that memory was missing.
 End endOf(const std::function<void()> &work, long number)
 {
     const FailingAllocations armed(number);
@@ -50,8 +50,8 @@ End endOf(const std::function<void()> &work, long number)
     }
 }
 
-/// Fails each allocation of `work` in turn, `prepare` before each; `check` looks at what is left. After the last one `work` has
-/// to end well.
+/// Fails each allocation of `work` in turn, after `prepare`; `check` looks at what is left. Once no allocation fails, `work` must
+/// succeed.
 void sweep(const std::function<void()> &prepare, const std::function<void()> &work, const std::function<void(End)> &check)
 {
     if (testing::Test::HasFailure())
@@ -128,7 +128,7 @@ TEST_F(Allocation, TheDarkChannel)
     expectUntouched();
 }
 
-TEST_F(Allocation, MattingEndsWithItsMapOrTheOneThatItGotTimesLambda)
+TEST_F(Allocation, MattingLeavesItsResultOrItsInputTimesLambda)
 {
     const std::vector<float> given = hazeReference::makeMap(kWidth, kHeight);
     std::vector<float> expected = given, scaled = given, map;
@@ -155,7 +155,7 @@ TEST_F(Allocation, MattingEndsWithItsMapOrTheOneThatItGotTimesLambda)
     expectUntouched();
 }
 
-TEST_F(Allocation, ThePyramid)
+TEST_F(Allocation, UpsamplingThroughThePyramid)
 {
     VImage low;
     picture.image->Resample(low, kWidth / 5, kHeight / 5); // three levels
@@ -181,7 +181,7 @@ TEST_F(Allocation, TheWholeEngineLeavesImageAndStateAsTheyWere)
         picture.samples = before;
         delete[] std::exchange(state.transmission, nullptr);
     };
-    // Each of the thousands is failed above, on small images; here are those of the driver, and of each stage some.
+    // All of the stages' thousands fail above, on small images; here are those of the driver, and some of each stage.
     std::vector<long> numbers;
     for (long number = 1; number < needed; number += number < 4 ? 1 : number)
         numbers.push_back(number);
@@ -192,7 +192,7 @@ TEST_F(Allocation, TheWholeEngineLeavesImageAndStateAsTheyWere)
         const End end = endOf(run, number);
         SCOPED_TRACE(testing::Message() << "allocation " << number << " of " << needed);
         EXPECT_NE(end, End::Other);
-        // The solver's want of memory ends quietly.
+        // If the solver runs out of memory, the engine ends quietly.
         EXPECT_EQ(state.transmission, nullptr);
         expectUntouched();
     }
@@ -202,7 +202,7 @@ TEST_F(Allocation, TheWholeEngineLeavesImageAndStateAsTheyWere)
     startAnew();
 }
 
-/// An image with colour profile, EXIF and IPTC, as its format can hold them.
+/// An image with as much of colour profile, EXIF and IPTC as its format can hold.
 void addMetadata(const QString &path)
 {
     const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
@@ -211,13 +211,13 @@ void addMetadata(const QString &path)
     image->iptcData()["Iptc.Application2.Headline"] = "Fog";
     Exiv2::DataBuf profile(132);
     std::memset(profile.pData_, 0, 132);
-    profile.pData_[3] = 132; // its own size
+    profile.pData_[3] = 132; // the size of the profile
     std::memcpy(profile.pData_ + 12, "mntrRGB XYZ ", 12);
     image->setIccProfile(profile);
     image->writeMetadata();
 }
 
-TEST_F(Allocation, AFileIsReadWholeAndWrittenWholeOrNotAtAll)
+TEST_F(Allocation, AFileIsReadAndWrittenCompletelyOrNotAtAll)
 {
     QTemporaryDir folder;
     const auto content = [](const QString &path) {

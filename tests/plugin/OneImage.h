@@ -3,7 +3,7 @@
 #include "ImageDef.h"
 #include "VImage.h"
 
-/// A photograph that is only ever run at full size: one image of 8 bits, lent as often as it is asked for.
+/// A photograph that is only used at full size: one 8-bit image, lent at each request.
 class OneImage : public ImageDef
 {
 public:

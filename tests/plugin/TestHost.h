@@ -18,8 +18,8 @@
 #include "VIApplication.h"
 #include "VImage.h"
 
-/// One photograph of the test's host. Its pixels come from `colour`; every call of the contract that hands out or takes back an
-/// image is written into `calls`.
+/// One photograph of the test's host. Its pixels come from `sample`; every call that acquires or releases an image is recorded in
+/// `calls`.
 class TestImage : public ImageDef
 {
 public:
@@ -52,8 +52,8 @@ public:
         image.reset();
     }
 
-    /// A sample, nominally 0..1, at a place with both coordinates in 0..1. The default is a landscape whose lower half is near
-    /// and dark and whose upper half fades into a bright haze.
+    /// The sample, nominally 0..1, of a channel at x and y in 0..1. The default is a landscape whose lower half is near and dark
+    /// and whose upper half fades into bright haze.
     std::function<float(float, float, int)> sample = [](float x, float y, int channel) {
         const float texture = 0.5f + 0.4f * std::sin(40.0f * x) * std::sin(30.0f * y + float(channel));
         return channel == 3 ? 1.0f : texture * y + 0.85f * (1.0f - y);
@@ -93,8 +93,8 @@ private:
     std::unique_ptr<VImage> image;
 };
 
-/// A host as the contract asks for it: settings in memory, one TestImage a path, every call in `calls`. With `isHost` false it is
-/// an application that knows nothing of the contract.
+/// A host that fulfils the contract: settings in memory, one TestImage per path, every call recorded in `calls`. With `isHost`
+/// false it is an application that does not know the contract.
 class TestHost : public QApplication, public VIApplication
 {
 public:
@@ -164,7 +164,7 @@ private:
     std::unique_ptr<QTranslator> translator;
 };
 
-/// Makes the application before the first test, and takes it down after the last.
+/// Creates the application before the first test and destroys it after the last.
 class TestHostEnvironment : public testing::Environment
 {
 public:

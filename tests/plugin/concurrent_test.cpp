@@ -1,4 +1,4 @@
-// Eight photographs at once through the plug-in file, as a host with many threads has them made.
+// Eight photographs at once through the plug-in file, as in a host with many threads.
 
 #include <array>
 #include <thread>
@@ -17,13 +17,13 @@
 
 namespace {
 
-// At this size the engine's copy is small (its product wraps around to 2846 x 3): each stage has its work, and the race detector
-// gets through eight of them.
+// At this size the engine's copy is small (its product wraps around to 2846 x 3): every stage has work to do, and the race
+// detector can handle eight runs.
 constexpr int kWidth = 47000;
 constexpr int kHeight = 50;
 constexpr int kRuns = 8;
 
-/// One photograph. Unlike TestImage it writes nothing that another one reads.
+/// One photograph. Unlike TestImage it writes nothing that another photograph reads.
 class Still : public OneImage
 {
 public:
@@ -44,7 +44,7 @@ public:
     std::map<QString, std::unique_ptr<Still>> stills;
 };
 
-TEST(Concurrent, EightRunsGiveWhatEachGivesAlone)
+TEST(Concurrent, EightRunsAtOnceGiveTheSameResultsAsSingleRuns)
 {
     int argumentCount = 1;
     char programName[] = "test";
@@ -66,7 +66,7 @@ TEST(Concurrent, EightRunsGiveWhatEachGivesAlone)
         QString path, result, failure;
         VISettingsHandle settings;
     };
-    std::array<Job, kRuns + 1> jobs; // each picture twice, and the first one once more, alone
+    std::array<Job, kRuns + 1> jobs; // each picture twice, and the first one a third time, alone
     for (int i = 0; i <= kRuns; ++i) {
         jobs[std::size_t(i)] = {folder.filePath(QStringLiteral("%1.png").arg(i)), {}, {}, process->createSettings(element)};
         metadata.save(jobs[std::size_t(i)].path);
@@ -102,7 +102,7 @@ TEST(Concurrent, EightRunsGiveWhatEachGivesAlone)
     const VImage *const before = host.stills[jobs[0].path]->acquireFull(1);
     const QImage after(jobs[0].result);
     ASSERT_EQ(after.size(), QSize(kWidth, kHeight));
-    EXPECT_LT(qGray(after.pixel(kWidth / 2, 25)), *before->PixelAddress(kWidth / 2, 25) - 10) << "haze was taken away";
+    EXPECT_LT(qGray(after.pixel(kWidth / 2, 25)), *before->PixelAddress(kWidth / 2, 25) - 10) << "haze was removed";
     delete loader.instance();
 }
 

@@ -1,4 +1,4 @@
-// How a host's process ends, with the plug-in in it: by the exit code of the host, and without a word.
+// How the process of a host that has loaded the plug-in ends: with the host's exit code, and without any output.
 
 #include <QFile>
 #include <QImage>
@@ -12,8 +12,8 @@ namespace {
 class End : public testing::Test
 {
 protected:
-    /// What the program wrote to its standard output. Expects the exit code, and `complaint` in what it says of failures; null:
-    /// it says nothing.
+    /// Returns what the program wrote to its standard output. Expects this exit code, and `complaint` on its standard error, or
+    /// nothing there if it is null.
     QString run(const QString &program, const QStringList &arguments, int exitCode, const QString &complaint = QString())
     {
         QProcess process;
@@ -23,7 +23,7 @@ protected:
         environment.insert("LC_ALL", "C");
         process.setProcessEnvironment(environment);
         process.start(program, arguments);
-        EXPECT_TRUE(process.waitForFinished(300000)) << "it hangs";
+        EXPECT_TRUE(process.waitForFinished(300000)) << "the program hangs";
         const QString said = QString::fromUtf8(process.readAllStandardError());
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << qPrintable(said);
         EXPECT_EQ(process.exitCode(), exitCode) << qPrintable(said);

@@ -1,9 +1,9 @@
-// A host that ends without the farewell that the contract asks for, while its page is still there.
+// A host that ends without the clean-up that the contract asks for, while its page still exists.
 // usage: ending_host END PAGE PREVIEW
-//   END      return: from main, which has the loader as a local; exit: std::exit; unload: in order, but for the page
-//   PAGE     wizard: put into a wizard that nobody deletes; alone: put into none
-//   PREVIEW  shown, or computing
-// Its exit code is 7.
+//   END      return: from main, where the loader is a local variable; exit: std::exit; unload: in order, except for the page
+//   PAGE     wizard: in a wizard that is never deleted; alone: in no wizard
+//   PREVIEW  shown or computing
+// Exit status: 7.
 
 #include <cstdlib>
 

@@ -1,5 +1,5 @@
-// The plug-in file as a host sees it: loaded by Qt, through the contract alone, by a program that links nothing of ours but the
-// image record.
+// The plug-in file as a host sees it: loaded by Qt and used only through the contract, by a program that links nothing else of
+// ours than the image record.
 
 #include <QCoreApplication>
 #include <QDir>
@@ -56,7 +56,7 @@ protected:
     }
     void TearDown() override { delete object; }
 
-    /// A new process; the test deletes it at its end.
+    /// A new process; it is deleted at the end of the test.
     VIPluginOne2One *newProcess()
     {
         delete object;
@@ -77,7 +77,7 @@ protected:
         process->destroySettings(settings);
         return strength;
     }
-    /// The file behind a photograph: here only what its metadata is read from.
+    /// Writes the file of a photograph, from which only the metadata is read.
     void writeSource(const QString &path)
     {
         QImage image(8, 8, QImage::Format_RGB32);
@@ -108,7 +108,7 @@ protected:
     QTemporaryDir folder;
 };
 
-TEST_F(Plugin, ExportsTwoFunctionsAndNoFolderOfTheBuilder)
+TEST_F(Plugin, ExportsTwoFunctionsAndNamesNoFolderOfTheBuild)
 {
     QProcess symbols;
     symbols.start(QStringLiteral("nm"), {QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral("--format=posix"),
@@ -121,7 +121,7 @@ TEST_F(Plugin, ExportsTwoFunctionsAndNoFolderOfTheBuilder)
     EXPECT_THAT(names,
                 testing::UnorderedElementsAre(QStringLiteral("qt_plugin_instance"), QStringLiteral("qt_plugin_query_metadata")));
 
-#ifdef SOURCE_FOLDER // not with debug information: then the compiler names whole paths to the OpenMP run-time
+#ifdef SOURCE_FOLDER // not with debug information: the compiler then passes whole paths to the OpenMP run-time
     QFile file(QStringLiteral(PLUGIN_FILE));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_FALSE(file.readAll().contains(SOURCE_FOLDER "/"));
@@ -208,7 +208,7 @@ TEST_F(Plugin, StartAsksTheHostInOrderAndWorksWithoutOne)
     ASSERT_NE(plugin().instance(), nullptr);
 }
 
-TEST_F(Plugin, ProcessesAreMadeOnRequestAndBelongToTheLibrary)
+TEST_F(Plugin, ProcessesAreMadeOnRequestAndOwnedByTheLibrary)
 {
     delete library;
     interface = qobject_cast<VIPluginLibrary *>(plugin().instance());
@@ -241,7 +241,7 @@ TEST_F(Plugin, StrengthOfNewSettings)
         {"element_wins", 35, element("40"), 40},
         {"element_is_not_clamped", 35, element("-7"), -7},
         {"element_without_attribute_gives_0", 35, element({}), 0},
-        {"element_that_is_no_number_gives_0", 35, element("much"), 0},
+        {"element_that_is_not_a_number_gives_0", 35, element("much"), 0},
     };
     for (const auto &row : rows) {
         host.stored.clear();
@@ -258,7 +258,7 @@ TEST_F(Plugin, StrengthOfNewSettings)
     process->saveDefaults();
 }
 
-TEST_F(Plugin, SettingsGoToAnElementAndBetweenHandles)
+TEST_F(Plugin, SettingsAreCopiedToAnElementAndBetweenHandles)
 {
     host.stored[kStored] = 25;
     VIPluginOne2One *const process = newProcess();
@@ -276,11 +276,11 @@ TEST_F(Plugin, SettingsGoToAnElementAndBetweenHandles)
     process->destroySettings(nullptr);
 
     host.stored.clear();
-    process->saveDefaults(); // the default that stood when the process was made
+    process->saveDefaults(); // writes the default that was stored when the process was made
     EXPECT_EQ(host.stored.value(kStored), QVariant(25));
 }
 
-TEST_F(Plugin, ImagesOfThePageHaveSettingsOfTheirOwn)
+TEST_F(Plugin, EachImageOfThePageHasItsOwnSettings)
 {
     host.stored[kStored] = 25;
     VIPluginOne2One *const process = newProcess();
@@ -293,14 +293,6 @@ TEST_F(Plugin, ImagesOfThePageHaveSettingsOfTheirOwn)
     process->setImages({"/p/b.jpg"});
     EXPECT_EQ(process->settingsFor("/p/b.jpg").attribute("hazeRemove"), "60");
     process->setImages({});
-}
-
-TEST_F(Plugin, RunCallsTheHostInOrder)
-{
-    const QString path = folder.filePath("photo.png");
-    host.calls.clear();
-    run(path, 60);
-    EXPECT_EQ(host.calls, QStringList({"acquireFull 1", "releaseFull 1"}));
 }
 
 TEST_F(Plugin, NamesOfResults)
@@ -333,7 +325,7 @@ TEST_F(Plugin, NamesOfResults)
     host.language = english;
 }
 
-TEST_F(Plugin, FailuresReachAHostBuiltApartAsValues)
+TEST_F(Plugin, FailuresReachASeparatelyBuiltHostAsValues)
 {
     const QString bare = folder.filePath("bare");
     const QString empty = folder.filePath("empty.png");
@@ -342,7 +334,7 @@ TEST_F(Plugin, FailuresReachAHostBuiltApartAsValues)
     const struct
     {
         QString path;
-        QString message; ///< Its beginning.
+        QString message; ///< How it begins.
         QStringList calls;
     } rows[] = {
         {bare, "Invalid Parameter", {"acquireFull 1", "releaseFull 1"}},
@@ -369,7 +361,7 @@ TEST_F(Plugin, FailuresReachAHostBuiltApartAsValues)
     }
 }
 
-/// Mean of the colours of the upper, hazy third.
+/// Mean grey value of the upper, hazy third.
 double hazyMean(const QImage &image)
 {
     double sum = 0.0;
@@ -405,7 +397,7 @@ TEST_F(Plugin, EveryFormIsDehazedAndKeepsItsChannelsAndDepth)
     }
 }
 
-TEST_F(Plugin, AnImageThatTheEngineGivesUpIsWrittenUntouched)
+TEST_F(Plugin, AnImageThatTheEngineGivesUpOnIsWrittenUnchanged)
 {
     const QString path = folder.filePath("void.png");
     host.image(path).type = VImage::Rgba;
@@ -436,7 +428,7 @@ TEST_F(Plugin, CataloguesHoldTheTexts)
     struct Catalogue
     {
         const char *language;
-        QStringList translations; ///< Of the texts above; null for one that stays in English.
+        QStringList translations; ///< Of the texts above; empty for a text that stays in English.
     };
     const Catalogue rows[] = {
         {"fr",

@@ -60,7 +60,7 @@ TEST_F(Worker, TheMapOfTheFirstRunServesTheSecond)
     EXPECT_EQ(screenImage(worker.work), screenImage(expected)) << "a fresh copy each time";
 }
 
-TEST_F(Worker, AStrengthThatMovesDuringTheRunStays)
+TEST_F(Worker, AStrengthThatChangesDuringTheRunIsKept)
 {
     const auto image = landscape(40, 30);
     record = recordWithMap(40, 30);
@@ -75,7 +75,7 @@ TEST_F(Worker, AStrengthThatMovesDuringTheRunStays)
     EXPECT_EQ(record.strength, 70);
 }
 
-TEST_F(Worker, AnImageThatCanNotBeEstimatedStaysAsItIs)
+TEST_F(Worker, AnImageThatCannotBeEstimatedIsUnchanged)
 {
     const auto image = landscape(40, 30);
     *reinterpret_cast<float *>(image->PixelAddress(20, 15)) = std::numeric_limits<float>::quiet_NaN();
@@ -85,7 +85,7 @@ TEST_F(Worker, AnImageThatCanNotBeEstimatedStaysAsItIs)
     EXPECT_EQ(record.transmission, nullptr);
 }
 
-TEST_F(Worker, AnExceptionEndsTheRunAsQuietly)
+TEST_F(Worker, AnExceptionEndsTheRunQuietly)
 {
     VImage refused(40, 30, VImage::Grey, 8, /*clear=*/true); // the engine throws "Invalid Bitmap"
     record.strength = 50;

@@ -11,14 +11,14 @@
 
 constexpr int kLimitMs = 300000; ///< For a run of the engine under a sanitizer on a busy machine.
 
-/// Watches a panel from its first moment: counts the runs of its worker and lets the events run until something holds.
+/// Watches a panel from the start: counts the runs of its worker and processes events until a condition holds.
 class PanelWatch : public QObject
 {
 public:
     explicit PanelWatch(UIHazePreview &panelToWatch) : panel(panelToWatch)
     {
-        // Behind the panel's own connection: the panel has answered by then, and nothing but this tells of it, so that no wait
-        // ends between an answer and its count.
+        // Connected after the panel, so the panel has already responded here. Conditions are checked nowhere else, so that no
+        // wait can end between the panel's response and its count.
         connect(&panel.thread, &QThread::finished, this, [this] {
             ++runs;
             check();
@@ -53,7 +53,7 @@ private:
     std::function<bool()> condition;
 };
 
-/// Turns Qt's messages into failures: a photographer's console stays empty.
+/// Turns Qt's messages into failures, because a photographer's console must stay empty.
 class PreviewTest : public testing::Test
 {
 protected:
@@ -68,7 +68,7 @@ protected:
     TestHost &host = TestHost::self();
 };
 
-/// What the screen shows of an image.
+/// The image as the screen shows it.
 inline QImage screenImage(const VImage &image)
 {
     QImage screen;
@@ -90,7 +90,7 @@ inline std::unique_ptr<VImage> landscape(int width, int height)
     return image;
 }
 
-/// A record whose map is there already, so that a run costs one pass. Its owner deletes the map.
+/// A record that already has a map, so that a run costs only one pass. The caller deletes the map.
 inline HazeState recordWithMap(int width, int height)
 {
     HazeState record = {0, {0.9f, 0.9f, 0.9f}, new float[std::size_t(width) * std::size_t(height)]};

@@ -16,7 +16,7 @@ protected:
         image.save(file);
         return file;
     }
-    int shown() const { return label.pixmap(Qt::ReturnByValue).width(); } ///< Side of the picture; 0 for none.
+    int shown() const { return label.pixmap(Qt::ReturnByValue).width(); } ///< Side of the picture in pixels; 0 if there is none.
 
     QTemporaryDir folder;
     QAnimatedLabel label{nullptr};
@@ -39,11 +39,11 @@ TEST_F(AnimatedLabel, ShowsThePicturesInTurn)
     EXPECT_EQ(shown(), 3);
 }
 
-TEST_F(AnimatedLabel, ItsTimerTurnsIt)
+TEST_F(AnimatedLabel, ItsTimerAdvancesIt)
 {
     label.startAnimation({folder.filePath("missing.png"), picture(6)}, 1);
     QEventLoop loop;
-    QTimer watch; // behind the label's own timer at every turn of the loop
+    QTimer watch; // fires after the label's timer in each pass of the event loop
     QObject::connect(&watch, &QTimer::timeout, &loop, [&] {
         if (shown() == 6)
             loop.quit();

@@ -29,7 +29,7 @@ protected:
     }
     void click(const char *button) { QTest::mouseClick(page->findChild<QAbstractButton *>(button), Qt::LeftButton); }
     int storedFor(const QString &path) { return process->settingsFor(path).attribute("hazeRemove").toInt(); }
-    /// What the panel shows of this image at this strength, computed apart.
+    /// The picture that the panel should show of this image at this strength, computed separately.
     QImage expected(const QString &path, int percent)
     {
         TestImage &image = host.image(path);
@@ -50,7 +50,7 @@ protected:
     QSpinBox *strength = nullptr;
 };
 
-TEST_F(Page, StandsAsItsFormSays)
+TEST_F(Page, LooksAsItsFormSays)
 {
     open();
     EXPECT_EQ(page->title(), "Veilaway");
@@ -61,7 +61,7 @@ TEST_F(Page, StandsAsItsFormSays)
     EXPECT_EQ(page->findChild<QToolButton *>("QToolButton_Next")->toolTip(), "Next");
     EXPECT_TRUE(page->isComplete());
     for (const char *button : {"QToolButton_Prev", "QToolButton_Next", "pushButtonApplyAll"})
-        click(button); // no images: nothing happens
+        click(button); // without images nothing happens
     page->on_comboBoxImageDef_currentIndexChanged(5);
     EXPECT_FALSE(panel->thread.isRunning());
 }
@@ -124,7 +124,7 @@ TEST_F(Page, LeavingAnImageDuringARun)
     choose(wide);
     ASSERT_TRUE(watch->finish());
     strength->setValue(70);
-    choose(tall); // the run may have begun or not
+    choose(tall); // the run may or may not have begun
     EXPECT_EQ(strength->value(), 0);
     strength->setValue(40);
     EXPECT_FALSE(page->isComplete());
@@ -155,7 +155,7 @@ TEST_F(Page, ApplyToAll)
     EXPECT_EQ(host.stored.last(), QVariant(40));
 }
 
-TEST_F(Page, AStoredStrengthBeyondTheControlIsClampedByIt)
+TEST_F(Page, AStoredStrengthBeyondTheControlsRangeIsClamped)
 {
     host.stored[process->guid() + "/hazeRemove"] = 150;
     open();
@@ -181,7 +181,7 @@ TEST_F(Page, ANewListOrTheEndOfTheProcessWaitsForTheRun)
     open();
     process->setImages({"/p/a.png", "/p/b.png"});
     strength->setValue(60);
-    process->setImages({"/p/c.png", "/p/d.png"}); // the record of the run goes
+    process->setImages({"/p/c.png", "/p/d.png"}); // the record of the run is destroyed
     choose("/p/c.png");
     strength->setValue(30);
     ASSERT_TRUE(watch->finish());
@@ -201,7 +201,7 @@ TEST_F(Page, ANewListOrTheEndOfTheProcessWaitsForTheRun)
     EXPECT_EQ(host.calls, QStringList()) << "no image is loaded";
 }
 
-TEST_F(Page, ThePageMayBeGone)
+TEST_F(Page, ThePageMayHaveBeenDeleted)
 {
     host.stored[process->guid() + "/hazeRemove"] = 45;
     open();

@@ -20,16 +20,16 @@ namespace {
 constexpr int kWidth = 60;
 constexpr int kHeight = 40;
 
-/// A parent that notes what the panel tells it.
+/// A parent that records what the panel reports.
 class Parent : public QWidget
 {
     Q_OBJECT
 
 public:
-    QList<bool> told;
+    QList<bool> reported;
 
 public Q_SLOTS:
-    void completeChanged() { told += findChild<UIHazePreview *>()->property("isComplete").toBool(); }
+    void completeChanged() { reported += findChild<UIHazePreview *>()->property("isComplete").toBool(); }
 };
 
 class Panel : public PreviewTest
@@ -43,7 +43,7 @@ protected:
     }
     ~Panel() override { delete panel; }
 
-    /// The panel as the page loads it, at strength 0 and before the first request.
+    /// Loads the panel as the page does, at strength 0 and before the first request.
     void load()
     {
         panel->setImage(landscape(kWidth, kHeight));
@@ -65,7 +65,7 @@ protected:
     {
         OwnedRecord() : HazeState(recordWithMap(kWidth, kHeight)) {}
         ~OwnedRecord() { delete[] transmission; }
-    } record; ///< Outlives the panel.
+    } record; ///< Must outlive the panel.
     NimbraOne2One process;
     Parent parent;
     UIHazePreview *panel = new UIHazePreview(&process, &parent);
@@ -130,7 +130,7 @@ TEST_F(Panel, AChangeOfStrengthEndsInItsPicture)
     EXPECT_EQ(watch.runs, 1);
     EXPECT_EQ(panel->afterImage, expectedAt(60));
     EXPECT_FALSE(wait->isVisible());
-    EXPECT_EQ(parent.told, QList<bool>({false, true}));
+    EXPECT_EQ(parent.reported, QList<bool>({false, true}));
 }
 
 TEST_F(Panel, ThreeChangesDuringOneRunMakeOneMore)
@@ -142,31 +142,31 @@ TEST_F(Panel, ThreeChangesDuringOneRunMakeOneMore)
     ASSERT_TRUE(watch.finish());
     EXPECT_EQ(watch.runs, 2);
     EXPECT_EQ(panel->afterImage, expectedAt(50));
-    EXPECT_EQ(parent.told, QList<bool>({false, false, false, false, false, true})) << "the fifth from the restart";
+    EXPECT_EQ(parent.reported, QList<bool>({false, false, false, false, false, true})) << "the fifth is from the restart";
 
     strength->setValue(10);
     watch.runs = 0;
     ASSERT_TRUE(watch.finish());
-    EXPECT_EQ(watch.runs, 1) << "and then it is as before";
+    EXPECT_EQ(watch.runs, 1) << "then the panel is back to normal";
 }
 
 TEST_F(Panel, ARequestBetweenTheEndOfTheRunAndItsFinishedIsNotLost)
 {
     load();
     strength->setValue(20);
-    ASSERT_TRUE(panel->thread.wait(kLimitMs)); // `finished` stands in the queue
+    ASSERT_TRUE(panel->thread.wait(kLimitMs)); // `finished` is still in the queue
     strength->setValue(80);
     ASSERT_TRUE(watch.finish());
     EXPECT_EQ(watch.runs, 2);
     EXPECT_EQ(panel->afterImage, expectedAt(80));
-    EXPECT_EQ(parent.told, QList<bool>({false, false, false, true}));
+    EXPECT_EQ(parent.reported, QList<bool>({false, false, false, true}));
 }
 
 TEST_F(Panel, AnImageThatChangesBeforeTheRunBegins)
 {
     load();
     omp_set_lock(&panel->thread.busy);
-    strength->setValue(20); // started, not begun
+    strength->setValue(20); // the thread has started, but the run has not begun
     OwnedRecord none;
     delete[] std::exchange(none.transmission, nullptr);
     none.strength = 0;
@@ -188,7 +188,7 @@ TEST_F(Panel, AltShowsTheMap)
     EXPECT_TRUE(panel->afterImage.isNull()) << "not during a run";
     QTest::keyRelease(panel, Qt::Key_Alt);
     EXPECT_TRUE(watch.isComplete());
-    EXPECT_TRUE(wait->isVisible()) << "the run goes on";
+    EXPECT_TRUE(wait->isVisible()) << "the run continues";
     EXPECT_TRUE(panel->afterPixmap.isNull());
     ASSERT_TRUE(watch.until([&] { return watch.runs == 1; }));
     EXPECT_EQ(panel->afterImage, expectedAt(60));
@@ -218,7 +218,7 @@ TEST_F(Panel, AltWithoutAMapShowsTheWork)
     EXPECT_EQ(panel->afterImage, panel->beforeImage);
 }
 
-TEST_F(Panel, NoKeyGoesFurther)
+TEST_F(Panel, NoKeyIsPassedOn)
 {
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QApplication::sendEvent(panel, &enter);
@@ -236,7 +236,7 @@ TEST_F(Panel, ThePictureIsSplitInItsMiddle)
     wait->hide();
     const auto colours = [&] {
         const QImage shot = panel->grab().toImage();
-        const int left = frame->x() + (frame->width() - size.width()) / 2 + 3; // inside the frame's own line
+        const int left = frame->x() + (frame->width() - size.width()) / 2 + 3; // inside the line of the frame
         const int seam = frame->x() + (frame->width() - size.width()) / 2 + size.width() / 2;
         const int right = frame->x() + (frame->width() - size.width()) / 2 + size.width() - 4;
         const int y = frame->geometry().center().y();
@@ -262,7 +262,7 @@ TEST_F(Panel, ResizingScalesThePicturesAndCentresTheWaitSign)
     EXPECT_EQ(wait->pos(), frame->pos() + QPoint((frame->width() - wait->width()) / 2, (frame->height() - wait->height()) / 2));
 }
 
-TEST_F(Panel, AParentWithoutTheSlotCostsNothing)
+TEST_F(Panel, AParentWithoutTheSlotIsFine)
 {
     QWidget plain;
     for (QWidget *other : {&plain, static_cast<QWidget *>(nullptr)}) {
@@ -276,7 +276,7 @@ TEST_F(Panel, AParentWithoutTheSlotCostsNothing)
     }
 }
 
-TEST_F(Panel, AStormOfChangesWithImagesThatComeAndGo)
+TEST_F(Panel, ManyChangesWhileImagesComeAndGo)
 {
     constexpr int kChanges = 1000;
     struct Slot
@@ -287,7 +287,7 @@ TEST_F(Panel, AStormOfChangesWithImagesThatComeAndGo)
     std::vector<Slot> slots = {{kWidth, kHeight, {}}, {33, 71, {}}, {90, 20, {}}, {50, 50, {}}};
     for (Slot &slot : slots)
         slot.state = recordWithMap(slot.width, slot.height);
-#ifndef NIMBRA_THREAD_SANITIZER // for which an estimate takes half a minute
+#ifndef NIMBRA_THREAD_SANITIZER // under which an estimate takes half a minute
     delete[] std::exchange(slots.back().state.transmission, nullptr);
 #endif
     std::vector<float *> maps;
@@ -296,7 +296,7 @@ TEST_F(Panel, AStormOfChangesWithImagesThatComeAndGo)
     std::vector<int> wanted(slots.size(), 0);
     std::size_t current = slots.size();
     for (int change = 0; change < kChanges; ++change) {
-        if (change % 17 == 0) { // as the page does it
+        if (change % 17 == 0) { // as the page does
             current = std::size_t(change / 17) % slots.size();
             panel->setImage(landscape(slots[current].width, slots[current].height));
             panel->settings = &slots[current].state;
@@ -320,7 +320,7 @@ TEST_F(Panel, AStormOfChangesWithImagesThatComeAndGo)
             EXPECT_EQ(slots[i].state.transmission, maps[i]);
     }
     ASSERT_NE(slots[current].state.transmission, nullptr);
-    RemoveHaze(*panel->previewImage, slots[current].state); // the picture is done with
+    RemoveHaze(*panel->previewImage, slots[current].state); // its pixels are no longer needed
     EXPECT_EQ(panel->afterImage, screenImage(*panel->previewImage));
     panel->releaseRecord();
     for (const Slot &slot : slots)

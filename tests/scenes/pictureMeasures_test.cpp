@@ -14,7 +14,7 @@ using testing::DoubleNear;
 
 constexpr int kWidth = 300, kHeight = 200;
 
-/// Each pixel's value.
+/// A map with this value at each pixel.
 template<typename Value>
 std::vector<float> mapOf(Value value)
 {
@@ -59,7 +59,7 @@ TEST(PictureMeasures, MapErrorLeavesOutWhatIsNotKnown)
     EXPECT_THAT(error.bias, DoubleNear(-0.125, 1e-6));
 }
 
-TEST(PictureMeasures, EdgesOfEveryDirection)
+TEST(PictureMeasures, EdgesInEveryDirection)
 {
     const double turns[] = {0.0, 0.5, 0.8, 1.5708, 3.0, 4.2};
     for (const double turn : turns) {
@@ -80,7 +80,7 @@ TEST(PictureMeasures, EdgesOfEveryDirection)
     EXPECT_FALSE(edgeFigures(level, level, kWidth, kHeight));
 }
 
-TEST(PictureMeasures, SceneIsMixedFromItsParts)
+TEST(PictureMeasures, ScenesAreMixedFromTheirParts)
 {
     for (const QString &name : depthSceneNames()) {
         if (name.contains("noise") || name.contains("night") || name == "landscape")
@@ -93,7 +93,7 @@ TEST(PictureMeasures, SceneIsMixedFromItsParts)
             transparent += std::isnan(t);
             if (std::isnan(t) ? scene.hazy[4 * i + 3] != 0.0f : t < 0.0f || t > 1.0f)
                 ++faults;
-            // Where an edge crosses a pixel, the mean of both sides' mixtures is not the mixture of their means.
+            // In a pixel on an edge, the mean of both sides' mixtures is not the mixture of their means.
             for (std::size_t c = 0; c < 3 && !std::isnan(t); ++c)
                 if (std::fabs(scene.hazy[4 * i + c] - scene.airlight[c] - t * (scene.truth[4 * i + c] - scene.airlight[c])) >
                     0.25f)
@@ -102,7 +102,7 @@ TEST(PictureMeasures, SceneIsMixedFromItsParts)
         EXPECT_EQ(faults, 0u) << qPrintable(name);
         EXPECT_EQ(transparent > 0, name.contains("border")) << qPrintable(name);
     }
-    EXPECT_TRUE(drawDepthScene("nothing of ours", 60, 40).hazy.empty());
+    EXPECT_TRUE(drawDepthScene("unknown", 60, 40).hazy.empty());
 }
 
 } // namespace
