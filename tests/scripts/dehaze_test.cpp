@@ -26,6 +26,7 @@ TEST(Dehaze, GivesTheProgramWhatTheUserNamedAndNothingElse)
         {"mine.png --strength 80", "mine.png --strength 80", ""},
         {"--strength 80 mine.png", "--strength 80 mine.png", ""},
         {"--settings haze.xml --overwrite", "--settings haze.xml --overwrite", ""},
+        {"--set-default auto", "--set-default auto", ""},
         {"--help", "--help", ""},
         {"wizard --language de", "wizard --language de", ""},
         {"--jobs=2 -- -dash.png", "--jobs=2 -- -dash.png", ""},
