@@ -1,5 +1,5 @@
-# Completion of veilaway's command line for bash. It needs nothing of the bash-completion package but being loaded by it.
-_veilaway_files() # SUFFIX...: folders and files of these suffixes, in either case of letters
+# Bash completion for veilaway. The bash-completion package only loads it; none of that package's functions are needed.
+_veilaway_files() # SUFFIX...: folders, and files with these suffixes in upper or lower case
 {
     local name suffix
     compopt -o filenames
