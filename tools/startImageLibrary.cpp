@@ -41,8 +41,8 @@ void startImageLibrary(VImageContext *context)
     } else {
         startTools(nullptr);
         imageSettings = new VImageSettings;
-        (void)gflLibraryInitEx(gflAllocCallback, gflReallocCallback, gflFreeCallback,
-                               nullptr); // refuses only incomplete callbacks
+        gflLibraryInitEx(gflAllocCallback, gflReallocCallback, gflFreeCallback,
+                               nullptr);
         gflEnableLZW(1);
         imageContext.cacheRegistry = makeRegistry();
         started = true;

@@ -81,7 +81,7 @@ struct GflExif; ///< EXIF block (a TIFF stream), opaque.
 
 /// Starts the layer with the allocator for bitmaps. Three null callbacks mean malloc, realloc and free; if only some of them are
 /// null, returns BAD_PARAMETERS and changes nothing. No bitmap may exist during the call.
-[[nodiscard]] int gflLibraryInitEx(GflAllocCallback alloc, GflReallocCallback realloc, GflFreeCallback free, void *user);
+int gflLibraryInitEx(GflAllocCallback alloc, GflReallocCallback realloc, GflFreeCallback free, void *user);
 void gflLibraryExit();
 /// Whether TIFF files may be written with LZW compression; if not, they are written uncompressed. Enabled at first. LZW can
 /// always be read.

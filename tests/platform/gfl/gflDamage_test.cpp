@@ -19,8 +19,8 @@ constexpr Seed kSeeds[] = {{"jpg", "jpeg", -1}, {"png", "png", -1}, {"tif", "tif
 class GflDamageTest : public GflTest
 {
 protected:
-    GflDamageTest() { (void)gflLibraryInitEx(countedAlloc, countedRealloc, countedFree, &heap); }
-    ~GflDamageTest() override { (void)gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr); }
+    GflDamageTest() { gflLibraryInitEx(countedAlloc, countedRealloc, countedFree, &heap); }
+    ~GflDamageTest() override { gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr); }
 
     FileBytes seedFile(const Seed &seed)
     {
