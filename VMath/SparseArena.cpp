@@ -7,7 +7,7 @@
 
 namespace {
 
-// A region is address space until it is touched, so that it may be large; a piece is what a thread may leave unused.
+// A region is only address space until it is touched, so it may be large; a piece is the most that a thread may leave unused.
 constexpr std::size_t kRegionBytes = std::size_t(64) << 20;
 constexpr std::size_t kPieceBytes = std::size_t(256) << 10;
 constexpr std::size_t kLargeBlock = 1024;
@@ -52,7 +52,7 @@ void *SparseArena::allocate(std::size_t bytes, std::size_t alignment)
     Piece &piece = bytes < kLargeBlock ? slot.small : slot.large;
     void *block = take(piece, bytes, alignment);
     if (block == nullptr) {
-        // A block of more than a piece leaves the thread what it has.
+        // After a block larger than a piece the thread keeps whichever piece has more room left.
         Piece fresh = cut(bytes);
         block = take(fresh, bytes, alignment);
         if (fresh.end - fresh.next > piece.end - piece.next)
@@ -63,7 +63,7 @@ void *SparseArena::allocate(std::size_t bytes, std::size_t alignment)
 
 SparseArena::Piece SparseArena::cut(std::size_t bytes)
 {
-    // Pieces start on pages, so that any alignment asked for is met at once.
+    // Pieces start on page boundaries, so that any permitted alignment is met without a gap.
     constexpr std::size_t kPage = 4096;
     if (bytes > std::size_t(-1) / 2)
         throw std::bad_alloc();

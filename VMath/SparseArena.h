@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
-/// Memory that only grows and is given back in one piece, for the many small blocks of one assembly. Safe on several threads:
-/// each has pieces of its own to take blocks from. Where the system has huge pages, the memory lies on them. All bytes of a block
-/// are 0. Small blocks and large ones lie apart, so that a large one that is never written takes address space only.
+/// Memory that only grows and is released all at once, for the many small blocks of one assembly. Safe on several threads: each
+/// thread takes its blocks from its own pieces. Uses huge pages where the system has them. All bytes of a block are 0. Small and
+/// large blocks are kept apart, so that a large one that is never written costs address space only.
 class SparseArena
 {
 public:
@@ -29,7 +29,7 @@ private:
         char *next = nullptr;
         char *end = nullptr;
     };
-    /// The pieces of those threads that have this number; mostly that is one, and the flag is never fought for.
+    /// The pieces of the threads with this number. That is usually one thread, so there is no contention for the flag.
     struct alignas(64) Slot
     {
         std::atomic_flag taken = ATOMIC_FLAG_INIT;
@@ -43,16 +43,16 @@ private:
     };
 
     static void *take(Piece &piece, std::size_t bytes, std::size_t alignment);
-    /// A piece of at least `bytes`, cut from the current region; a new region if it is used up.
+    /// A piece of at least `bytes` bytes, cut from the current region, or from a new one if too little is left.
     Piece cut(std::size_t bytes);
 
     std::array<Slot, 64> slots;
-    std::mutex lock; ///< Guards what follows.
-    Piece rest;      ///< What is left of the last region.
+    std::mutex lock; ///< Guards the members below.
+    Piece rest;      ///< The unused end of the last region.
     std::vector<Region> regions;
 };
 
-/// Whether a new U without arguments is all zero, tried at load.
+/// Whether a default-constructed U is all zero bytes; found out by constructing one at load.
 template<typename U>
 inline const bool kZeroByDefault = [] {
     alignas(U) std::array<unsigned char, sizeof(U)> bytes{};
@@ -62,8 +62,8 @@ inline const bool kZeroByDefault = [] {
     return zero;
 }();
 
-/// The arena as a container's allocator. Blocks are not given back one by one. Neither are elements destroyed: whatever a
-/// container on an arena holds must own nothing outside of the arena.
+/// Lets a container allocate from an arena. Single blocks are never released and elements never destroyed: whatever a container
+/// on an arena holds must own nothing outside the arena.
 template<typename T>
 class SparseAllocator
 {
@@ -83,7 +83,7 @@ public:
         return static_cast<T *>(arena->allocate(count * sizeof(T), alignof(T)));
     }
     void deallocate(T *, std::size_t) {}
-    /// An element whose default is all zero is there already: writing it would be the first touch of its page.
+    /// An element whose default is all zero exists already: writing it would touch its page for the first time.
     template<typename U, typename... Arguments>
     void construct(U *place, Arguments &&...arguments)
     {

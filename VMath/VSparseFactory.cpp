@@ -41,7 +41,7 @@ VSparseFactory::~VSparseFactory()
 
 void VSparseFactory::growRows(std::size_t count)
 {
-    // A table that is asked for in advance is made of default buckets, which the arena need not write.
+    // A table requested in advance consists of default buckets, which the arena need not write.
     constexpr std::size_t kBuckets = 256;
     while (rows.size() < count)
         rows.emplace_back(kBuckets, Row::allocator_type(arena));
@@ -51,7 +51,7 @@ void VSparseFactory::OpenCell(int row, int column, CellAccessor &cell)
 {
     if (row >= rowCount) {
         if (row >= rowCapacity) {
-            // In 64 bits: the last doubling that an int holds may not exceed the row.
+            // In 64 bits: the largest power of two that an int holds may not exceed the row.
             std::int64_t capacity = rowCapacity;
             while (capacity <= row)
                 capacity *= 2;
@@ -83,7 +83,7 @@ void VSparseFactory::ToCsr(VSparseMatrix &target) const
         target.rowStarts[row] = std::int32_t(cells + 1);
         cells += std::int64_t(size);
         longest = std::max(longest, size);
-        // One-based indices end where an int does.
+        // One-based indices must fit into an int.
         if (cells >= std::numeric_limits<std::int32_t>::max())
             throw VException(QStringLiteral("Not enough memory"), V_LOCATION);
     }
@@ -97,7 +97,7 @@ void VSparseFactory::ToCsr(VSparseMatrix &target) const
     if (target.values == nullptr)
         throw VException(QStringLiteral("Not enough memory"), V_LOCATION);
 
-    // All memory is taken before the team starts: no exception may leave a parallel region.
+    // All memory is allocated before the team starts: no exception may leave a parallel region.
     const int team = rowCount < kRowsWorthATeam ? 1 : std::max(1, threadCount);
     std::vector<std::pair<std::int32_t, float>> scratch(std::size_t(team) * longest);
 #pragma omp parallel for num_threads(team) schedule(static)
@@ -105,7 +105,7 @@ void VSparseFactory::ToCsr(VSparseMatrix &target) const
         auto *const first = scratch.data() + std::size_t(omp_get_thread_num()) * longest;
         auto *last = first;
         const Row &rowCells = rows[std::size_t(row)];
-        // Counted, so that the walk ends at the last cell: on its way to the end it would read all buckets.
+        // Counted, so that the walk stops at the last cell; the iterator would search all remaining buckets on its way to end().
         auto cell = rowCells.begin();
         for (std::size_t left = rowCells.size(); left > 0; --left) {
             *last++ = {cell->first, cell->second};

@@ -39,6 +39,7 @@ void VSparseMatrix::Solve(const float *b, float *x) const
     std::int32_t error = 0;
     float dummy = 0.0f;
 
+    // Fixed: the whole set is requested, so that a solver that heeds all of it can replace ours, which ignores half (see mkl.h).
     std::array<std::int32_t, 64> iparm = {};
     iparm[PardisoOwnValues] = 1;
     iparm[PardisoOrdering] = 3;
@@ -70,5 +71,6 @@ void VSparseMatrix::Solve(const float *b, float *x) const
     if (error != 0)
         throw VException(QStringLiteral("PARDISO error during solution: %1").arg(error), V_LOCATION);
 
+    // Fixed: only a success gets this far, and the error of the release is ignored. Our solver releases everything with an error.
     call(/*phase=*/-1, &dummy, &dummy, &dummy);
 }

@@ -1,5 +1,5 @@
-# A room is one folder, one static library and one include path. Its list draws the arrows: what a room does not name it cannot
-# include, since a room hands nothing on of what it names. The link follows the names through all rooms.
+# A room is one folder, one static library and one include path. It can include only what its list names, since no room passes on
+# what it names itself; linking follows the names through all rooms.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -7,8 +7,8 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
-# Programs and plug-in find libraries outside of the usual folders where the link found them. Built with the paths that they are
-# installed with: room kept for other ones would be an empty entry, which stands for the current folder.
+# Programs and the plug-in find libraries outside the usual folders where the linker found them. They are built with their
+# installed paths: a placeholder for other paths would be an empty entry, which means the current folder.
 set(CMAKE_INSTALL_RPATH_USE_LINK_PATH ON)
 set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
@@ -16,8 +16,8 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g -fno-omit-frame-pointer -DNDEBUG")
 
-# What every target of ours is built with: warnings are errors, no contraction (results are the same on every machine), and no
-# folder of the build machine in any text of the product.
+# Options of all our targets: warnings are errors, no contraction (results are the same on every machine), and no folder of the
+# build machine in any text of the product.
 add_library(nimbra_options INTERFACE)
 target_compile_options(nimbra_options INTERFACE
     -Wall -Wextra -Wconversion -Wshadow -Werror
@@ -25,7 +25,8 @@ target_compile_options(nimbra_options INTERFACE
     "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.." "-ffile-prefix-map=${CMAKE_BINARY_DIR}=../build")
 target_compile_definitions(nimbra_options INTERFACE QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS)
 
-# What the distribution hardens its programs with, for a program and a guest that read strangers' files. Not every processor knows each.
+# The distribution's hardening options, for a program and a plug-in that read untrusted files. Some exist only for some
+# processors.
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
@@ -38,7 +39,7 @@ foreach(flag IN ITEMS stack-clash-protection cf-protection)
         add_compile_options(-f${flag})
     endif()
 endforeach()
-if(NIMBRA_SANITIZE) # it watches the functions for which fortified ones would stand in
+if(NIMBRA_SANITIZE) # it intercepts the functions that fortification would replace
     add_compile_definitions(_GLIBCXX_ASSERTIONS)
 else()
     add_compile_definitions($<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
@@ -61,7 +62,7 @@ function(nimbra_room name)
     target_link_libraries(${name} PRIVATE nimbra_options ${ROOM_PRIVATE})
 endfunction()
 
-# nimbra_headers(<name>): a folder of headers that several rooms see, without the room that it belongs to.
+# nimbra_headers(<name>): a folder of headers that other rooms may include without its room.
 function(nimbra_headers name)
     add_library(${name} INTERFACE)
     target_include_directories(${name} INTERFACE "${CMAKE_CURRENT_SOURCE_DIR}")
@@ -84,9 +85,8 @@ function(nimbra_test name)
     endif()
 endfunction()
 
-# nimbra_fuzz(<name> [MAIN <file>] [SOURCES <file>...] LINK <target>... [DEFINE <NAME=value>...])
-# One fuzz target, <name>.cpp unless MAIN names another file: as fuzz_<name> with libFuzzer, and as replay_<name>, which the tests run
-# over what was found before.
+# nimbra_fuzz(<name> [MAIN <file>] [SOURCES <file>...] LINK <target>... [DEFINE <NAME=value>...]) One fuzz target, <name>.cpp
+# unless MAIN names another file: fuzz_<name> with libFuzzer, and replay_<name>, which the tests run on earlier findings.
 function(nimbra_fuzz name)
     cmake_parse_arguments(FUZZ "" "MAIN" "SOURCES;LINK;DEFINE" ${ARGN})
     if(NOT FUZZ_MAIN)

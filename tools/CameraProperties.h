@@ -8,7 +8,8 @@
 #include <QString>
 #include <QVector>
 
-/// The table of known cameras (cameras.txt in the search path "Data"). The object stands for the table and holds no rows.
+/// The table of known cameras (cameras.txt in the search path "Data"). The object represents the table and holds no rows. Fixed:
+/// hosts rely on it, although nothing here reads the table.
 class CameraProperties : public QObject
 {
     Q_OBJECT
@@ -17,15 +18,15 @@ public:
     {
         QString brand;
         QString name;
-        double sensorScale; ///< Factor between the sensor and the full frame of 36 x 24 mm, by their diagonals.
+        double sensorScale; ///< Ratio of the full-frame (36 x 24 mm) diagonal to the sensor's.
     };
 
-    /// Rows of the table's text, in its order: three cells separated by ';', in the local 8-bit set. Blank lines are left out,
-    /// and so are comments (from a '#' in the first column, or behind the third cell) and lines that are no row.
+    /// Rows of the table's text, in order: three cells separated by ';', in the local 8-bit encoding. Blank lines, comments
+    /// (lines that begin with '#', or the rest of the third cell after a '#') and malformed lines are skipped.
     static QVector<Row> read(const QByteArray &text);
-    /// Scale of the first row that matches, or 0. `brand` and `model` are what the camera calls itself (NIKON CORPORATION, NIKON
-    /// D3100): a row matches if the brand begins with its brand and a word of the model with its name, a number of which is not
-    /// cut short.
+    /// Scale of the first matching row, or 0. `brand` and `model` are the camera's own names (NIKON CORPORATION, NIKON D3100): a
+    /// row matches if `brand` begins with the row's brand and a word of `model` begins with the row's name without cutting a
+    /// number short.
     static double sensorScale(const QVector<Row> &rows, const QString &brand, const QString &model);
 
     CameraProperties() = default;

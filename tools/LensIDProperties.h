@@ -8,7 +8,8 @@
 #include <QString>
 #include <QVector>
 
-/// The table of known lenses (lensid.txt in the search path "Data"). The object stands for the table and holds no rows.
+/// The table of known lenses (lensid.txt in the search path "Data"). The object represents the table and holds no rows. Fixed:
+/// hosts rely on it, although nothing here reads the table.
 class LensIDProperties : public QObject
 {
     Q_OBJECT
@@ -17,16 +18,16 @@ public:
     struct Row
     {
         QString identifier; ///< Numbers separated by one blank.
-        QString brand;      ///< Of the camera system.
+        QString brand;      ///< The camera system's brand.
         QString name;
         Kind kind;
     };
 
-    /// Rows of the table's text, in its order: four cells separated by ';', in the local 8-bit set. Lines that begin with '#',
-    /// blank lines and lines that are no row are left out.
+    /// Rows of the table's text, in order: four cells separated by ';', in the local 8-bit encoding. Lines that begin with '#',
+    /// blank lines and malformed lines are skipped.
     static QVector<Row> read(const QByteArray &text);
-    /// The first row of that brand and identifier, or null. An identifier is shortest and longest focal length and lens number;
-    /// for Nikon also the apertures at both ends. Numbers are compared as numbers: 4 is 4.0.
+    /// The first row with that brand and identifier, or null. An identifier holds the shortest and longest focal length and the
+    /// lens number; for Nikon also the apertures at both ends. Its parts are compared as numbers: 4 equals 4.0.
     static const Row *find(const QVector<Row> &rows, const QString &brand, const QString &identifier);
 
     LensIDProperties() = default;

@@ -13,7 +13,7 @@ static VCpuTopology *ownTopology = nullptr;
 
 namespace {
 
-/// The machine's answers, read on a thread that ends with its bindings; none if that could not be done.
+/// The machine's answers, read on a thread whose bindings end with it; empty if that fails.
 TopologyRecords readOnOwnThread()
 {
     TopologyRecords records;
@@ -21,11 +21,11 @@ TopologyRecords readOnOwnThread()
         std::thread walker([&records] {
             try {
                 records = readTopology();
-            } catch (...) { // out of memory: what was read so far is no answer
+            } catch (...) { // out of memory: an incomplete answer is useless
             }
         });
         walker.join();
-    } catch (const std::system_error &) { // no thread to be had
+    } catch (const std::system_error &) { // no thread is available
     }
     return records;
 }
@@ -39,8 +39,8 @@ bool ensureEnumeration()
     return cpuTopology->error == 0;
 }
 
-/// The run-time's own count where there is none of ours; at least 1.
-int orThreads(int counted)
+/// `counted`, or the OpenMP run-time's thread count if it is 0; at least 1.
+int orOpenMpThreads(int counted)
 {
     if (counted > 0)
         return counted;
@@ -78,10 +78,11 @@ int logicalCountOfMachine()
 
 int physicalCores()
 {
-    return orThreads(coreCountOfMachine());
+    return orOpenMpThreads(coreCountOfMachine());
 }
 
 int threadsPerCore()
 {
-    return orThreads(logicalCountOfMachine()) / orThreads(coreCountOfMachine());
+    // Fixed: hosts rely on the truncated quotient, also with unequal cores.
+    return orOpenMpThreads(logicalCountOfMachine()) / orOpenMpThreads(coreCountOfMachine());
 }

@@ -6,13 +6,13 @@
 #include <QMutex>
 #include <QString>
 
-/// An image that a host keeps in its table.
+/// An image in a host's table.
 struct VImageCacheEntry
 {
     virtual ~VImageCacheEntry() = default;
 };
 
-/// A host's table of images. The plug-in adds nothing to it. The table owns its entries.
+/// A host's table of images, which owns its entries. Fixed: hosts rely on this layout, although the plug-in adds nothing to it.
 struct VImageCacheRegistry
 {
     VImageCacheRegistry() = default;
@@ -22,6 +22,6 @@ struct VImageCacheRegistry
 
     QHash<QString, VImageCacheEntry *> entries;
     QMutex mutex;
-    std::int32_t intA = 0; ///< Spare, like the next.
+    std::int32_t intA = 0; ///< Spare, like the next one.
     std::int32_t intB = 256;
 };

@@ -4,7 +4,7 @@ struct VToolsContext;
 struct VImageCacheRegistry;
 struct VImageSettings;
 
-/// The shared objects of the image library; who lends them has started the codec layer too.
+/// The shared objects of the image library, lent by a host. A lender has started the codec layer as well.
 struct VImageContext
 {
     VToolsContext *tools = nullptr;

@@ -4,8 +4,8 @@
 
 #include <QStringList>
 
-/// Default load settings of the image library: made when it starts, or lent by the host. The order of the fields is part of the
-/// contract with the host. The metadata read of VImage::Save uses the fields that begin with `raw`; nothing here reads the rest.
+/// Default load settings of the image library, made when it starts or lent by the host. Fixed: hosts rely on these fields in this
+/// order. VImage::Save uses the `raw` fields when it reads metadata; nothing here reads the others.
 struct VImageSettings
 {
     std::int32_t intA = 128;
@@ -17,7 +17,7 @@ struct VImageSettings
     std::int32_t intE = 0;
     std::uint8_t rawUseAutomaticBalance = 0;
     std::uint8_t rawUseCameraBalance = 1;
-    std::int32_t rawHighlight = 0; ///< Passed on as its low 8 bits.
+    std::int32_t rawHighlight = 0; ///< Only its low 8 bits are passed on.
     std::uint8_t rawAutoBright = 0;
     float rawGamma = 2.2f;
     float rawBrightness = 2.5f;
@@ -26,6 +26,6 @@ struct VImageSettings
     QStringList sidecarExtensions = {QStringLiteral(".THM")};
 };
 
-/// The settings in force, or null before the image library's start, which stands for the defaults. The start and the stop of the
-/// image library set it; who made the record deletes it.
+/// The settings in use; null, which means the defaults, before the image library's start. Set by the start and the stop of the
+/// image library; whoever made the record deletes it.
 extern VImageSettings *imageSettings;

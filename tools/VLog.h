@@ -7,8 +7,8 @@
 #include <QObject>
 #include <QTextStream>
 
-/// The log of the libraries, which a host may lend. The plug-in takes part in its life and writes no entry: whoever adds the
-/// writing holds `mutex` around `stream`.
+/// The log of the libraries, which a host may lend. Fixed: hosts rely on this object, although the plug-in never writes to it.
+/// Writers hold `mutex` while they use `stream`.
 class VLog : public QObject
 {
     Q_OBJECT
@@ -27,10 +27,10 @@ public:
     std::int32_t counter = 0; ///< Spare.
 };
 
-/// The log in use, or null: the one made here, or the host's.
+/// The log in use (made here, or the host's), or null.
 extern VLog *logInstance;
 
-/// Takes the host's log, which stays the host's, or makes one if `shared` is null.
+/// Uses the host's log, which the host still owns, or makes one if `shared` is null.
 void initLog(VLog *shared);
-/// Deletes the log that was made here; a lent one is only forgotten. Harmless without one.
+/// Deletes a log made here; a lent one is only forgotten. Harmless if there is none.
 void releaseLog();

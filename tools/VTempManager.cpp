@@ -17,8 +17,9 @@ static VTempManager *ownManager = nullptr;
 
 qint64 freeDiskSpace(QString path)
 {
+    // Fixed: hosts rely on the detour through the local encoding, and on the count that ignores quotas.
     constexpr std::size_t kLongest = 511;
-    wchar_t wide[kLongest + 1] = {}; // stays empty, which no volume has, if the text can't be converted
+    wchar_t wide[kLongest + 1] = {}; // stays empty, the path of no volume, if the text can't be converted
     if (std::mbstowcs(wide, path.toLocal8Bit().constData(), kLongest) == std::size_t(-1))
         wide[0] = L'\0';
     std::uint64_t freeForCaller = 0;
@@ -37,7 +38,8 @@ void checkFileWritable(QString filePath, qint64 neededBytes, QString location)
         throw VException(QCoreApplication::translate("VException", "Not enough free space on \"%1\" to finish operation")
                              .arg(info.absolutePath()),
                          location);
-    // For reading too: writing alone would cut an existing file.
+    // Fixed: hosts rely on the empty file that this leaves where there was none. Opening for writing alone would truncate an
+    // existing file.
     QFile file(info.absoluteFilePath());
     if (!file.open(QIODevice::ReadWrite))
         throw VException(QCoreApplication::translate("VException", "Cannot write into file \"%1\"").arg(info.absoluteFilePath()),
@@ -70,7 +72,8 @@ void releaseTempManager()
         return;
     const QDir currentFolder{QString()};
     const auto &folders = ownManager->folders;
-    // The two bounds differ only while another thread adds an entry: they are read anew each time.
+    // Fixed: both bounds are read again each time; they differ only while another thread adds an entry. A folder counts as empty
+    // if it holds no files, and rmdir refuses one with subfolders.
     for (std::size_t i = 0; i < std::min(folders.size(), folders.capacity()); ++i) {
         if (!folders[i])
             continue;

@@ -16,7 +16,7 @@ constexpr int kCallsPerSample = 1000;
 qint64 counter()
 {
     std::int64_t ticks = 0;
-    QueryPerformanceCounter(&ticks);
+    (void)QueryPerformanceCounter(&ticks); // a failed reading is 0
     return ticks;
 }
 
@@ -25,8 +25,8 @@ QString keyOf(const QString &name)
     return name + QLatin1Char('@') + QString::number(reinterpret_cast<quintptr>(QThread::currentThread()));
 }
 
-/// Ticks per second as one piece of work shows them: the counter is read twice on either side, and the inner span of time is
-/// taken in relation to the outer one.
+/// Ticks per second, measured with one piece of work: the counter is read twice before and twice after it. Fixed: hosts rely on
+/// the ratio of the spans between the second and between the first readings.
 qint64 sample(qint64 frequency, qint64 &count)
 {
     wchar_t text[1024];
@@ -36,7 +36,7 @@ qint64 sample(qint64 frequency, qint64 &count)
         std::swprintf(text, std::size(text), L"Count: %lld", static_cast<long long>(count++));
     const qint64 stop1 = counter();
     const qint64 stop2 = counter();
-    // A clock too coarse to see the work says nothing about itself.
+    // A clock too coarse to notice the work can't be calibrated.
     return stop1 == start1 ? frequency : (stop2 - start2) * frequency / (stop1 - start1);
 }
 
@@ -52,13 +52,13 @@ VTimers::VTimers()
 void VTimers::calibrate()
 {
     std::int64_t frequency = 0;
-    QueryPerformanceFrequency(&frequency);
+    (void)QueryPerformanceFrequency(&frequency); // a failure is 0, and only makes the timers useless
     qint64 samples[kSamples];
     qint64 count = 0;
     for (qint64 &value : samples)
         value = sample(frequency, count);
 
-    // A sample that is out of proportion to the one before it, whether that was taken or not, was interrupted.
+    // Fixed: a sample out of proportion to the one before it, accepted or not, counts as interrupted; the first is never used.
     qint64 sum = 0;
     qint64 taken = 0;
     for (int i = 0; i + 1 < kSamples; ++i) {
@@ -68,11 +68,11 @@ void VTimers::calibrate()
         }
     }
     const qint64 mean = taken ? sum / taken : frequency;
-    ticksPerSecond = mean * 1000000 / 1002284; // a fixed correction
-    overheadTicks = 124524475;
+    ticksPerSecond = mean * 1000000 / 1002284; // fixed: hosts rely on this correction
+    overheadTicks = 124524475;                 // fixed: hosts rely on it
 
-    // What a pair costs: the value at hand when, for the 100th time, a result repeats the one before it. The repetitions need not
-    // stand in a row.
+    // The cost of a pair: the value that is current when, for the 100th time, a result repeats the previous one. Fixed: the
+    // repetitions need not be consecutive, which bounds the time that loading takes.
     qint64 last = 0;
     for (int hits = 0; hits < 100;) {
         start(QStringLiteral("pipo"));
@@ -90,7 +90,7 @@ void VTimers::start(QString name)
 {
     decltype(timers)::accessor record;
     timers.insert(record, keyOf(name));
-    record->second.startTick = counter(); // last, so that the look-up is not measured
+    record->second.startTick = counter(); // last, so that the lookup is not measured
 }
 
 qint64 VTimers::stop(QString name)

@@ -7,7 +7,7 @@
 
 #include <tbb/concurrent_hash_map.h>
 
-/// One stopwatch; times in ticks of the performance counter.
+/// One stopwatch. Times are in ticks of the performance counter.
 struct VTimerRecord
 {
     qint64 count = 0; ///< Finished pairs of start and stop.
@@ -16,8 +16,9 @@ struct VTimerRecord
     qint64 stopTick = 0;
 };
 
-/// Named stopwatches, one of each name per thread. The first object of the process calibrates the counter when it is made, which
-/// takes a few hundredths of a second; `start` and `stop` are safe on any thread.
+/// Named stopwatches, one per name and thread. The first object of the process calibrates the counter when it is constructed,
+/// which takes a few hundredths of a second. `start` and `stop` are safe on any thread. Fixed: hosts rely on it, although nothing
+/// here is timed.
 class VTimers
 {
 public:
@@ -25,9 +26,10 @@ public:
     VTimers(const VTimers &) = delete;
     VTimers &operator=(const VTimers &) = delete;
 
-    /// Starts this thread's stopwatch of that name, made at need.
+    /// Starts this thread's stopwatch of that name, creating it if necessary.
     void start(QString name);
-    /// Stops it and gives the ticks since its last start; 0, with nothing changed, if this thread has none of that name.
+    /// Stops it and returns the ticks since its last start; 0, with nothing changed, if this thread has no stopwatch of that
+    /// name.
     qint64 stop(QString name);
 
     struct HashCompare
@@ -37,7 +39,7 @@ public:
     };
 
     qint64 ticksPerSecond = 0; ///< Calibrated; 0 in all but the first object of the process.
-    qint64 overheadTicks = 0;  ///< To take off a measurement; 0 in all but the first object of the process.
+    qint64 overheadTicks = 0;  ///< To be subtracted from a measurement; 0 in all but the first object of the process.
     tbb::concurrent_hash_map<QString, VTimerRecord, HashCompare> timers; ///< Key: name, '@' and the thread's address in decimal.
 
 private:

@@ -8,12 +8,13 @@
 
 #include "VCpuTopology.h"
 
-// Where a fatal text says that it comes from: the last two fields of its format.
+// The source position in a fatal message: the last two fields of its format. Fixed: hosts rely on this name, and on the messages'
+// spelling.
 #define TOPOLOGY_POSITION "cpuid2\\cpu_topo", __LINE__
 
 namespace {
 
-/// Leaves the enumeration from any depth.
+/// Thrown to leave the enumeration from any depth.
 struct EnumerationAbandoned
 {
 };
@@ -37,7 +38,7 @@ std::uint32_t lowBits(std::uint32_t width)
     return width >= 32 ? ~0u : (1u << width) - 1;
 }
 
-/// Bits that an identifier needs for telling `count` things apart.
+/// Bits that an identifier needs to distinguish `count` things.
 std::uint32_t widthFor(std::uint32_t count)
 {
     std::uint32_t width = 0;
@@ -56,7 +57,7 @@ bool hasSeveralPerPackage(const TopologyRecords &records)
     return field(records.leaf1.edx, 28, 28) != 0;
 }
 
-/// Place of `value` in a list of distinct values, to which it is added at need.
+/// Index of `value` in a list of distinct values, to which it is appended if missing.
 std::uint32_t placeOf(std::uint32_t value, std::vector<std::uint32_t> &values)
 {
     const auto found = std::find(values.begin(), values.end(), value);
@@ -68,7 +69,7 @@ std::uint32_t placeOf(std::uint32_t value, std::vector<std::uint32_t> &values)
 
 void masksOfGroups(const TopologyRecords &records, VCpuTopology &topology)
 {
-    if (!records.groupsTold)
+    if (!records.hasReportedGroups)
         topology.error |= VCpuTopology::SystemCallFailed;
     else if (records.processorCount > kMaximumProcessors)
         topology.error |= VCpuTopology::TooManyProcessors;
@@ -99,7 +100,7 @@ void masksOfGroups(const TopologyRecords &records, VCpuTopology &topology)
 void plainMasks(const TopologyRecords &records, VCpuTopology &topology)
 {
     const std::uint32_t count = records.processorCount;
-    if (!records.masksTold)
+    if (!records.hasReportedMasks)
         topology.error |= VCpuTopology::SystemCallFailed;
     else if (count > kProcessorsPerGroup)
         topology.error |= VCpuTopology::TooManyProcessors;
@@ -117,7 +118,7 @@ void plainMasks(const TopologyRecords &records, VCpuTopology &topology)
     }
 }
 
-/// How an APIC identifier is cut into package, core and thread.
+/// How an APIC identifier is split into package, core and thread.
 void selectMasks(const TopologyRecords &records, VCpuTopology &topology)
 {
     topology.hasLeafB = records.highestLeaf >= 0xB && !records.leafB.empty();
@@ -187,7 +188,7 @@ void describeCaches(const TopologyRecords &records, VCpuTopology &topology)
     }
 }
 
-void cutIdentifiers(const TopologyRecords &records, VCpuTopology &topology)
+void splitIdentifiers(const TopologyRecords &records, VCpuTopology &topology)
 {
     std::uint32_t count = 0;
     for (const TopologyRecords::Processor &read : records.processors) {
@@ -200,7 +201,7 @@ void cutIdentifiers(const TopologyRecords &records, VCpuTopology &topology)
         VCpuTopology::Processor &processor = topology.processors[count++];
         processor.index = read.index;
         processor.apicId = read.apicId;
-        // A shift of 32 stands for an empty field.
+        // A shift of 32 means an empty field.
         processor.package = std::uint32_t(std::uint64_t(read.apicId & topology.pkgSelectMask) >> topology.pkgSelectShift);
         processor.core = std::uint32_t(std::uint64_t(read.apicId & topology.coreSelectMask) >> topology.coreSelectShift);
         processor.thread = read.apicId & topology.smtSelectMask;
@@ -210,8 +211,8 @@ void cutIdentifiers(const TopologyRecords &records, VCpuTopology &topology)
     topology.threadCount = count;
 }
 
-/// The places that the system tells, instead of cut identifiers.
-void takePlaces(const TopologyRecords &records, VCpuTopology &topology)
+/// Uses the places reported by the system instead of splitting identifiers.
+void usePlaces(const TopologyRecords &records, VCpuTopology &topology)
 {
     std::uint32_t count = 0;
     for (std::uint32_t i = 0; i < records.places.size() && i < topology.osProcessorCount; ++i) {
@@ -263,7 +264,7 @@ void countCaches(VCpuTopology &topology)
         std::vector<std::uint32_t> identifiers;
         for (std::uint32_t i = 0; i < topology.threadCount; ++i) {
             if (subleaf >= topology.processors[i].caches.size())
-                return; // places told by the system come without caches
+                return; // places reported by the system come without caches
             const std::uint32_t found = placeOf(topology.processors[i].caches[subleaf], identifiers);
             if (found >= table.dim[0])
                 abandon(
@@ -279,15 +280,15 @@ void enumerate(const TopologyRecords &records, VCpuTopology &topology)
     topology.processors.resize(records.processorCount + 1);
     topology.perPkg_detectedCoresCount.allocate(records.processorCount + 1);
     topology.perEachCache_detectedThreadCount.allocate(records.processorCount + 1);
-    const bool told = !records.places.empty();
-    if (!told) {
+    const bool placesReported = !records.places.empty();
+    if (!placesReported) {
         selectMasks(records, topology);
         describeCaches(records, topology);
     }
     if (topology.error == 0)
         buildMasks(records, topology);
     if (topology.error == 0)
-        told ? takePlaces(records, topology) : cutIdentifiers(records, topology);
+        placesReported ? usePlaces(records, topology) : splitIdentifiers(records, topology);
     if (topology.error != 0)
         return;
     countCores(topology);

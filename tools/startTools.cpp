@@ -17,7 +17,7 @@ VToolsContext toolsContext;
 namespace {
 
 bool started = false;
-bool poolIsOwn = false; ///< Made for a host that lends none; likewise the next.
+bool poolIsOwn = false; ///< Made because the host lends none; likewise the next.
 bool foldersAreOwn = false;
 std::int32_t *sharedValue = nullptr;
 
@@ -38,10 +38,10 @@ void makeOwn()
 {
     initLog(nullptr);
     initTopology(nullptr);
-    kmp_set_blocktime(0);
-    omp_get_max_threads(); // brings the run-time up before the topology is walked
-    omp_set_schedule(omp_sched_guided, /*chunk_size=*/10);
-    threadCount = physicalCores() * threadsPerCore();
+    kmp_set_blocktime(0);                                  // fixed: hosts rely on it, for the whole process
+    omp_get_max_threads();                                 // starts the run-time before the topology is walked
+    omp_set_schedule(omp_sched_guided, /*chunk_size=*/10); // fixed: no loop here has a run-time schedule, a host's may
+    threadCount = physicalCores() * threadsPerCore();      // fixed: hosts rely on the truncated quotient
     coreCount = physicalCores();
     if (const auto quota = std::int32_t(GetProcessorQuota()); quota > 0 && quota < threadCount)
         threadCount = quota;
@@ -68,7 +68,7 @@ void startTools(VToolsContext *context)
 void stopTools()
 {
     if (!started) {
-        // What was lent is forgotten, so that a later start alone makes its own.
+        // What was lent is forgotten, so that a later start alone makes its own objects.
         if (std::exchange(poolIsOwn, false))
             releasePool();
         if (std::exchange(foldersAreOwn, false))

@@ -23,7 +23,7 @@ void ByteReader::seek(std::uint64_t position)
     next = position <= end ? position : throw EndOfBytes{};
 }
 
-/// Brings the next `count` bytes into the window, and what follows them, as parsers go on.
+/// Brings the next `count` bytes into the window, with what follows them, which parsers usually want next.
 void ByteReader::fill(std::size_t count)
 {
     buffer.resize(std::size_t(std::min<std::uint64_t>(remaining(), kWindow)));

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-/// Bytes that can be had from any place, such as those of an open file.
+/// Bytes that can be read at any offset, such as those of an open file.
 class ByteSource
 {
 public:
@@ -18,16 +18,16 @@ protected:
     ~ByteSource() = default;
 };
 
-/// What a ByteReader throws where its bytes end before what it is asked for.
+/// Thrown by a ByteReader whose bytes end before what is requested.
 struct EndOfBytes
 {
 };
 
 enum class ByteOrder { Big, Little };
 
-/// Reads a stretch of foreign bytes, in memory or in a file, from any position and never beyond its end: where the stretch does
-/// not hold what a call asks for, the call throws EndOfBytes before it allocates or moves anything. So a parser states what it
-/// expects, in order, and needs no check of its own.
+/// Reads a stretch of untrusted bytes, in memory or in a file, from any position and never beyond its end: where the stretch is
+/// too short for a request, the call throws EndOfBytes before it allocates or moves anything. So a parser reads what it expects,
+/// in order, and needs no bounds checks.
 class ByteReader
 {
 public:
@@ -39,15 +39,15 @@ public:
     ByteReader(const ByteReader &) = delete;
     ByteReader &operator=(const ByteReader &) = delete;
 
-    /// Of the numbers read from here on.
+    /// Byte order of the numbers read from now on.
     ByteOrder order() const { return byteOrder; }
     void setOrder(ByteOrder order) { byteOrder = order; }
 
     std::uint64_t position() const { return next; }
     std::uint64_t remaining() const { return end - next; }
-    /// Whether `count` bytes from `position` on lie inside of the stretch.
+    /// Whether `count` bytes from `position` lie inside the stretch.
     bool holds(std::uint64_t position, std::uint64_t count) const { return position <= end && count <= end - position; }
-    /// Whether these few bytes come next. Doesn't move.
+    /// Whether these few bytes come next. Does not move the position.
     bool startsWith(std::string_view bytes);
 
     void seek(std::uint64_t position);
@@ -58,14 +58,15 @@ public:
     std::uint64_t u64() { return number(8); }
     void read(void *target, std::size_t count);
     std::vector<std::uint8_t> bytes(std::uint64_t count);
-    /// The characters up to a zero byte, which is read too. Throws EndOfBytes also where more than `longest` come before it.
+    /// The characters up to a zero byte, which is consumed too. Throws EndOfBytes also if more than `longest` characters precede
+    /// it.
     std::string text(std::size_t longest);
-    /// A reader of the next `count` bytes, whose positions start from 0; this one moves behind them.
+    /// A reader of the next `count` bytes, whose positions start at 0; this reader moves past them.
     ByteReader stretch(std::uint64_t count);
 
 private:
     std::uint64_t checked(std::uint64_t count) const { return count <= remaining() ? count : throw EndOfBytes{}; }
-    /// The address of the next `count` bytes, few of them; moves behind them.
+    /// The address of the next `count` bytes, which must fit into the window; moves past them.
     const std::uint8_t *take(std::size_t count)
     {
         checked(count);
@@ -79,10 +80,10 @@ private:
     std::uint64_t number(std::size_t count);
 
     const ByteSource *source = nullptr; ///< Null: all bytes are in memory.
-    std::uint64_t start = 0;            ///< Of the stretch, in the source.
-    std::uint64_t end;                  ///< Positions count from the start of the stretch.
+    std::uint64_t start = 0;            ///< Where the stretch starts in the source.
+    std::uint64_t end;                  ///< Length of the stretch: positions count from its start.
     std::uint64_t next = 0;
-    const std::uint8_t *window = nullptr; ///< The bytes that are at hand: of memory all, else those in `buffer`.
+    const std::uint8_t *window = nullptr; ///< The bytes in memory: all of them, or those in `buffer`.
     std::uint64_t windowStart = 0;
     std::uint64_t windowEnd = 0;
     std::vector<std::uint8_t> buffer;

@@ -24,7 +24,7 @@ struct Format
     void (*write)(const WriteRequest &);
 };
 
-// In the order of the format indices, which is that of PhotoKind.
+// In the order of the format indices, which is the order of PhotoKind.
 constexpr Format kFormats[] = {
     {"jpeg", readJpeg, writeJpeg}, {"png", readPng, writePng}, {"tiff", readTiff, writeTiff},
     {"hdri", readHdr, writeHdr},   {"exr", readExr, writeExr}, {"psd", readPsd, writePsd},
@@ -58,8 +58,9 @@ int formatOf(const InputFile &file)
     return isRawSuffix(suffix) || isRawOnly(kind) ? kRawFormat : int(kind);
 }
 
+/// Runs `work` and returns the result code of what it throws.
 template<typename Work>
-int coded(Work work)
+int resultOf(Work work)
 {
     try {
         work();
@@ -90,7 +91,7 @@ bool isWritable(const GflBitmap &bitmap)
 
 int gflLibraryInitEx(GflAllocCallback alloc, GflReallocCallback realloc, GflFreeCallback free, void *user)
 {
-    // Blocks of two heaps must not meet.
+    // Memory from two heaps must not be mixed.
     const bool all = alloc && realloc && free;
     if (!all && (alloc || realloc || free))
         return GFL_ERROR_BAD_PARAMETERS;
@@ -135,7 +136,7 @@ int gflLoadBitmapUTF8(const char *fileName, GflBitmap **bitmap, const GflLoadPar
     if (!fileName || !bitmap)
         return GFL_ERROR_BAD_PARAMETERS;
     *bitmap = nullptr;
-    return gfl::coded([&] {
+    return gfl::resultOf([&] {
         const gfl::InputFile file(fileName);
         const int index = gfl::formatOf(file);
         const std::uint32_t flags = params ? params->flags : 0;
@@ -159,7 +160,7 @@ int gflSaveBitmapUTF8(const char *fileName, const GflBitmap *bitmap, const GflSa
         return GFL_ERROR_BAD_BITMAP;
     if (params->formatIndex < 0 || params->formatIndex >= int(std::size(gfl::kFormats)))
         return GFL_ERROR_BAD_FORMAT_INDEX;
-    return gfl::coded([&] {
+    return gfl::resultOf([&] {
         static const gfl::Metadata kNone;
         const gfl::Metadata *attached = gfl::metadataOf(bitmap);
         const gfl::Metadata &metadata = attached ? *attached : kNone;
@@ -176,7 +177,7 @@ int gflTransposeJpegUTF8(const char *sourceName, const char *targetName)
 {
     if (!sourceName || !targetName)
         return GFL_ERROR_BAD_PARAMETERS;
-    return gfl::coded([&] {
+    return gfl::resultOf([&] {
         const gfl::InputFile source(sourceName);
         if (gfl::formatOf(source) != gflGetFormatIndexByName("jpeg"))
             throw gfl::Failure{GFL_ERROR_UNKNOWN_FORMAT};

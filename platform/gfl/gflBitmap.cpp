@@ -6,13 +6,13 @@
 namespace gfl {
 namespace {
 
-// Set by gflLibraryInitEx before any bitmap is made, and only read from then on.
+// Set by gflLibraryInitEx before any bitmap exists, and only read after that.
 GflAllocCallback allocCallback = nullptr;
 GflReallocCallback reallocCallback = nullptr;
 GflFreeCallback freeCallback = nullptr;
 void *allocUser = nullptr;
 
-// The setters have no way to report a failed allocation: the bitmap then simply lacks the block.
+// The setters can't report a failed allocation; the bitmap then simply lacks the block.
 template<typename Change>
 void changeMetadata(GflBitmap *bitmap, Change change)
 {

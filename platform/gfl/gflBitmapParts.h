@@ -9,20 +9,20 @@
 
 struct GflIptc
 {
-    std::vector<std::uint8_t> block; ///< Datasets as they stand in the file, from the first 0x1C.
+    std::vector<std::uint8_t> block; ///< The file's datasets verbatim, from the first 0x1C.
 };
 
 struct GflExif
 {
-    std::vector<std::uint8_t> block; ///< A TIFF stream, from its "II" or "MM".
+    std::vector<std::uint8_t> block; ///< A TIFF stream, starting with its "II" or "MM".
 };
 
-/// What a bitmap is made of inside this layer: its memory, and the metadata that is attached to it.
+/// The parts of a bitmap inside this layer: its memory and its attached metadata.
 namespace gfl {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// How a failure is thrown inside the layer; gfl.cpp turns it, and whatever the libraries throw, into a code.
+/// Thrown inside the layer; gfl.cpp turns it, and whatever the libraries throw, into a result code.
 struct Failure
 {
     GflCode code;
@@ -38,10 +38,10 @@ struct Metadata
 
 /// The attached metadata, or null.
 Metadata *metadataOf(const GflBitmap *bitmap);
-/// The attached metadata, made if there is none. Throws std::bad_alloc.
+/// The attached metadata, created if there is none. Throws std::bad_alloc.
 Metadata &attachMetadata(GflBitmap &bitmap);
 
-// The allocator that bitmaps are made with; null stands for no memory.
+// The allocator for bitmaps. A null result means out of memory.
 void setAllocator(GflAllocCallback alloc, GflReallocCallback realloc, GflFreeCallback release, void *user);
 void *allocate(std::size_t bytes);
 void *reallocate(void *block, std::size_t bytes);

@@ -14,7 +14,7 @@ struct ReadRequest
 {
     const InputFile &file;
     bool metadata; ///< Colour profile, IPTC and EXIF are wanted.
-    bool pixels;   ///< False: the bitmap needs no pixel block.
+    bool pixels;   ///< If false, the bitmap needs no pixel block.
 };
 
 BitmapPointer readJpeg(const ReadRequest &request);
@@ -23,10 +23,10 @@ BitmapPointer readTiff(const ReadRequest &request);
 BitmapPointer readHdr(const ReadRequest &request);
 BitmapPointer readExr(const ReadRequest &request);
 BitmapPointer readPsd(const ReadRequest &request);
-/// Metadata only, with a bitmap of one pixel.
+/// Reads only metadata; the bitmap has a single pixel.
 BitmapPointer readRaw(const ReadRequest &request);
 
-/// What a codec is asked to write. The three blocks are empty where there is nothing to write.
+/// What a codec is asked to write. A metadata block is empty if there is nothing to write.
 struct WriteRequest
 {
     OutputFile &file;
@@ -47,7 +47,7 @@ void writeHdr(const WriteRequest &request);
 void writeExr(const WriteRequest &request);
 void writePsd(const WriteRequest &request);
 
-/// A resolution as the record holds it: 0 where it is none.
+/// A resolution in the record's form; 0 if it is out of range.
 constexpr std::uint16_t dpiFrom(double dotsPerInch)
 {
     return dotsPerInch >= 1.0 && dotsPerInch <= 65535.0 ? std::uint16_t(dotsPerInch + 0.5) : std::uint16_t(0);

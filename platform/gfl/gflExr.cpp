@@ -55,7 +55,7 @@ public:
     void write(const char bytes[], int count) override { check(file.tryWrite(bytes, std::size_t(count))); }
     std::uint64_t tellp() override { return file.offset(); }
     void seekp(std::uint64_t offset) override { check(file.trySeek(offset)); }
-    /// The library's destructor writes too, and swallows what goes wrong.
+    /// Whether any write failed: the library's destructor writes too, and swallows errors.
     bool failed() const { return broken; }
 
 private:
@@ -71,7 +71,7 @@ private:
     bool broken = false;
 };
 
-/// The value of one attribute, for the library to read: the file seems to end where the value does.
+/// The value of one attribute, for the library to read. To the library, the file seems to end with the value.
 class ValueAdapter : public Imf::IStream
 {
 public:
@@ -89,19 +89,19 @@ private:
     ByteReader value;
 };
 
-// What follows, up to checkChunks(), holds a file to what OpenEXR 3.1.5 takes for granted; a later version may need less.
+// The functions up to checkChunks() verify what OpenEXR 3.1.5 takes for granted; a later version may need fewer checks.
 //
-// readAttributes(): for a text, a list of floats or a value of unknown type it allocates what the attribute claims, before it
-// reads. Any other value it reads by its type, whatever size the attribute claims, and goes on from there, a list of channels
-// even beyond the attribute's end: what it takes for the next attribute is then not what anybody has checked. checkClaims(): it
-// makes buffers for as many lines, or a tile as large, as the header claims, and its own test of a large table of chunks
-// overflows. A request without pixels reads no chunk, so that only here a file shows that it was cut short. checkChunks(): where
-// a chunk makes fewer bytes than its pixels take, it hands out memory that nobody has written.
+// readAttributes(): for a text, a list of floats or a value of unknown type the library allocates what the attribute claims
+// before it reads. It reads any other value by its type, whatever size the attribute claims, and a list of channels even beyond
+// the attribute's end, and continues from there: the next attribute that it sees is then not the one that was checked.
+// checkClaims(): it allocates buffers for as many lines, or for a tile as large, as the header claims, and its own check of a
+// large chunk table overflows. A request without pixels reads no chunk, so only this check notices a truncated file.
+// checkChunks(): if a chunk unpacks to fewer bytes than its pixels take, the library hands out uninitialised memory.
 
-/// Reads the header, value by value, each held against the file's size before and against its own size behind. Throws EndOfBytes
-/// or FILE_READ if the file is too short for its attributes. Returns what the library is going to find; `version` receives the
-/// version and its flags, `table` where the table of chunks begins. Where the file states none, the window is empty and the
-/// packing is the one that may claim most.
+/// Reads the header value by value, checking each claimed size against the file before reading and against what was read
+/// afterwards. Throws EndOfBytes or FILE_READ if the file is too short for its attributes. Returns what the library will find;
+/// `version` receives the version and its flags, `table` the offset of the chunk table. If the file lacks them, the window is
+/// empty and the packing is the one that may claim most.
 Imf::Header readAttributes(const InputFile &file, int &version, std::uint64_t &table)
 {
     constexpr std::size_t kLongestName = 255;
@@ -119,7 +119,7 @@ Imf::Header readAttributes(const InputFile &file, int &version, std::uint64_t &t
         ValueAdapter value(reader.stretch(size));
         const bool present = header.find(name) != header.end();
         if (!present && !Imf::Attribute::knownType(type.c_str()))
-            continue; // the library keeps it as it is
+            continue; // the library keeps it verbatim
         if (!present)
             header.insert(name, *std::unique_ptr<Imf::Attribute>(Imf::Attribute::newAttribute(type.c_str())));
         Imf::Attribute &attribute = header[name];
@@ -133,7 +133,7 @@ Imf::Header readAttributes(const InputFile &file, int &version, std::uint64_t &t
     return header;
 }
 
-/// What a packing makes of a byte at the most.
+/// Most bytes that one packed byte can expand to.
 double mostPerByte(Imf::Compression packing)
 {
     switch (packing) {
@@ -145,7 +145,7 @@ double mostPerByte(Imf::Compression packing)
     case Imf::ZIP_COMPRESSION:
         return double(kDeflateRatio);
     case Imf::PXR24_COMPRESSION:
-        return double(kDeflateRatio) * 4 / 3; // deflates three bytes of four
+        return double(kDeflateRatio) * 4 / 3; // deflates three of four bytes
     case Imf::DWAA_COMPRESSION:
     case Imf::DWAB_COMPRESSION:
         return double(kDeflateRatio) * 64; // deflates one number for a flat block of 64
@@ -154,8 +154,8 @@ double mostPerByte(Imf::Compression packing)
     }
 }
 
-/// Throws FILE_READ if the file is too short for its attributes, its table of chunks, one chunk's pixels or all pixels. Returns
-/// where the table of chunks begins.
+/// Throws FILE_READ if the file is too short for its attributes, its chunk table, one chunk's pixels or all pixels. Returns the
+/// offset of the chunk table.
 std::uint64_t checkClaims(const InputFile &file)
 {
     int version = 0;
@@ -172,14 +172,14 @@ std::uint64_t checkClaims(const InputFile &file)
     const bool tiled = tile.xSize > 0 && tile.ySize > 0;
     if (Imf::isTiled(version) != tiled)
         throw Failure{GFL_ERROR_FILE_READ};
-    // What can be in one piece: 256 lines at most, or a tile. A chunk takes 8 bytes in the table and 8 before its pixels.
+    // A chunk holds at most 256 lines, or a tile. It takes 8 bytes in the table and 8 before its pixels.
     constexpr std::uint64_t kLinesPerChunk = 256;
     constexpr std::uint64_t kBytesPerChunk = 16;
     const std::uint64_t w = std::uint64_t(width);
     const std::uint64_t h = std::uint64_t(height);
     const std::uint64_t chunks = tiled ? ((w + tile.xSize - 1) / tile.xSize) * ((h + tile.ySize - 1) / tile.ySize)
                                        : (h + kLinesPerChunk - 1) / kLinesPerChunk;
-    std::uint64_t channels = 1; // one more than there are
+    std::uint64_t channels = 1; // one more than the file has
     double pixelBytes = 0;
     for (auto at = header.channels().begin(); at != header.channels().end(); ++at, ++channels)
         pixelBytes += (at.channel().type == Imf::HALF ? 2 : 4) /
@@ -216,7 +216,7 @@ std::int64_t multiples(std::int64_t step, std::int64_t first, std::int64_t last)
     return below(last) - below(first - 1);
 }
 
-/// Bytes that run lengths make. Throws EndOfBytes if they go beyond the packed ones.
+/// Bytes that run-length data unpacks to. Throws EndOfBytes if a run extends beyond the packed bytes.
 std::uint64_t unpackedRuns(const Bytes &packed)
 {
     std::uint64_t total = 0;
@@ -229,8 +229,8 @@ std::uint64_t unpackedRuns(const Bytes &packed)
     return total;
 }
 
-/// Throws FILE_READ or EndOfBytes if a chunk of the full size's pixels is not all in the file, or makes fewer bytes than its
-/// pixels take. `table` is where the offsets of the chunks stand. Of the packings that are left out the library sees it itself.
+/// Throws FILE_READ or EndOfBytes if a chunk of the full-size image is not completely in the file, or unpacks to fewer bytes than
+/// its pixels take. `table` is the offset of the chunk table. The library itself checks the packings that are not unpacked here.
 void checkChunks(const InputFile &file, const Imf::Header &header, std::uint64_t table)
 {
     const Imath::Box2i &window = header.dataWindow();
@@ -263,7 +263,7 @@ void checkChunks(const InputFile &file, const Imf::Header &header, std::uint64_t
             if (size > whole)
                 throw Failure{GFL_ERROR_FILE_READ};
             if (size == whole)
-                continue; // as it is
+                continue; // stored unpacked
             std::size_t made = std::size_t(whole);
             if (packing == Imf::NO_COMPRESSION || size == 0) {
                 made = 0;
@@ -281,7 +281,7 @@ void checkChunks(const InputFile &file, const Imf::Header &header, std::uint64_t
         }
 }
 
-/// The names of the channels that make up the picture: three, or one, or none for luminance with subsampled colour.
+/// The names of the channels that make up the picture: three, one, or none for luminance with subsampled colour.
 struct Channels
 {
     std::vector<std::string> names;
@@ -412,7 +412,7 @@ void readChroma(const InputFile &source, bool alpha, NewBitmap &bitmap)
     Imf::RgbaInputFile file(stream, kNoThreads);
     const Imath::Box2i window = file.dataWindow();
     std::vector<Imf::Rgba> row(std::size_t(bitmap.width()));
-    // The library counts from x = 0, wherever the window begins.
+    // The library counts from x = 0, wherever the window starts.
     auto *const base = reinterpret_cast<Imf::Rgba *>(reinterpret_cast<std::uintptr_t>(row.data()) -
                                                      sizeof(Imf::Rgba) * std::uintptr_t(std::intptr_t(window.min.x)));
     for (int y = 0; y < bitmap.height(); ++y) {

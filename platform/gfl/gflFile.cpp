@@ -42,7 +42,7 @@ std::string folderOf(const std::string &file)
     return file.substr(0, file.find_last_of('/') + 1);
 }
 
-/// The path of an open file that may have no name. On the heap it could fail.
+/// The path of an open file that may have no name. Not on the heap, where it could fail.
 struct OpenPath
 {
     explicit OpenPath(int descriptor) { std::snprintf(text, sizeof text, "/proc/self/fd/%d", descriptor); }
@@ -150,12 +150,12 @@ OutputFile::OutputFile(const char *fileName) : buffer(kBufferBytes)
 
     struct stat old;
     const bool exists = ::stat(target.c_str(), &old) == 0;
-    // Renaming would get past the write protection of the file that it replaces, and put a file in the place of a device.
+    // A rename would bypass the write protection of the file that it replaces, and could replace a device by a file.
     if (exists && (!S_ISREG(old.st_mode) || ::access(target.c_str(), W_OK) != 0))
         throw Failure{GFL_ERROR_FILE_CREATE};
 
-    // Where the file system can keep a file without a name, nothing is left of it when the process is killed. It gets its name by
-    // way of /proc.
+    // A file without a name, where the file system supports it, leaves nothing behind when the process is killed. It gets its
+    // name through /proc.
     const std::string folder = folderOf(target);
     descriptor = ::open(folder.empty() ? "." : folder.c_str(), O_RDWR | O_TMPFILE | O_CLOEXEC, 0666);
     if (descriptor >= 0 && ::access(OpenPath(descriptor).text, F_OK) != 0) {
@@ -170,7 +170,7 @@ OutputFile::OutputFile(const char *fileName) : buffer(kBufferBytes)
     if (descriptor < 0)
         throw Failure{GFL_ERROR_FILE_CREATE};
     if (exists)
-        ::fchmod(descriptor, old.st_mode & 07777); // a file system without modes refuses, which does no harm
+        ::fchmod(descriptor, old.st_mode & 07777); // a file system without modes refuses, which is harmless
 }
 
 OutputFile::~OutputFile()
@@ -184,7 +184,7 @@ OutputFile::~OutputFile()
 template<typename Make>
 bool OutputFile::underFreshName(Make make)
 {
-    // Of a fixed length, so that the longest file name works too.
+    // Independent of the target's name, so that the longest file name works too.
     static std::atomic<unsigned> serial{0};
     constexpr int kAttempts = 100;
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
@@ -265,7 +265,7 @@ void OutputFile::commit()
         };
         if (link(target.c_str()))
             return;
-        // What stands there can only be replaced by a file that has a name.
+        // An existing file can only be replaced by a file that has a name.
         if (errno != EEXIST || !underFreshName(link))
             throw Failure{GFL_ERROR_FILE_WRITE};
     }

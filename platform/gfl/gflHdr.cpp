@@ -5,8 +5,8 @@
 
 #include "gflCodec.h"
 
-// Radiance RGBE: text lines, an empty one, the size, then rows of pixels of three mantissas and one exponent. Source: G. Ward,
-// Real Pixels, Graphics Gems II, 1991, and the Radiance file format description.
+// Radiance RGBE: text lines, an empty line, the size, then rows of pixels, each with three mantissas and one exponent. Source: G.
+// Ward, Real Pixels, Graphics Gems II, 1991, and the Radiance file format description.
 namespace gfl {
 namespace {
 
@@ -50,7 +50,7 @@ Size readHeader(InputStream &stream)
     Size size;
     char ySign = 0;
     char xSign = 0;
-    // Pictures that are stored column by column ("+X 600 +Y 400") are not read.
+    // Pictures stored column by column ("+X 600 +Y 400") are not supported.
     if (!blank || std::sscanf(line(stream).c_str(), "%cY %9ld %cX %9ld", &ySign, &size.height, &xSign, &size.width) != 4)
         throw Failure{GFL_ERROR_FILE_READ};
     size.bottomUp = ySign == '+';
@@ -78,7 +78,7 @@ void readRuns(InputStream &stream, std::uint8_t *pixels, int width)
         }
 }
 
-// Pixels as they are; (1, 1, 1, n) repeats the one before n times, and further ones in a row count in higher digits.
+// Unpacked pixels; (1, 1, 1, n) repeats the previous pixel n times, and consecutive repeats count in higher digits.
 void readOldRuns(InputStream &stream, std::uint8_t *pixels, int width, const std::uint8_t first[4])
 {
     int shift = 0;
@@ -118,7 +118,7 @@ void readRow(InputStream &stream, std::uint8_t *pixels, int width)
         throw Failure{GFL_ERROR_FILE_READ};
 }
 
-/// 2 to the power of (exponent - bias), exact over the whole range of a byte.
+/// 2 to the power of (exponent - bias), exact for every byte value.
 struct Scales
 {
     float byExponent[256];
@@ -130,11 +130,11 @@ struct Scales
     }
 };
 
-// Rounds to the nearest mantissa, so that what is read back is off by half a step at most. What can't be held (negative, not a
-// number) becomes black; infinity the largest value.
+// Rounds to the nearest mantissa, so that reading it back is off by half a step at most. Values that can't be stored (negative,
+// NaN) become black; infinity becomes the largest value.
 void encode(const float *rgb, std::uint8_t *pixel)
 {
-    constexpr float kSmallest = 1e-32f;    // well within the exponent's byte, and that the scale below stays finite
+    constexpr float kSmallest = 1e-32f;    // well within the exponent's byte; the scale below stays finite
     constexpr float kLargest = 1.6947e38f; // 255 / 256 of 2^127
     float value[3];
     float largest = 0.0f;
@@ -147,7 +147,7 @@ void encode(const float *rgb, std::uint8_t *pixel)
         return;
     }
     int exponent;
-    const float fraction = std::frexp(largest, &exponent); // 0.5 up to 1
+    const float fraction = std::frexp(largest, &exponent); // at least 0.5, below 1
     if (fraction >= 255.5f / 256.0f)
         ++exponent;
     const float scale = std::ldexp(1.0f, 8 - exponent);

@@ -18,7 +18,7 @@ constexpr char kExifMark[] = "Exif\0"; // with the terminator, "Exif\0\0"
 constexpr char kPhotoshopMark[] = "Photoshop 3.0";
 constexpr std::size_t kSegmentLimit = 65533;
 constexpr int kIccMarker = JPEG_APP0 + 2;
-constexpr int kBand = 16; // rows a call of the library
+constexpr int kBand = 16; // rows per call of the library
 
 struct ErrorState
 {
@@ -35,7 +35,7 @@ struct ErrorState
     std::longjmp(state->jump, 1);
 }
 
-// The library decodes on after a warning, with grey in the place of what is missing: for us these files are damaged.
+// After a warning the library continues decoding and fills what is missing with grey. Here such a file counts as damaged.
 void onMessage(j_common_ptr info, int level)
 {
     switch (level < 0 ? info->err->msg_code : 0) {
@@ -61,7 +61,7 @@ jpeg_error_mgr *prepare(ErrorState &state)
     return manager;
 }
 
-// Runs calls of the library. They may jump out of here, so `call` must not make objects that have a destructor.
+// Runs calls of the library, which may jump out of here: `call` must not create objects with destructors.
 template<typename Call>
 void guarded(ErrorState &state, Call call)
 {
@@ -101,7 +101,7 @@ void skipSource(j_decompress_ptr info, long count)
     }
 }
 
-// A file of many empty scans takes the library hours.
+// A file with many empty scans would keep the library busy for hours.
 void onProgress(j_common_ptr info)
 {
     constexpr int kMostScans = 500;
@@ -142,7 +142,7 @@ void readSegments(Reader &reader, Metadata &metadata)
             metadata.exif.block.assign(data + sizeof kExifMark, data + count);
         else if (marker->marker == JPEG_APP0 + 13 && count > sizeof kPhotoshopMark &&
                  !std::memcmp(data, kPhotoshopMark, sizeof kPhotoshopMark))
-            resources.insert(resources.end(), data + sizeof kPhotoshopMark, data + count); // long ones go on in further segments
+            resources.insert(resources.end(), data + sizeof kPhotoshopMark, data + count); // one of several segments
     }
     metadata.iptc.block = photoshopResource(resources, kResourceIptc);
 
@@ -154,7 +154,7 @@ void readSegments(Reader &reader, Metadata &metadata)
         metadata.icc.assign(profile, profile + count);
 }
 
-// Adobe's programs store the inks inverted, and say so by their marker.
+// Adobe's programs store the inks inverted, which their marker indicates.
 void inksToRgb(const std::uint8_t *inks, std::uint8_t *rgb, int width, bool inverted)
 {
     const unsigned flip = inverted ? 0 : 255;
@@ -165,7 +165,7 @@ void inksToRgb(const std::uint8_t *inks, std::uint8_t *rgb, int width, bool inve
     }
 }
 
-// Before the library holds all coefficients of a file.
+// Called before the library holds all coefficients of a file. Throws FILE_READ if the file is too small for them.
 void checkClaim(const jpeg_decompress_struct &info, std::uint64_t fileBytes)
 {
     const std::uint64_t blocks = std::uint64_t(info.image_width) * info.image_height / 64;
@@ -269,12 +269,12 @@ void writeSegments(Writer &writer, const WriteRequest &request)
         put(JPEG_APP0 + 13, segment);
         start += part;
     }
-    // A profile is cut into at most 255 segments.
+    // A profile is split into at most 255 segments.
     if (!request.icc.empty() && request.icc.size() <= 255 * std::size_t(65519))
         guarded(writer.error, [&] { jpeg_write_icc_profile(&writer.info, request.icc.data(), unsigned(request.icc.size())); });
 }
 
-/// Copies the segments as they stand, but for the two that the library writes itself.
+/// Copies the segments verbatim, except for the two that the library writes itself.
 void copySegments(const Reader &reader, Writer &writer)
 {
     const auto is = [](const jpeg_marker_struct &marker, int code, const char *name) {
@@ -286,8 +286,8 @@ void copySegments(const Reader &reader, Writer &writer)
             guarded(writer.error, [&] { jpeg_write_marker(&writer.info, marker->marker, marker->data, marker->data_length); });
 }
 
-/// Block (x, y) of the target is block (y, x) of the source with its frequencies mirrored likewise. Blocks at the edges are
-/// filled up to their full size in either file, and so stay at the edge. The target's rows have to be asked for in order.
+/// Block (x, y) of the target is block (y, x) of the source with its frequencies transposed as well. Blocks at the edges are
+/// padded to full size in either file, and so stay at the edge. The target's rows must be requested in order.
 void transposeBlocks(jpeg_decompress_struct &info, const jpeg_component_info &component, jvirt_barray_ptr source,
                      jvirt_barray_ptr target)
 {
@@ -321,8 +321,8 @@ void transposeParameters(jpeg_compress_struct &info)
                 std::swap(table->quantval[i * DCTSIZE + j], table->quantval[j * DCTSIZE + i]);
 }
 
-/// Whether the mark of the end stands behind the start of the pixels: a file that was cut short has lost it.
-bool endsWhole(const InputFile &file)
+/// Whether the end marker follows the start of the pixels: a truncated file has lost it.
+bool hasEndMarker(const InputFile &file)
 {
     std::uint64_t scan = 2;
     std::uint8_t head[4];
@@ -333,7 +333,7 @@ bool endsWhole(const InputFile &file)
         if (startOfScan)
             break;
     }
-    // From behind, in pieces that overlap by a byte: what follows the mark is seldom more than padding.
+    // Backwards from the end, in pieces that overlap by a byte: the marker is rarely followed by more than padding.
     constexpr std::uint64_t kPiece = 65536;
     Bytes piece(kPiece + 1);
     for (std::uint64_t end = file.size(); end > scan;) {
@@ -383,7 +383,7 @@ BitmapPointer readJpeg(const ReadRequest &request)
     bitmap.record().yDpi = dpiFrom(info.Y_density * unit);
     if (request.metadata)
         readSegments(reader, attachMetadata(bitmap.record()));
-    if (!request.pixels && !endsWhole(request.file))
+    if (!request.pixels && !hasEndMarker(request.file))
         throw Failure{GFL_ERROR_FILE_READ};
     if (request.pixels)
         readPixels(reader, bitmap, request.file.size());
@@ -395,7 +395,7 @@ void writeJpeg(const WriteRequest &request)
     const GflBitmap &bitmap = request.bitmap;
     if (bitmap.width > JPEG_MAX_DIMENSION || bitmap.height > JPEG_MAX_DIMENSION)
         throw Failure{GFL_ERROR_BAD_BITMAP};
-    // An alpha is left out, not composited: the colours are the photograph, whatever lay over or under it.
+    // Alpha is dropped, not composited: the colours are the photograph, whatever the transparency.
     const bool skipsAlpha = bitmap.componentsPerPixel == 4 && bitmap.bitsPerComponent == 8;
     const int components = bitmap.componentsPerPixel == 1 ? 1 : 3;
     SourceRows rows(bitmap, {skipsAlpha ? 4 : components, 8});
@@ -445,7 +445,7 @@ void transposeJpeg(const InputFile &source, OutputFile &target)
         jpeg_read_header(&in, TRUE);
     });
     checkClaim(in, source.size());
-    // The library makes these with its own, at the call that reads all coefficients.
+    // The library allocates these with its own arrays, in the call that reads all coefficients.
     jvirt_barray_ptr turned[MAX_COMPONENTS] = {};
     guarded(reader.error, [&] {
         for (int c = 0; c < in.num_components; ++c) {
@@ -463,10 +463,10 @@ void transposeJpeg(const InputFile &source, OutputFile &target)
         jpeg_create_compress(&out);
         out.dest = &writer.target->manager;
         jpeg_copy_critical_parameters(&in, &out);
-        out.write_JFIF_header = in.saw_JFIF_marker; // inks without Adobe's mean something else than with it
+        out.write_JFIF_header = in.saw_JFIF_marker; // without Adobe's marker the inks would mean something else
         out.write_Adobe_marker = in.saw_Adobe_marker;
-        // With tables of its own every coefficient has a code, or is refused; the standard ones lack some, which nobody would
-        // notice.
+        // With tables built for this file every coefficient has a code, or is rejected; the standard tables lack some codes,
+        // which would go unnoticed.
         out.optimize_coding = TRUE;
         transposeParameters(out);
         jpeg_write_coefficients(&out, turned);

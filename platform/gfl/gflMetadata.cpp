@@ -13,11 +13,11 @@
 namespace gfl {
 namespace {
 
-// The XMP toolkit beneath exiv2 serves one thread at a time. A lock function for it is the application's to give, once a process:
-// one of this layer would be left behind when a plug-in is unloaded. So the reads of this layer take turns by themselves.
+// The XMP toolkit beneath exiv2 serves one thread at a time. Only the application may give it a lock function, once per process;
+// one from this layer would be left dangling when the plug-in is unloaded. So this layer serialises its own reads.
 std::mutex xmpMutex;
 
-/// No message of exiv2 on the console of a program that knows nothing of it, for as long as this file is loaded.
+/// Mutes exiv2's messages while this library is loaded: they do not belong on a host's console.
 void startExiv2()
 {
     struct Muted
@@ -43,14 +43,14 @@ Bytes encoded(Exiv2::ExifData &data, Exiv2::ByteOrder order)
     return blob;
 }
 
-// What a new file may hold of another one's EXIF.
+// Whether a new file may take over this entry from another file's EXIF.
 bool isCarried(const Exiv2::Exifdatum &datum)
 {
     const std::string group = datum.groupName();
     if (group == "Image")
         return !isStructuralTag(datum.tag());
-    static const char *const kOfTheFile[] = {"Thumbnail", "SubImage", "SubThumb", "Image2", "Image3", "PanasonicRaw"};
-    return std::none_of(std::begin(kOfTheFile), std::end(kOfTheFile),
+    static const char *const kFileGroups[] = {"Thumbnail", "SubImage", "SubThumb", "Image2", "Image3", "PanasonicRaw"};
+    return std::none_of(std::begin(kFileGroups), std::end(kFileGroups),
                         [&](const char *name) { return group.compare(0, std::strlen(name), name) == 0; });
 }
 
@@ -95,7 +95,7 @@ void addRationals(Exiv2::ExifData &data, const char *key, const double *values, 
     data.add(Exiv2::ExifKey(key), &rationals);
 }
 
-// The nearest fraction with a denominator that a person would choose: 1/n below a second, tenths above.
+// The nearest fraction with a customary denominator: 1/n below 1, tenths above.
 Exiv2::URational fraction(double value)
 {
     if (value < 1)
@@ -192,7 +192,7 @@ bool isStructuralTag(unsigned tag)
         {254, 259},     // kind of image, size, bits, compression
         {262, 266},     // photometric, thresholding, cells, fill order
         {273, 273},     // strips
-        {277, 281},     // samples, rows a strip, strip counts, smallest and largest sample
+        {277, 281},     // samples, rows per strip, strip counts, smallest and largest sample
         {284, 284},     // planes
         {288, 293},     // free space, grey response, fax options
         {301, 301},     // transfer function
@@ -208,7 +208,7 @@ bool isStructuralTag(unsigned tag)
         {34377, 34377}, // image resources
         {34675, 34675}, // colour profile
         {37724, 37724}, // layers
-        {50706, 52600}, // DNG: a version number would make a raw file of any other
+        {50706, 52600}, // DNG: its version number would turn any file into a raw file
     };
     return std::any_of(std::begin(kRanges), std::end(kRanges), [&](Range r) { return tag >= r.first && tag <= r.last; });
 }
@@ -258,7 +258,7 @@ Bytes shrinkExif(const Bytes &exif, std::size_t limit)
         Exiv2::ExifData data;
         const Exiv2::ByteOrder order = Exiv2::ExifParser::decode(data, exif.data(), std::uint32_t(exif.size()));
         dropFrom(data, [](const Exiv2::Exifdatum &datum) { return datum.groupName() == "Thumbnail"; });
-        const Bytes smaller = encoded(data, order); // leaves out large unknown tags on its own
+        const Bytes smaller = encoded(data, order); // leaves out large unknown tags by itself
         if (smaller.size() <= limit)
             return smaller;
     } catch (const Exiv2::AnyError &) {

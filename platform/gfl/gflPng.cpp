@@ -30,7 +30,7 @@ struct Reader
     ~Reader() { png_destroy_read_struct(&png, &info, nullptr); }
 };
 
-// The library's own jump buffer is set here. Its calls may jump out, so `call` must not make objects that have a destructor.
+// Runs calls of the library, which may jump out of here: `call` must not create objects with destructors.
 template<typename Call>
 void guarded(png_structp png, Call call)
 {
@@ -62,7 +62,7 @@ void openReader(Reader &reader)
     png_set_read_fn(reader.png, &reader.stream, onRead);
     guarded(reader.png, [&] {
         png_set_keep_unknown_chunks(reader.png, PNG_HANDLE_CHUNK_NEVER, nullptr, 0);
-        // Metadata is collected as it stands, by collect().
+        // collectMetadata() gathers the metadata verbatim.
         static constexpr png_byte kIgnored[] = "iCCP\0tEXt\0zTXt\0iTXt\0eXIf";
         png_set_keep_unknown_chunks(reader.png, PNG_HANDLE_CHUNK_NEVER, kIgnored, 5);
         png_read_info(reader.png, reader.info);
@@ -158,7 +158,7 @@ Bytes rawProfile(const Bytes &text)
     return result;
 }
 
-void takeText(ByteReader &chunk, bool packed, Metadata &metadata)
+void readText(ByteReader &chunk, bool packed, Metadata &metadata)
 {
     constexpr std::string_view kProfile = "Raw profile type ";
     if (!chunk.startsWith(kProfile))
@@ -182,7 +182,7 @@ void takeText(ByteReader &chunk, bool packed, Metadata &metadata)
     }
 }
 
-void takeChunk(ByteReader &chunk, const std::string &type, Metadata &metadata)
+void readChunk(ByteReader &chunk, const std::string &type, Metadata &metadata)
 {
     if (chunk.remaining() > kLargestText)
         return;
@@ -196,13 +196,13 @@ void takeChunk(ByteReader &chunk, const std::string &type, Metadata &metadata)
         if (isExifBlock(block.data(), block.size()))
             metadata.exif.block = block;
     } else if (type == "zTXt" || type == "tEXt") {
-        takeText(chunk, type == "zTXt", metadata);
+        readText(chunk, type == "zTXt", metadata);
     }
 }
 
-/// Goes from chunk to chunk over the file, so that the pixels are passed by and not unpacked. Throws EndOfBytes if the last one
-/// is not there.
-void collect(const InputFile &file, Metadata &metadata)
+/// Walks over the chunks of the file, so that the pixels are skipped, not unpacked. Throws EndOfBytes if the last chunk is
+/// missing.
+void collectMetadata(const InputFile &file, Metadata &metadata)
 {
     constexpr std::uint64_t kCheckSum = 4;
     ByteReader reader(file);
@@ -215,8 +215,8 @@ void collect(const InputFile &file, Metadata &metadata)
             return;
         ByteReader chunk = reader.stretch(length);
         try {
-            takeChunk(chunk, name, metadata);
-        } catch (const EndOfBytes &) { // within the chunk: it is left out
+            readChunk(chunk, name, metadata);
+        } catch (const EndOfBytes &) { // a damaged chunk is left out
         }
         reader.skip(kCheckSum);
     }
@@ -230,7 +230,7 @@ void writeChunk(OutputFile &file, const char *type, const std::uint8_t *data, st
     putBig32(head, std::uint32_t(count));
     head.insert(head.end(), type, type + 4);
     std::uint32_t check = libdeflate_crc32(0, head.data() + 4, 4);
-    if (count > 0) // without a buffer the library starts anew
+    if (count > 0) // without a buffer the library would start over
         check = libdeflate_crc32(check, data, count);
     Bytes tail;
     putBig32(tail, check);
@@ -270,7 +270,7 @@ void appendDeflated(Bytes &chunk, const Bytes &data)
 void writeMetadata(const WriteRequest &request)
 {
     constexpr std::size_t kColourSpace = 16;
-    // This format wants a grey profile for grey.
+    // This format requires a grey profile for grey pixels.
     if (!request.icc.empty() &&
         (request.bitmap.componentsPerPixel == 1) == (std::memcmp(&request.icc[kColourSpace], "GRAY", 4) == 0)) {
         static constexpr char kName[] = "ICC Profile";
@@ -302,7 +302,7 @@ void writeMetadata(const WriteRequest &request)
     }
 }
 
-/// Filters the rows one after the other; see PNG (ISO/IEC 15948), clause 9.
+/// Filters the rows in order; see PNG (ISO/IEC 15948), clause 9.
 class RowFilter
 {
 public:
@@ -311,10 +311,11 @@ public:
     {
     }
 
-    /// Where the next row is to be put, in the file's byte order.
+    /// Where to put the next row, in the file's byte order.
     std::uint8_t *next() { return current.data() + pixelBytes; }
 
-    /// Writes filter byte and filtered row, rowBytes + 1 in all: whichever of the filters leaves the smallest sum of magnitudes.
+    /// Writes the filter byte and the filtered row, rowBytes + 1 bytes, with the filter that gives the smallest sum of
+    /// magnitudes.
     void filter(std::uint8_t *target)
     {
         unsigned long best = std::numeric_limits<unsigned long>::max();
@@ -337,7 +338,7 @@ private:
     unsigned long apply(int kind, std::uint8_t *out) const
     {
         const std::uint8_t *x = current.data() + pixelBytes;
-        const std::uint8_t *a = current.data(); // left of x; a pixel of zeros stands before each row
+        const std::uint8_t *a = current.data(); // left of x; each row is preceded by a pixel of zeros
         const std::uint8_t *b = above.data() + pixelBytes;
         const std::uint8_t *c = above.data();
         if (kind == kUp) {
@@ -372,7 +373,7 @@ private:
     Bytes candidate;
 };
 
-// The filtered image in one piece: libdeflate packs no other way.
+// Packs the filtered image in one piece: libdeflate can't do otherwise.
 void writeWhole(const WriteRequest &request, Form form, std::size_t rowBytes, int level)
 {
     const GflBitmap &bitmap = request.bitmap;
@@ -392,7 +393,7 @@ void writeWhole(const WriteRequest &request, Form form, std::size_t rowBytes, in
     writeChunk(request.file, "IDAT", packed.get(), count);
 }
 
-// Row by row through zlib, where the filtered image would take too much memory.
+// Packs row by row through zlib, if the filtered image would take too much memory.
 void writeStreaming(const WriteRequest &request, Form form, std::size_t rowBytes, int level)
 {
     const GflBitmap &bitmap = request.bitmap;
@@ -466,7 +467,7 @@ BitmapPointer readPng(const ReadRequest &request)
         bitmap.record().yDpi = dpiFrom(yPerUnit * kMetresPerInch);
     }
     if (request.metadata)
-        collect(request.file, attachMetadata(bitmap.record()));
+        collectMetadata(request.file, attachMetadata(bitmap.record()));
     if (request.pixels)
         readPixels(reader, bitmap);
     return bitmap.take();

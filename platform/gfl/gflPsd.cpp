@@ -5,15 +5,15 @@
 #include "gflCodec.h"
 #include "gflMetadata.h"
 
-// The merged picture of a Photoshop file: header, palette, image resources, layers (passed by), then the channels one after the
-// other, as they are or in runs of bytes. Source: Adobe Photoshop File Formats description.
+// The merged picture of a Photoshop file: header, palette, image resources, layers (skipped), then the channels one after the
+// other, plain or run-length packed. Source: Adobe Photoshop File Formats description.
 namespace gfl {
 namespace {
 
 constexpr unsigned kResourceResolution = 0x03ED;
 constexpr unsigned kResourceAlphaNames = 0x03EE;
 constexpr char kAlphaName[] = "Transparency";
-constexpr int kLargestSide = 30000; // of the small form; the large one (PSB) has wider lengths
+constexpr int kLargestSide = 30000; // of the small form; the large form (PSB) has wider lengths
 
 enum Mode { Bitmap = 0, Grey = 1, Indexed = 2, Rgb = 3, Cmyk = 4, Duotone = 8 };
 enum Packing { Plain = 0, Runs = 1 };
@@ -28,7 +28,7 @@ struct Header
     int mode = 0;
     Bytes palette;
     Bytes resources;
-    bool transparent = false; // the first channel behind the colours is the picture's transparency, not a saved selection
+    bool transparent = false; // the first channel after the colours is the transparency, not a saved selection
     std::uint64_t pixels = 0; // offset of the packing
 };
 
@@ -51,13 +51,13 @@ Header readHeader(const InputFile &file)
     header.palette = reader.bytes(reader.u32());
     header.resources = reader.bytes(reader.u32());
     ByteReader layers = reader.stretch(header.large ? reader.u64() : reader.u32());
-    if (layers.remaining() >= (header.large ? 10 : 6)) { // a layer count below zero says it
+    if (layers.remaining() >= (header.large ? 10 : 6)) { // a negative layer count says so
         layers.skip(header.large ? 8 : 4);
         header.transparent = (layers.u8() & 0x80) != 0;
     }
     header.pixels = reader.position();
 
-    const Bytes names = photoshopResource(header.resources, kResourceAlphaNames); // each with its length in front
+    const Bytes names = photoshopResource(header.resources, kResourceAlphaNames); // each preceded by its length
     if (ByteReader list(names); list.remaining() > 0 && list.u8() == sizeof kAlphaName - 1 && list.startsWith(kAlphaName))
         header.transparent = true;
     return header;
@@ -67,8 +67,8 @@ Header readHeader(const InputFile &file)
 class Channel
 {
 public:
-    /// Reads rows of `bytes` bytes from `start` on. `lengths` are those of the packed rows, wide ones of 32 bits; it is empty
-    /// where the rows are not packed.
+    /// Reads rows of `bytes` bytes, starting at `start`. `lengths` holds the lengths of the packed rows (32 bits each if
+    /// `wideLengths`, otherwise 16); it is empty if the rows are not packed.
     Channel(const InputFile &file, std::uint64_t start, std::size_t bytes, ByteReader lengths, bool wideLengths)
         : stream(file, start), row(bytes), packedRows(lengths.remaining() > 0), packedBytes(std::move(lengths)), wide(wideLengths)
     {
@@ -81,7 +81,7 @@ public:
             return row.data();
         }
         const std::uint32_t count = wide ? packedBytes.u32() : packedBytes.u16();
-        if (count > row.size() * 2 + 128) // even the worst packer makes less of it
+        if (count > row.size() * 2 + 128) // even the worst packer stays below this
             throw Failure{GFL_ERROR_FILE_READ};
         packed.resize(count);
         stream.read(packed.data(), count);
@@ -117,7 +117,7 @@ private:
     bool wide;
 };
 
-/// Where each channel begins; `counts` receives the table of packed row lengths, if there is one.
+/// The offset of each channel; `counts` receives the table of packed row lengths, if there is one.
 std::vector<std::uint64_t> channelStarts(const InputFile &file, const Header &header, std::size_t rowBytes, Bytes &counts)
 {
     ByteReader reader(file);
@@ -257,7 +257,7 @@ Bytes resourcesOf(const WriteRequest &request)
     const GflBitmap &bitmap = request.bitmap;
     Bytes section;
     if (bitmap.xDpi && bitmap.yDpi) {
-        Bytes resolution; // 16.16 pixels an inch, shown in inches; twice
+        Bytes resolution; // 16.16 pixels per inch, displayed in inches; for both axes
         for (const unsigned dpi : {bitmap.xDpi, bitmap.yDpi}) {
             putBig32(resolution, dpi << 16);
             putBig16(resolution, 1);
@@ -320,7 +320,7 @@ BitmapPointer readPsd(const ReadRequest &request)
 
     NewBitmap bitmap(request.file, header.width, header.height, form);
     const Bytes resolution = photoshopResource(header.resources, kResourceResolution);
-    if (ByteReader perInch(resolution); perInch.holds(0, 16)) { // 16.16 fixed-point numbers, the vertical one from byte 8 on
+    if (ByteReader perInch(resolution); perInch.holds(0, 16)) { // 16.16 fixed-point numbers, the vertical one at byte 8
         bitmap.record().xDpi = dpiFrom(perInch.u32() / 65536.0);
         perInch.seek(8);
         bitmap.record().yDpi = dpiFrom(perInch.u32() / 65536.0);
@@ -346,7 +346,7 @@ void writePsd(const WriteRequest &request)
     if (std::max(bitmap.width, bitmap.height) > kLargestSide * 10)
         throw Failure{GFL_ERROR_BAD_BITMAP};
     const int components = bitmap.componentsPerPixel;
-    // Floats don't pack in runs of bytes.
+    // Run lengths do not shrink floats.
     const bool runs = request.compression != 0 && bitmap.bitsPerComponent < 32;
 
     Bytes head{'8', 'B', 'P', 'S', 0, std::uint8_t(large ? 2 : 1), 0, 0, 0, 0, 0, 0};

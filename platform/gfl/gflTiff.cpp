@@ -15,8 +15,8 @@ namespace {
 
 int onTiffMessage(TIFF *, void *, const char *, const char *, va_list)
 {
-    return 1;
-} // handled: nothing is printed
+    return 1; // handled: nothing is printed
+}
 
 struct TiffClose
 {
@@ -46,7 +46,7 @@ T field(TIFF *tiff, std::uint32_t tag, T fallback)
     return TIFFGetFieldDefaulted(tiff, tag, &value) ? value : fallback;
 }
 
-// The texts that go into and out of the large form, which holds no EXIF block.
+// The texts read from and written to the large form, which holds no EXIF block.
 constexpr std::uint16_t kTexts[] = {TIFFTAG_IMAGEDESCRIPTION, TIFFTAG_MAKE,   TIFFTAG_MODEL,    TIFFTAG_SOFTWARE,
                                     TIFFTAG_DATETIME,         TIFFTAG_ARTIST, TIFFTAG_COPYRIGHT};
 
@@ -91,7 +91,7 @@ int onNoMap(thandle_t, void **, toff_t *)
 }
 void onNoUnmap(thandle_t, void *, toff_t) {}
 
-/// An open file: the library's handle and the place it reads from.
+/// An open file: the library's handle and the position that it reads from.
 struct OpenTiff
 {
     std::unique_ptr<ReadHandle> handle;
@@ -122,9 +122,9 @@ struct Layout
     int photometric = PHOTOMETRIC_MINISBLACK;
     bool planar = false;
     bool tiled = false;
-    int colours = 1; // samples that make up the colour; alpha, if any, is the next
+    int colours = 1; // samples that make up the colour; the next is alpha, if any
     Alpha alpha = Alpha::None;
-    bool ours = false; // false: the library's own conversion to 8-bit RGB
+    bool convertedHere = false; // if not, the library converts to 8-bit RGB
     Form form{};
 };
 
@@ -171,8 +171,8 @@ Layout readLayout(TIFF *tiff)
     const bool inks =
         photometric != PHOTOMETRIC_SEPARATED || field<std::uint16_t>(tiff, TIFFTAG_INKSET, INKSET_CMYK) == INKSET_CMYK;
     const bool palette = photometric != PHOTOMETRIC_PALETTE || (integers && layout.bits <= 16);
-    layout.ours = layout.colours > 0 && layout.samples >= layout.colours && depth && inks && palette;
-    if (!layout.ours) {
+    layout.convertedHere = layout.colours > 0 && layout.samples >= layout.colours && depth && inks && palette;
+    if (!layout.convertedHere) {
         layout.form = {3, 8};
         return layout;
     }
@@ -180,9 +180,9 @@ Layout readLayout(TIFF *tiff)
     if (layout.samples > layout.colours && photometric != PHOTOMETRIC_PALETTE && layout.colours != 4) {
         std::uint16_t count = 0;
         std::uint16_t *kinds = nullptr;
-        const bool told = TIFFGetField(tiff, TIFFTAG_EXTRASAMPLES, &count, &kinds) && count > 0;
-        // A channel of no stated use is somebody's mask; but a file that states nothing at all means alpha by its fourth sample.
-        if (told)
+        const bool stated = TIFFGetField(tiff, TIFFTAG_EXTRASAMPLES, &count, &kinds) && count > 0;
+        // A channel without a stated use may be a mask; but if a file states nothing at all, its one extra sample is alpha.
+        if (stated)
             layout.alpha = kinds[0] == EXTRASAMPLE_ASSOCALPHA   ? Alpha::Associated
                            : kinds[0] == EXTRASAMPLE_UNASSALPHA ? Alpha::Straight
                                                                 : Alpha::None;
@@ -197,14 +197,14 @@ Layout readLayout(TIFF *tiff)
     return layout;
 }
 
-/// The undecoded rows of one plane (or of all samples together), in order. Strips come row by row out of the library; tiles come
-/// a band at a time.
+/// The unconverted rows of one plane (or of all samples together), in order. The library delivers strips row by row, and tiles
+/// one band at a time.
 class PlaneRows
 {
 public:
     PlaneRows(const InputFile &file, const Layout &shape, int plane) : tiff(file), layout(shape), sample(std::uint16_t(plane))
     {
-        readLayout(tiff.get()); // for its setting of the colour mode
+        readLayout(tiff.get()); // for the colour mode that it sets
         const std::uint64_t samples = layout.planar ? 1 : unsigned(layout.samples);
         rowBytes = (std::uint64_t(layout.width) * samples * unsigned(layout.bits) + 7) / 8;
         const std::uint64_t limit = largestPiece(file.size());
@@ -226,7 +226,7 @@ public:
         band.resize(std::size_t(rowBytes * tileHeight));
     }
 
-    /// Reads row `y` to `target`; call it for each row in order.
+    /// Reads row `y` to `target`. Must be called for each row in order.
     void read(std::uint32_t y, void *target)
     {
         if (!layout.tiled) {
@@ -280,8 +280,8 @@ float halfToFloat(std::uint16_t half)
     return half & 0x8000 ? -size : size;
 }
 
-/// Turns packed samples of any depth that we take into 32-bit floats (full scale 1) or 16-bit integers (full scale 65535, or the
-/// bare number where it is an index).
+/// Turns packed samples of any supported depth into 32-bit floats (full scale 1) or 16-bit integers (full scale 65535, or the
+/// unscaled number if it is an index).
 void unpack(const std::uint8_t *source, const Layout &layout, std::size_t count, bool index, float *floats,
             std::uint16_t *integers)
 {
@@ -293,7 +293,7 @@ void unpack(const std::uint8_t *source, const Layout &layout, std::size_t count,
         for (std::size_t i = 0; i < count; ++i) {
             double value;
             std::memcpy(&value, source + i * sizeof value, sizeof value);
-            constexpr double kLargest = std::numeric_limits<float>::max(); // beyond it the conversion is not defined
+            constexpr double kLargest = std::numeric_limits<float>::max(); // beyond it the conversion is undefined
             floats[i] = std::isfinite(value) ? float(std::clamp(value, -kLargest, kLargest)) : float(value);
         }
     } else if (layout.sampleFormat == SAMPLEFORMAT_IEEEFP) {
@@ -320,7 +320,7 @@ void unpack(const std::uint8_t *source, const Layout &layout, std::size_t count,
     }
 }
 
-/// From unpacked samples to the bitmap's form.
+/// Converts unpacked samples to the bitmap's form.
 template<typename Sample>
 void arrange(const Sample *source, const Layout &layout, Sample *target)
 {
@@ -362,18 +362,18 @@ void applyPalette(const std::uint16_t *indices, const Layout &layout, const Pale
             target[c] = std::uint8_t((palette.channels[c][*indices] + 128u) / 257u);
 }
 
-void readOurs(const InputFile &file, const Layout &layout, NewBitmap &bitmap)
+void readConverting(const InputFile &file, const Layout &layout, NewBitmap &bitmap)
 {
     std::vector<std::unique_ptr<PlaneRows>> planes;
     const int taken = layout.colours + (layout.alpha != Alpha::None ? 1 : 0);
     for (int i = 0; i < (layout.planar ? taken : 1); ++i)
         planes.push_back(std::make_unique<PlaneRows>(file, layout, i));
 
-    const bool straight = !layout.planar && layout.samples == layout.form.components && layout.bits == layout.form.bits &&
+    const bool sameForm = !layout.planar && layout.samples == layout.form.components && layout.bits == layout.form.bits &&
                           layout.colours < 4 && layout.alpha != Alpha::Associated &&
                           (layout.bits < 32 || layout.sampleFormat == SAMPLEFORMAT_IEEEFP) &&
                           layout.photometric != PHOTOMETRIC_MINISWHITE && layout.photometric != PHOTOMETRIC_PALETTE;
-    if (straight) {
+    if (sameForm) {
         for (std::uint32_t y = 0; y < layout.height; ++y)
             planes[0]->read(y, bitmap.row(int(y)));
         return;
@@ -385,7 +385,7 @@ void readOurs(const InputFile &file, const Layout &layout, NewBitmap &bitmap)
         !TIFFGetField(planes[0]->handle(), TIFFTAG_COLORMAP, &palette.channels[0], &palette.channels[1], &palette.channels[2]))
         throw Failure{GFL_ERROR_FILE_READ};
 
-    // Planes that are not taken leave their places in the unpacked row alone.
+    // Unused planes leave their places in the unpacked row untouched.
     const std::size_t samples = std::size_t(layout.width) * unsigned(layout.samples);
     const bool real = layout.form.bits == 32;
     Bytes raw(planes[0]->bytes() + sizeof(double));
@@ -439,8 +439,8 @@ struct RgbaImage : TIFFRGBAImage
 
 void readByLibrary(const OpenTiff &open, const InputFile &file, const Layout &layout, NewBitmap &bitmap)
 {
-    // Lab counts from the white of print, the library's RGB from the screen's: named as if it were that one, neutral stays
-    // neutral.
+    // Lab refers to the print white, the library's RGB to the screen's. Declaring the screen's white for Lab keeps neutral
+    // colours neutral.
     static constexpr float kScreenWhite[] = {0.3127f, 0.3290f};
     if (layout.photometric == PHOTOMETRIC_CIELAB || layout.photometric == PHOTOMETRIC_ICCLAB)
         TIFFSetField(open.get(), TIFFTAG_WHITEPOINT, kScreenWhite);
@@ -449,7 +449,7 @@ void readByLibrary(const OpenTiff &open, const InputFile &file, const Layout &la
     image.begun = TIFFRGBAImageBegin(&image, open.get(), /*stop=*/1, message) != 0;
     if (!image.begun)
         throw Failure{GFL_ERROR_FILE_READ};
-    image.req_orientation = image.orientation; // rows as they stand
+    image.req_orientation = image.orientation; // keeps the order of rows
     std::uint32_t rowsPerBand = 0;
     if (layout.tiled)
         TIFFGetField(open.get(), TIFFTAG_TILELENGTH, &rowsPerBand);
@@ -506,7 +506,7 @@ void readMetadata(const InputFile &file, TIFF *tiff, Metadata &metadata)
     for (const IfdEntry &entry : firstDirectory(stream)) {
         if (entry.tag == TIFFTAG_RICHTIFFIPTC) {
             Bytes block = valueOf(entry);
-            // Some writers swap the block as if it were the longs that its type says.
+            // Some writers swap the block's bytes as if it held the longs that its type claims.
             if (block.size() >= 4 && block[0] != 0x1C && block[3] == 0x1C)
                 swapSamples(block.data(), block.data(), block.size() / 4, 32);
             if (!block.empty() && block[0] == 0x1C)
@@ -573,7 +573,7 @@ void setFields(TIFF *tiff, const WriteRequest &request, std::uint16_t compressio
     }
     if (!request.icc.empty())
         TIFFSetField(tiff, TIFFTAG_ICCPROFILE, std::uint32_t(request.icc.size()), request.icc.data());
-    if (!request.iptc.empty()) // counted in bytes by this library
+    if (!request.iptc.empty()) // this library counts it in bytes
         TIFFSetField(tiff, TIFFTAG_RICHTIFFIPTC, std::uint32_t(request.iptc.size()), request.iptc.data());
 }
 
@@ -598,7 +598,7 @@ void writeStrips(TIFF *tiff, const GflBitmap &bitmap, bool swap, bool packed)
     const int rowsPerStrip = int(std::clamp<std::size_t>(kStripBytes / rowBytes, 1, std::size_t(bitmap.height)));
     TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, std::uint32_t(rowsPerStrip));
 
-    // The library changes what it packs, so that goes by way of a strip of our own.
+    // The library modifies what it packs, so it gets a copy of the strip.
     const bool direct = !packed && !swap && bitmap.bytesPerLine == rowBytes;
     Bytes strip(direct ? 0 : rowBytes * std::size_t(rowsPerStrip));
     std::uint32_t index = 0;
@@ -618,7 +618,7 @@ void writeStrips(TIFF *tiff, const GflBitmap &bitmap, bool swap, bool packed)
     }
 }
 
-/// What has been written so far.
+/// The bytes written so far.
 class WrittenBytes final : public ByteSource
 {
 public:
@@ -634,8 +634,8 @@ private:
     std::uint64_t bytesWritten;
 };
 
-/// Adds what the EXIF block's first directory holds (camera, author, the pointers to its further directories) to the file's. The
-/// file begins with the block as it stands, so that every offset in it holds, also those within a maker's note.
+/// Adds the entries of the EXIF block's first directory (camera, author, pointers to its other directories) to the file's
+/// directory. The file begins with the unchanged block, so that every offset in it stays valid, including those in a maker note.
 void mergeDirectories(OutputFile &file, const Bytes &exif)
 {
     const WrittenBytes written(file);
@@ -676,7 +676,7 @@ void mergeDirectories(OutputFile &file, const Bytes &exif)
     checked(file.trySeek(start + 2));
 }
 
-/// Whether the file reaches as far as its strips or tiles.
+/// Whether the file is long enough for all its strips or tiles.
 bool holdsAllPieces(const InputFile &file, TIFF *tiff)
 {
     const std::uint32_t pieces = TIFFIsTiled(tiff) != 0 ? TIFFNumberOfTiles(tiff) : TIFFNumberOfStrips(tiff);
@@ -694,7 +694,7 @@ BitmapPointer readTiff(const ReadRequest &request)
 {
     const OpenTiff open(request.file);
     const Layout layout = readLayout(open.get());
-    // A fax has one bit per pixel; the library makes white rows, without a word, of what the file lacks.
+    // A fax has one bit per pixel; the library silently makes missing rows white.
     const auto compression = field<std::uint16_t>(open.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
     const bool fax =
         (compression >= COMPRESSION_CCITTRLE && compression <= COMPRESSION_CCITTFAX4) || compression == COMPRESSION_CCITTRLEW;
@@ -709,8 +709,8 @@ BitmapPointer readTiff(const ReadRequest &request)
     if (request.metadata)
         readMetadata(request.file, open.get(), attachMetadata(bitmap.record()));
     if (request.pixels) {
-        if (layout.ours)
-            readOurs(request.file, layout, bitmap);
+        if (layout.convertedHere)
+            readConverting(request.file, layout, bitmap);
         else
             readByLibrary(open, request.file, layout, bitmap);
     } else if (!holdsAllPieces(request.file, open.get())) {
@@ -738,7 +738,7 @@ void writeTiff(const WriteRequest &request)
         throw Failure{GFL_ERROR_BAD_PARAMETERS};
     }
 
-    // Offsets of 32 bits leave room for directories and metadata. The large form has others than an EXIF block.
+    // Below the range of 32-bit offsets, to leave room for directories and metadata. The large form can't hold an EXIF block.
     constexpr std::uint64_t kLargestClassic = std::uint64_t(4000) << 20;
     const bool large = std::uint64_t(bitmap.width) * bitmap.bytesPerPixel * unsigned(bitmap.height) > kLargestClassic;
     const bool exif = !request.exif.empty() && !large && isExifBlock(request.exif.data(), request.exif.size());

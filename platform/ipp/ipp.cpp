@@ -2,5 +2,5 @@
 
 IppStatus ippInit()
 {
-    return ippStsNoErr; // each function's version for this processor was chosen when the program was loaded
+    return ippStsNoErr; // the version of each function was already chosen when the program was loaded
 }

@@ -42,13 +42,13 @@ IPP_VERSIONS void scaleAnyRow(int sourceBits, int targetBits, const void *source
     }
 }
 
-/// Colours from 1, 3 or 4 channels into 3 or 4. `Opaque` sets a fourth channel to `alpha`; without it that channel is left alone.
+/// Copies colours from 1, 3 or 4 channels to 3 or 4. `Opaque` sets a fourth channel to `alpha`; otherwise it is left unchanged.
 template<typename Sample, int From, int To, bool Opaque>
 IPP_INLINE void copyRow(const Sample *__restrict from, Sample *__restrict to, std::size_t pixels, Sample alpha)
 {
     std::size_t i = 0;
-    // From 3 or 4 channels all pixels but the last move as four samples at once: what a fourth sample overwrites comes next
-    // anyway.
+    // From 3 or 4 channels, all pixels but the last are copied as four samples at once: whatever the fourth sample overwrites is
+    // written next anyway.
     if constexpr (From == 4 || (From == 3 && Opaque))
         for (; i + 1 < pixels; ++i) {
             std::memcpy(to + i * To, from + i * From, 4 * sizeof(Sample));
@@ -145,7 +145,7 @@ bool isDepth(int bits)
     return bits == 8 || bits == 16 || bits == 32;
 }
 
-/// Runs row(source row, target row) over all rows, after the tests that all operations share.
+/// Calls row(source row, target row) for each row, after the checks common to all operations.
 template<typename Row>
 IppStatus overRows(const void *source, int sourceStep, void *target, int targetStep, IppiSize size, const Row &row)
 {

@@ -7,20 +7,19 @@
 
 #include "ippVersions.h"
 
-/// The minimum over a window in three comparisons a sample, whatever its size: the positions are cut into blocks as long as the
-/// window, and a window is the tail of one block and the head of the next. Source: M. van Herk, A fast algorithm for local
-/// minimum and maximum filters on rectangular and octagonal kernels, Pattern Recognition Letters 13 (1992).
+/// The minimum over a window in three comparisons per sample, whatever the window's size: positions are divided into blocks as
+/// long as the window, so that a window is the tail of one block and the head of the next. Source: M. van Herk, A fast algorithm
+/// for local minimum and maximum filters on rectangular and octagonal kernels, Pattern Recognition Letters 13 (1992).
 ///
-/// Samples are compared as integers in the order of their values, -0.0 below 0.0 and NaN above all. That makes the minimum
-/// independent of the order in which it is taken, so that columns may be done before rows.
+/// Samples are compared as integers that sort like their values, with -0.0 below 0.0 and NaN above all. The minimum then does not
+/// depend on the order of comparisons, so columns can be filtered before rows.
 
 namespace {
 
 constexpr int kChannels = 4;
-constexpr int kTilePixels = 128; ///< Columns are done in tiles, so that the rows of one window stay in the nearest caches.
+constexpr int kTilePixels = 128; ///< Columns are filtered in tiles, so that the rows of one window stay in the innermost caches.
 constexpr int kTileSamples = kTilePixels * kChannels;
-constexpr std::int32_t kNone =
-    std::numeric_limits<std::int32_t>::max(); ///< What stands outside of the raster; above every value.
+constexpr std::int32_t kNone = std::numeric_limits<std::int32_t>::max(); ///< A sample outside the raster; above every value.
 
 IPP_INLINE std::int32_t rankOf(float value)
 {
@@ -45,7 +44,7 @@ IPP_INLINE T *rowOf(T *first, int stepBytes, int row)
     return reinterpret_cast<T *>(reinterpret_cast<Byte *>(first) + std::ptrdiff_t(stepBytes) * row);
 }
 
-/// Column minima of one tile of `samples` samples a row. `scratch` holds mask + 2 rows of kTileSamples.
+/// Column minima of one tile with `samples` samples per row. `scratch` has room for mask + 2 rows of kTileSamples.
 IPP_VERSIONS void filterColumns(const float *source, int sourceStep, float *target, int targetStep, int samples, int height,
                                 int mask, int anchor, std::int32_t *scratch)
 {
@@ -88,8 +87,8 @@ IPP_INLINE void takeMinimum(std::int32_t *target, const std::int32_t *a, const s
         target[c] = std::min(a[c], b[c]);
 }
 
-/// Row minima, in place. `scratch` holds the padded row, which is a number of whole blocks and one more, and one block with its
-/// end.
+/// Row minima, in place. `scratch` has room for the padded row (whole blocks, and one more) and for the tails of one block with a
+/// sentinel.
 IPP_VERSIONS void filterRow(float *pixels, int width, int mask, int anchor, std::int32_t *scratch)
 {
     const int blocks = (width + mask - 1) / mask + 1;
@@ -99,7 +98,7 @@ IPP_VERSIONS void filterRow(float *pixels, int width, int mask, int anchor, std:
     const std::ptrdiff_t before = std::ptrdiff_t(anchor) * kChannels;
     const std::ptrdiff_t samples = std::ptrdiff_t(width) * kChannels;
     std::fill_n(row, before, kNone);
-    // The window's reach past the last pixel may end before the last block does.
+    // A window may reach beyond the last pixel, though not to the end of the last block.
     for (std::ptrdiff_t s = 0; s < samples; ++s)
         row[before + s] = rankOf(pixels[s]);
     std::fill_n(row + before + samples, padded - before - samples, kNone);

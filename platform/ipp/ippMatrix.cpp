@@ -5,7 +5,7 @@
 IppStatus ippmInvert3x3(const float source[9], float target[9])
 {
     const auto m = [source](int row, int column) { return double(source[row * 3 + column]); };
-    // Row r, column c of the adjugate is the cofactor of element (c, r); rows and columns counted modulo 3 give its sign as well.
+    // Row r, column c of the adjugate is the cofactor of element (c, r); counting rows and columns modulo 3 also gives its sign.
     const auto adjugate = [&m](int row, int column) {
         const int c1 = (row + 1) % 3, c2 = (row + 2) % 3, r1 = (column + 1) % 3, r2 = (column + 2) % 3;
         return m(r1, c1) * m(r2, c2) - m(r1, c2) * m(r2, c1);

@@ -8,8 +8,8 @@
 
 namespace {
 
-/// The run of source pixels that one target pixel is made of, along one axis: `count` pixels from `first`, their weights from
-/// weights[firstWeight].
+/// The source pixels that contribute to one target pixel along one axis: `count` pixels starting at `first`, with weights
+/// starting at weights[firstWeight].
 struct Taps
 {
     int first;
@@ -17,8 +17,8 @@ struct Taps
     std::size_t firstWeight;
 };
 
-/// One axis: the source's length over the target's, by their greatest common divisor, so that weights are whole numbers. The
-/// weights of one target pixel sum up to `weightSum`.
+/// One axis: the lengths of source and target divided by their greatest common divisor, so that weights are whole numbers. The
+/// weights of each target pixel add up to `weightSum`.
 struct Axis
 {
     std::int64_t sourceUnits;
@@ -41,8 +41,8 @@ Axis axisOf(int source, int target, IppiInterpolation method)
     return {sourceUnits, targetUnits, method == IppiInterpolation::Linear ? 2 * targetUnits : sourceUnits};
 }
 
-/// Calls tap(source pixel, weight) for each source pixel with a share in target pixel `index`. A source pixel is targetUnits long
-/// (2 targetUnits for linear, where halves occur), a target pixel sourceUnits.
+/// Calls tap(source pixel, weight) for each source pixel that contributes to target pixel `index`. A source pixel is targetUnits
+/// long (2 targetUnits for linear, where halves occur), a target pixel sourceUnits.
 template<typename Tap>
 void forTaps(const Axis &axis, int source, int index, IppiInterpolation method, const Tap &tap)
 {
@@ -71,13 +71,13 @@ void forTaps(const Axis &axis, int source, int index, IppiInterpolation method, 
     }
 }
 
-/// Most weights that one axis can have: an area reduction counts a source pixel once for each target pixel that it touches.
+/// The most weights that one axis can have: area averaging counts a source pixel once per target pixel that it touches.
 std::size_t weightLimit(int source, int target)
 {
     return std::size_t(source) + 2 * std::size_t(target);
 }
 
-/// Integer samples are summed up in 64 bits, where all their sums and products with the whole-numbered weights are exact.
+/// Integer samples are summed in doubles, where all their sums and products with the integer weights are exact.
 template<typename Sample>
 using SumOf = std::conditional_t<std::is_same_v<Sample, float>, float, double>;
 
@@ -86,7 +86,7 @@ IPP_INLINE Sample toSample(SumOf<Sample> value)
 {
     if constexpr (std::is_same_v<Sample, float>)
         return value;
-    constexpr double kToInteger = 4503599627370496.0; // 2^52: adding and taking it away rounds to the nearest, ties to even
+    constexpr double kToInteger = 4503599627370496.0; // 2^52: adding and subtracting it rounds to the nearest, ties to even
     return static_cast<Sample>(int((value + kToInteger) - kToInteger));
 }
 
@@ -113,7 +113,7 @@ IPP_INLINE void sumRows(const unsigned char *source, std::ptrdiff_t step, const 
     const auto weight = [&](int tap) { return static_cast<Sum>(weights[tap]); };
 
     const Sum total = static_cast<Sum>(weightSum);
-    // In 64 bits one division at the end is enough, and exact.
+    // With doubles a single division at the end is enough.
     const auto mean = [total](Sum sum) { return std::is_same_v<Sample, float> ? sum / total : sum; };
     const Sample *a = row(0);
     const Sum weightA = weight(0);
@@ -139,7 +139,7 @@ IPP_INLINE void sumRows(const unsigned char *source, std::ptrdiff_t step, const 
     }
     for (std::size_t i = 0; i < samples; ++i)
         sums[i] = static_cast<Sum>(a[i]) * weightA + static_cast<Sum>(b[i]) * weightB;
-    // Four rows at a time, so that the sums are seldom loaded and stored.
+    // Four rows at a time, so that the sums are loaded and stored less often.
     int tap = 2;
     for (; tap + 4 <= taps.count; tap += 4) {
         const Sample *r0 = row(tap), *r1 = row(tap + 1), *r2 = row(tap + 2), *r3 = row(tap + 3);

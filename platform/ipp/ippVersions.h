@@ -1,10 +1,10 @@
 #pragma once
 
-/// Compiles a function once for each instruction set and chooses among them when the program is loaded. Templates that it calls
-/// must be IPP_INLINE, so that they become part of each version. Contraction is off: all versions give the same bits.
+/// Compiles a function once per instruction set; the version to use is chosen when the program is loaded. Templates that it calls
+/// must be IPP_INLINE, to become part of each version. Contraction is off, so all versions give the same bits.
 #if defined(__has_feature)
 #    if __has_feature(thread_sanitizer)
-#        define IPP_ONE_VERSION // its run-time is not up yet when the choice is made
+#        define IPP_ONE_VERSION // its run-time is not ready yet when the choice is made
 #    endif
 #endif
 #if defined(__x86_64__) && !defined(IPP_ONE_VERSION)

@@ -34,16 +34,16 @@ bool fail(int error)
     return false;
 }
 
-// A mask of the lowest `count` processors; none is one that a shift can't make.
+// A mask of the lowest `count` processors; 0 is special, since a shift can't be as wide as the mask.
 std::uint32_t maskOfProcessors(std::uint32_t count)
 {
     return count == 0 ? 0 : 0xFFFFFFFFu >> (kProcessorsPerGroup - count);
 }
 
-/// A set of the kernel's processor numbers; machines of today have fewer than this.
+/// A set of the kernel's processor numbers; today's machines have fewer than this.
 using ProcessorSet = std::bitset<8192>;
 
-/// Reads a list such as 0-3,8 into a set; an empty set if there is no such file.
+/// Reads a list such as 0-3,8; an empty set if there is no such file.
 ProcessorSet processorList(const char *path)
 {
     ProcessorSet set;
@@ -62,11 +62,11 @@ ProcessorSet processorList(const char *path)
     return set;
 }
 
-/// The kernel's numbers of the processors that are switched on, in rising order: the place in this list is our number.
+/// The kernel's numbers of the processors that are online, in ascending order: the index in this list is our number.
 std::vector<std::size_t> onlineProcessors()
 {
     ProcessorSet set = processorList("/sys/devices/system/cpu/online");
-    if (set.none()) // no /sys: the kernel counts them in its own order
+    if (set.none()) // no /sys: assume that the kernel numbers them from 0
         for (long i = 0; i < sysconf(_SC_NPROCESSORS_ONLN); ++i)
             set.set(std::size_t(i));
     std::vector<std::size_t> numbers;
@@ -76,7 +76,7 @@ std::vector<std::size_t> onlineProcessors()
     return numbers;
 }
 
-/// The kernel's mask in its own width.
+/// A processor mask as wide as the kernel needs it.
 using KernelMask = std::vector<unsigned long>;
 constexpr std::size_t kMaskWords = ProcessorSet().size() / (8 * sizeof(unsigned long));
 
@@ -113,8 +113,8 @@ bool readNumber(const std::string &path, Number &number)
     return bool(file >> number);
 }
 
-/// The folders of the control groups that may limit what this controller counts for the process, from its own up to the root. In
-/// a container the own path is often one of the outside, and only the root is there.
+/// The folders of the control groups that may limit this controller for the process, from its own group up to the root. In a
+/// container the process's own path is often that of the outside system, and only the root exists.
 std::vector<std::string> controlGroups(const std::string &root, const std::string &controller)
 {
     const std::string mountPoint = root + "/sys/fs/cgroup";
@@ -141,7 +141,7 @@ std::vector<std::string> controlGroups(const std::string &root, const std::strin
     return folders;
 }
 
-/// Processors' worth of time that one control group grants, or -1 for no limit.
+/// How many processors' worth of time one control group grants, or -1 for no limit.
 double quotaOf(const std::string &folder)
 {
     std::string quota;
@@ -154,12 +154,13 @@ double quotaOf(const std::string &folder)
     return -1;
 }
 
-/// Lowers `bytes` to what one control group still grants, if it sets a limit. The pages of files count as used, but give way.
-void takeMemoryLimit(const std::string &folder, std::int64_t &bytes)
+/// Lowers `bytes` to what one control group still grants, if it sets a limit. File pages count as used there but can be
+/// reclaimed.
+void applyMemoryLimit(const std::string &folder, std::int64_t &bytes)
 {
     constexpr const char *kLimits[][3] = {
         {"/memory.max", "/memory.current", ""},
-        {"/memory.high", "/memory.current", ""}, // beyond it the system slows the process down
+        {"/memory.high", "/memory.current", ""}, // above it the system slows the process down
         {"/memory.limit_in_bytes", "/memory.usage_in_bytes", "total_"},
     };
     for (const auto &[limitName, usedName, prefix] : kLimits) {
@@ -178,7 +179,7 @@ void takeMemoryLimit(const std::string &folder, std::int64_t &bytes)
 
 constexpr std::size_t kHugePage = std::size_t(2) << 20;
 
-std::size_t gapBefore(const void *block)
+std::size_t gapToHugePage(const void *block)
 {
     return -reinterpret_cast<std::uintptr_t>(block) & (kHugePage - 1);
 }
@@ -263,10 +264,8 @@ bool GetLogicalProcessorInformationEx(std::int32_t relation, LogicalProcessorInf
     if (relation == RelationGroup) {
         const std::uint16_t groups = GetActiveProcessorGroupCount();
         information->count = groups;
-        for (std::uint16_t group = 0; group < groups; ++group) {
-            const std::uint32_t count = GetMaximumProcessorCount(group);
-            information->groups[group] = {count, maskOfProcessors(count)};
-        }
+        for (std::uint16_t group = 0; group < groups; ++group)
+            information->groups[group] = {GetMaximumProcessorCount(group)};
         return true;
     }
     information->count = std::uint32_t(online.size());
@@ -351,36 +350,36 @@ std::uint64_t GetAvailableMemory(const char *root)
         if (long long kilobytes = 0; std::sscanf(line.c_str(), "MemAvailable: %lld", &kilobytes) == 1)
             bytes = kilobytes * 1024;
     for (const std::string &folder : controlGroups(root, "memory"))
-        takeMemoryLimit(folder, bytes);
+        applyMemoryLimit(folder, bytes);
     return std::uint64_t(bytes);
 }
 
 void AdviseHugePages(void *block, std::size_t bytes)
 {
-    // The C library maps blocks of this size one by one, so that the wish ends with the block.
+    // The C library maps blocks of this size separately, so that the advice ends with the block.
     constexpr std::size_t kOwnMapping = std::size_t(32) << 20;
     if (!block || bytes < kOwnMapping)
         return;
-    const std::size_t gap = gapBefore(block);
+    const std::size_t gap = gapToHugePage(block);
     madvise(static_cast<char *>(block) + gap, (bytes - gap) & ~(kHugePage - 1), MADV_HUGEPAGE);
 }
 
 void *ReserveMemory(std::size_t bytes)
 {
-    // One huge page more than needed; what lies before the border and behind the end goes back at once.
+    // Maps one huge page more than needed, and unmaps at once what lies before the boundary and after the end.
     if (bytes > SIZE_MAX - kHugePage)
         return nullptr;
     const std::size_t mapped = bytes + kHugePage;
     void *const memory = mmap(nullptr, mapped, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (memory == MAP_FAILED)
         return nullptr;
-    const std::size_t gap = gapBefore(memory);
+    const std::size_t gap = gapToHugePage(memory);
     char *const start = static_cast<char *>(memory) + gap;
     if (gap > 0)
         munmap(memory, gap);
     if (gap < kHugePage)
         munmap(start + bytes, kHugePage - gap);
-    madvise(start, bytes, MADV_HUGEPAGE); // a wish: without huge pages it is only slower
+    madvise(start, bytes, MADV_HUGEPAGE); // a hint: without huge pages it is only slower
     return start;
 }
 

@@ -13,16 +13,16 @@
 
 namespace {
 
-// Boxes of this many vertices are no longer cut: below, the dense work is cheaper than the handling of more fronts.
+// Boxes of up to this many vertices are not cut further: the dense work is cheaper than handling more fronts.
 constexpr std::int64_t kLeafVertices = 64;
-// A box that can't be cut although it is larger than this shows a pattern of another kind.
+// A box larger than this that can't be cut shows that the pattern is not that of a grid.
 constexpr std::int64_t kMostLeafVertices = 512;
-// A grid of any size a float can solve takes some hundred; more shows a pattern of another kind too.
+// A grid of any size that floats can solve takes a few hundred; more also shows another pattern.
 constexpr std::size_t kMostFloatsPerVertex = 2000;
 // Subtrees up to this size are visited by one thread.
 constexpr std::int32_t kJobVertices = 1500;
-// What elimination may leave of a diagonal cell. Below, a float has kept three bits of it, and a solver with pivoting does
-// better.
+// The smallest share of a diagonal cell that may remain after elimination. Below it, a float retains three bits of the cell, and
+// a solver with pivoting does better.
 constexpr float kPivotFloor = 1.0f / (1 << 20);
 
 constexpr std::size_t kAlignment = kStrip * sizeof(float);
@@ -62,8 +62,8 @@ MultifrontalFactors::Floats MultifrontalFactors::allocate(std::size_t count, std
 
 void MultifrontalFactors::findGrid(const SparseRows &matrix)
 {
-    // A vertex inside the image has the longest rows. Its columns come in runs: its own grid row, the next one around the same x,
-    // ...
+    // Vertices inside the image have the longest rows. Their columns form runs: the vertex's own grid row, then the next grid row
+    // around the same x, and so on.
     std::int32_t longest = 0;
     const auto lengthOf = [&matrix](std::int32_t row) { return matrix.rowStarts[row + 1] - matrix.rowStarts[row]; };
     for (std::int32_t row = 1; row < order; ++row)
@@ -76,7 +76,7 @@ void MultifrontalFactors::findGrid(const SparseRows &matrix)
         return column + 1;
     };
     const std::int32_t *const first = matrix.columns + (matrix.rowStarts[longest] - 1);
-    gridWidth = 1; // with one run only, the grid is a band: one column, with a longer reach
+    gridWidth = 1; // a single run means a band: a grid of one column, with a longer reach
     if (first < last) {
         const std::int32_t *const second = endOfRun(first);
         if (second < last)
@@ -99,8 +99,8 @@ void MultifrontalFactors::findGrid(const SparseRows &matrix)
     }
 }
 
-// Cuts the box across, where that takes fewer vertices, by a separator as thick as the reach: no cell joins the two sides.
-// Returns the node, or -1 if the box is too large for a leaf and too small to be cut.
+// Cuts the box in the direction that needs fewer separator vertices. The separator is as thick as the reach, so that no cell
+// joins the two sides. Returns the node, or -1 if the box is too large for a leaf but can't be cut.
 std::int32_t MultifrontalFactors::dissect(const Box &box)
 {
     const std::int32_t width = box.right - box.left;
@@ -137,7 +137,7 @@ std::int32_t MultifrontalFactors::dissect(const Box &box)
     for (std::int32_t y = own.top; y < own.bottom; ++y) {
         for (std::int32_t x = own.left; x < own.right; ++x) {
             const std::int64_t vertex = std::int64_t(y) * gridWidth + x;
-            if (vertex < order) // the last row may be cut short
+            if (vertex < order) // the last grid row may be incomplete
                 vertexAt.push_back(std::int32_t(vertex));
         }
     }
@@ -208,8 +208,8 @@ void MultifrontalFactors::climb(std::int32_t number, const Visit &visit)
     visit(number);
 }
 
-// Loops and no tasks: LLVM's OpenMP run-time (14) corrupts its memory when a thread that has made tasks ends and another one
-// makes some, and the preview starts a thread a run.
+// Loops instead of tasks: LLVM's OpenMP run-time (14) corrupts its memory when a thread that has created tasks ends and another
+// thread creates some, and the preview starts a thread per run.
 void MultifrontalFactors::planWaves(std::int32_t number, std::int32_t parent, std::size_t depth)
 {
     const Node &node = nodes[std::size_t(number)];
@@ -224,14 +224,14 @@ void MultifrontalFactors::planWaves(std::int32_t number, std::int32_t parent, st
         planWaves(child, number, depth + 1);
 }
 
-// Visits every node after its children, unrelated ones at the same time. False if a visit returned false; the rest is left out
-// then.
+// Visits every node after its children, independent nodes at the same time. Stops early and returns false if a visit returns
+// false.
 template<typename Visit>
 bool MultifrontalFactors::childrenFirst(const Visit &visit)
 {
     enum State { Good, GaveUp, NoMemory };
     std::atomic<int> state{Good};
-    // No exception may leave a parallel loop.
+    // No exception may propagate out of a parallel loop.
     const auto guarded = [&](std::int32_t number) {
         if (state.load(std::memory_order_relaxed) != Good)
             return;
@@ -292,7 +292,7 @@ bool MultifrontalFactors::analyse(const SparseRows &matrix)
 bool MultifrontalFactors::factorise(const SparseRows &matrix)
 {
     panels = allocate(panelFloats, kHugePage);
-    madvise(panels.get(), panelFloats * sizeof(float), MADV_HUGEPAGE); // a wish: without huge pages it is only slower
+    madvise(panels.get(), panelFloats * sizeof(float), MADV_HUGEPAGE); // a hint: without huge pages it is only slower
     const bool done = childrenFirst([&](std::int32_t number) { return eliminate(number, matrix.values); });
     for (Node &node : nodes)
         node.contribution.reset();
@@ -306,7 +306,7 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
     const int strips = node.strips();
     const std::size_t stripFloats = std::size_t(pivotStrips) * kStrip * kStrip;
     float *const panel = panels.get() + node.panelStart;
-    // A row's part of the panel, and of the contribution: column c is 16 c floats further.
+    // Start of a row in the panel and in the contribution: column c is 16 c floats further.
     const auto inPanel = [&](int row) { return std::size_t(row / kStrip) * stripFloats + std::size_t(row % kStrip); };
     const auto inContribution = [](int row) { return std::size_t(contributionStart(row / kStrip) + row % kStrip); };
 
@@ -350,7 +350,7 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
             }
             const int columns = std::min((strip + 1) * kStrip, count);
             for (int column = 0; column < columns; ++column) {
-                const int from = std::max(0, column - strip * kStrip); // the lower triangle alone
+                const int from = std::max(0, column - strip * kStrip); // only the lower triangle
                 const int target = below.parentRows[std::size_t(column)];
                 const float *const sourceColumn = source + column * kStrip;
                 if (target < pivotStrips * kStrip) {

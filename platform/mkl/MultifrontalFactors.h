@@ -7,27 +7,26 @@
 
 #include "SparseRows.h"
 
-/// Cholesky factors LL' of a positive definite matrix whose pattern is that of neighbours on a grid, numbered row by row: what an
-/// image gives. Several times faster there than a solver for all patterns, since nested dissection is read off the grid.
+/// Cholesky factors LL' of a positive definite matrix that couples neighbours on a grid numbered row by row, as an image does.
+/// Several times faster there than a general solver, since nested dissection can be read off the grid.
 ///
-/// The grid is found from the pattern, and the pattern alone decides what is eliminated with what; a pattern of another kind, or
-/// a pivot that is not clearly positive, ends in `false`, and the caller takes another solver. Runs a team of the size that it is
-/// made with; the results do not depend on it. Safe on several threads, each with an object of its own. Source:
-/// A. George, Nested Dissection of a Regular Finite Element Mesh, SIAM J. Numer. Anal. 10 (1973); I. Duff, J. Reid, The
-/// Multifrontal Solution of Indefinite Sparse Symmetric Linear Equations, ACM TOMS 9 (1983).
+/// The grid is recognised from the pattern, and the pattern alone decides which unknowns are eliminated together. Any other
+/// pattern, or a pivot that is not clearly positive, returns `false`, and the caller turns to another solver. Runs a team of the
+/// size given to the constructor; the results do not depend on it. Safe on several threads, each with its own object. Source: A.
+/// George, Nested Dissection of a Regular Finite Element Mesh, SIAM J. Numer. Anal. 10 (1973); I. Duff, J. Reid, The Multifrontal
+/// Solution of Indefinite Sparse Symmetric Linear Equations, ACM TOMS 9 (1983).
 class MultifrontalFactors
 {
 public:
     /// `teamSize` is at least 1.
     explicit MultifrontalFactors(int teamSize) : team(teamSize) {}
-    /// Ordering and symbolic factorisation. False if the pattern is of another kind. Throws std::bad_alloc.
-    bool analyse(const SparseRows &matrix);
-    /// Numerical factorisation of the matrix that was analysed. False on a pivot that would have to be perturbed. Throws
-    /// std::bad_alloc.
-    bool factorise(const SparseRows &matrix);
+    /// Ordering and symbolic factorisation. False for any other pattern. Throws std::bad_alloc.
+    [[nodiscard]] bool analyse(const SparseRows &matrix);
+    /// Numerical factorisation of the analysed matrix. False if a pivot would have to be perturbed. Throws std::bad_alloc.
+    [[nodiscard]] bool factorise(const SparseRows &matrix);
     /// Solves in place.
     void solve(float *rightHandSide);
-    /// Floats that hold the factors.
+    /// Number of floats in the factors.
     std::int64_t entryCount() const { return std::int64_t(panelFloats); }
 
 private:
@@ -37,42 +36,41 @@ private:
     };
     using Floats = std::unique_ptr<float[], Free>;
 
-    /// Some vertices that are eliminated together, in one dense front: a leaf of the dissection, or a separator with two
-    /// children.
+    /// Vertices that are eliminated together, in one dense front: a leaf of the dissection, or a separator with two children.
     struct Node
     {
         std::int32_t subtreeFirst; ///< Positions subtreeFirst to first + pivots are this node's subtree.
-        std::int32_t first;        ///< First position of the node itself in the order of elimination.
+        std::int32_t first;        ///< First position of the node's own vertices in the elimination order.
         std::int32_t pivots;
         std::int32_t children[2] = {-1, -1};
-        std::vector<std::int32_t> border;     ///< Later positions that the node's subtree touches, rising.
-        std::vector<std::int32_t> parentRows; ///< For each of them, its row in the parent's front.
+        std::vector<std::int32_t> border;     ///< Later positions that the node's subtree touches, ascending.
+        std::vector<std::int32_t> parentRows; ///< The row of each border position in the parent's front.
         std::size_t panelStart = 0;
         std::size_t localStart = 0;
-        Floats contribution; ///< From this node's elimination to its parent's.
+        Floats contribution; ///< Exists from this node's elimination to its parent's.
 
         int pivotStrips() const;
         int strips() const;
-        /// Row of a position in the front, which holds it.
+        /// Row of a position in the front; the front must hold it.
         int rowOf(std::int32_t position) const;
     };
     struct Box
     {
-        std::int32_t left, top, right, bottom; // right and bottom are outside
+        std::int32_t left, top, right, bottom; // right and bottom are exclusive
     };
     struct Job
     {
         std::int32_t node;
         std::int32_t parent; ///< -1 for the root.
     };
-    /// A cell of the matrix, filed under the vertex that is eliminated first.
+    /// A cell of the matrix, stored with whichever of its two vertices is eliminated first.
     struct Cell
     {
         std::int32_t later;  ///< The other vertex, as a position.
         std::int32_t source; ///< Index into the values.
     };
 
-    /// Not initialised. Throws std::bad_alloc.
+    /// Uninitialised memory. Throws std::bad_alloc.
     static Floats allocate(std::size_t count, std::size_t alignment);
     void findGrid(const SparseRows &matrix);
     std::int32_t dissect(const Box &box);
@@ -90,15 +88,15 @@ private:
     int team;
     std::int32_t order = 0;
     std::int32_t gridWidth = 1;
-    std::int32_t reach[2] = {0, 0};      ///< How far apart in x and y two vertices may be that share a cell.
+    std::int32_t reach[2] = {0, 0};      ///< Greatest distance in x and y of two vertices that share a cell.
     std::vector<Node> nodes;             ///< Children before parents; the last is the root.
     std::vector<Job> subtrees;           ///< Small subtrees, each visited by one thread.
-    std::vector<std::vector<Job>> waves; ///< The nodes above them by depth, the root first; those of one wave are unrelated.
+    std::vector<std::vector<Job>> waves; ///< The nodes above them, by depth, root first; those of one wave are independent.
     std::vector<std::int32_t> positionOf;
     std::vector<std::int32_t> vertexAt;
     std::vector<std::int32_t> cellStarts; ///< By position.
     std::vector<Cell> cells;
     std::size_t panelFloats = 0;
     Floats panels;
-    Floats locals; ///< One float a row of each front, for the solution.
+    Floats locals; ///< One float per row of each front, for the solution.
 };

@@ -11,10 +11,10 @@ namespace {
 
 enum Job { Initialise = -1, Terminate = -2, Analyse = 1, Factorise = 2, SolveSystem = 3 };
 
-/// Names the sequential communicator to the library.
+/// The library's code for the sequential communicator.
 constexpr MUMPS_INT kSequentialWorld = -987654;
 
-// Share of memory beyond the estimate, in per cent, where the library starts; it is doubled as long as it does not suffice.
+// Memory beyond the estimate, in per cent: the library starts with the first value, which is doubled until it suffices.
 constexpr MUMPS_INT kFirstSlack = 30;
 constexpr MUMPS_INT kLastSlack = 2000;
 
@@ -75,7 +75,7 @@ MumpsFactors::~MumpsFactors()
 std::int32_t MumpsFactors::analyse(const SparseRows &matrix)
 {
     if (matrix.count() == 0)
-        return PardisoSingular; // the library reads the first cell even so
+        return PardisoSingular; // the library would read the first cell all the same
     rows.resize(std::size_t(matrix.count()));
     for (std::int32_t row = 0; row < matrix.order; ++row)
         std::fill(rows.begin() + (matrix.rowStarts[row] - 1), rows.begin() + (matrix.rowStarts[row + 1] - 1), row + 1);
@@ -90,7 +90,7 @@ std::int32_t MumpsFactors::analyse(const SparseRows &matrix)
 
     record.n = matrix.order;
     record.nnz = matrix.count();
-    // The library only reads the matrix; its record is older than const.
+    // The library only reads the matrix; its record predates const.
     record.irn = rows.data();
     record.jcn = const_cast<MUMPS_INT *>(matrix.columns);
     for (const int stream : {1, 2, 3})
@@ -98,7 +98,7 @@ std::int32_t MumpsFactors::analyse(const SparseRows &matrix)
     library->setting(4) = 0;  // prints nothing
     library->setting(5) = 0;  // assembled matrix
     library->setting(6) = 0;  // the analysis reads no values: its matching crashes on some that have no solution
-    library->setting(7) = 2;  // approximate minimum fill: the least work on these patterns, and no library of its own
+    library->setting(7) = 2;  // approximate minimum fill: the least work on these patterns, and needs no further library
     library->setting(18) = 0; // given in one piece
     library->setting(14) = kFirstSlack;
     library->run(Analyse);
@@ -129,7 +129,7 @@ std::int32_t MumpsFactors::solve(float *rightHandSide)
 
 std::int64_t MumpsFactors::entryCount() const
 {
-    // Counts above an int are given in millions, negative.
+    // A count too large for an int is reported in millions, as a negative number.
     const std::int64_t count = library->record.infog[28];
     return count < 0 ? -count * 1000000 : count;
 }

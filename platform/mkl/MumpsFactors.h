@@ -6,10 +6,10 @@
 
 #include "SparseRows.h"
 
-/// Factors of any sparse matrix by MUMPS: LDL' with numerical pivoting if it is symmetric, LU if not.
+/// Factors of any sparse matrix, computed by MUMPS: LDL' with numerical pivoting if it is symmetric, LU if not.
 ///
-/// Every call that reaches the library holds one lock of the process: neither MUMPS nor the serial OpenBLAS under it may run on
-/// two threads at once. Calls return 0 or a PardisoError.
+/// Every call into the library holds a process-wide lock: neither MUMPS nor the serial OpenBLAS under it may run on two threads
+/// at once. Calls return 0 or a PardisoError.
 class MumpsFactors
 {
 public:
@@ -19,17 +19,17 @@ public:
     MumpsFactors &operator=(const MumpsFactors &) = delete;
 
     /// Ordering and symbolic factorisation.
-    std::int32_t analyse(const SparseRows &matrix);
-    /// Numerical factorisation of the matrix that was analysed; pivots below `pivotFloor` are set to it (scaled matrix).
-    std::int32_t factorise(const SparseRows &matrix, float pivotFloor);
+    [[nodiscard]] std::int32_t analyse(const SparseRows &matrix);
+    /// Numerical factorisation of the analysed matrix; pivots of the scaled matrix below `pivotFloor` are set to it.
+    [[nodiscard]] std::int32_t factorise(const SparseRows &matrix, float pivotFloor);
     /// Solves in place, without refinement.
-    std::int32_t solve(float *rightHandSide);
-    /// Entries of the factors, after factorise.
+    [[nodiscard]] std::int32_t solve(float *rightHandSide);
+    /// Number of entries in the factors; valid after factorise.
     std::int64_t entryCount() const;
 
 private:
     struct Library;
 
     std::unique_ptr<Library> library;
-    std::vector<std::int32_t> rows; ///< The row of each cell: the library takes coordinates.
+    std::vector<std::int32_t> rows; ///< The row of each cell: the library expects coordinates.
 };

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-/// A matrix as the caller of the layer holds it: compressed rows, one-based, columns rising strictly. Owns nothing.
+/// A matrix in the form that callers pass to the layer: compressed rows, one-based, columns strictly ascending. Owns nothing.
 struct SparseRows
 {
     bool symmetric; ///< Only the upper triangle with the diagonal is given.

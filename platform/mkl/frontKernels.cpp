@@ -5,7 +5,7 @@
 
 namespace {
 
-// Generic vectors: each version of a kernel lowers them to what its instruction set has.
+// Generic vectors, which each version of a kernel maps to its instruction set.
 typedef float Lanes __attribute__((vector_size(kStrip * sizeof(float))));
 
 #define NIMBRA_INLINE __attribute__((always_inline)) inline
@@ -19,9 +19,9 @@ NIMBRA_INLINE const Lanes &lanes(const float *at)
     return *reinterpret_cast<const Lanes *>(at);
 }
 
-/// target (16 x 16) -= left (16 x depth) * right' (depth x 16), `Width` columns at a time: as many as there are registers for.
+/// target (16 x 16) -= left (16 x depth) * right' (depth x 16), `Width` columns at a time: as many as fit into registers.
 template<int Width>
-NIMBRA_INLINE void takeProduct(float *target, const float *left, const float *right, int depth)
+NIMBRA_INLINE void subtractProduct(float *target, const float *left, const float *right, int depth)
 {
     for (int first = 0; first < kStrip; first += Width) {
         Lanes sum[Width];
@@ -57,7 +57,7 @@ NIMBRA_INLINE bool factorTile(float *tile, const float *floors)
     return true;
 }
 
-/// target := target * L'^-1, L being the tile as factorTile leaves it.
+/// target := target * L'^-1, where L is the tile as left by factorTile.
 NIMBRA_INLINE void divideTile(float *target, const float *tile)
 {
     for (int j = 0; j < kStrip; ++j) {
@@ -78,7 +78,7 @@ NIMBRA_INLINE bool factorBody(float *panel, int pivotStrips, int strips, const f
         for (int strip = block; strip < strips; ++strip) {
             float *const rows = panel + strip * stripSize;
             float *const target = rows + block * kStrip * kStrip;
-            takeProduct<Width>(target, rows, blockRows, block * kStrip);
+            subtractProduct<Width>(target, rows, blockRows, block * kStrip);
             if (strip > block)
                 divideTile(target, tile);
             else if (!factorTile(target, floors + block * kStrip))
@@ -96,7 +96,8 @@ NIMBRA_INLINE void updateBody(const float *panel, int pivots, int pivotStrips, i
     for (int row = 0; row < strips - pivotStrips; ++row) {
         float *const target = contribution + contributionStart(row);
         for (int column = 0; column <= row; ++column)
-            takeProduct<Width>(target + column * kStrip * kStrip, border + row * stripSize, border + column * stripSize, pivots);
+            subtractProduct<Width>(target + column * kStrip * kStrip, border + row * stripSize, border + column * stripSize,
+                                   pivots);
     }
 }
 
@@ -146,7 +147,7 @@ NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips,
     }
 }
 
-// One version a set of registers; the widths leave room for a column and a factor beside the sums.
+// One version per register set; the widths leave room for a column and a factor beside the sums.
 #define NIMBRA_VERSION(name, width, ...)                                                                                         \
     __VA_ARGS__ bool factor##name(float *panel, int pivotStrips, int strips, const float *floors)                                \
     {                                                                                                                            \

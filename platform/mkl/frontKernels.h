@@ -3,21 +3,21 @@
 /// The dense work of one front of a multifrontal Cholesky factorisation, in single precision.
 ///
 /// A front is stored in strips of 16 rows. Its panel has `strips` strips of `columns` = 16 * `pivotStrips` columns: column c of
-/// strip s is 16 floats at panel + (s * columns + c) * 16. The first `pivotStrips` strips are the pivots' own rows, the others
-/// the border. Rows and columns beyond what the front has are zero, with 1 on the diagonal.
+/// strip s is 16 floats at panel + (s * columns + c) * 16. The first `pivotStrips` strips hold the pivots' rows, the others the
+/// border. Padding rows and columns are zero, with 1 on the diagonal.
 ///
-/// Its contribution to the fronts above is the lower triangle of the border, where strip s has 16 * (s + 1) columns and begins at
+/// Its contribution to the fronts above is the lower triangle of the border: strip s has 16 * (s + 1) columns and begins at
 /// contributionStart(s).
 struct FrontKernels
 {
-    /// Factors the panel in place: L below the diagonal, 1 / L_jj on it. False if a pivot is not above its floor, of which there
-    /// is one a column; a not-a-number never is.
+    /// Factors the panel in place: L below the diagonal, 1 / L_jj on it. `floors` holds one float per column; false if a pivot is
+    /// not above its floor, or NaN.
     bool (*factor)(float *panel, int pivotStrips, int strips, const float *floors);
-    /// Takes the product of the border's rows with each other, over the first `pivots` columns, from the contribution.
+    /// Subtracts the product of the border with its transpose, over the first `pivots` columns, from the contribution.
     void (*update)(const float *panel, int pivots, int pivotStrips, int strips, float *contribution);
-    /// Solves L y = b for the pivots and takes their part from the border; `local` is one float a row of the front.
+    /// Solves L y = b for the pivots and subtracts their part from the border; `local` holds one float per row of the front.
     void (*forward)(const float *panel, int pivotStrips, int strips, float *local);
-    /// Solves L' x = y for the pivots, with the border's x given.
+    /// Solves L' x = y for the pivots; the border's x is given.
     void (*backward)(const float *panel, int pivotStrips, int strips, float *local);
 };
 

@@ -33,21 +33,22 @@ enum MatrixType : std::int32_t { SymmetricIndefinite = -2, Unsymmetric = 11 };
 
 thread_local int teamSize = 1;
 
-// A refinement step shrinks the error by about the same factor each time: the first correction relative to the solution shows it.
-// Below 2^-13, the error after that correction is at most 2^-26 of the solution and the next step is lost in rounding to float.
+// Each refinement step shrinks the error by about the same factor, which the first correction relative to the solution shows. If
+// that is below 2^-13, the remaining error is at most 2^-26 of the solution, and the next step would be lost in rounding to
+// float.
 constexpr double kConverged = 1.0 / 8192;
-// What may be left of the right-hand side when the steps are used up. A system that single precision can factorise at all has
-// lost far more digits of the residual by then; a perturbed singular one keeps about all of it.
+// The largest residual, relative to the right-hand side, that is accepted once the steps are used up. In a system that single
+// precision can factorise at all it is far smaller by then; in a perturbed singular one hardly any of it has gone.
 constexpr double kSolved = 1e-3;
 
-/// What `pt` stands for between the phases: the quick factors as long as they serve, the library's otherwise.
+/// What `pt` points to between the phases: the quick factors while they work, otherwise the library's.
 struct Handle
 {
     std::unique_ptr<MultifrontalFactors> quick;
     MumpsFactors library;
     bool factorised = false;
 
-    std::int32_t analyse(const SparseRows &matrix)
+    [[nodiscard]] std::int32_t analyse(const SparseRows &matrix)
     {
         if (matrix.symmetric) {
             quick = std::make_unique<MultifrontalFactors>(teamSize);
@@ -58,7 +59,7 @@ struct Handle
         return library.analyse(matrix);
     }
 
-    std::int32_t factorise(const SparseRows &matrix, float pivotFloor)
+    [[nodiscard]] std::int32_t factorise(const SparseRows &matrix, float pivotFloor)
     {
         if (quick) {
             if (quick->factorise(matrix))
@@ -70,7 +71,7 @@ struct Handle
         return library.factorise(matrix, pivotFloor);
     }
 
-    std::int32_t solve(float *rightHandSide)
+    [[nodiscard]] std::int32_t solve(float *rightHandSide)
     {
         if (!quick)
             return library.solve(rightHandSide);

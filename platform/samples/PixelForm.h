@@ -3,7 +3,7 @@
 #include <cstddef>
 
 /// Form of interleaved pixels: 1 (grey), 3 (R, G, B) or 4 components (R, G, B, A), each an unsigned integer of 8 or 16 bits or a
-/// float of 32.
+/// 32-bit float.
 struct PixelForm
 {
     int components;

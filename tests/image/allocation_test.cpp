@@ -73,7 +73,10 @@ void sweep(const std::function<void()> &prepare, const std::function<void()> &wo
 class Allocation : public testing::Test
 {
 protected:
-    static void SetUpTestSuite() { gflLibraryInitEx(gflAllocCallback, gflReallocCallback, gflFreeCallback, nullptr); }
+    static void SetUpTestSuite()
+    {
+        ASSERT_EQ(gflLibraryInitEx(gflAllocCallback, gflReallocCallback, gflFreeCallback, nullptr), GFL_NO_ERROR);
+    }
     static void TearDownTestSuite() { gflLibraryExit(); }
     void SetUp() override { threadCount = 2; }
     void TearDown() override { threadCount = 1; }

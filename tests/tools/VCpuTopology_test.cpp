@@ -1,7 +1,7 @@
 #include "VCpuTopology.h"
 
-#include <set>
 #include <thread>
+#include <tuple>
 
 #include <gtest/gtest.h>
 #include <omp.h>
@@ -21,7 +21,7 @@ cpu_set_t ownAffinity()
     return set;
 }
 
-/// Processors that a parallel region can reach: what each of its threads may run on, taken together.
+/// All processors that the threads of a parallel region may run on.
 cpu_set_t regionAffinity(int team)
 {
     cpu_set_t all;
@@ -41,7 +41,7 @@ protected:
     ~StartedTools() override { stopTools(); }
 };
 
-TEST_F(StartedTools, LeaveTheCallersAffinityAndItsWorkersAlone)
+TEST_F(StartedTools, KeepTheAffinityOfCallerAndWorkers)
 {
     const cpu_set_t before = ownAffinity();
     startTools(nullptr);
@@ -55,7 +55,7 @@ TEST_F(StartedTools, LeaveTheCallersAffinityAndItsWorkersAlone)
     EXPECT_TRUE(CPU_EQUAL(&before, &reached));
 }
 
-TEST_F(StartedTools, FitAProcessThatMayUseOneProcessor)
+TEST_F(StartedTools, RespectAProcessLimitedToOneProcessor)
 {
     const cpu_set_t before = ownAffinity();
     cpu_set_t one;
@@ -70,13 +70,13 @@ TEST_F(StartedTools, FitAProcessThatMayUseOneProcessor)
     EXPECT_EQ(sched_setaffinity(0, sizeof before, &before), 0);
 }
 
-TEST(VCpuTopology, IsTheSameWithoutProcessorGroupsWhereThePlainMasksReach)
+TEST(VCpuTopology, IsTheSameWithoutProcessorGroupsIfThePlainMasksSuffice)
 {
     TopologyRecords groups, plain;
-    std::thread([&] { groups = readTopology(); }).join(); // each walk ends with its thread, and so does the binding
+    std::thread([&] { groups = readTopology(); }).join(); // the binding ends with the walk's thread
     std::thread([&] { plain = readTopology(/*withGroups=*/false); }).join();
     ASSERT_FALSE(plain.hasGroups);
-    EXPECT_TRUE(plain.masksTold && plain.groups.empty());
+    EXPECT_TRUE(plain.hasReportedMasks && plain.groups.empty());
     VCpuTopology first, second;
     countTopology(groups, first);
     countTopology(plain, second);
@@ -89,7 +89,7 @@ TEST(VCpuTopology, IsTheSameWithoutProcessorGroupsWhereThePlainMasksReach)
                   std::tie(first.error, first.coreCount, first.threadCount));
 }
 
-TEST(VCpuTopology, FallsBackOnTheRunTime)
+TEST(VCpuTopology, FallsBackOnOpenMp)
 {
     VCpuTopology failed;
     failed.enumerated = 1;

@@ -33,7 +33,7 @@ void write(const QString &path, const QByteArray &content)
     file.write(content);
 }
 
-TEST(CheckFileWritable, LeavesContentAndCreatesWhatIsMissing)
+TEST(CheckFileWritable, KeepsContentAndCreatesMissingFiles)
 {
     const QTemporaryDir folder;
     const QString made = folder.filePath("made.tif");
@@ -45,7 +45,7 @@ TEST(CheckFileWritable, LeavesContentAndCreatesWhatIsMissing)
     EXPECT_EQ(QFile(made).size(), 7);
 }
 
-TEST(CheckFileWritable, TellsWhatStandsInTheWay)
+TEST(CheckFileWritable, NamesTheObstacle)
 {
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkdir("folder"));
@@ -55,7 +55,7 @@ TEST(CheckFileWritable, TellsWhatStandsInTheWay)
     EXPECT_EQ(refusal("no/f.tif", 1), kLocked.arg(QDir::currentPath() + "/no/f.tif"));
     EXPECT_EQ(refusal(folder.filePath("f.tif"), INT64_MAX), kFull.arg(folder.path()));
     EXPECT_FALSE(QFile::exists(folder.filePath("f.tif")));
-    // A volume with no byte free that takes no files: exactly the free size passes, one byte more does not.
+    // A volume with no free byte that accepts no files: exactly the free size passes, one byte more does not.
     ASSERT_EQ(freeDiskSpace("/proc"), 0);
     EXPECT_EQ(refusal("/proc/f.tif", 0), kLocked.arg("/proc/f.tif"));
     EXPECT_EQ(refusal("/proc/f.tif", 1), kFull.arg("/proc"));
@@ -76,7 +76,7 @@ TEST(CheckFileWritable, CountsToTheByteOnASmallDisk)
     umount(path.constData());
 }
 
-TEST(VTempManager, RemovesOnlyFoldersThatHoldNothing)
+TEST(VTempManager, RemovesOnlyEmptyFolders)
 {
     const QTemporaryDir root;
     const auto add = [&](const char *name) {
@@ -98,7 +98,7 @@ TEST(VTempManager, RemovesOnlyFoldersThatHoldNothing)
     EXPECT_EQ(tempManager, nullptr);
 }
 
-TEST(VTempManager, KeepsALentOne)
+TEST(VTempManager, KeepsALentManager)
 {
     VTempManager lent;
     initTempManager(&lent);

@@ -12,13 +12,12 @@ using Records = TopologyRecords;
 
 constexpr std::uint32_t kHyperThreading = 1u << 28;
 
-/// A machine whose processors all work as the system says: the process may use them all, and `apicIds` stand in the system's
-/// order.
+/// A machine whose processors are all available to the process; `apicIds` are in the system's order.
 Records machine(const std::vector<std::uint32_t> &apicIds)
 {
     Records records;
     records.processorCount = std::uint32_t(apicIds.size());
-    records.groupsTold = true;
+    records.hasReportedGroups = true;
     for (std::uint32_t first = 0; first < records.processorCount; first += 32) {
         const std::uint32_t count = std::min(records.processorCount - first, 32u);
         const std::uint32_t mask = 0xFFFFFFFFu >> (32 - count);
@@ -32,7 +31,7 @@ Records machine(const std::vector<std::uint32_t> &apicIds)
     return records;
 }
 
-/// Leaf 0xB with the widths of the thread field, and of thread and core field together.
+/// Leaf 0xB with the width of the thread field, and that of thread and core fields together.
 std::vector<CpuidRegisters> levels(std::uint32_t threadShift, std::uint32_t coreShift)
 {
     return {{threadShift, 1, 1 << 8, 0}, {coreShift, 1, 2 << 8 | 1, 0}};
@@ -45,7 +44,7 @@ Records withLevels(const std::vector<std::uint32_t> &apicIds, std::uint32_t thre
     return records;
 }
 
-/// A processor older than leaf 0xB: logical processors and cores per package as leaf 1 and leaf 4 tell them.
+/// A processor older than leaf 0xB: leaf 1 reports the logical processors and leaf 4 the cores per package.
 Records older(const std::vector<std::uint32_t> &apicIds, std::uint32_t perPackage, std::uint32_t coresPerPackage)
 {
     Records records = machine(apicIds);
@@ -75,7 +74,7 @@ Records plain(std::uint32_t count, std::uint32_t processMask, std::uint32_t syst
     Records records = withLevels(upTo(count), 0, 5);
     records.hasGroups = false;
     records.groups.clear();
-    records.masksTold = true;
+    records.hasReportedMasks = true;
     records.processMask = processMask;
     records.systemMask = systemMask;
     return records;
@@ -111,7 +110,7 @@ const Case kCases[] = {
                  r.groups = {{4, 5, 5, false}};
              }),
      2, 2, 0},
-    {"thread_level_alone", changed(withLevels({0, 1, 2, 3}, 1, 1), [](Records &r) { r.leafB.pop_back(); }), 2, 4, 0},
+    {"only_a_thread_level", changed(withLevels({0, 1, 2, 3}, 1, 1), [](Records &r) { r.leafB.pop_back(); }), 2, 4, 0},
     {"no_leaf_B_4_cores_of_2", older(upTo(8), 8, 4), 4, 8, 0},
     {"no_leaf_B_3_cores_in_fields_of_4", older({0, 1, 2, 8, 9, 10}, 3, 3), 6, 6, 0},
     {"no_leaf_4",
@@ -129,14 +128,15 @@ const Case kCases[] = {
     {"plain_process_mask_too_small", plain(4, 7, 15), 0, 0, Topology::MasksDisagree + 3},
     {"plain_system_mask_too_large", plain(2, 3, 7), 0, 0, Topology::SystemCallFailed + 3},
     {"plain_mask_with_a_hole", plain(2, 5, 5), 0, 0, Topology::MasksDisagree | (Topology::MasksDisagree + 0)},
-    {"plain_masks_not_told", changed(plain(2, 3, 3), [](Records &r) { r.masksTold = false; }), 0, 0, Topology::SystemCallFailed},
-    {"groups_not_told", changed(withLevels(upTo(2), 1, 4), [](Records &r) { r.groupsTold = false; }), 0, 0,
+    {"plain_masks_not_reported", changed(plain(2, 3, 3), [](Records &r) { r.hasReportedMasks = false; }), 0, 0,
+     Topology::SystemCallFailed},
+    {"groups_not_reported", changed(withLevels(upTo(2), 1, 4), [](Records &r) { r.hasReportedGroups = false; }), 0, 0,
      Topology::SystemCallFailed},
     {"group_call_failed", changed(withLevels(upTo(2), 1, 4), [](Records &r) { r.groups[0].failed = true; }), 0, 0,
      Topology::SystemCallFailed},
     {"more_bits_than_processors", changed(withLevels(upTo(2), 1, 4), [](Records &r) { r.groups[0].processMask = 7; }), 0, 0,
      Topology::MasksDisagree},
-    {"groups_hold_fewer_than_there_are",
+    {"groups_hold_too_few",
      changed(withLevels(upTo(3), 1, 4),
              [](Records &r) {
                  r.groups[0] = {2, 3, 3, false};
@@ -152,7 +152,7 @@ const Case kCases[] = {
      Topology::SystemCallFailed},
     {"no_processor_count", Records(), 0, 0, Topology::SystemCallFailed},
     {"none_reached", changed(withLevels(upTo(2), 1, 4), [](Records &r) { r.processors.clear(); }), 0, 0, Topology::CountFailed},
-    {"leaf_0_makes_no_sense", changed(withLevels(upTo(2), 1, 4), [](Records &r) { r.highestLeaf = 0x756E6547; }), 0, 0,
+    {"leaf_0_is_implausible", changed(withLevels(upTo(2), 1, 4), [](Records &r) { r.highestLeaf = 0x756E6547; }), 0, 0,
      Topology::Abandoned},
     {"too_many_caches",
      changed(withLevels(upTo(2), 1, 4),
@@ -160,7 +160,7 @@ const Case kCases[] = {
                  r.leaf4.assign(9, {1, 0, 0, 0});
              }),
      0, 0, Topology::Abandoned},
-    {"another_family_2_cores_of_2",
+    {"no_cpuid_2_cores_of_2",
      changed(machine({0, 0, 0, 0}),
              [](Records &r) {
                  r.hasCpuid = false;
@@ -168,7 +168,7 @@ const Case kCases[] = {
                  r.places = {{0, 0}, {0, 1}, {0, 0}, {0, 1}};
              }),
      2, 4, 0},
-    {"binding_forbidden_but_told_by_the_system",
+    {"binding_forbidden_but_places_reported",
      changed(withLevels(upTo(4), 1, 4),
              [](Records &r) {
                  r.processors = {{0, 1, 0}};
@@ -182,7 +182,7 @@ class CountTopology : public testing::TestWithParam<Case>
 {
 };
 
-TEST_P(CountTopology, GivesTheNumbersOrTheFlag)
+TEST_P(CountTopology, ReportsTheCountsOrAnError)
 {
     Topology topology;
     countTopology(GetParam().records, topology);
@@ -196,10 +196,10 @@ TEST_P(CountTopology, GivesTheNumbersOrTheFlag)
 INSTANTIATE_TEST_SUITE_P(Machines, CountTopology, testing::ValuesIn(kCases),
                          [](const testing::TestParamInfo<Case> &info) { return info.param.name; });
 
-TEST(CountTopologyTables, TellThreadsOfCoresAndCaches)
+TEST(CountTopologyTables, HoldThreadsOfCoresAndCaches)
 {
     Records records = withLevels({0, 1, 2, 3, 16, 17, 18}, 1, 4);
-    // 32 KB of 8 ways, 64 bytes, 64 sets for 2 threads; 8 MB of 16 ways for up to 16.
+    // 32 KB: 8 ways, 64 bytes, 64 sets, for 2 threads; 8 MB: 16 ways, for up to 16 threads.
     records.leaf4 = {{1 << 14 | 1 << 5 | 1, 7u << 22 | 63, 63, 0}, {15 << 14 | 3 << 5 | 3, 15u << 22 | 63, 8191, 0}};
     Topology topology;
     countTopology(records, topology);
@@ -228,7 +228,7 @@ TEST(CountTopologyTables, TellThreadsOfCoresAndCaches)
     EXPECT_EQ(oldest.perEachCache_detectedThreadCount.at(0, 0), 2u);
 }
 
-TEST(CountTopologyTables, PrintWhatIsOutside)
+TEST(CountTopologyTables, ReportIndicesOutOfRange)
 {
     const auto printed = [](auto call) {
         testing::internal::CaptureStdout();

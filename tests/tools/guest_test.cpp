@@ -28,8 +28,7 @@
 #include "startLibraries.h"
 #include "threadCount.h"
 
-// What the plug-in file leaves behind in the program that loads it: this program stands for the host, and has libraries of its
-// own.
+// What the plug-in leaves behind in the program that loads it. This program is the host, with libraries of its own.
 
 namespace {
 
@@ -37,8 +36,8 @@ using Sets = std::vector<std::string>;
 
 Sets registered; // by the plug-in file
 
-/// Which of our resource sets this is, by the first name that tells in its table of names: for each name two bytes of length,
-/// four of hash, and the letters in UTF-16, high bytes first. Each set has such a name.
+/// Which of our resource sets this is, from the first distinctive name in its table of names: each name has two bytes of length,
+/// four of hash, and its letters in UTF-16, high bytes first. Each set has such a name.
 std::string setOf(const unsigned char *names)
 {
     for (;;) {
@@ -57,7 +56,7 @@ std::string setOf(const unsigned char *names)
 
 } // namespace
 
-// This definition stands before Qt's: it notes the call and passes it on.
+// This definition precedes Qt's: it records the call and passes it on.
 Q_DECL_EXPORT bool qRegisterResourceData(int version, const unsigned char *tree, const unsigned char *names,
                                          const unsigned char *data)
 {
@@ -88,7 +87,7 @@ class Host : public QCoreApplication, public VIApplication
 public:
     using QCoreApplication::QCoreApplication;
 
-    /// The photograph's file, a TIFF with XMP, since there the metadata library is asked for all that it can do.
+    /// The photograph's file: a TIFF with XMP, which uses all parts of the metadata library.
     QString writePhotograph()
     {
         const QString path = folder.filePath("photo.tif");
@@ -135,7 +134,7 @@ protected:
         loader.setLoadHints({}); // the default keeps the file loaded
         ASSERT_TRUE(loader.instance()) << qPrintable(loader.errorString());
         EXPECT_TRUE(QFile::exists(":/Translation/Nimbra_de.qm"));
-        // What the host keeps of it must not lie in the file's memory.
+        // What the host keeps of it must not lie in the plug-in's memory.
         auto *library = qobject_cast<VIPluginLibrary *>(loader.instance());
         auto *process = qobject_cast<VIPluginOne2One *>(library->processes(1).last());
         const QString name = process->name();
@@ -173,12 +172,12 @@ TEST_P(Guest, LeavesNothingBehind)
     startImageLibrary(nullptr);
     interfaceContext.flag = new std::uint8_t(7);
     const QPointer<VLog> log = logInstance;
-    threadCount = 3; // the host's own wish
+    threadCount = 3; // the host's own choice
 
     const QString photograph = host.writePhotograph();
-    Exiv2::XmpParser::terminate(); // as for a host that has not used it yet
+    Exiv2::XmpParser::terminate(); // like a host that has not used it yet
     const auto messages = Exiv2::LogMsg::level();
-    loadOnce(photograph); // what the system itself keeps from the first time on
+    loadOnce(photograph); // what the system itself keeps after the first time
     const std::size_t threads = entriesOf("/proc/self/task");
     const std::size_t files = entriesOf("/proc/self/fd");
     for (int round = 0; round < 10; ++round)
@@ -186,7 +185,7 @@ TEST_P(Guest, LeavesNothingBehind)
     EXPECT_EQ(entriesOf("/proc/self/task"), threads);
     EXPECT_EQ(entriesOf("/proc/self/fd"), files);
 
-    // The metadata library goes on without the plug-in.
+    // The metadata library still works without the plug-in.
     EXPECT_EQ(Exiv2::LogMsg::level(), messages);
     Exiv2::XmpProperties::registerNs("http://example.org/host/", "host");
     Exiv2::XmpData xmp;
@@ -220,7 +219,7 @@ TEST(GuestLoad, RegistersItsResourceSetsInOrder)
     void *const file = dlopen(PLUGIN_FILE, RTLD_NOW);
     ASSERT_TRUE(file) << dlerror();
     ASSERT_GE(registered.size(), 4u);
-    registered.resize(4); // whatever follows says the same again
+    registered.resize(4); // the others repeat these
     EXPECT_THAT(registered, testing::ElementsAre("Nimbra 1", "image 1", "VTools 1", "VUI 1"));
     dlclose(file);
 }

@@ -1,5 +1,3 @@
-#include <set>
-
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -32,7 +30,7 @@ TEST(CameraProperties, FirstMatchWins)
         {"NIKON CORPORATION", "NIKON D3100", 1.558},
         {"NIKON CORPORATION", "NIKON D3S", 1.001},
         {"NIKON CORPORATION", "NIKON D3900", 0}, // not the D3
-        {"Canon", "Canon EOS Kiss X50", 1.6188}, // with a comment behind the number
+        {"Canon", "Canon EOS Kiss X50", 1.6188}, // with a comment after the number
         {"Canon", "Canon EOS DIGITAL REBEL XSi", 1.622},
         {"Canon", "Canon EOS-1Ds Mark III", 1.0},
         {"Canon", "Canon PowerShot A400", 7.619},
@@ -51,10 +49,10 @@ TEST(CameraProperties, NoRowHidesALaterOne)
     for (int late = 0; late < rows.size(); ++late)
         for (int early = 0; early < late; ++early)
             EXPECT_FALSE(rows[late].brand == rows[early].brand && rows[late].name.startsWith(rows[early].name))
-                << qPrintable(rows[late].name) << " stands behind " << qPrintable(rows[early].name);
+                << qPrintable(rows[late].name) << " follows " << qPrintable(rows[early].name);
 }
 
-TEST(CameraProperties, ReadsOnlyRows)
+TEST(CameraProperties, SkipsMalformedRows)
 {
     const auto rows = CameraProperties::read("#A;B;1\r\n\r\n A ; B ;2.5 # C;D\r\nA;B\r\nA;B;x\r\nA;B;-1\r\nA;;1\r\n;\nE;F;3");
     ASSERT_EQ(rows.size(), 2);
@@ -94,19 +92,15 @@ TEST(LensIDProperties, FindsByNumbers)
     EXPECT_EQ(LensIDProperties::find(read, "A", "1 2 3")->name, "first");
 }
 
-TEST(Properties, TheTextsKeepTheirForm)
+TEST(Properties, TheFilesKeepTheirForm)
 {
-    startTools(nullptr); // names the resources, so that the link keeps them
+    startTools(nullptr); // refers to the resources, so that the linker keeps them
     stopTools();
     for (const char *name : {"cameras.txt", "lensid.txt"}) {
         const QByteArray text = dataFile(name);
         EXPECT_EQ(text.count("\r\n"), text.count('\n')) << name;
         EXPECT_TRUE(text.endsWith('\n'));
     }
-    const QByteArray cameras = dataFile("cameras.txt");
-    for (const char *row : {"Apple;iPhone 6S;6.9", "Apple;iPhone 6;6.9", "Apple;iPhone;5.9", "Nikon;D3100;1.558",
-                            "Canon;Kiss X50;1.6188  #", "Canon;EOS-1Ds Mark III;1.000", "Canon;Digital Rebel Xsi;1.622  # 450D"})
-        EXPECT_TRUE(cameras.contains(QByteArray("\n") + row)) << row;
 }
 
 } // namespace

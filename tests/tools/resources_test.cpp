@@ -1,5 +1,3 @@
-#include <set>
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -61,7 +59,7 @@ class Resources : public testing::Test
 protected:
     static void SetUpTestSuite()
     {
-        startImageLibrary(nullptr); // twice registered by now
+        startImageLibrary(nullptr); // registered twice by now
         startInterfaceLibrary(nullptr);
     }
     static void TearDownTestSuite() { stopImageLibrary(); }
@@ -83,7 +81,7 @@ TEST_F(Resources, EveryCatalogueHasEveryTextInEveryLanguage)
                     EXPECT_EQ(text.count(part), QString(source).count(part)) << qPrintable(file) << ": " << source;
                 if (language == "en")
                     EXPECT_EQ(text, source);
-                else if (qstrlen(source) > 5) // units and "Next" may well be the same
+                else if (qstrlen(source) > 5) // units and "Next" may be the same
                     EXPECT_NE(text, source) << qPrintable(file);
             }
         }
@@ -94,7 +92,7 @@ TEST_F(Resources, EveryCatalogueHasEveryTextInEveryLanguage)
     EXPECT_EQ(found, expected);
 }
 
-TEST_F(Resources, QtsOwnCataloguesLoadByEitherName)
+TEST_F(Resources, QtsCataloguesLoadByEitherName)
 {
     if (!QFile::exists(":/Translation/qtbase_de.qm"))
         GTEST_SKIP() << "Qt's translations were not installed when this was built";
@@ -107,7 +105,7 @@ TEST_F(Resources, QtsOwnCataloguesLoadByEitherName)
     }
 }
 
-TEST_F(Resources, FailuresSpeakTheHostsLanguageAndKeepTheirNames)
+TEST_F(Resources, FailuresAreTranslatedButKeepTheirNames)
 {
     int argc = 1;
     char name[] = "test";

@@ -24,8 +24,8 @@ namespace {
 
 bool stopsLast = false;
 
-/// Its destructor stands for whoever deletes the plug-in's library object after the end of all static objects: it is made before
-/// them.
+/// Its destructor acts like a host that deletes the plug-in's library object after all static objects are gone: it is constructed
+/// before them.
 struct MadeFirst
 {
     ~MadeFirst()
@@ -38,7 +38,7 @@ struct MadeFirst
 };
 [[gnu::init_priority(101)]] const MadeFirst madeFirst;
 
-/// What a host lends; its own numbers are none that this machine would give.
+/// What a host lends, with numbers that this machine would not give.
 struct Host
 {
     VLog log;
@@ -59,7 +59,7 @@ struct Host
     };
 };
 
-/// Bytes of a plain picture that was saved as TIFF with LZW.
+/// Size in bytes of a uniform picture saved as TIFF with LZW.
 qint64 savedBytes()
 {
     const QTemporaryDir folder;
@@ -99,7 +99,7 @@ protected:
         stopImageLibrary();
         gflEnableLZW(1);
     }
-    /// Whether the OpenMP run-time and the codec layer are as a start alone sets them, or as SetUp did.
+    /// Expects the OpenMP run-time and the codec layer as a start alone sets them, or as SetUp left them.
     static void expectRunTime(bool set)
     {
         omp_sched_t kind{};
@@ -119,7 +119,7 @@ protected:
 
 TEST_F(StartLibraries, AloneMakesEverythingOnce)
 {
-    for (int round = 0; round < 2; ++round) { // the second round: a start after a stop
+    for (int round = 0; round < 2; ++round) { // the second round is a start after a stop
         threadCount = coreCount = 0;
         startImageLibrary(nullptr);
         const VToolsContext made = toolsContext;
@@ -157,7 +157,7 @@ TEST_F(StartLibraries, AloneMakesEverythingOnce)
 
 TEST_F(StartLibraries, WithAHostTakesWhatIsLentAndReleasesNothing)
 {
-    static std::atomic<int> blocks; // of the codec layer, which the host has started on a heap of its own
+    static std::atomic<int> blocks; // of the codec layer, which the host has started with its own heap
     const auto take = [](std::size_t bytes, void *) { return ++blocks, std::malloc(bytes); };
     const auto again = [](void *block, std::size_t bytes, void *) { return std::realloc(block, bytes); };
     const auto giveBack = [](void *block, void *) { std::free(block); };
@@ -176,7 +176,7 @@ TEST_F(StartLibraries, WithAHostTakesWhatIsLentAndReleasesNothing)
         EXPECT_EQ(imageSettings, &host.settings);
         EXPECT_EQ(imageContext.cacheRegistry, &host.registry);
     }
-    host.threads = 5; // the flag stays clear: a start again takes what is lent then, and only then
+    host.threads = 5; // another start uses what is lent then, and only then
     EXPECT_EQ(threadCount, 77);
     startImageLibrary(&host.image);
     EXPECT_EQ(threadCount, 5);
@@ -185,11 +185,11 @@ TEST_F(StartLibraries, WithAHostTakesWhatIsLentAndReleasesNothing)
     EXPECT_TRUE(nothingIsLeft());
     EXPECT_FALSE(host.machine.enumerated);
     blocks = 0;
-    expectRunTime(/*set=*/false); // the codec layer runs on
+    expectRunTime(/*set=*/false); // the codec layer is still running
     EXPECT_GT(blocks, 0);
     gflLibraryExit();
 
-    startImageLibrary(nullptr); // alone after a host: it makes its own
+    startImageLibrary(nullptr); // alone after a host: it makes its own objects
     EXPECT_TRUE(toolsContext.log && toolsContext.pool && toolsContext.tempManager && imageSettings);
     EXPECT_NE(toolsContext.pool, &host.pool);
     expectRunTime(/*set=*/true);
@@ -207,7 +207,7 @@ TEST_F(StartLibraries, MakesWhatAHostDoesNotLend)
         EXPECT_EQ(toolsContext.log, &host.log);
         stopImageLibrary();
     }
-    host.image.tools = nullptr; // no tools at all: they are started and stopped as alone, and the codecs stay the host's
+    host.image.tools = nullptr; // no tools at all: these are started and stopped as if alone, and the codecs remain the host's
     startImageLibrary(&host.image);
     EXPECT_TRUE(toolsContext.log && toolsContext.log != &host.log);
     EXPECT_EQ(kmp_get_blocktime(), 0);
@@ -216,7 +216,7 @@ TEST_F(StartLibraries, MakesWhatAHostDoesNotLend)
     EXPECT_TRUE(nothingIsLeft());
 }
 
-TEST(StartLibrariesDeathTest, StopAfterTheEndOfEveryStaticObject)
+TEST(StartLibrariesDeathTest, StopAfterAllStaticObjectsAreGone)
 {
     const QTemporaryDir root;
     ASSERT_TRUE(QDir(root.path()).mkdir("empty"));

@@ -10,7 +10,7 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// A file that says how long it was, and then holds `held` bytes.
+/// A file that reports its original size but holds only `held` bytes.
 struct File final : ByteSource
 {
     explicit File(Bytes content) : bytes(std::move(content)), held(bytes.size()) {}
@@ -33,9 +33,9 @@ Bytes counted(std::size_t count)
     return bytes;
 }
 
-TEST(ByteReader, NumbersInBothOrdersWhereverTheyLie)
+TEST(ByteReader, ReadsNumbersInBothOrdersAtAnyPosition)
 {
-    const File file(counted(10000)); // longer than what is held of a file at a time
+    const File file(counted(10000)); // longer than the window
     for (const bool inMemory : {true, false})
         for (const std::size_t at : {0u, 1u, 4089u, 4093u, 4095u, 4096u, 9992u}) {
             ByteReader reader = inMemory ? ByteReader(file.bytes) : ByteReader(file);
@@ -57,7 +57,7 @@ TEST(ByteReader, NumbersInBothOrdersWhereverTheyLie)
         }
 }
 
-TEST(ByteReader, NothingBehindTheEndAndNothingMovedByAFailure)
+TEST(ByteReader, ReadsNothingBeyondTheEndAndFailuresMoveNothing)
 {
     Bytes bytes = counted(5000);
     bytes[4990] = 0;
@@ -77,7 +77,7 @@ TEST(ByteReader, NothingBehindTheEndAndNothingMovedByAFailure)
     for (const bool inMemory : {true, false}) {
         ByteReader whole = inMemory ? ByteReader(file.bytes) : ByteReader(file);
         whole.seek(4980);
-        ByteReader part = whole.stretch(10); // the bytes behind it are there, but not its own; the first is the text's zero
+        ByteReader part = whole.stretch(10); // more bytes follow, outside the stretch; the first is the text's zero
         EXPECT_EQ(whole.position(), 4990u);
         part.seek(3);
         for (std::size_t i = 0; i < std::size(tooMuch); ++i) {
@@ -97,7 +97,7 @@ TEST(ByteReader, NothingBehindTheEndAndNothingMovedByAFailure)
     }
 }
 
-TEST(ByteReader, AFileThatHasBecomeShorter)
+TEST(ByteReader, EndsWhereAShrunkenFileEnds)
 {
     File file(counted(9000));
     file.held = 6000;

@@ -9,7 +9,7 @@ void append(FileBytes &to, const FileBytes &from)
     to.insert(to.end(), from.begin(), from.end());
 }
 
-/// Writes numbers in the byte order of one TIFF stream.
+/// Writes numbers in the byte order of a TIFF stream.
 struct Stream
 {
     FileBytes bytes;
@@ -58,7 +58,7 @@ FileBytes exifBlock(bool bigEndian)
     s.put(5, 2);
     s.entry(0x010F, kText, 8, kMake);
     s.entry(0x0112, kShort, 1, 6, 2); // orientation: a quarter turn
-    s.entry(0x0213, kShort, 1, 1, 2); // YCbCr positioning, which is none of another file's business
+    s.entry(0x0213, kShort, 1, 1, 2); // YCbCr positioning, which must not be carried over
     s.entry(0x8769, kLong, 1, kPhoto);
     s.entry(0x8825, kLong, 1, kGps);
     s.put(0, 4);
@@ -111,7 +111,7 @@ FileBytes photograph()
     FileBytes exif{'E', 'x', 'i', 'f', 0, 0};
     append(exif, exifBlock(true));
     FileBytes resources{'P', 'h', 'o', 't', 'o', 's', 'h', 'o', 'p', ' ', '3', '.', '0', 0};
-    append(resources, {'8', 'B', 'I', 'M', 0x04, 0x25, 0, 0, 0, 0, 0, 1, 9, 0}); // an odd block to be passed by
+    append(resources, {'8', 'B', 'I', 'M', 0x04, 0x25, 0, 0, 0, 0, 0, 1, 9, 0}); // a block of odd length, to be skipped
     append(resources, {'8', 'B', 'I', 'M', 0x04, 0x04, 0, 0, 0, 0, 0, std::uint8_t(iptcBlock().size())});
     append(resources, iptcBlock());
     resources.push_back(0);

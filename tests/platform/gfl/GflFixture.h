@@ -28,7 +28,7 @@ using FileBytes = std::vector<std::uint8_t>;
 constexpr const char *kNames[] = {"jpeg", "png", "tiff", "hdri", "exr", "psd"};
 constexpr const char *kSuffixes[] = {"jpg", "png", "tif", "hdr", "exr", "psd"};
 
-/// A picture with rows padded beyond what its width needs, so that nobody takes the stride for granted.
+/// A picture whose rows have extra padding, so that an assumed stride shows.
 inline Picture makePicture(int width, int height, int components, int bits)
 {
     Picture picture(static_cast<GflBitmap *>(std::calloc(1, sizeof(GflBitmap))));
@@ -80,7 +80,7 @@ inline void setFraction(const GflBitmap &bitmap, int x, int y, int c, double fra
         std::memcpy(at, &real, sizeof real);
 }
 
-/// Smooth colours, each channel its own slope; alpha from 1 downwards.
+/// Smooth colours, with a different gradient per channel; alpha falls from 1.
 inline void paint(const GflBitmap &bitmap)
 {
     for (int y = 0; y < bitmap.height; ++y)
@@ -126,7 +126,7 @@ inline int save(const std::string &name, const GflBitmap *bitmap, const char *fo
     return gflSaveBitmapUTF8(name.c_str(), bitmap, &params);
 }
 
-/// What the three callbacks of the layer have been asked for.
+/// What the layer's three callbacks were asked for.
 struct Heap
 {
     int blocks = 0;
@@ -157,11 +157,11 @@ inline void countedFree(void *block, void *tag)
     std::free(block);
 }
 
-/// A folder of its own for each test.
+/// Gives each test a separate folder.
 class GflTest : public testing::Test
 {
 protected:
-    // In memory where there is such a place: replacing a file waits for the disk on some file systems.
+    // In memory if possible: on some file systems, replacing a file waits for the disk.
     GflTest()
         : folder((std::filesystem::is_directory("/dev/shm") ? std::filesystem::path("/dev/shm")
                                                             : std::filesystem::temp_directory_path()) /
@@ -180,10 +180,10 @@ protected:
     std::filesystem::path folder;
 };
 
-/// A JPEG file whose metadata was written by hand: EXIF with a maker's note, a GPS position and an orientation, IPTC, a profile.
+/// A JPEG file with handwritten metadata: EXIF with a maker note, a GPS position and an orientation; IPTC; a profile.
 FileBytes photograph();
 
-/// The EXIF block, IPTC block and profile that photograph() holds.
+/// The EXIF block, IPTC block and profile in photograph().
 FileBytes exifBlock(bool bigEndian);
 FileBytes iptcBlock();
 FileBytes profileBlock();

@@ -2,7 +2,7 @@
 
 #include "GflFixture.h"
 
-// Files that are cut short, changed at random places, or that claim more than they hold: a code, and nothing else.
+// Files that are truncated, changed at random places, or claim more than they hold: only a result code may follow.
 namespace {
 
 struct Seed
@@ -39,7 +39,7 @@ bool isReadCode(int code)
     return code == GFL_NO_ERROR || code == GFL_ERROR_FILE_READ || code == GFL_ERROR_NO_MEMORY || code == GFL_ERROR_UNKNOWN_FORMAT;
 }
 
-TEST_F(GflDamageTest, AFileCutShortIsToldWithoutItsPixels)
+TEST_F(GflDamageTest, TruncationIsReportedWithoutReadingPixels)
 {
     GflLoadParams params;
     gflGetDefaultLoadParams(&params);
@@ -61,7 +61,7 @@ TEST_F(GflDamageTest, AFileCutShortIsToldWithoutItsPixels)
     }
 }
 
-TEST_F(GflDamageTest, AFileCutShortIsAnErrorUnlessAllItsPixelsAreThere)
+TEST_F(GflDamageTest, TruncationIsAnErrorUnlessAllPixelsAreThere)
 {
     for (const Seed &seed : kSeeds) {
         SCOPED_TRACE(std::string(seed.format) + " " + std::to_string(seed.compression));
@@ -70,7 +70,7 @@ TEST_F(GflDamageTest, AFileCutShortIsAnErrorUnlessAllItsPixelsAreThere)
         Picture full;
         ASSERT_EQ(load(path("seed"), full), GFL_NO_ERROR);
         const std::size_t bytes = std::size_t(full->bytesPerLine) * std::size_t(full->height);
-        std::size_t whatIsEnough = whole.size();
+        std::size_t shortestReadable = whole.size();
         for (std::size_t length = 0; length < whole.size(); length += length < 64 || length + 64 > whole.size() ? 1 : 7) {
             writeFile(name, FileBytes(whole.begin(), whole.begin() + std::ptrdiff_t(length)));
             Picture read;
@@ -79,17 +79,17 @@ TEST_F(GflDamageTest, AFileCutShortIsAnErrorUnlessAllItsPixelsAreThere)
             EXPECT_EQ(read == nullptr, code != GFL_NO_ERROR) << length;
             if (!read)
                 continue;
-            whatIsEnough = std::min(whatIsEnough, length);
+            shortestReadable = std::min(shortestReadable, length);
             EXPECT_EQ(std::memcmp(read->data, full->data, bytes), 0) << length;
         }
-        EXPECT_GE(whatIsEnough + 16, whole.size()); // an end mark at most is dispensable
+        EXPECT_GE(shortestReadable + 16, whole.size()); // at most an end marker is dispensable
     }
 }
 
 TEST_F(GflDamageTest, ChangedBytesNeverDoMoreThanFail)
 {
 #ifndef GFL_MUTATIONS
-#    define GFL_MUTATIONS 60 // for each of the seeds
+#    define GFL_MUTATIONS 60 // per seed
 #endif
     std::uint64_t state = 20240506;
     const auto draw = [&](std::size_t below) {
@@ -103,9 +103,9 @@ TEST_F(GflDamageTest, ChangedBytesNeverDoMoreThanFail)
             FileBytes bytes = whole;
             const std::size_t front = draw(2) ? std::min<std::size_t>(bytes.size(), 400) : bytes.size();
             for (std::size_t change = 0, count = 1 + draw(8); change < count; ++change) {
-                static constexpr std::uint8_t kTelling[] = {0x00, 0xFF, 0x7F, 0x80, 0x01};
+                static constexpr std::uint8_t kSpecial[] = {0x00, 0xFF, 0x7F, 0x80, 0x01};
                 std::uint8_t &at = bytes[draw(front)];
-                at = draw(2) ? kTelling[draw(5)] : std::uint8_t(at ^ 1u << draw(8));
+                at = draw(2) ? kSpecial[draw(5)] : std::uint8_t(at ^ 1u << draw(8));
             }
             if (draw(8) == 0)
                 bytes.resize(draw(bytes.size()));
@@ -142,7 +142,7 @@ std::size_t find(const FileBytes &bytes, const std::string &text)
     return std::size_t(at - bytes.begin());
 }
 
-// Writes a size into the header of a whole file.
+// Writes a size into the header of an intact file.
 void claim(FileBytes &bytes, const std::string &format, std::uint32_t width, std::uint32_t height)
 {
     if (format == "jpeg") {
@@ -153,7 +153,7 @@ void claim(FileBytes &bytes, const std::string &format, std::uint32_t width, std
         putBig(bytes, 16, width, 4);
         putBig(bytes, 20, height, 4);
         putBig(bytes, 29, libdeflate_crc32(0, &bytes[12], 17), 4);
-    } else if (format == "tiff") { // of the byte order of photograph()'s EXIF; the directory is the last thing in the file
+    } else if (format == "tiff") { // in the byte order of photograph()'s EXIF; the directory ends the file
         const std::size_t directory =
             std::size_t(bytes[4]) << 24 | std::size_t(bytes[5]) << 16 | std::size_t(bytes[6]) << 8 | bytes[7];
         for (std::size_t at = directory + 2; at + 12 <= bytes.size(); at += 12) {

@@ -5,10 +5,11 @@
 
 #include "GflFixture.h"
 
-// Files as other programs write them, in forms that the layer reads and never writes. They are texts in foreign/: a case is
-//     case NAME.SUFFIX: WIDTH x HEIGHT, COMPONENTS x BITS bits[, within FRACTION][, no byte to spare]
+// Files as other programs write them, in forms that the layer reads but never writes. They are stored as texts in foreign/. A
+// case:
+//     case NAME.SUFFIX: WIDTH x HEIGHT, COMPONENTS x BITS bits[, within FRACTION][, needs every byte]
 //     at X Y: a sample of each component, as a fraction of its full scale
-// and then the file's bytes: hexadecimal numbers (00*12 is twelve of them) and "text"; # begins a remark.
+// followed by the file's bytes: hexadecimal numbers (00*12 is twelve zeros) and "text"; # begins a comment.
 namespace {
 
 struct Pixel
@@ -21,8 +22,8 @@ struct Case
 {
     std::string name;
     int width = 0, height = 0, components = 0, bits = 0;
-    double within = 0; ///< 0: what the samples are rounded to.
-    bool noByteToSpare = false;
+    double within = 0; ///< Tolerance; 0: half a step of the depth.
+    bool needsEveryByte = false;
     std::vector<Pixel> pixels;
     FileBytes bytes;
 };
@@ -62,7 +63,7 @@ Case caseFrom(const std::string &line)
         std::sscanf(facts.c_str(), "%d x %d, %d x %d bits, within %lf", &c.width, &c.height, &c.components, &c.bits, &c.within),
         facts.find("within") == std::string::npos ? 4 : 5)
         << line;
-    c.noByteToSpare = facts.find("no byte to spare") != std::string::npos;
+    c.needsEveryByte = facts.find("needs every byte") != std::string::npos;
     return c;
 }
 
@@ -91,13 +92,13 @@ std::vector<Case> casesOf(const char *file)
 class ForeignFiles : public GflTest, public testing::WithParamInterface<const char *>
 {
 protected:
-    void expectAsStated(const Case &c, const GflBitmap &read)
+    void expectStatedPixels(const Case &c, const GflBitmap &read)
     {
         EXPECT_EQ(read.width, c.width);
         EXPECT_EQ(read.height, c.height);
         ASSERT_EQ(read.componentsPerPixel, c.components);
         ASSERT_EQ(read.bitsPerComponent, c.bits);
-        // Rounding, by single precision where a sample has 32 bits.
+        // Half a step; with 32 bits, the rounding of single precision.
         const double step = c.bits == 8 ? 1 / 255.0 : c.bits == 16 ? 1 / 65535.0 : 1e-6;
         const double within = c.within > 0 ? c.within : step * 0.51;
         EXPECT_FALSE(c.pixels.empty());
@@ -110,7 +111,7 @@ protected:
     }
 };
 
-/// Rows for columns, in the coefficients: the same picture the other way, and the very same one when it is done twice.
+/// Exchanging rows and columns in the coefficients transposes the picture; doing it twice restores it exactly.
 void expectTransposes(const std::string &name, const GflBitmap &picture)
 {
     Picture turned, again;
@@ -121,7 +122,7 @@ void expectTransposes(const std::string &name, const GflBitmap &picture)
     ASSERT_EQ(load(againName, again), GFL_NO_ERROR);
     ASSERT_EQ(turned->width, picture.height);
     ASSERT_EQ(turned->height, picture.width);
-    constexpr double kRounding = 3 / 255.0; // of the transform's two passes, whose order has changed, and of thin colours
+    constexpr double kRounding = 3 / 255.0; // of the transform's two passes, whose order changes, and of subsampled colour
     for (int y = 0; y < picture.height; ++y)
         for (int x = 0; x < picture.width; ++x)
             for (int k = 0; k < picture.componentsPerPixel; ++k) {
@@ -130,7 +131,7 @@ void expectTransposes(const std::string &name, const GflBitmap &picture)
             }
 }
 
-TEST_P(ForeignFiles, AreReadAsTheyState)
+TEST_P(ForeignFiles, AreReadAsStated)
 {
     const std::vector<Case> cases = casesOf(GetParam());
     EXPECT_FALSE(cases.empty());
@@ -140,10 +141,10 @@ TEST_P(ForeignFiles, AreReadAsTheyState)
         writeFile(name, c.bytes);
         Picture read;
         ASSERT_EQ(load(name, read), GFL_NO_ERROR);
-        expectAsStated(c, *read);
+        expectStatedPixels(c, *read);
         if (std::string(GetParam()) == "jpeg.txt")
             expectTransposes(name, *read);
-        if (c.noByteToSpare) {
+        if (c.needsEveryByte) {
             std::filesystem::resize_file(name, c.bytes.size() - 1);
             EXPECT_EQ(load(name, read), GFL_ERROR_FILE_READ);
         }

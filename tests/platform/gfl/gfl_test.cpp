@@ -17,12 +17,12 @@ namespace {
 struct Held
 {
     const char *format;
-    int components[5]; // by the source's components: what is read back
-    int bits[3];       // from 8, 16 and 32 bits
+    int components[5]; // components that are read back, by those of the source
+    int bits[3];       // bits that are read back, from 8, 16 and 32
     double tolerance[3];
 };
 
-// What each format makes of each form. A tolerance is half a step of the coarser depth, or what the compression loses.
+// What each format makes of each form. A tolerance is half a step of the coarser depth, or the loss of the compression.
 constexpr Held kHeld[] = {
     {"jpeg", {0, 1, 0, 3, 3}, {8, 8, 8}, {0.04, 0.04, 0.04}},
     {"png", {0, 1, 0, 3, 4}, {8, 16, 16}, {0, 0, 0.5 / 65535}},
@@ -32,7 +32,7 @@ constexpr Held kHeld[] = {
     {"psd", {0, 1, 0, 3, 4}, {8, 16, 32}, {0, 0, 0}},
 };
 
-TEST_F(GflTest, EveryFormatHoldsEveryFormAsWellAsItCan)
+TEST_F(GflTest, EveryFormatKeepsEveryFormAsFarAsItCan)
 {
     constexpr int kSizes[][2] = {{1, 1}, {7, 5}, {33, 2}, {130, 9}};
     for (const Held &held : kHeld)
@@ -75,7 +75,7 @@ TEST_F(GflTest, EveryFormatHoldsEveryFormAsWellAsItCan)
 
 TEST_F(GflTest, DepthsChangeAsInTheImagePrimitives)
 {
-    const Picture picture = makePicture(256, 256, 3, 16); // every value there is
+    const Picture picture = makePicture(256, 256, 3, 16); // every value
     for (unsigned i = 0; i < 65536 * 3; ++i) {
         const auto value = std::uint16_t(i / 3);
         std::memcpy(sampleAt(*picture, int(value % 256), int(value / 256), int(i % 3)), &value, sizeof value);
@@ -159,7 +159,7 @@ bool contains(const FileBytes &bytes, const FileBytes &part)
     return std::search(bytes.begin(), bytes.end(), part.begin(), part.end()) != bytes.end();
 }
 
-TEST_F(GflTest, MetadataGoesFromEachFormatToEachOther)
+TEST_F(GflTest, MetadataIsCarriedBetweenAllFormats)
 {
     writeFile(path("source.jpg"), photograph());
     const auto expected = exifOf(path("source.jpg"));
@@ -173,7 +173,7 @@ TEST_F(GflTest, MetadataGoesFromEachFormatToEachOther)
             ASSERT_EQ(load(path("source.jpg"), picture), GFL_NO_ERROR);
             ASSERT_EQ(save(first, picture.get(), kNames[from]), GFL_NO_ERROR);
 
-            // The way of the image room: from a bitmap that was read to one that was computed.
+            // As in the image room: from a bitmap that was read to one that was computed.
             Picture source;
             ASSERT_EQ(load(first, source, GFL_LOAD_METADATA_ONLY), GFL_NO_ERROR);
             EXPECT_EQ(source->data, nullptr);
@@ -191,7 +191,7 @@ TEST_F(GflTest, MetadataGoesFromEachFormatToEachOther)
             ASSERT_EQ(load(second, again), GFL_NO_ERROR);
             EXPECT_TRUE(gflBitmapHasICCProfile(again.get()) && gflBitmapHasIPTC(again.get()) && gflBitmapHasEXIF(again.get()));
 
-            // Through a file that shows them plainly: packed blocks of a PNG can't be searched.
+            // Through a file that stores them plainly: packed blocks of a PNG can't be searched.
             const std::string plain = path("plain.jpg");
             ASSERT_EQ(save(plain, again.get(), "jpeg"), GFL_NO_ERROR);
             EXPECT_TRUE(contains(readFile(plain), profileBlock()));
@@ -211,7 +211,7 @@ TEST_F(GflTest, MetadataGoesFromEachFormatToEachOther)
         }
 }
 
-TEST_F(GflTest, ExposureGoesThroughOpenExr)
+TEST_F(GflTest, ExposureIsCarriedThroughOpenExr)
 {
     writeFile(path("source.jpg"), photograph());
     Picture picture;
@@ -225,7 +225,7 @@ TEST_F(GflTest, ExposureGoesThroughOpenExr)
     EXPECT_EQ(found["Exif.Image.Make"], "TestCam");
 }
 
-TEST_F(GflTest, ProfileIsWrittenOnlyWhenAskedForAndOnlyWhereItFits)
+TEST_F(GflTest, ProfileIsWrittenOnlyOnRequestAndOnlyIfItFits)
 {
     writeFile(path("source.jpg"), photograph());
     Picture picture;
@@ -244,9 +244,9 @@ TEST_F(GflTest, ProfileIsWrittenOnlyWhenAskedForAndOnlyWhereItFits)
     EXPECT_FALSE(gflBitmapHasICCProfile(picture.get()));
 }
 
-TEST_F(GflTest, LargeExifIsMadeToFitIntoJpeg)
+TEST_F(GflTest, LargeExifIsShrunkToFitIntoJpeg)
 {
-    // A thumbnail of 70,000 bytes behind the second directory of a block that is fine otherwise.
+    // A thumbnail of 70,000 bytes after the second directory of an otherwise intact block.
     FileBytes block = exifBlock(false);
     const std::uint32_t second = std::uint32_t(block.size());
     std::memcpy(&block[8 + 2 + 5 * 12], &second, 4);
@@ -264,7 +264,7 @@ TEST_F(GflTest, LargeExifIsMadeToFitIntoJpeg)
     for (int i = 0; i < 4; ++i)
         chunk[std::size_t(i)] = std::uint8_t(block.size() >> (24 - 8 * i));
     chunk.insert(chunk.end(), block.begin(), block.end());
-    chunk.insert(chunk.end(), 4, 0); // its checksum is not looked at
+    chunk.insert(chunk.end(), 4, 0); // its checksum is not checked
     png.insert(png.begin() + 33, chunk.begin(), chunk.end());
     writeFile(path("a.png"), png);
 
@@ -280,7 +280,7 @@ TEST_F(GflTest, LargeExifIsMadeToFitIntoJpeg)
     EXPECT_EQ(found["Exif.Photo.MakerNote"], "110 111 116 101 1 2 3 4 5 6 7 8");
 }
 
-TEST_F(GflTest, CamerasRawFilesGiveTheirMetadata)
+TEST_F(GflTest, CameraRawFilesDeliverTheirMetadata)
 {
     writeFile(path("source.jpg"), photograph());
     Picture picture;
@@ -297,7 +297,7 @@ TEST_F(GflTest, CamerasRawFilesGiveTheirMetadata)
     EXPECT_EQ(raw->width * raw->height, 1);
     ASSERT_EQ(save(path("out.tif"), raw, "tiff"), GFL_NO_ERROR);
     auto found = exifOf(path("out.tif"));
-    EXPECT_EQ(found["Exif.Image.ImageWidth"], "1"); // the raw file's structure stays behind
+    EXPECT_EQ(found["Exif.Image.ImageWidth"], "1"); // the raw file's structural tags are not carried over
     EXPECT_EQ(found["Exif.Image.Make"], "TestCam");
     EXPECT_EQ(found["Exif.GPSInfo.GPSLatitude"], "47/1 30/1 0/1");
     writeFile(path("bad.nef"), {'I', 'I', '*', 0, 1, 2, 3});
@@ -320,7 +320,7 @@ TEST_F(GflTest, NamesAndContents)
         struct Case
         {
             const char *name;
-            int holds; // the format that such a name stands for, or -1
+            int holds; // the format that this name implies, or -1
         };
         for (const Case &c : {Case{"x.JPG", 0},
                               {"x.jpeg", 0},
@@ -349,7 +349,7 @@ TEST_F(GflTest, NamesAndContents)
     EXPECT_EQ(gflLoadBitmapUTF8(nullptr, nullptr, nullptr, nullptr), GFL_ERROR_BAD_PARAMETERS);
 }
 
-TEST_F(GflTest, SavingRefusesWhatIsNoPicture)
+TEST_F(GflTest, SavingRejectsWhatIsNotAPicture)
 {
     const Picture picture = makePicture(2, 2, 3, 8);
     EXPECT_EQ(save(path("a"), nullptr, "jpeg"), GFL_ERROR_BAD_BITMAP);
@@ -368,10 +368,10 @@ TEST_F(GflTest, SavingRefusesWhatIsNoPicture)
     EXPECT_EQ(filesInFolder(), 1u);
 }
 
-TEST_F(GflTest, SavingTakesThePlaceOfAFileOnlyWhenItIsWhole)
+TEST_F(GflTest, SavingReplacesAFileOnlyWhenComplete)
 {
     const Picture picture = makePicture(100, 100, 4, 16);
-    for (int y = 0; y < 100; ++y) // noise, which no format packs
+    for (int y = 0; y < 100; ++y) // noise, which no format can pack
         for (int x = 0; x < 100; ++x)
             for (int c = 0; c < 4; ++c)
                 setFraction(*picture, x, y, c, (unsigned(x * 7919 + y * 104729 + c * 1299709) * 2654435761u >> 16) / 65535.0);
@@ -384,7 +384,7 @@ TEST_F(GflTest, SavingTakesThePlaceOfAFileOnlyWhenItIsWhole)
         EXPECT_EQ(save("/dev/full", picture.get(), format), GFL_ERROR_FILE_CREATE);
         EXPECT_EQ(save(folder.string(), picture.get(), format), GFL_ERROR_FILE_CREATE);
 
-        // A limit on the size of files fails a write as a full disk does.
+        // A file size limit makes writes fail like a full disk does.
         rlimit before{};
         getrlimit(RLIMIT_FSIZE, &before);
         const auto handler = std::signal(SIGXFSZ, SIG_IGN);
@@ -448,7 +448,7 @@ TEST_F(GflTest, BitmapsComeFromTheGivenAllocator)
         heap.fails = false;
     }
     gflFreeBitmap(nullptr);
-    gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr);
+    EXPECT_EQ(gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr), GFL_NO_ERROR);
 }
 
 TEST_F(GflTest, SeveralThreadsReadAndWriteAtOnce)

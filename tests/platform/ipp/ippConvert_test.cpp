@@ -12,15 +12,15 @@ namespace {
 
 using testing::ElementsAre;
 
-// The results of all forms are tested through the image room; here stand the values at which a rule turns, each of them, and what
-// an operation refuses.
+// The image room's tests cover the results for all forms. These cover every value at which rounding changes, and rejected
+// arguments.
 
-TEST(ippiScale, FloatsToIntegersAtEveryTurn)
+TEST(ippiScale, FloatsToIntegersAtEveryRoundingPoint)
 {
     for (const int bits : {8, 16}) {
         const float full = bits == 8 ? 255.0f : 65535.0f;
         std::vector<float> samples;
-        for (int step = 0; step <= 2 * int(full); ++step) { // each integer and each middle between two, with its neighbours
+        for (int step = 0; step <= 2 * int(full); ++step) { // each integer and each midpoint, with its neighbours
             const float middle = float(step) / 2.0f / full;
             samples.insert(samples.end(), {std::nextafter(middle, -1.0f), middle, std::nextafter(middle, 2.0f)});
         }
@@ -52,9 +52,9 @@ TEST(ippiScale, SixteenToEightBitsAtEveryValue)
     EXPECT_EQ(0, wrong);
 }
 
-TEST(ippiCopy, TouchesNoPixelBesideTheRectangle)
+TEST(ippiCopy, TouchesNoPixelOutsideTheRectangle)
 {
-    // 3 x 1 pixels in rows of 5: the moves of four samples must end with the last pixel.
+    // 3 x 1 pixels in rows of 5: copying four samples at once must stop before the last pixel.
     std::uint8_t wide[20], narrow[15];
     std::memset(wide, 1, sizeof(wide));
     std::memset(narrow, 2, sizeof(narrow));
@@ -75,10 +75,10 @@ TEST(ippiRGBToGray, Weights)
     ASSERT_EQ(ippStsNoErr, ippiRGBToGray(colours, 48, 3, grey, 16, 32, {4, 1}));
     EXPECT_THAT(grey, ElementsAre(0.299f, 0.587f, 0.114f, 0.299f + 0.587f + 0.114f));
     int wrong = 0;
-    for (unsigned value = 0; value < 65536; ++value) { // a grey pixel stays what it is
+    for (unsigned value = 0; value < 65536; ++value) { // a grey pixel keeps its value
         const std::uint16_t pixel[4] = {std::uint16_t(value), std::uint16_t(value), std::uint16_t(value), 0};
         std::uint16_t result = 0;
-        ippiRGBToGray(pixel, 8, 4, &result, 2, 16, {1, 1});
+        (void)ippiRGBToGray(pixel, 8, 4, &result, 2, 16, {1, 1});
         wrong += result != value;
     }
     EXPECT_EQ(0, wrong);
@@ -95,7 +95,7 @@ TEST(ippiSwapChannels, ExchangesAndRepeats)
     EXPECT_THAT(std::vector<int>(pixels, pixels + 5), ElementsAre(3, 3, 3, 4, 7));
 }
 
-TEST(ippi, RefusalsLeaveTheTarget)
+TEST(ippi, RejectionsLeaveTheTargetUnchanged)
 {
     std::uint8_t source[16] = {}, target[16];
     std::memset(target, 5, sizeof(target));
@@ -131,7 +131,7 @@ TEST(ippiMalloc, RowsAreAlignedAndWhole)
     ippsFree(ippsMalloc(0));
 }
 
-TEST(ippiResize, Refusals)
+TEST(ippiResize, RejectsInvalidSizesAndRows)
 {
     EXPECT_EQ(0u, ippiResizeGetSize({0, 4}, {2, 2}, IppiInterpolation::Super));
     EXPECT_EQ(0u, ippiResizeGetSize({4, 4}, {2, -2}, IppiInterpolation::Linear));
@@ -148,7 +148,7 @@ TEST(ippiResize, Refusals)
     EXPECT_EQ(ippStsNullPtrErr, ippiResize(source, 4, target, 2, 0, 1, spec, nullptr));
     EXPECT_THAT(target, testing::Each(5));
     EXPECT_EQ(ippStsNoErr, ippiResize(source, 4, target, 2, 1, 1, spec, buffer.data()));
-    EXPECT_THAT(target, ElementsAre(5, 5, 0, 0)) << "only the rows asked for";
+    EXPECT_THAT(target, ElementsAre(5, 5, 0, 0)) << "only the requested rows";
 }
 
 } // namespace

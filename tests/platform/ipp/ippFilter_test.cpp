@@ -34,7 +34,7 @@ TEST(ippiFilterMinBorder, EqualsThePlainMinimum)
     const float special[] = {
         kNan, -kNan, 0.0f, -0.0f, -2.5f, std::numeric_limits<float>::infinity(), -std::numeric_limits<float>::infinity(), 1e-42f};
     for (const Case &row : cases) {
-        for (const unsigned share : {0u, 3u, 1u}) { // one sample in how many is special
+        for (const unsigned share : {0u, 3u, 1u}) { // one in so many samples is special
             const auto [width, height] = row.region;
             SCOPED_TRACE(testing::Message() << width << " x " << height << ", mask " << row.mask.width << " x " << row.mask.height
                                             << ", share " << share);
@@ -72,7 +72,7 @@ TEST(ippiFilterMinBorder, EqualsThePlainMinimum)
     }
 }
 
-TEST(ippiFilterMinBorder, RefusesAndLeavesTheTarget)
+TEST(ippiFilterMinBorder, RejectionsLeaveTheTargetUnchanged)
 {
     float source[4] = {1.0f, 1.0f, 1.0f, 1.0f};
     float target[4] = {5.0f, 5.0f, 5.0f, 5.0f};

@@ -8,7 +8,7 @@
 
 namespace {
 
-TEST(ippmInvert3x3, InvertsWhatHasAnInverse)
+TEST(ippmInvert3x3, InvertsRegularMatrices)
 {
     const struct
     {
@@ -29,8 +29,8 @@ TEST(ippmInvert3x3, InvertsWhatHasAnInverse)
 
 TEST(ippmInvert3x3, NearlySingularKeepsItsDigits)
 {
-    // Nearly grey colours: all moments alike but for a little on the diagonal. By hand: (D + c J)^-1 with D = e I is
-    // (I - c / (e + 3 c) J) / e. In 32 bits the minors would cancel down to noise.
+    // Nearly grey colours: all moments equal, slightly more on the diagonal. By hand: (D + c J)^-1 with D = e I is (I - c / (e +
+    // 3 c) J) / e. In 32 bits the minors would cancel to noise.
     constexpr float c = 0.0625f;
     constexpr float e = 0x1p-13f;
     const float source[9] = {c + e, c, c, c, c + e, c, c, c, c + e};
@@ -41,7 +41,7 @@ TEST(ippmInvert3x3, NearlySingularKeepsItsDigits)
         EXPECT_FLOAT_EQ(inverse[i], float(((i % 4 == 0 ? 1.0 : 0.0) - share) / double(e))) << i;
 }
 
-TEST(ippmInvert3x3, SingularLeavesTheTarget)
+TEST(ippmInvert3x3, SingularLeavesTheTargetUnchanged)
 {
     const float kNan = std::numeric_limits<float>::quiet_NaN();
     const float kInfinity = std::numeric_limits<float>::infinity();
@@ -57,7 +57,7 @@ TEST(ippmInvert3x3, SingularLeavesTheTarget)
 
 TEST(ippmMul3x3, AddsFromLeftToRightIn32Bits)
 {
-    // From the left, 1 is lost beside 2^24 and 2^24 goes away again; any other order or width gives 1.
+    // From the left, 2^24 absorbs the 1 and is then cancelled; any other order or precision gives 1.
     const float matrix[9] = {0x1p24f, 1, -0x1p24f, 1, 2, 3, 0, 0, -1};
     const float vector[3] = {1, 1, 1};
     float target[3];

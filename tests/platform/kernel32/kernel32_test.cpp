@@ -10,7 +10,7 @@
 
 namespace {
 
-TEST(Kernel32, TellsTheSpaceOfAVolume)
+TEST(Kernel32, ReportsTheSpaceOfAVolume)
 {
     std::uint64_t forCaller = 0;
     std::uint64_t total = 0;
@@ -41,7 +41,7 @@ TEST(Kernel32, GroupsAddUpToTheMachine)
     const std::uint32_t all = GetMaximumProcessorCount(kAllProcessorGroups);
     ASSERT_GE(all, 1u);
     LogicalProcessorInformation cores{};
-    if (GetLogicalProcessorInformationEx(RelationProcessorCore, &cores)) { // some systems don't tell
+    if (GetLogicalProcessorInformationEx(RelationProcessorCore, &cores)) { // some systems don't report it
         EXPECT_EQ(cores.count, all);
     }
 
@@ -59,10 +59,10 @@ TEST(Kernel32, GroupsAddUpToTheMachine)
     GroupAffinity beyond{0, std::uint16_t(groups.count)};
     EXPECT_FALSE(GetThreadGroupAffinity(&beyond));
     EXPECT_FALSE(GetLogicalProcessorInformationEx(99, &groups));
-    EXPECT_EQ(groups.relation, RelationGroup); // as it was
+    EXPECT_EQ(groups.relation, RelationGroup); // unchanged
 }
 
-TEST(Kernel32, BindsTheCallingThreadAlone)
+TEST(Kernel32, BindsOnlyTheCallingThread)
 {
     GroupAffinity before{0, 0};
     ASSERT_TRUE(GetProcessGroupAffinity(&before));
@@ -89,16 +89,16 @@ TEST(Kernel32, BindsTheCallingThreadAlone)
     EXPECT_EQ(after.mask, before.mask);
 }
 
-TEST(Kernel32, FindsTheTightestLimitsFromItsOwnControlGroupUpwards)
+TEST(Kernel32, FindsTheTightestLimitOfAllItsControlGroups)
 {
     namespace fs = std::filesystem;
     const struct
     {
         const char *name;
-        const char *groups;                                       ///< What the system lists for the process.
-        std::vector<std::pair<const char *, const char *>> files; ///< What it keeps.
+        const char *groups;                                       ///< The process's groups as listed by the system.
+        std::vector<std::pair<const char *, const char *>> files; ///< The system's files.
         std::uint32_t processors;
-        std::uint64_t bytes; ///< Of 9000 KB that the system has.
+        std::uint64_t bytes; ///< Out of 9000 KB.
     } cases[] = {
         {"none", "0::/\n", {}, 0, 9216000},
         {"unified without a limit",
@@ -109,7 +109,7 @@ TEST(Kernel32, FindsTheTightestLimitsFromItsOwnControlGroupUpwards)
         {"unified", "0::/a\n", {{"a/cpu.max", "200000 100000"}, {"a/memory.max", "8000"}, {"a/memory.current", "1000"}}, 2, 7000},
         {"rounded up", "0::/a\n", {{"a/cpu.max", "150000 100000"}}, 2, 9216000},
         {"less than one", "0::/\n", {{"cpu.max", "1000 100000"}}, 1, 9216000},
-        {"a parent's is tighter",
+        {"the parent's is tighter",
          "0::/a/b\n",
          {{"a/b/cpu.max", "400000 100000"},
           {"a/cpu.max", "300000 100000"},
@@ -119,7 +119,7 @@ TEST(Kernel32, FindsTheTightestLimitsFromItsOwnControlGroupUpwards)
           {"a/memory.current", "5000"}},
          3,
          4000},
-        {"the own is tighter",
+        {"its own is tighter",
          "0::/a/b\n",
          {{"a/b/memory.max", "800"}, {"a/b/memory.current", "500"}, {"a/memory.max", "9000"}, {"a/memory.current", "500"}},
          0,
@@ -130,14 +130,14 @@ TEST(Kernel32, FindsTheTightestLimitsFromItsOwnControlGroupUpwards)
          0,
          1000},
         {"over the limit", "0::/a\n", {{"a/memory.high", "6000"}, {"a/memory.current", "7000"}}, 0, 0},
-        {"files give way",
+        {"file pages can be reclaimed",
          "0::/a\n",
          {{"a/memory.max", "8000"},
           {"a/memory.current", "7000"},
           {"a/memory.stat", "anon 1\ninactive_file 2000\nactive_file 300\ntotal_active_file 9\n"}},
          0,
          3300},
-        {"the path is one of the outside",
+        {"the path is that of the outside system",
          "0::/outside/x\n",
          {{"cpu.max", "300000 100000"}, {"memory.max", "8000"}, {"memory.current", "0"}},
          3,
@@ -177,7 +177,7 @@ TEST(Kernel32, FindsTheTightestLimitsFromItsOwnControlGroupUpwards)
     EXPECT_GT(GetAvailableMemory(), 0u);
 }
 
-TEST(Kernel32, ReservedMemoryIsZeroUpToItsLastByteAndCostsNothingUntouched)
+TEST(Kernel32, ReservedMemoryIsZeroAndCostsNothingUntilTouched)
 {
     constexpr std::size_t kBytes = (std::size_t(1) << 36) + 4096; // more than most machines have
     auto *const memory = static_cast<char *>(ReserveMemory(kBytes));

@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-/// Compressed rows, one-based, as the solver layer takes them.
+/// One-based compressed rows, the solver layer's input.
 struct TestRows
 {
     std::int32_t order = 0;
@@ -24,8 +24,8 @@ struct TestRows
     void endRow() { rowStarts.push_back(std::int32_t(columns.size()) + 1); }
 };
 
-/// A matting Laplacian plus 0.001 times the identity of a picture with slopes, edges and some noise: per 3 by 3 window, cell (p,
-/// q) gains delta_pq - (1 + (I_p - m)' C^-1 (I_q - m)) / 9. Formed in double.
+/// The matting Laplacian of a picture with gradients, edges and some noise, plus 0.001 times the identity: each 3 by 3 window
+/// adds delta_pq - (1 + (I_p - m)' C^-1 (I_q - m)) / 9 to cell (p, q). Computed in double.
 inline TestRows mattingSystem(int width, int height, unsigned seed)
 {
     constexpr int kSlots = 13; // below or right of a pixel, within two pixels: 3 in its row, 5 in each of the next two
@@ -95,7 +95,7 @@ inline TestRows mattingSystem(int width, int height, unsigned seed)
     return result;
 }
 
-/// A x of the whole matrix, in double.
+/// A x for the whole matrix, in double.
 inline std::vector<double> product(const TestRows &matrix, const std::vector<double> &x)
 {
     std::vector<double> result(x.size(), 0.0);
@@ -110,7 +110,7 @@ inline std::vector<double> product(const TestRows &matrix, const std::vector<dou
     return result;
 }
 
-/// The plain reference for a positive definite system: conjugate gradients in double, until the residual is 1e-12 of b.
+/// Plain reference for positive definite systems: conjugate gradients in double, until the residual is 1e-12 of b.
 inline std::vector<double> conjugateGradients(const TestRows &matrix, const std::vector<float> &b)
 {
     const auto dot = [](const std::vector<double> &left, const std::vector<double> &right) {

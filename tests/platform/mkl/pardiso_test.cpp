@@ -35,7 +35,7 @@ TestRows fromDense(bool symmetric, const Dense &dense)
     return result;
 }
 
-/// The calls of one solve; public fields are what a test bends.
+/// The calls of one solve; tests change the public fields.
 struct Calls
 {
     explicit Calls(const TestRows &rows) : matrix(rows), x(std::size_t(rows.order), -7.0f)
@@ -167,7 +167,7 @@ TEST(Pardiso, ErrorsReleaseEverythingAndLeaveTheSolution)
     }
 }
 
-TEST(Pardiso, RefusesWhatItCannotRead)
+TEST(Pardiso, RejectsInvalidInput)
 {
     const TestRows good = fromDense(true, {{2, 1}, {1, 2}});
     const struct
@@ -217,8 +217,8 @@ TEST(Pardiso, RefusesWhatItCannotRead)
     EXPECT_TRUE(calls.released());
 }
 
-// Diagonals above the sum of their rows make the systems well conditioned, so that one rounding to float is what is left.
-TEST(Pardiso, SolvesRandomPatternsAsGaussInDouble)
+// Diagonals above the sum of their rows make the systems well conditioned, so that only one rounding to float remains.
+TEST(Pardiso, SolvesRandomPatterns)
 {
     std::mt19937 random(5);
     for (const bool symmetric : {true, false}) {
@@ -229,7 +229,7 @@ TEST(Pardiso, SolvesRandomPatternsAsGaussInDouble)
                              (indefinite ? " indefinite" : ""));
                 Dense dense(order, std::vector<float>(order, 0.0f));
                 for (std::size_t i = 0; i < order; ++i) {
-                    // Nothing joins the two halves: the graph falls apart.
+                    // Nothing connects the two halves of the graph.
                     for (int k = 0; k < 4; ++k) {
                         const std::size_t half = order / 2;
                         const std::size_t j = i < half ? random() % half : half + random() % (order - half);
@@ -248,7 +248,7 @@ TEST(Pardiso, SolvesRandomPatternsAsGaussInDouble)
                 std::vector<double> expected(order);
                 for (std::size_t i = 0; i < order; ++i)
                     expected[i] = double(i % 7) - 3.0;
-                // The right-hand side is rounded to float: with a small inverse, so is the solution.
+                // The right-hand side is rounded to float; as the inverse is small, the solution is off by no more than that.
                 std::vector<float> b(order);
                 for (std::size_t i = 0; i < order; ++i) {
                     double sum = 0.0;
@@ -276,12 +276,12 @@ TEST(Pardiso, SolvesMattingSystemsToFloatPrecision)
         const std::vector<float> b = waves(std::size_t(matrix.order));
         Calls calls(matrix);
         ASSERT_EQ(calls.solve(b), 0);
-        // The solution is about 0.5: this is some two roundings of a float there, and no more.
+        // The solution is about 0.5, where this is about two roundings of a float.
         EXPECT_LT(largestDifference(calls.x, conjugateGradients(matrix, b)), 2e-7);
     }
 }
 
-// Neighbours on a grid, row by row, but not those of an image: other stencils, a last row cut short, parts that nothing joins.
+// Grids numbered row by row, but unlike an image: other stencils, an incomplete last row, unconnected parts.
 TEST(Pardiso, SolvesGridsOfManyKinds)
 {
     struct Offset
@@ -306,7 +306,7 @@ TEST(Pardiso, SolvesGridsOfManyKinds)
         {"flat", 1000, 3500, {{1, 0}, {0, 1}}},
         {"leaning", 61, 3033, {{1, 1}, {2, 1}}},
         {"third_neighbours", 61, 3033, {{1, 0}, {3, 0}, {0, 1}, {-3, 2}, {0, 3}}},
-        {"round_the_corner", 61, 3033, {{60, 0}, {1, 0}, {0, 1}}}, // rows joined at their ends: no grid at all
+        {"round_the_corner", 61, 3033, {{60, 0}, {1, 0}, {0, 1}}}, // rows connected at their ends: not a grid
     };
     std::mt19937 random(11);
     for (const auto &grid : grids) {
@@ -338,7 +338,7 @@ TEST(Pardiso, SolvesGridsOfManyKinds)
         const std::vector<float> b = waves(std::size_t(grid.order));
         Calls calls(matrix);
         ASSERT_EQ(calls.solve(b), 0);
-        // The solution stays below 0.001, where the rounding to float is some 6e-11.
+        // The solution stays below 0.001, where rounding to float is about 6e-11.
         EXPECT_LT(largestDifference(calls.x, conjugateGradients(matrix, b)), 1.5e-10);
     }
 }
@@ -361,7 +361,7 @@ TEST(Pardiso, OneThreadEqualsSeveral)
 
 TEST(Pardiso, SeveralCallersAtOnce)
 {
-    // One of a kind that any solver takes, one that needs pivoting.
+    // One system that any solver can handle, one that needs pivoting.
     const TestRows matting = mattingSystem(60, 50, 2);
     TestRows pivoting = matting;
     for (std::int32_t row = 0; row < pivoting.order; row += 2)
