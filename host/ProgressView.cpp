@@ -84,7 +84,7 @@ bool ProgressView::allSaid()
 
 void ProgressView::stageBegins(int item, BatchRunner::Stage stage)
 {
-    inHand[item] = stage;
+    inProgress[item] = stage;
     if (style != Style::Bars)
         return;
     eraseBars();
@@ -95,16 +95,17 @@ void ProgressView::finished(int index, const BatchOutcome &outcome)
 {
     const BatchItem &item = items[std::size_t(index)];
     const bool unchanged = outcome.status == BatchOutcome::Status::Unchanged;
-    const bool written = unchanged || outcome.status == BatchOutcome::Status::Done;
-    const bool begun = inHand.erase(index) > 0;
+    const bool written = outcome.hasResult();
+    const bool notBegun = outcome.reason == BatchOutcome::Reason::NotBegun;
     const bool stopped = outcome.status == BatchOutcome::Status::Stopped;
+    inProgress.erase(index);
     strengths[std::size_t(index)] = outcome.strength;
     ++finishedCount;
     doneCount += written && !unchanged;
     unchangedCount += unchanged;
-    notBegunCount += stopped && !begun;
+    notBegunCount += notBegun;
     eraseBars();
-    if (!outcome.message.isEmpty() && (begun || !stopped))
+    if (!outcome.message.isEmpty() && !notBegun)
         complain(item.given + ": " + outcome.message);
     if (unchanged && notes)
         complain(item.given + ": " + outcome.unchanged);
@@ -161,11 +162,11 @@ void ProgressView::eraseBars()
 
 void ProgressView::drawBars()
 {
-    if (style != Style::Bars || inHand.empty())
+    if (style != Style::Bars || inProgress.empty())
         return;
     const int columns = terminalWidth() - 1;
     QString text;
-    for (const auto &[index, stage] : inHand) {
+    for (const auto &[index, stage] : inProgress) {
         // The engine takes about two thirds of the time; reading and saving share the rest.
         const int filled = stage == BatchRunner::Stage::Reading    ? 0
                            : stage == BatchRunner::Stage::Dehazing ? kBarWidth / 6

@@ -25,7 +25,6 @@ public:
     /// its result, and not in the styles Quiet and Json.
     void summarize();
 
-    int done() const { return doneCount; }
     /// Whether each photograph has its result, be it unchanged.
     bool allDone() const { return doneCount + unchangedCount == int(items.size()); }
     /// What a finished item's BatchOutcome says.
@@ -36,7 +35,7 @@ public:
     /// To standard output, at once.
     static void say(const QString &text);
     /// False, with a complaint, if something that was said could not be written.
-    static bool allSaid();
+    [[nodiscard]] static bool allSaid();
 
 private:
     void eraseBars();
@@ -46,7 +45,7 @@ private:
     const bool notes;
     const std::vector<BatchItem> &items;
     std::vector<std::optional<int>> strengths;
-    std::map<int, BatchRunner::Stage> inHand;
+    std::map<int, BatchRunner::Stage> inProgress;
     int barsDrawn = 0;
     int doneCount = 0;
     int unchangedCount = 0;

@@ -129,17 +129,17 @@ int RunCommand::run()
     const QSet<QString> results = BatchPlan::resultsAmong(photographs + recorded, photographs, application);
     leaveOut(results, photographs);
 
-    BatchPlan::Wishes wishes;
-    wishes.strength = line.strength;
-    wishes.overwrite = line.overwrite;
-    wishes.processName = process.name();
-    wishes.settings = settings.get();
+    BatchPlan::Options options;
+    options.strength = line.strength;
+    options.overwrite = line.overwrite;
+    options.processName = process.name();
+    options.settings = settings.get();
     const auto lacksStrength = [&](const QString &photograph) {
         return !settings || settings->element(QFileInfo(photograph).absoluteFilePath()).isNull();
     };
     if (!line.strength && std::any_of(photographs.begin(), photographs.end(), lacksStrength))
-        wishes.defaultStrength = defaultStrength(process.guid());
-    const std::vector<BatchItem> items = BatchPlan::make(photographs, application, wishes);
+        options.defaultStrength = defaultStrength(process.guid());
+    const std::vector<BatchItem> items = BatchPlan::make(photographs, application, options);
     for (const BatchItem &item : items) {
         if (settings && QFileInfo(item.result).absoluteFilePath() == settings->path()) {
             ProgressView::complain(

@@ -15,7 +15,7 @@ class RunCommand
 
 public:
     RunCommand(const CommandLine &commandLine, HostApplication &host) : line(commandLine), application(host) {}
-    int run();
+    [[nodiscard]] int run();
 
 private:
     /// The strength of photographs that nothing else gives one: the stored default, or 70.

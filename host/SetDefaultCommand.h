@@ -12,7 +12,7 @@ class SetDefaultCommand
 
 public:
     SetDefaultCommand(const CommandLine &commandLine, HostApplication &host) : line(commandLine), application(host) {}
-    int run();
+    [[nodiscard]] int run();
 
 private:
     const CommandLine &line;

@@ -10,10 +10,11 @@
 #include "VException.h"
 #include "WizardWindow.h"
 #include "argumentText.h"
+#include "pluginIdentity.h"
 
 int WizardCommand::run()
 {
-    application.setUsual(QStringLiteral("hazeRemove"), WantedStrength::kUsual);
+    application.setUsual(pluginIdentity::strengthKey(), WantedStrength::kUsual);
     std::unique_ptr<PluginFile> plugin;
     std::unique_ptr<SettingsFile> settings;
     try {

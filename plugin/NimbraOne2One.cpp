@@ -17,7 +17,7 @@
 
 namespace {
 
-const QString kStrengthKey = QString::fromLatin1("hazeRemove");
+const QString kStrengthKey = pluginIdentity::strengthKey();
 
 unsigned short typeOfChannels(int channels)
 {

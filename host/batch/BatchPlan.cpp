@@ -81,12 +81,12 @@ QSet<QString> BatchPlan::resultsAmong(const QStringList &files, const QStringLis
     return results;
 }
 
-QString BatchPlan::isThere(const QString &result)
+QString BatchPlan::existsText(const QString &result)
 {
     return tr("Its result \"%1\" is there already. Give --overwrite to replace it.").arg(result);
 }
 
-std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostApplication &host, const Wishes &wishes)
+std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostApplication &host, const Options &options)
 {
     std::vector<BatchItem> items;
     std::map<QString, std::size_t> inputs; // place of the photograph -> item
@@ -97,9 +97,9 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         if (item.given.toUtf8() != bytes)
             item.givenBytes = bytes;
         item.path = pathOf(item.given);
-        const QDomElement stored = wishes.settings ? wishes.settings->element(item.path) : QDomElement();
-        WantedStrength wanted = wishes.strength.value_or(wishes.defaultStrength);
-        if (const auto known = SettingsFile::strengthOf(stored); known && !wishes.strength)
+        const QDomElement stored = options.settings ? options.settings->element(item.path) : QDomElement();
+        WantedStrength wanted = options.strength.value_or(options.defaultStrength);
+        if (const auto known = SettingsFile::strengthOf(stored); known && !options.strength)
             wanted = {*known, /*automatic=*/false};
         item.automatic = wanted.automatic;
         item.strength = wanted.percent;
@@ -111,7 +111,7 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         if (!inputs.emplace(placeOf(item.path), items.size()).second)
             continue;
         item.recordable = true;
-        item.replaces = wishes.overwrite;
+        item.replaces = options.overwrite;
         const bool tiff = host.imageDef(item.path)->needsTiffOutput();
         item.result = resultName(item.path, tiff);
         const QString suffix = QFileInfo(item.path).suffix();
@@ -120,7 +120,7 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
                                          : tr("\"%1\" is no format that can be written, so the result is a TIFF.").arg(suffix);
         if (!item.automatic)
             item.settings =
-                wishes.strength || stored.isNull() ? SettingsFile::withStrength(wishes.processName, item.strength) : stored;
+                options.strength || stored.isNull() ? SettingsFile::withStrength(options.processName, item.strength) : stored;
         items.push_back(std::move(item));
     }
 
@@ -151,8 +151,9 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
                                .arg(item.result, items[first->second].given);
         } else if (result.isDir()) {
             item.refusal = tr("Where its result belongs, at \"%1\", a folder stands. Move the folder away.").arg(item.result);
-        } else if (!wishes.overwrite && (result.exists() || result.isSymLink())) {
-            item.refusal = isThere(item.result);
+        } else if (!options.overwrite && (result.exists() || result.isSymLink())) {
+            item.refusal = existsText(item.result);
+            item.reason = BatchOutcome::Reason::ResultExists;
         } else if (!QFileInfo(result.absolutePath()).isWritable()) {
             item.refusal =
                 tr("Its result can't be written: the folder \"%1\" is read-only. Copy the photograph to another folder.")

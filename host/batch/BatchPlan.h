@@ -11,32 +11,32 @@
 #include "SettingsFile.h"
 #include "WantedStrength.h"
 
-/// Decides before any work what becomes of each photograph: its strength, the name of its result, and whether it must be refused
-/// (see BatchItem::refusal): what is no photograph, a result that is there already, a result that is itself one of the
-/// photographs, two photographs with one result. A photograph named twice is done once.
+/// Decides what is to be done with each photograph before any work begins: its strength, the name of its result, and whether it
+/// is refused (see BatchItem::refusal). Refused are files that can't be photographs, results that exist already, results that
+/// are themselves among the photographs, and two photographs with the same result. A photograph named twice is done once.
 class BatchPlan
 {
     Q_DECLARE_TR_FUNCTIONS(BatchPlan)
 
 public:
-    struct Wishes
+    struct Options
     {
-        std::optional<WantedStrength> strength; ///< For all; otherwise that of the settings, then `defaultStrength`.
+        std::optional<WantedStrength> strength; ///< For all; without it, the one in the settings, then `defaultStrength`.
         WantedStrength defaultStrength;
         bool overwrite = false;
         QString processName;
-        const SettingsFile *settings = nullptr; ///< May be null.
+        const SettingsFile *settings = nullptr; ///< May be null; only read.
     };
 
-    /// `photographs` as the command line gives them, see argumentText.
-    static std::vector<BatchItem> make(const QStringList &photographs, HostApplication &host, const Wishes &wishes);
+    /// `photographs` are texts as argumentText makes them.
+    static std::vector<BatchItem> make(const QStringList &photographs, HostApplication &host, const Options &options);
 
-    /// Those of `files` that have the name and the place of a result of one of `photographs`, in whatever language, whether they
-    /// are there or not. Folders are none.
+    /// Those of `files` with the name and folder of a result of one of `photographs`, in any language, whether they exist or
+    /// not. Folders are never among them.
     static QSet<QString> resultsAmong(const QStringList &files, const QStringList &photographs, HostApplication &host);
 
-    /// The name that the process will give to the result, in the language that is installed.
+    /// The absolute path that the process will give to the result, in the language of the installed catalogue.
     static QString resultName(const QString &photograph, bool needsTiff);
-    /// The refusal of a photograph whose result stands already.
-    static QString isThere(const QString &result);
+    /// The message for a photograph whose result exists already.
+    static QString existsText(const QString &result);
 };

@@ -50,7 +50,7 @@ qint64 memoryFor(const PhotoFacts &facts, int sourceBytes, bool untouched)
     return images + std::max(qint64(200) << 20, pixels * kMapBytes + levelPixels * (kWorkingBytes + kMapBytes));
 }
 
-bool stands(const QString &file)
+bool exists(const QString &file)
 {
     return QFileInfo::exists(file) || QFileInfo(file).isSymLink();
 }
@@ -102,8 +102,10 @@ void BatchRunner::work(const std::vector<BatchItem> &items)
 BatchOutcome BatchRunner::process(const BatchItem &item, int index)
 {
     BatchOutcome outcome;
-    const auto stopped = [&outcome] {
+    std::optional<Stage> stage;
+    const auto stopped = [&] {
         outcome.status = BatchOutcome::Status::Stopped;
+        outcome.reason = stage ? BatchOutcome::Reason::Other : BatchOutcome::Reason::NotBegun;
         outcome.message = tr("Stopped; no result was written.");
         return outcome;
     };
@@ -111,13 +113,13 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         return stopped();
     if (!item.refusal.isEmpty()) {
         outcome.message = item.refusal;
+        outcome.reason = item.reason;
         return outcome;
     }
-    const bool stoodBefore = stands(item.result);
-    Stage stage = Stage::Reading;
+    const bool existedBefore = exists(item.result);
     bool outOfMemory = false;
     try {
-        outcome.unchanged = attempt(item, index, stage, outcome.strength);
+        attempt(item, index, stage, outcome);
         outcome.status = outcome.unchanged.isEmpty() ? BatchOutcome::Status::Done : BatchOutcome::Status::Unchanged;
         outcome.message = carryXmp(item.path, item.result);
         if (!outcome.message.isEmpty())
@@ -133,10 +135,12 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         outcome.message = QString::fromLocal8Bit(failure.what());
     }
     // The write check of a failed save may have left an empty file. A whole one is another program's.
-    if (!stoodBefore && QFileInfo(item.result).size() == 0)
+    if (!existedBefore && QFileInfo(item.result).size() == 0)
         QFile::remove(item.result);
     if (stopping)
         return stopped();
+    if (outcome.reason == BatchOutcome::Reason::ResultExists)
+        return outcome;
     // The engine reads the photograph once more when it saves.
     if (stage == Stage::Saving && outcome.message.contains('"' + item.path + '"')) {
         outcome.message = tr("The photograph was changed, moved or deleted while the haze was being taken away. Put it back and "
@@ -155,7 +159,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     return outcome;
 }
 
-QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage, std::optional<int> &strength)
+void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage> &stage, BatchOutcome &outcome)
 {
     Photograph &original = *application.photograph(item.path);
     const PhotoFacts facts = original.facts();
@@ -185,31 +189,32 @@ QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage, std
     photograph.watch([&](Photograph::Use use) {
         if (stopping)
             endRun();
-        if (use == Photograph::Use::Released && !item.replaces && stands(item.result)) {
-            stage = Stage::Reading; // nothing but the name is in the way
-            throw VException(BatchPlan::isThere(item.result), V_LOCATION);
+        if (use == Photograph::Use::Released && !item.replaces && exists(item.result)) {
+            outcome.reason = BatchOutcome::Reason::ResultExists;
+            throw VException(BatchPlan::existsText(item.result), V_LOCATION);
         }
         stage = use == Photograph::Use::Reading ? Stage::Reading : use == Photograph::Use::Read ? Stage::Dehazing : Stage::Saving;
         const std::lock_guard lock(reportMutex);
-        watcher.stageBegins(index, stage);
+        watcher.stageBegins(index, *stage);
     });
     if (item.automatic) {
         photograph.decodeAhead();
-        strength = photograph.automaticStrength().value_or(WantedStrength::kUsual);
+        outcome.strength = photograph.automaticStrength().value_or(WantedStrength::kUsual);
     }
     {
         const std::lock_guard lock(reportMutex); // two elements may belong to one document
-        settings = one2one.createSettings(item.automatic ? SettingsFile::withStrength(one2one.name(), *strength) : item.settings);
+        settings = one2one.createSettings(item.automatic ? SettingsFile::withStrength(one2one.name(), *outcome.strength)
+                                                         : item.settings);
     }
     if (turned) {
         turned->run(one2one, settings, item.result);
-        return whyUnchanged(one2one, settings);
+    } else {
+        QString written;
+        one2one.run(item.path, settings, &written);
+        if (written != item.result || QFileInfo(written).size() == 0)
+            throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, item.result), V_LOCATION);
     }
-    QString written;
-    one2one.run(item.path, settings, &written);
-    if (written != item.result || QFileInfo(written).size() == 0)
-        throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, item.result), V_LOCATION);
-    return whyUnchanged(one2one, settings);
+    outcome.unchanged = whyUnchanged(one2one, settings);
 }
 
 void BatchRunner::reserve(qint64 bytes)

@@ -49,9 +49,9 @@ public:
 private:
     void work(const std::vector<BatchItem> &items);
     BatchOutcome process(const BatchItem &item, int index);
-    /// Throws; otherwise the result is there, and what it gives is BatchOutcome::unchanged. Sets the strength of an
-    /// automatic item as soon as that is known.
-    QString attempt(const BatchItem &item, int index, Stage &stage, std::optional<int> &strength);
+    /// Writes the result or throws. Notes the stage it is in, and in `outcome` the reason of a failure, why a result is
+    /// unchanged, and the strength of an automatic item as soon as it is known.
+    void attempt(const BatchItem &item, int index, std::optional<Stage> &stage, BatchOutcome &outcome);
     void reserve(qint64 bytes);
     void giveBack(qint64 bytes);
 

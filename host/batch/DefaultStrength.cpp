@@ -1,10 +1,11 @@
 #include "DefaultStrength.h"
 
 #include "VException.h"
+#include "pluginIdentity.h"
 
 namespace {
 
-const QString kNumber = QStringLiteral("hazeRemove"); // the process's
+const QString kNumber = pluginIdentity::strengthKey();
 const QString kWord = QStringLiteral("strength");
 
 } // namespace

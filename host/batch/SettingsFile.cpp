@@ -12,6 +12,7 @@
 
 #include "VException.h"
 #include "WantedStrength.h"
+#include "pluginIdentity.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ constexpr int kDepth = 100; ///< Elements within elements; ours are three.
 const QString kRoot = QStringLiteral("veilaway");
 const QString kEntry = QStringLiteral("photo");
 const QString kPath = QStringLiteral("path");
-const QString kStrength = QStringLiteral("hazeRemove");
+const QString kStrength = pluginIdentity::strengthKey();
 const QString kWanted = QStringLiteral("strength"); // the program's own, beside the process's
 
 /// False for a text with letters that XML can't hold, in whatever spelling.

@@ -46,7 +46,7 @@ public:
     static std::optional<int> strengthOf(const QDomElement &element);
     /// With `automatic` the element also says that this strength was chosen for the photograph, not asked for. That is a note for
     /// the reader, and for the window: the number is what counts.
-    static QDomElement withStrength(const QString &processName, int strength, bool automatic = false);
+    [[nodiscard]] static QDomElement withStrength(const QString &processName, int strength, bool automatic = false);
     static bool isAutomatic(const QDomElement &element);
 
 private:

@@ -1,5 +1,7 @@
 #include "PhotoPage.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
@@ -14,6 +16,8 @@
 #include <QStandardPaths>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include "BatchPlan.h"
 
 namespace {
 
@@ -47,7 +51,7 @@ QStringList patterns()
 } // namespace
 
 PhotoPage::PhotoPage(HostApplication &host, QWidget *parent)
-    : QWizardPage(parent), list(new QListWidget(this)), state(new QLabel(this)), leftOut(new QLabel(this)),
+    : QWizardPage(parent), application(host), list(new QListWidget(this)), state(new QLabel(this)), leftOut(new QLabel(this)),
       removeButton(new QPushButton(tr("&Remove"), this)), reader(host, int(kPicture.width() * devicePixelRatioF()))
 {
     setTitle(tr("Photographs"));
@@ -103,27 +107,44 @@ PhotoPage::PhotoPage(HostApplication &host, QWidget *parent)
     showState();
 }
 
+QStringList PhotoPage::filesOf(const QStringList &paths)
+{
+    QStringList files;
+    for (const QString &given : paths) {
+        const QFileInfo info(given);
+        if (!info.isDir()) {
+            files << QDir::cleanPath(info.absoluteFilePath());
+            continue;
+        }
+        const QFileInfoList inside = QDir(info.absoluteFilePath()).entryInfoList(patterns(), QDir::Files, QDir::Name);
+        if (inside.isEmpty())
+            complaints << tr("%1: There are no photographs in this folder.").arg(given);
+        for (const QFileInfo &file : inside)
+            files << QDir::cleanPath(file.absoluteFilePath());
+    }
+    return files;
+}
+
 void PhotoPage::add(const QStringList &paths)
 {
+    const QStringList files = filesOf(paths), all = photographs() + files;
+    const QSet<QString> results = BatchPlan::resultsAmong(all, all, application);
+    if (!results.isEmpty()) {
+        const auto first = std::find_if(all.begin(), all.end(), [&](const QString &path) { return results.contains(path); });
+        complaints << tr("%n file(s) that are results of other photographs in the list, such as \"%1\".", nullptr, results.size())
+                          .arg(QFileInfo(*first).fileName());
+    }
+    for (const QString &result : results)
+        if (QListWidgetItem *listed = items.value(result))
+            remove(listed);
+
     QImage waiting(kPicture, QImage::Format_ARGB32_Premultiplied);
     waiting.fill(QColor(128, 128, 128, 40));
     const QIcon icon = centred(waiting, devicePixelRatioF());
-    for (const QString &given : paths) {
-        const QFileInfo info(given);
-        if (info.isDir()) {
-            QStringList inside;
-            for (const QFileInfo &file : QDir(given).entryInfoList(patterns(), QDir::Files, QDir::Name))
-                inside << file.absoluteFilePath();
-            if (inside.isEmpty())
-                complaints << tr("%1: There are no photographs in this folder.").arg(given);
-            else
-                add(inside);
+    for (const QString &path : files) {
+        if (items.contains(path) || results.contains(path))
             continue;
-        }
-        const QString path = QDir::cleanPath(info.absoluteFilePath());
-        if (items.contains(path))
-            continue;
-        auto *item = new QListWidgetItem(icon, info.fileName(), list);
+        auto *item = new QListWidgetItem(icon, QFileInfo(path).fileName(), list);
         item->setData(Path, path);
         item->setData(Stage, Waiting);
         item->setToolTip(QDir::toNativeSeparators(path));

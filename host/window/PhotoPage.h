@@ -20,7 +20,8 @@ class PhotoPage : public QWizardPage
 public:
     explicit PhotoPage(HostApplication &host, QWidget *parent = nullptr);
 
-    /// Adds photographs by path; folders stand for the photographs in them. What is in the list already stays as it is.
+    /// Adds photographs by path, and for a folder all photographs in it. What is in the list already stays as it is, but files
+    /// that have the name of a result of another photograph in the list are left out, whichever of the two came first.
     void add(const QStringList &paths);
     void clear();
     /// Absolute paths in the order of the list.
@@ -40,6 +41,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    /// The absolute paths of these files, and of the photographs in these folders.
+    QStringList filesOf(const QStringList &paths);
     void choose();
     void chooseSettings();
     void removeSelected();
@@ -50,6 +53,7 @@ private:
     void remove(QListWidgetItem *item);
     void showState();
 
+    HostApplication &application;
     QListWidget *list;
     QLabel *state;
     QLabel *leftOut;

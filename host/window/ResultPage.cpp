@@ -15,7 +15,6 @@
 
 #include "BeforeAfterView.h"
 #include "PhotoReader.h"
-#include "RunPage.h"
 #include "VException.h"
 
 namespace {
@@ -104,13 +103,11 @@ void ResultPage::showCurrent()
         return;
     const BatchItem &item = batch[std::size_t(row)];
     const BatchOutcome &outcome = results[std::size_t(row)];
-    const bool done = outcome.status == BatchOutcome::Status::Done;
     const bool unchanged = outcome.status == BatchOutcome::Status::Unchanged;
-    const bool there = done || unchanged || outcome.message == RunPage::keptText();
-    text->setText(unchanged                           ? outcome.unchanged
-                  : done && outcome.message.isEmpty() ? QDir::toNativeSeparators(item.result)
-                  : outcome.message.isEmpty()         ? tr("Stopped before it began.")
-                                                      : outcome.message);
+    const bool there = outcome.hasResult() || outcome.reason == BatchOutcome::Reason::ResultExists;
+    text->setText(unchanged                   ? outcome.unchanged
+                  : outcome.message.isEmpty() ? QDir::toNativeSeparators(item.result)
+                                              : outcome.message);
     pool.clear();
     pool.start([this, row, path = item.path, resultPath = there ? item.result : QString()] {
         QImage before, after;

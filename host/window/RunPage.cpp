@@ -82,11 +82,8 @@ void RunPage::begin(std::vector<BatchItem> keeping, std::vector<BatchItem> repla
     batchJobs = jobs;
     setSubTitle(tr("Each result is written beside its photograph."));
     int there = 0;
-    for (std::size_t index = 0; index < keeping.size(); ++index)
-        if (!keeping[index].refusal.isEmpty() && replacing[index].refusal.isEmpty()) {
-            keeping[index].refusal = keptText();
-            ++there;
-        }
+    for (const BatchItem &item : keeping)
+        there += item.reason == BatchOutcome::Reason::ResultExists;
     stopButton->setEnabled(false);
     if (there == 0) {
         start(std::move(keeping));
@@ -102,7 +99,7 @@ void RunPage::begin(std::vector<BatchItem> keeping, std::vector<BatchItem> repla
 
 void RunPage::fillTable()
 {
-    results.assign(batch.size(), {BatchOutcome::Status::Stopped, 0, QString(), QString()});
+    results.assign(batch.size(), BatchOutcome());
     table->setRowCount(int(batch.size()));
     for (int row = 0; row < table->rowCount(); ++row) {
         const BatchItem &item = batch[std::size_t(row)];
@@ -148,11 +145,6 @@ void RunPage::stop()
     setSubTitle(tr("Stopping. The photographs in hand end first."));
 }
 
-QString RunPage::keptText()
-{
-    return tr("Its result was there already and has been kept.");
-}
-
 void RunPage::stageBegins(int item, BatchRunner::Stage stage)
 {
     QMetaObject::invokeMethod(
@@ -180,17 +172,19 @@ void RunPage::showStage(int item, BatchRunner::Stage stage)
 
 void RunPage::showOutcome(int item, const BatchOutcome &outcome)
 {
-    results[std::size_t(item)] = outcome;
+    BatchOutcome &shown = results[std::size_t(item)] = outcome;
+    const bool kept = outcome.reason == BatchOutcome::Reason::ResultExists;
+    if (kept) // the message is one for the command line
+        shown.message = tr("Its result already existed and was kept.");
     const bool unchanged = outcome.status == BatchOutcome::Status::Unchanged;
-    const bool done = outcome.status == BatchOutcome::Status::Done;
-    showProgress(item, done || unchanged ? 100 : 0);
+    showProgress(item, outcome.hasResult() ? 100 : 0);
     QTableWidgetItem *state = table->item(item, State);
-    state->setText(done                                              ? tr("Done")
+    state->setText(outcome.status == BatchOutcome::Status::Done      ? tr("Done")
                    : unchanged                                       ? tr("Unchanged")
                    : outcome.status == BatchOutcome::Status::Stopped ? tr("Stopped")
-                   : outcome.message == keptText()                   ? tr("Kept")
+                   : kept                                            ? tr("Kept")
                                                                      : tr("Failed"));
-    state->setToolTip(unchanged ? outcome.unchanged : outcome.message);
+    state->setToolTip(unchanged ? shown.unchanged : shown.message);
     overall->setValue(++endedCount);
 }
 

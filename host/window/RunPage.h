@@ -32,11 +32,8 @@ public:
     void stop();
 
     const std::vector<BatchItem> &items() const { return batch; }
-    /// One for each item; those of items without one yet are Stopped.
+    /// One for each item, valid once the page is complete.
     const std::vector<BatchOutcome> &outcomes() const { return results; }
-
-    /// The message of an outcome whose result was there already and stays.
-    static QString keptText();
 
     bool isComplete() const override;
 

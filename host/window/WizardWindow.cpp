@@ -16,12 +16,7 @@
 #include "ResultPage.h"
 #include "RunPage.h"
 #include "VException.h"
-
-namespace {
-
-const QString kStrengthKey = QStringLiteral("hazeRemove");
-
-} // namespace
+#include "pluginIdentity.h"
 
 WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std::unique_ptr<SettingsFile> settings, int jobs)
     : application(host), one2one(process), session(std::move(settings)), hasFile(session != nullptr), batchJobs(jobs),
@@ -153,7 +148,7 @@ void WizardWindow::preparePluginPage()
         const auto strength = startOf(path);
         strengths << (strength ? QVariant(*strength) : QVariant());
     }
-    const HostApplication::Presets presets(application, one2one.guid(), kStrengthKey, strengths);
+    const HostApplication::Presets presets(application, one2one.guid(), pluginIdentity::strengthKey(), strengths);
     onPage = paths;
     try {
         one2one.setImages(paths);
@@ -197,12 +192,12 @@ void WizardWindow::takeStrengths()
 
 void WizardWindow::prepareWork()
 {
-    BatchPlan::Wishes wishes;
-    wishes.processName = one2one.name();
-    wishes.settings = session.get();
-    auto keeping = BatchPlan::make(onPage, application, wishes);
-    wishes.overwrite = true;
-    runPage->begin(std::move(keeping), BatchPlan::make(onPage, application, wishes), batchJobs);
+    BatchPlan::Options options;
+    options.processName = one2one.name();
+    options.settings = session.get();
+    auto keeping = BatchPlan::make(onPage, application, options);
+    options.overwrite = true;
+    runPage->begin(std::move(keeping), BatchPlan::make(onPage, application, options), batchJobs);
 }
 
 void WizardWindow::initializePage(int id)
@@ -228,6 +223,8 @@ bool WizardWindow::validateCurrentPage()
     if (currentId() == Strength) {
         takeStrengths();
         one2one.saveDefaults();
+        for (const QString &result : BatchPlan::resultsAmong(session->photographs(), onPage, application))
+            session->remove(result); // as the command line does
         if (hasFile && !saveSession(*session))
             return false;
     }

@@ -44,7 +44,7 @@ private:
     void openSession(const QString &file);
     void saveSessionAs();
     void startOver();
-    bool saveSession(SettingsFile &file);
+    [[nodiscard]] bool saveSession(SettingsFile &file);
     void preparePluginPage();
     void putListBack();
     /// The number from which the page starts this photograph: that of the session, or else the automatic one if that is the
