@@ -92,71 +92,57 @@ CommandLine CommandLine::parse(const QStringList &arguments)
 
 QString CommandLine::help()
 {
-    return tr(R"(veilaway takes the haze out of photographs.
-
-Usage:
-  veilaway [run] PHOTO... [options]
-  veilaway [run] --settings FILE [options]
-  veilaway wizard [PHOTO...] [options]
-  veilaway --set-default N|auto|none
-  veilaway --help | --version
-
-Each result is written beside its photograph, under the photograph's name with a
-tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
-The tag follows the language: _entnebelt with --language de, for instance.
-
-The wizard opens a window: choose photographs, set the strength of each with a live
-preview, take the haze away, and compare. It takes --settings (which then holds the
-strengths), --language, --jobs, --share-services and --plugin.
-
-Options:
-  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all, and auto fits it to each photograph: 50 for
-                    a dark one up to 80 for a bright one. Without it, the strength in
-                    the settings file counts, then your stored default, then 70.
-  --set-default N   Store this default, a number or auto, or take it back with none.
-                    Does nothing else.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file
-                    is there, its strengths are used, unless --strength is given too;
-                    at the end it holds the strengths that were used. Without a PHOTO,
-                    all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN or zh_TW. Without it, that of the system.
-  --jobs N          Photographs worked on at the same time. Without it, as many as keep
-                    all cores busy and fit into memory.
-  --overwrite       Replace results that are there already.
-  --quiet           Say nothing but what failed.
-  --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program's own services (log, memory pool,
-                    processor count) instead of letting it make them.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
-                    in ../lib/nimbra.
-  -h, --help        Show this text.
-  --version         Show the versions of the program and of the plug-in.
-  --                What follows are photographs, even if they begin with a dash.
-
-Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
-  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
-  the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
-  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files stay where they are and are not read.
-
-Ends with:
-  0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output
-     could not be written.
-  2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
-
-Examples:
-  veilaway hills.jpg --strength 80
-  veilaway hills.jpg valley.jpg --strength auto
-  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
-  veilaway --settings holiday/haze.xml --overwrite
-)");
+    return tr("veilaway takes the haze out of photographs.\n\n"
+              "Usage:\n"
+              "  veilaway [run] PHOTO... [options]\n"
+              "  veilaway [run] --settings FILE [options]\n"
+              "  veilaway wizard [PHOTO...] [options]\n"
+              "  veilaway --set-default N|auto|none\n"
+              "  veilaway --help | --version\n\n"
+              "Each result is written beside its photograph, under the photograph's name with a tag: hills.jpg becomes "
+              "hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with "
+              "--language de, for instance.\n\n"
+              "The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, "
+              "and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and "
+              "--plugin.\n\n"
+              "Options:\n"
+              "  --strength N      How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of "
+              "it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without "
+              "this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.\n"
+              "  --set-default N   Store this default, a number or auto, or remove the stored one with none. Nothing else is "
+              "done.\n"
+              "  --settings FILE   Keep the strength of each photograph in this XML file. If the file exists, its strengths "
+              "are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, "
+              "all photographs in the file are done.\n"
+              "  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. "
+              "Without this option, the language of the system.\n"
+              "  --jobs N          Number of photographs to work on at the same time. Without this option, as many as keep "
+              "all cores busy and fit into memory.\n"
+              "  --overwrite       Replace results that already exist.\n"
+              "  --quiet           Report failures only.\n"
+              "  --json            Write one line with a JSON object for each photograph: photo, result, status (done, "
+              "unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).\n"
+              "  --share-services  Lend the plug-in the program's own services (log, memory pool, processor count) instead "
+              "of letting it start its own.\n"
+              "  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.\n"
+              "  -h, --help        Show this text.\n"
+              "  --version         Show the versions of the program and the plug-in.\n"
+              "  --                Everything that follows is a photograph, even if it begins with a dash.\n\n"
+              "Formats:\n"
+              "  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A "
+              "result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and "
+              "XMP. EXIF orientation is kept, so that the result is shown the same way up.\n"
+              "  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. "
+              "Photographs with any other suffix, or none, become a TIFF too.\n"
+              "  XMP sidecar files are not read and stay where they are.\n\n"
+              "Exit status:\n"
+              "  0  All photographs are done, or came back unchanged (a message says why).\n"
+              "  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.\n"
+              "  2  The command line or the settings file is wrong; nothing was begun.\n"
+              "Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.\n\n"
+              "Examples:\n"
+              "  veilaway hills.jpg --strength 80\n"
+              "  veilaway hills.jpg valley.jpg --strength auto\n"
+              "  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml\n"
+              "  veilaway --settings holiday/haze.xml --overwrite\n");
 }

@@ -34,6 +34,7 @@ public:
 
     /// `arguments` as the program got them, its own name first.
     static CommandLine parse(const QStringList &arguments);
+    /// Paragraphs without line breaks, see wrapped().
     static QString help();
 };
 

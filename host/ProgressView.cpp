@@ -2,12 +2,11 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cwchar>
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <sys/ioctl.h>
-#include <unistd.h>
+
+#include "terminalText.h"
 
 namespace {
 
@@ -30,25 +29,6 @@ QString harmless(QString text)
         if (character.category() == QChar::Other_Control)
             character = '?';
     return text;
-}
-
-int terminalWidth()
-{
-    winsize size{};
-    return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : 80;
-}
-
-/// The text cut to so many columns of a terminal; a line that wraps could not be redrawn.
-QString fitted(const QString &text, int columns)
-{
-    QString kept;
-    for (const uint code : text.toUcs4()) {
-        columns -= std::max(wcwidth(wchar_t(code)), 0);
-        if (columns < 0)
-            break;
-        kept += QString::fromUcs4(&code, 1);
-    }
-    return kept;
 }
 
 QString bar(int filled)
@@ -164,7 +144,7 @@ void ProgressView::drawBars()
 {
     if (style != Style::Bars || inProgress.empty())
         return;
-    const int columns = terminalWidth() - 1;
+    const int columns = terminalWidth() - 1; // a line that wraps could not be redrawn
     QString text;
     for (const auto &[index, stage] : inProgress) {
         // The engine takes about two thirds of the time; reading and saving share the rest.

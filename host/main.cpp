@@ -19,6 +19,7 @@
 #include "VException.h"
 #include "WizardCommand.h"
 #include "argumentText.h"
+#include "terminalText.h"
 
 namespace {
 
@@ -54,7 +55,7 @@ int answer(const CommandLine &line, HostApplication &application)
 {
     switch (line.command) {
     case CommandLine::Command::Help:
-        ProgressView::say(CommandLine::help());
+        ProgressView::say(wrapped(CommandLine::help(), terminalWidth()));
         return ExitAllDone;
     case CommandLine::Command::Version:
         return showVersion(line);

@@ -130,57 +130,35 @@ Usage:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Each result is written beside its photograph, under the photograph&apos;s name with a
-tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
-The tag follows the language: _entnebelt with --language de, for instance.
+Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.
 
-The wizard opens a window: choose photographs, set the strength of each with a live
-preview, take the haze away, and compare. It takes --settings (which then holds the
-strengths), --language, --jobs, --share-services and --plugin.
+The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
-  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all, and auto fits it to each photograph: 50 for
-                    a dark one up to 80 for a bright one. Without it, the strength in
-                    the settings file counts, then your stored default, then 70.
-  --set-default N   Store this default, a number or auto, or take it back with none.
-                    Does nothing else.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file
-                    is there, its strengths are used, unless --strength is given too;
-                    at the end it holds the strengths that were used. Without a PHOTO,
-                    all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN or zh_TW. Without it, that of the system.
-  --jobs N          Photographs worked on at the same time. Without it, as many as keep
-                    all cores busy and fit into memory.
-  --overwrite       Replace results that are there already.
-  --quiet           Say nothing but what failed.
-  --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
-                    processor count) instead of letting it make them.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
-                    in ../lib/nimbra.
+  --strength N      How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
+  --set-default N   Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
+  --settings FILE   Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
+  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
+  --jobs N          Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
+  --overwrite       Replace results that already exist.
+  --quiet           Report failures only.
+  --json            Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
+  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
+  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
   -h, --help        Show this text.
-  --version         Show the versions of the program and of the plug-in.
-  --                What follows are photographs, even if they begin with a dash.
+  --version         Show the versions of the program and the plug-in.
+  --                Everything that follows is a photograph, even if it begins with a dash.
 
 Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
-  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
-  the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
-  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files stay where they are and are not read.
+  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. Photographs with any other suffix, or none, become a TIFF too.
+  XMP sidecar files are not read and stay where they are.
 
-Ends with:
-  0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output
-     could not be written.
+Exit status:
+  0  All photographs are done, or came back unchanged (a message says why).
+  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
+Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -197,59 +175,34 @@ Aufruf:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Jedes Ergebnis wird neben seinem Foto gespeichert, unter dessen Namen mit einem
-Zusatz: Aus hills.jpg wird hills_entnebelt.jpg. Das Foto selbst bleibt unverändert.
-Der Zusatz richtet sich nach der Sprache: mit --language en zum Beispiel _dehazed.
+Jedes Ergebnis wird neben seinem Foto gespeichert, unter dessen Namen mit einem Zusatz: Aus hills.jpg wird hills_entnebelt.jpg. Das Foto selbst bleibt unverändert. Der Zusatz richtet sich nach der Sprache: mit --language en zum Beispiel _dehazed.
 
-Der Assistent öffnet ein Fenster: Fotos auswählen, für jedes die Stärke bei laufender
-Vorschau einstellen, den Dunst entfernen und vergleichen. Er kennt --settings (die
-Datei enthält danach die Stärken), --language, --jobs, --share-services und --plugin.
+Der Assistent öffnet ein Fenster: Fotos auswählen, für jedes die Stärke bei laufender Vorschau einstellen, den Dunst entfernen und vergleichen. Er kennt --settings (die Datei enthält danach die Stärken), --language, --jobs, --share-services und --plugin.
 
 Optionen:
-  --strength N      Wie viel Dunst entfernt wird, in Prozent: 0 lässt das Bild, wie es
-                    ist, 100 entfernt allen, und auto richtet sich nach jedem Foto: 50
-                    bei einem dunklen bis 80 bei einem hellen. Ohne diese Option gilt
-                    die Stärke in der Einstellungsdatei, sonst Ihre gespeicherte
-                    Voreinstellung, sonst 70.
-  --set-default N   Diese Voreinstellung speichern, eine Zahl oder auto, oder sie mit
-                    none zurücknehmen. Sonst geschieht nichts.
-  --settings DATEI  Die Stärke für jedes Foto in dieser XML-Datei aufbewahren. Gibt es
-                    die Datei schon, gelten ihre Stärken, sofern nicht auch --strength
-                    angegeben ist; am Ende enthält sie die verwendeten Stärken. Ohne
-                    FOTO werden alle Fotos in der Datei bearbeitet.
-  --language LANG   Sprache der Meldungen und des Zusatzes: de, en, es, fr, it, ja,
-                    pl, ru, zh_CN oder zh_TW. Ohne diese Option die des Systems.
-  --jobs N          Anzahl der gleichzeitig bearbeiteten Fotos. Ohne diese Option so
-                    viele, wie alle Kerne auslasten und in den Speicher passen.
+  --strength N      Wie viel Dunst entfernt wird, in Prozent: 0 lässt das Bild, wie es ist, 100 entfernt allen, und auto richtet sich nach jedem Foto: 50 bei einem dunklen bis 80 bei einem hellen. Ohne diese Option gilt die Stärke in der Einstellungsdatei, sonst Ihre gespeicherte Voreinstellung, sonst 70.
+  --set-default N   Diese Voreinstellung speichern, eine Zahl oder auto, oder sie mit none zurücknehmen. Sonst geschieht nichts.
+  --settings DATEI  Die Stärke für jedes Foto in dieser XML-Datei aufbewahren. Gibt es die Datei schon, gelten ihre Stärken, sofern nicht auch --strength angegeben ist; am Ende enthält sie die verwendeten Stärken. Ohne FOTO werden alle Fotos in der Datei bearbeitet.
+  --language LANG   Sprache der Meldungen und des Zusatzes: de, en, es, fr, it, ja, pl, ru, zh_CN oder zh_TW. Ohne diese Option die des Systems.
+  --jobs N          Anzahl der gleichzeitig bearbeiteten Fotos. Ohne diese Option so viele, wie alle Kerne auslasten und in den Speicher passen.
   --overwrite       Bereits vorhandene Ergebnisse ersetzen.
   --quiet           Nur melden, was fehlgeschlagen ist.
-  --json            Für jedes Foto eine Zeile mit einem JSON-Objekt ausgeben: photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (der Grund, oder null).
-  --share-services  Dem Plug-in die Dienste des Programms leihen (Protokoll, Speicher-
-                    pool, Anzahl der Prozessoren), statt es eigene anlegen zu lassen.
-  --plugin DATEI    Diese Plug-in-Datei laden statt Nimbra.so neben dem Programm oder
-                    in ../lib/nimbra.
+  --json            Für jedes Foto eine Zeile mit einem JSON-Objekt ausgeben: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (der Grund, oder null).
+  --share-services  Dem Plug-in die Dienste des Programms leihen (Protokoll, Speicherpool, Anzahl der Prozessoren), statt es eigene anlegen zu lassen.
+  --plugin DATEI    Diese Plug-in-Datei laden statt Nimbra.so neben dem Programm oder in ../lib/nimbra.
   -h, --help        Diesen Text anzeigen.
   --version         Die Versionen des Programms und des Plug-ins anzeigen.
   --                Was folgt, sind Fotos, auch wenn sie mit einem Strich beginnen.
 
 Formate:
-  Lesen und schreiben: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) und PSD. Ein Ergebnis hat Format, Farbtiefe (8 oder 16 Bit
-  oder Gleitkomma), Farbprofil, EXIF, IPTC und XMP seines Fotos. Die EXIF-
-  Ausrichtung bleibt erhalten, sodass das Ergebnis wie sein Foto angezeigt wird.
-  Nur lesen: Kamera-RAW (dng, cr2, nef, arw, raf, orf, rw2 und andere). Das
-  Ergebnis ist ein TIFF mit 16 Bit. Auch Fotos mit einer anderen oder ohne Dateiendung
-  werden ein TIFF. XMP-Begleitdateien bleiben, wo sie sind, und werden nicht gelesen.
+  Lesen und schreiben: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) und PSD. Ein Ergebnis hat Format, Farbtiefe (8 oder 16 Bit oder Gleitkomma), Farbprofil, EXIF, IPTC und XMP seines Fotos. Die EXIF-Ausrichtung bleibt erhalten, sodass das Ergebnis wie sein Foto angezeigt wird.
+  Nur lesen: Kamera-RAW (dng, cr2, nef, arw, raf, orf, rw2 und andere). Das Ergebnis ist ein TIFF mit 16 Bit. Auch Fotos mit einer anderen oder ohne Dateiendung werden ein TIFF. XMP-Begleitdateien bleiben, wo sie sind, und werden nicht gelesen.
 
 Rückgabewert:
   0  Alle Fotos sind fertig oder kamen unverändert zurück (mit dem Grund).
-  1  Einige sind es nicht: Die Standardfehlerausgabe nennt sie, den Grund und was
-     hilft. Oder die Standardausgabe konnte nicht geschrieben werden.
+  1  Einige sind es nicht: Die Standardfehlerausgabe nennt sie, den Grund und was hilft. Oder die Standardausgabe konnte nicht geschrieben werden.
   2  Die Befehlszeile oder die Einstellungsdatei ist falsch; nichts wurde begonnen.
-Strg+C beendet es durch das Signal (130 in einer Shell), ohne ein halbes Ergebnis zu
-hinterlassen.
+Strg+C beendet es durch das Signal (130 in einer Shell), ohne ein halbes Ergebnis zu hinterlassen.
 
 Beispiele:
   veilaway hills.jpg --strength 80

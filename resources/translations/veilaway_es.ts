@@ -130,57 +130,35 @@ Usage:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Each result is written beside its photograph, under the photograph&apos;s name with a
-tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
-The tag follows the language: _entnebelt with --language de, for instance.
+Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.
 
-The wizard opens a window: choose photographs, set the strength of each with a live
-preview, take the haze away, and compare. It takes --settings (which then holds the
-strengths), --language, --jobs, --share-services and --plugin.
+The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
-  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all, and auto fits it to each photograph: 50 for
-                    a dark one up to 80 for a bright one. Without it, the strength in
-                    the settings file counts, then your stored default, then 70.
-  --set-default N   Store this default, a number or auto, or take it back with none.
-                    Does nothing else.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file
-                    is there, its strengths are used, unless --strength is given too;
-                    at the end it holds the strengths that were used. Without a PHOTO,
-                    all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN or zh_TW. Without it, that of the system.
-  --jobs N          Photographs worked on at the same time. Without it, as many as keep
-                    all cores busy and fit into memory.
-  --overwrite       Replace results that are there already.
-  --quiet           Say nothing but what failed.
-  --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
-                    processor count) instead of letting it make them.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
-                    in ../lib/nimbra.
-  -h, --help        Show this text.
-  --version         Show the versions of the program and of the plug-in.
-  --                What follows are photographs, even if they begin with a dash.
+  --strength N        How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
+  --set-default N     Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
+  --settings FILE     Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
+  --language LANG     Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
+  --jobs N            Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
+  --overwrite         Replace results that already exist.
+  --quiet             Report failures only.
+  --json              Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
+  --share-services    Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
+  --plugin FILE       Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
+  -h, --help          Show this text.
+  --version           Show the versions of the program and the plug-in.
+  --                  Everything that follows is a photograph, even if it begins with a dash.
 
 Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
-  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
-  the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
-  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files stay where they are and are not read.
+  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. Photographs with any other suffix, or none, become a TIFF too.
+  XMP sidecar files are not read and stay where they are.
 
-Ends with:
-  0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output
-     could not be written.
+Exit status:
+  0  All photographs are done, or came back unchanged (a message says why).
+  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
+Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -197,61 +175,33 @@ Uso:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Cada resultado se guarda junto a su foto, con el nombre de esta y un sufijo: de
-hills.jpg se obtiene hills_sinbruma.jpg. La foto original no se modifica nunca.
-El sufijo depende del idioma: con --language en, por ejemplo, es _dehazed.
+Cada resultado se guarda junto a su foto, con el nombre de esta y un sufijo: de hills.jpg se obtiene hills_sinbruma.jpg. La foto original no se modifica nunca. El sufijo depende del idioma: con --language en, por ejemplo, es _dehazed.
 
-El asistente abre una ventana: elija las fotos, ajuste la potencia de cada una con una
-vista previa en directo, quite la bruma y compare. Admite --settings (el archivo
-contiene después las potencias), --language, --jobs, --share-services y --plugin.
+El asistente abre una ventana: elija las fotos, ajuste la potencia de cada una con una vista previa en directo, quite la bruma y compare. Admite --settings (el archivo contiene después las potencias), --language, --jobs, --share-services y --plugin.
 
 Opciones:
-  --strength N      Cuánta bruma se quita, en tanto por ciento: 0 deja la imagen como
-                    está, 100 la quita toda y auto se adapta a cada foto: desde 50 para
-                    una oscura hasta 80 para una clara. Sin esta opción se usa la
-                    potencia del archivo de ajustes; si no la hay, su valor
-                    predeterminado guardado y, en su defecto, 70.
-  --set-default N   Guardar este valor predeterminado, un número o auto, o retirarlo
-                    con none. No hace nada más.
-  --settings ARCHIVO
-                    Conservar la potencia de cada foto en este archivo XML. Si el
-                    archivo existe, se usan sus potencias, salvo que se indique
-                    también --strength; al final contiene las potencias usadas. Sin
-                    FOTO, se procesan todas las fotos del archivo.
-  --language LANG   Idioma de los mensajes y del sufijo: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN o zh_TW. Sin esta opción, el del sistema.
-  --jobs N          Número de fotos que se procesan a la vez. Sin esta opción, tantas
-                    como ocupen todos los núcleos y quepan en la memoria.
-  --overwrite       Reemplazar los resultados que ya existan.
-  --quiet           Informar solo de lo que ha fallado.
-  --json            Escribir por cada foto una línea con un objeto JSON: photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (el motivo, o null).
-  --share-services  Prestar al complemento los servicios del programa (registro,
-                    reserva de memoria, número de procesadores) en vez de dejar que
-                    los cree.
-  --plugin ARCHIVO  Cargar este archivo de complemento en lugar de Nimbra.so, junto al
-                    programa o en ../lib/nimbra.
-  -h, --help        Mostrar este texto.
-  --version         Mostrar las versiones del programa y del complemento.
-  --                Lo que sigue son fotos, aunque empiecen por un guion.
+  --strength N        Cuánta bruma se quita, en tanto por ciento: 0 deja la imagen como está, 100 la quita toda y auto se adapta a cada foto: desde 50 para una oscura hasta 80 para una clara. Sin esta opción se usa la potencia del archivo de ajustes; si no la hay, su valor predeterminado guardado y, en su defecto, 70.
+  --set-default N     Guardar este valor predeterminado, un número o auto, o retirarlo con none. No hace nada más.
+  --settings ARCHIVO  Conservar la potencia de cada foto en este archivo XML. Si el archivo existe, se usan sus potencias, salvo que se indique también --strength; al final contiene las potencias usadas. Sin FOTO, se procesan todas las fotos del archivo.
+  --language LANG     Idioma de los mensajes y del sufijo: de, en, es, fr, it, ja, pl, ru, zh_CN o zh_TW. Sin esta opción, el del sistema.
+  --jobs N            Número de fotos que se procesan a la vez. Sin esta opción, tantas como ocupen todos los núcleos y quepan en la memoria.
+  --overwrite         Reemplazar los resultados que ya existan.
+  --quiet             Informar solo de lo que ha fallado.
+  --json              Escribir por cada foto una línea con un objeto JSON: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (el motivo, o null).
+  --share-services    Prestar al complemento los servicios del programa (registro, reserva de memoria, número de procesadores) en vez de dejar que los cree.
+  --plugin ARCHIVO    Cargar este archivo de complemento en lugar de Nimbra.so, junto al programa o en ../lib/nimbra.
+  -h, --help          Mostrar este texto.
+  --version           Mostrar las versiones del programa y del complemento.
+  --                  Lo que sigue son fotos, aunque empiecen por un guion.
 
 Formatos:
-  Lectura y escritura: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) y PSD. Un resultado tiene el formato de su foto, su profundidad (8 o
-  16 bits o coma flotante), su perfil de color y sus datos EXIF, IPTC y XMP. La
-  orientación EXIF se conserva, de modo que el resultado se muestra igual que su foto.
-  Solo lectura: RAW de cámara (dng, cr2, nef, arw, raf, orf, rw2 y otros). El
-  resultado es un TIFF de 16 bits. Las fotos con otra extensión, o sin ella, se
-  convierten también en TIFF. Los archivos XMP adjuntos se quedan como están y no se
-  leen.
+  Lectura y escritura: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) y PSD. Un resultado tiene el formato de su foto, su profundidad (8 o 16 bits o coma flotante), su perfil de color y sus datos EXIF, IPTC y XMP. La orientación EXIF se conserva, de modo que el resultado se muestra igual que su foto.
+  Solo lectura: RAW de cámara (dng, cr2, nef, arw, raf, orf, rw2 y otros). El resultado es un TIFF de 16 bits. Las fotos con otra extensión, o sin ella, se convierten también en TIFF. Los archivos XMP adjuntos se quedan como están y no se leen.
 
 Códigos de salida:
   0  Se han procesado todas las fotos, o han quedado como estaban (y dice por qué).
-  1  Algunas no: la salida de error estándar dice cuáles, por qué y qué hacer. O no se
-     ha podido escribir en la salida estándar.
-  2  La línea de comandos o el archivo de ajustes no son correctos; no se ha empezado
-     nada.
+  1  Algunas no: la salida de error estándar dice cuáles, por qué y qué hacer. O no se ha podido escribir en la salida estándar.
+  2  La línea de comandos o el archivo de ajustes no son correctos; no se ha empezado nada.
 Ctrl-C lo termina con la señal (130 en un shell), sin dejar resultados a medias.
 
 Ejemplos:

@@ -130,57 +130,35 @@ Usage:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Each result is written beside its photograph, under the photograph&apos;s name with a
-tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
-The tag follows the language: _entnebelt with --language de, for instance.
+Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.
 
-The wizard opens a window: choose photographs, set the strength of each with a live
-preview, take the haze away, and compare. It takes --settings (which then holds the
-strengths), --language, --jobs, --share-services and --plugin.
+The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
-  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all, and auto fits it to each photograph: 50 for
-                    a dark one up to 80 for a bright one. Without it, the strength in
-                    the settings file counts, then your stored default, then 70.
-  --set-default N   Store this default, a number or auto, or take it back with none.
-                    Does nothing else.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file
-                    is there, its strengths are used, unless --strength is given too;
-                    at the end it holds the strengths that were used. Without a PHOTO,
-                    all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN or zh_TW. Without it, that of the system.
-  --jobs N          Photographs worked on at the same time. Without it, as many as keep
-                    all cores busy and fit into memory.
-  --overwrite       Replace results that are there already.
-  --quiet           Say nothing but what failed.
-  --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
-                    processor count) instead of letting it make them.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
-                    in ../lib/nimbra.
-  -h, --help        Show this text.
-  --version         Show the versions of the program and of the plug-in.
-  --                What follows are photographs, even if they begin with a dash.
+  --strength N        How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
+  --set-default N     Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
+  --settings FILE     Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
+  --language LANG     Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
+  --jobs N            Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
+  --overwrite         Replace results that already exist.
+  --quiet             Report failures only.
+  --json              Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
+  --share-services    Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
+  --plugin FILE       Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
+  -h, --help          Show this text.
+  --version           Show the versions of the program and the plug-in.
+  --                  Everything that follows is a photograph, even if it begins with a dash.
 
 Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
-  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
-  the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
-  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files stay where they are and are not read.
+  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. Photographs with any other suffix, or none, become a TIFF too.
+  XMP sidecar files are not read and stay where they are.
 
-Ends with:
-  0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output
-     could not be written.
+Exit status:
+  0  All photographs are done, or came back unchanged (a message says why).
+  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
+Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -197,63 +175,32 @@ Utilisation&#xa0;:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Chaque résultat est enregistré à côté de sa photo, sous le nom de celle-ci suivi
-d&apos;un suffixe&#xa0;: hills.jpg devient hills_dehazed.jpg. La photo elle-même n&apos;est jamais
-modifiée. Le suffixe dépend de la langue&#xa0;: _entnebelt avec --language de, par exemple.
+Chaque résultat est enregistré à côté de sa photo, sous le nom de celle-ci suivi d&apos;un suffixe&#xa0;: hills.jpg devient hills_dehazed.jpg. La photo elle-même n&apos;est jamais modifiée. Le suffixe dépend de la langue&#xa0;: _entnebelt avec --language de, par exemple.
 
-L&apos;assistant ouvre une fenêtre&#xa0;: choisissez les photos, réglez la puissance de chacune
-avec un aperçu en direct, retirez le voile et comparez. Il accepte --settings (le
-fichier contient ensuite les puissances), --language, --jobs, --share-services et
---plugin.
+L&apos;assistant ouvre une fenêtre&#xa0;: choisissez les photos, réglez la puissance de chacune avec un aperçu en direct, retirez le voile et comparez. Il accepte --settings (le fichier contient ensuite les puissances), --language, --jobs, --share-services et --plugin.
 
 Options&#xa0;:
-  --strength N      Quantité de voile à retirer, en pour cent&#xa0;: 0 laisse l&apos;image telle
-                    quelle, 100 retire tout, et auto s&apos;adapte à chaque photo&#xa0;: de 50
-                    pour une photo sombre à 80 pour une claire. Sans cette option,
-                    c&apos;est la puissance du fichier de réglages qui compte, sinon votre
-                    valeur par défaut enregistrée, sinon 70.
-  --set-default N   Enregistrer cette valeur par défaut, un nombre ou auto, ou la
-                    retirer par none. Ne fait rien d&apos;autre.
-  --settings FICHIER
-                    Conserver la puissance de chaque photo dans ce fichier XML. Si le
-                    fichier existe, ses puissances sont utilisées, sauf si --strength
-                    est aussi indiqué&#xa0;; à la fin, il contient les puissances
-                    utilisées. Sans PHOTO, toutes les photos du fichier sont traitées.
-  --language LANG   Langue des messages et du suffixe&#xa0;: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN ou zh_TW. Sans cette option, celle du système.
-  --jobs N          Nombre de photos traitées en même temps. Sans cette option, autant
-                    qu&apos;il en faut pour occuper tous les cœurs et qu&apos;en permet la
-                    mémoire.
-  --overwrite       Remplacer les résultats qui existent déjà.
-  --quiet           Ne signaler que les échecs.
-  --json            Écrire pour chaque photo une ligne avec un objet JSON&#xa0;:
-                    photo, result, status (done, unchanged, failed, stopped),
-                    strength, automatic, seconds, message, unchanged (la raison, ou
-                    null).
-  --share-services  Prêter au module les services du programme (journal, réserve de
-                    mémoire, nombre de processeurs) au lieu de le laisser
-                    créer les siens.
-  --plugin FICHIER  Charger ce fichier de module au lieu de Nimbra.so, à côté du
-                    programme ou dans ../lib/nimbra.
-  -h, --help        Afficher ce texte.
-  --version         Afficher les versions du programme et du module.
-  --                Ce qui suit désigne des photos, même si cela commence par un
-                    tiret.
+  --strength N        Quantité de voile à retirer, en pour cent&#xa0;: 0 laisse l&apos;image telle quelle, 100 retire tout, et auto s&apos;adapte à chaque photo&#xa0;: de 50 pour une photo sombre à 80 pour une claire. Sans cette option, c&apos;est la puissance du fichier de réglages qui compte, sinon votre valeur par défaut enregistrée, sinon 70.
+  --set-default N     Enregistrer cette valeur par défaut, un nombre ou auto, ou la retirer par none. Ne fait rien d&apos;autre.
+  --settings FICHIER  Conserver la puissance de chaque photo dans ce fichier XML. Si le fichier existe, ses puissances sont utilisées, sauf si --strength est aussi indiqué&#xa0;; à la fin, il contient les puissances utilisées. Sans PHOTO, toutes les photos du fichier sont traitées.
+  --language LANG     Langue des messages et du suffixe&#xa0;: de, en, es, fr, it, ja, pl, ru, zh_CN ou zh_TW. Sans cette option, celle du système.
+  --jobs N            Nombre de photos traitées en même temps. Sans cette option, autant qu&apos;il en faut pour occuper tous les cœurs et qu&apos;en permet la mémoire.
+  --overwrite         Remplacer les résultats qui existent déjà.
+  --quiet             Ne signaler que les échecs.
+  --json              Écrire pour chaque photo une ligne avec un objet JSON&#xa0;: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (la raison, ou null).
+  --share-services    Prêter au module les services du programme (journal, réserve de mémoire, nombre de processeurs) au lieu de le laisser créer les siens.
+  --plugin FICHIER    Charger ce fichier de module au lieu de Nimbra.so, à côté du programme ou dans ../lib/nimbra.
+  -h, --help          Afficher ce texte.
+  --version           Afficher les versions du programme et du module.
+  --                  Ce qui suit désigne des photos, même si cela commence par un tiret.
 
 Formats&#xa0;:
-  En lecture et en écriture&#xa0;: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr,
-  hdri), OpenEXR (exr) et PSD. Un résultat garde le format de sa photo, sa profondeur
-  (8 ou 16 bits ou virgule flottante), son profil de couleurs, ses données EXIF, IPTC
-  et XMP. L&apos;orientation EXIF est conservée&#xa0;: le résultat s&apos;affiche comme sa photo.
-  En lecture seule&#xa0;: RAW (dng, cr2, nef, arw, raf, orf, rw2 et autres). Le
-  résultat est un TIFF 16 bits. Les photos avec une autre extension, ou sans
-  extension, donnent aussi un TIFF. Les fichiers XMP annexes restent en place et ne
-  sont pas lus.
+  En lecture et en écriture&#xa0;: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) et PSD. Un résultat garde le format de sa photo, sa profondeur (8 ou 16 bits ou virgule flottante), son profil de couleurs, ses données EXIF, IPTC et XMP. L&apos;orientation EXIF est conservée&#xa0;: le résultat s&apos;affiche comme sa photo.
+  En lecture seule&#xa0;: RAW (dng, cr2, nef, arw, raf, orf, rw2 et autres). Le résultat est un TIFF 16 bits. Les photos avec une autre extension, ou sans extension, donnent aussi un TIFF. Les fichiers XMP annexes restent en place et ne sont pas lus.
 
 Codes de retour&#xa0;:
   0  Toutes les photos sont traitées, ou revenues telles quelles (il dit pourquoi).
-  1  Certaines ne le sont pas&#xa0;: la sortie d&apos;erreur standard dit lesquelles, pourquoi
-     et que faire. Ou la sortie standard n&apos;a pas pu être écrite.
+  1  Certaines ne le sont pas&#xa0;: la sortie d&apos;erreur standard dit lesquelles, pourquoi et que faire. Ou la sortie standard n&apos;a pas pu être écrite.
   2  La ligne de commande ou le fichier de réglages est incorrect&#xa0;; rien n&apos;a commencé.
 Ctrl-C y met fin par le signal (130 dans un shell), sans laisser de résultat incomplet.
 

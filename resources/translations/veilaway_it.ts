@@ -130,57 +130,35 @@ Usage:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Each result is written beside its photograph, under the photograph&apos;s name with a
-tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
-The tag follows the language: _entnebelt with --language de, for instance.
+Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.
 
-The wizard opens a window: choose photographs, set the strength of each with a live
-preview, take the haze away, and compare. It takes --settings (which then holds the
-strengths), --language, --jobs, --share-services and --plugin.
+The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
-  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all, and auto fits it to each photograph: 50 for
-                    a dark one up to 80 for a bright one. Without it, the strength in
-                    the settings file counts, then your stored default, then 70.
-  --set-default N   Store this default, a number or auto, or take it back with none.
-                    Does nothing else.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file
-                    is there, its strengths are used, unless --strength is given too;
-                    at the end it holds the strengths that were used. Without a PHOTO,
-                    all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN or zh_TW. Without it, that of the system.
-  --jobs N          Photographs worked on at the same time. Without it, as many as keep
-                    all cores busy and fit into memory.
-  --overwrite       Replace results that are there already.
-  --quiet           Say nothing but what failed.
-  --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
-                    processor count) instead of letting it make them.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
-                    in ../lib/nimbra.
+  --strength N      How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
+  --set-default N   Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
+  --settings FILE   Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
+  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
+  --jobs N          Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
+  --overwrite       Replace results that already exist.
+  --quiet           Report failures only.
+  --json            Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
+  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
+  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
   -h, --help        Show this text.
-  --version         Show the versions of the program and of the plug-in.
-  --                What follows are photographs, even if they begin with a dash.
+  --version         Show the versions of the program and the plug-in.
+  --                Everything that follows is a photograph, even if it begins with a dash.
 
 Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
-  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
-  the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
-  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files stay where they are and are not read.
+  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. Photographs with any other suffix, or none, become a TIFF too.
+  XMP sidecar files are not read and stay where they are.
 
-Ends with:
-  0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output
-     could not be written.
+Exit status:
+  0  All photographs are done, or came back unchanged (a message says why).
+  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
+Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -197,57 +175,32 @@ Uso:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Ogni risultato viene salvato accanto alla propria foto, con lo stesso nome più un
-suffisso: hills.jpg diventa &quot;hills_senza foschia.jpg&quot;. La foto originale non viene mai
-modificata. Il suffisso segue la lingua: con --language en, per esempio, è _dehazed.
+Ogni risultato viene salvato accanto alla propria foto, con lo stesso nome più un suffisso: hills.jpg diventa &quot;hills_senza foschia.jpg&quot;. La foto originale non viene mai modificata. Il suffisso segue la lingua: con --language en, per esempio, è _dehazed.
 
-La procedura guidata apre una finestra: scegliere le foto, regolare la potenza di
-ciascuna con un&apos;anteprima in tempo reale, rimuovere la foschia e confrontare. Accetta
---settings (il file conterrà poi le potenze), --language, --jobs, --share-services e
---plugin.
+La procedura guidata apre una finestra: scegliere le foto, regolare la potenza di ciascuna con un&apos;anteprima in tempo reale, rimuovere la foschia e confrontare. Accetta --settings (il file conterrà poi le potenze), --language, --jobs, --share-services e --plugin.
 
 Opzioni:
-  --strength N      Quanta foschia rimuovere, in percentuale: 0 lascia l&apos;immagine
-                    com&apos;è, 100 la rimuove tutta e auto si adatta a ogni foto: da 50 per
-                    una scura a 80 per una chiara. Senza questa opzione vale la potenza
-                    nel file di impostazioni, poi il valore predefinito salvato,
-                    poi 70.
-  --set-default N   Salva questo valore predefinito, un numero o auto, oppure lo toglie
-                    con none. Non fa altro.
-  --settings FILE   Conserva la potenza di ogni foto in questo file XML. Se il file
-                    esiste, se ne usano le potenze, a meno che non sia indicato anche
-                    --strength; alla fine contiene le potenze usate. Senza FOTO si
-                    elaborano tutte le foto del file.
-  --language LANG   Lingua dei messaggi e del suffisso: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN o zh_TW. Senza questa opzione, quella del sistema.
-  --jobs N          Numero di foto elaborate contemporaneamente. Senza questa opzione,
-                    quante bastano a occupare tutti i core e stanno in memoria.
+  --strength N      Quanta foschia rimuovere, in percentuale: 0 lascia l&apos;immagine com&apos;è, 100 la rimuove tutta e auto si adatta a ogni foto: da 50 per una scura a 80 per una chiara. Senza questa opzione vale la potenza nel file di impostazioni, poi il valore predefinito salvato, poi 70.
+  --set-default N   Salva questo valore predefinito, un numero o auto, oppure lo toglie con none. Non fa altro.
+  --settings FILE   Conserva la potenza di ogni foto in questo file XML. Se il file esiste, se ne usano le potenze, a meno che non sia indicato anche --strength; alla fine contiene le potenze usate. Senza FOTO si elaborano tutte le foto del file.
+  --language LANG   Lingua dei messaggi e del suffisso: de, en, es, fr, it, ja, pl, ru, zh_CN o zh_TW. Senza questa opzione, quella del sistema.
+  --jobs N          Numero di foto elaborate contemporaneamente. Senza questa opzione, quante bastano a occupare tutti i core e stanno in memoria.
   --overwrite       Sostituisce i risultati già esistenti.
   --quiet           Segnala soltanto gli errori.
-  --json            Scrive per ogni foto una riga con un oggetto JSON: photo, result,
-                    status (done, unchanged, failed, stopped), strength, automatic,
-                    seconds, message, unchanged (il motivo, o null).
-  --share-services  Presta al plugin i servizi del programma (registro, riserva di
-                    memoria, numero di processori) invece di lasciare che li crei.
-  --plugin FILE     Carica questo file di plugin invece di Nimbra.so accanto al
-                    programma o in ../lib/nimbra.
+  --json            Scrive per ogni foto una riga con un oggetto JSON: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (il motivo, o null).
+  --share-services  Presta al plugin i servizi del programma (registro, riserva di memoria, numero di processori) invece di lasciare che li crei.
+  --plugin FILE     Carica questo file di plugin invece di Nimbra.so accanto al programma o in ../lib/nimbra.
   -h, --help        Mostra questo testo.
   --version         Mostra le versioni del programma e del plugin.
   --                Ciò che segue sono foto, anche se iniziano con un trattino.
 
 Formati:
-  In lettura e scrittura: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr,
-  hdri), OpenEXR (exr) e PSD. Il risultato ha il formato della foto, la sua profondità
-  (8 o 16 bit o virgola mobile), il profilo colore e i dati EXIF, IPTC e XMP.
-  L&apos;orientamento EXIF viene mantenuto, così il risultato appare come la foto.
-  In sola lettura: RAW (dng, cr2, nef, arw, raf, orf, rw2 e altri). Il risultato
-  è un TIFF a 16 bit. Anche le foto con un&apos;altra estensione, o senza, diventano un
-  TIFF. I file XMP collaterali restano dove sono e non vengono letti.
+  In lettura e scrittura: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) e PSD. Il risultato ha il formato della foto, la sua profondità (8 o 16 bit o virgola mobile), il profilo colore e i dati EXIF, IPTC e XMP. L&apos;orientamento EXIF viene mantenuto, così il risultato appare come la foto.
+  In sola lettura: RAW (dng, cr2, nef, arw, raf, orf, rw2 e altri). Il risultato è un TIFF a 16 bit. Anche le foto con un&apos;altra estensione, o senza, diventano un TIFF. I file XMP collaterali restano dove sono e non vengono letti.
 
 Codici di uscita:
   0  Tutte le foto sono state elaborate, o sono rimaste com&apos;erano (con il motivo).
-  1  Alcune no: lo standard error dice quali, perché e che cosa fare. Oppure non è stato
-     possibile scrivere sullo standard output.
+  1  Alcune no: lo standard error dice quali, perché e che cosa fare. Oppure non è stato possibile scrivere sullo standard output.
   2  La riga di comando o il file di impostazioni è errato; nulla è stato iniziato.
 Ctrl-C lo termina con il segnale (130 in una shell), senza lasciare risultati a metà.
 

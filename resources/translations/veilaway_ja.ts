@@ -130,57 +130,35 @@ Usage:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Each result is written beside its photograph, under the photograph&apos;s name with a
-tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
-The tag follows the language: _entnebelt with --language de, for instance.
+Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.
 
-The wizard opens a window: choose photographs, set the strength of each with a live
-preview, take the haze away, and compare. It takes --settings (which then holds the
-strengths), --language, --jobs, --share-services and --plugin.
+The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
-  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all, and auto fits it to each photograph: 50 for
-                    a dark one up to 80 for a bright one. Without it, the strength in
-                    the settings file counts, then your stored default, then 70.
-  --set-default N   Store this default, a number or auto, or take it back with none.
-                    Does nothing else.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file
-                    is there, its strengths are used, unless --strength is given too;
-                    at the end it holds the strengths that were used. Without a PHOTO,
-                    all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN or zh_TW. Without it, that of the system.
-  --jobs N          Photographs worked on at the same time. Without it, as many as keep
-                    all cores busy and fit into memory.
-  --overwrite       Replace results that are there already.
-  --quiet           Say nothing but what failed.
-  --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
-                    processor count) instead of letting it make them.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
-                    in ../lib/nimbra.
+  --strength N      How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
+  --set-default N   Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
+  --settings FILE   Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
+  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
+  --jobs N          Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
+  --overwrite       Replace results that already exist.
+  --quiet           Report failures only.
+  --json            Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
+  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
+  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
   -h, --help        Show this text.
-  --version         Show the versions of the program and of the plug-in.
-  --                What follows are photographs, even if they begin with a dash.
+  --version         Show the versions of the program and the plug-in.
+  --                Everything that follows is a photograph, even if it begins with a dash.
 
 Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
-  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
-  the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
-  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files stay where they are and are not read.
+  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. Photographs with any other suffix, or none, become a TIFF too.
+  XMP sidecar files are not read and stay where they are.
 
-Ends with:
-  0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output
-     could not be written.
+Exit status:
+  0  All photographs are done, or came back unchanged (a message says why).
+  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
+Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -197,57 +175,32 @@ Examples:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-結果はそれぞれの写真と同じフォルダーに、写真の名前にタグを付けた名前で
-書き込まれます。たとえば hills.jpg の結果は hills_除去薄霧.jpg になります。
-元の写真が変更されることはありません。タグは言語に応じて変わり、たとえば
---language en なら _dehazed になります。
+結果はそれぞれの写真と同じフォルダーに、写真の名前にタグを付けた名前で書き込まれます。たとえば hills.jpg の結果は hills_除去薄霧.jpg になります。元の写真が変更されることはありません。タグは言語に応じて変わり、たとえば --language en なら _dehazed になります。
 
-ウィザードはウィンドウを開きます。写真を選び、ライブプレビューを見ながらそれぞれの
-強さを決め、ヘイズを除去して、結果を比べることができます。使えるのは --settings
-（強さはこのファイルに記録されます）、--language、--jobs、--share-services、
---plugin です。
+ウィザードはウィンドウを開きます。写真を選び、ライブプレビューを見ながらそれぞれの強さを決め、ヘイズを除去して、結果を比べることができます。使えるのは --settings（強さはこのファイルに記録されます）、--language、--jobs、--share-services、--plugin です。
 
 オプション:
-  --strength N      除去するヘイズの量（パーセント）。0 では写真はそのままで、100 では
-                    すべて除去します。auto では写真ごとに決まります（暗い写真の 50
-                    から明るい写真の 80 まで）。指定しない場合は、設定ファイルの強さ、
-                    保存されている既定値、70 の順に使います。
-  --set-default N   この既定値（数値または auto）を保存します。none では取り消します。
-                    ほかには何もしません。
-  --settings FILE   写真ごとの強さをこの XML ファイルに記録します。ファイルがすでに
-                    あれば、--strength の指定がない限りその中の強さを使います。
-                    終了時には、使った強さが記録されます。PHOTO を指定しないと、
-                    ファイルにあるすべての写真を処理します。
-  --language LANG   メッセージとタグの言語: de、en、es、fr、it、ja、pl、ru、zh_CN、
-                    zh_TW のいずれか。指定しない場合はシステムの言語です。
-  --jobs N          同時に処理する写真の枚数。指定しない場合は、すべてのコアが働き、
-                    メモリに収まる枚数にします。
+  --strength N      除去するヘイズの量（パーセント）。0 では写真はそのままで、100 ではすべて除去します。auto では写真ごとに決まります（暗い写真の 50 から明るい写真の 80 まで）。指定しない場合は、設定ファイルの強さ、保存されている既定値、70 の順に使います。
+  --set-default N   この既定値（数値または auto）を保存します。none では取り消します。ほかには何もしません。
+  --settings FILE   写真ごとの強さをこの XML ファイルに記録します。ファイルがすでにあれば、--strength の指定がない限りその中の強さを使います。終了時には、使った強さが記録されます。PHOTO を指定しないと、ファイルにあるすべての写真を処理します。
+  --language LANG   メッセージとタグの言語: de、en、es、fr、it、ja、pl、ru、zh_CN、zh_TW のいずれか。指定しない場合はシステムの言語です。
+  --jobs N          同時に処理する写真の枚数。指定しない場合は、すべてのコアが働き、メモリに収まる枚数にします。
   --overwrite       すでにある結果を置き換えます。
   --quiet           失敗したもの以外は何も表示しません。
-  --json            写真ごとに JSON オブジェクトを 1 行で出力します。項目は photo、
-                    result、status（done、unchanged、failed、stopped）、strength、automatic、
-                    seconds、message、unchanged（理由、または null） です。
-  --share-services  ログ、メモリプール、プロセッサ数などのサービスを、プラグインに
-                    作らせずに、このプログラムのものを貸し出します。
-  --plugin FILE     プログラムと同じフォルダー、または ../lib/nimbra にある Nimbra.so
-                    の代わりに、このプラグインファイルを読み込みます。
+  --json            写真ごとに JSON オブジェクトを 1 行で出力します。項目は photo、result、status（done、unchanged、failed、stopped）、strength、automatic、seconds、message、unchanged（理由、または null）です。
+  --share-services  ログ、メモリプール、プロセッサ数などのサービスを、プラグインに作らせずに、このプログラムのものを貸し出します。
+  --plugin FILE     プログラムと同じフォルダー、または ../lib/nimbra にある Nimbra.so の代わりに、このプラグインファイルを読み込みます。
   -h, --help        この説明を表示します。
   --version         プログラムとプラグインのバージョンを表示します。
   --                これより後は、ハイフンで始まるものも写真として扱います。
 
 形式:
-  読み書き: JPEG (jpg、jpeg)、PNG、TIFF (tif、tiff)、Radiance (hdr、hdri)、OpenEXR
-  (exr)、PSD。結果は元の写真の形式、ビット深度（8、16 ビット、浮動小数点）、カラー
-  プロファイル、EXIF、IPTC、XMP を引き継ぎます。EXIF の向きも保たれるため、結果は
-  元の写真と同じ向きで表示されます。
-  読み込みのみ: カメラ RAW (dng、cr2、nef、arw、raf、orf、rw2 など)。結果は 16
-  ビットの TIFF になります。その他の拡張子の写真や拡張子のない写真も、結果は TIFF に
-  なります。XMP サイドカーファイルは読み込まれず、そのまま残ります。
+  読み書き: JPEG (jpg、jpeg)、PNG、TIFF (tif、tiff)、Radiance (hdr、hdri)、OpenEXR (exr)、PSD。結果は元の写真の形式、ビット深度（8、16 ビット、浮動小数点）、カラープロファイル、EXIF、IPTC、XMP を引き継ぎます。EXIF の向きも保たれるため、結果は元の写真と同じ向きで表示されます。
+  読み込みのみ: カメラ RAW (dng、cr2、nef、arw、raf、orf、rw2 など)。結果は 16 ビットの TIFF になります。その他の拡張子の写真や拡張子のない写真も、結果は TIFF になります。XMP サイドカーファイルは読み込まれず、そのまま残ります。
 
 終了コード:
   0  すべての写真を処理したか、元のまま返しました（理由を示します）。
-  1  処理できなかった写真があります。どの写真か、その理由と対処法が標準エラー出力に
-     表示されます。または、標準出力に書き込めませんでした。
+  1  処理できなかった写真があります。どの写真か、その理由と対処法が標準エラー出力に表示されます。または、標準出力に書き込めませんでした。
   2  コマンドラインまたは設定ファイルに誤りがあります。処理は始まっていません。
 Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結果は残りません。
 

@@ -130,57 +130,35 @@ Usage:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Each result is written beside its photograph, under the photograph&apos;s name with a
-tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
-The tag follows the language: _entnebelt with --language de, for instance.
+Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.
 
-The wizard opens a window: choose photographs, set the strength of each with a live
-preview, take the haze away, and compare. It takes --settings (which then holds the
-strengths), --language, --jobs, --share-services and --plugin.
+The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
-  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all, and auto fits it to each photograph: 50 for
-                    a dark one up to 80 for a bright one. Without it, the strength in
-                    the settings file counts, then your stored default, then 70.
-  --set-default N   Store this default, a number or auto, or take it back with none.
-                    Does nothing else.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file
-                    is there, its strengths are used, unless --strength is given too;
-                    at the end it holds the strengths that were used. Without a PHOTO,
-                    all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN or zh_TW. Without it, that of the system.
-  --jobs N          Photographs worked on at the same time. Without it, as many as keep
-                    all cores busy and fit into memory.
-  --overwrite       Replace results that are there already.
-  --quiet           Say nothing but what failed.
-  --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
-                    processor count) instead of letting it make them.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
-                    in ../lib/nimbra.
+  --strength N      How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
+  --set-default N   Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
+  --settings FILE   Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
+  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
+  --jobs N          Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
+  --overwrite       Replace results that already exist.
+  --quiet           Report failures only.
+  --json            Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
+  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
+  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
   -h, --help        Show this text.
-  --version         Show the versions of the program and of the plug-in.
-  --                What follows are photographs, even if they begin with a dash.
+  --version         Show the versions of the program and the plug-in.
+  --                Everything that follows is a photograph, even if it begins with a dash.
 
 Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
-  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
-  the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
-  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files stay where they are and are not read.
+  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. Photographs with any other suffix, or none, become a TIFF too.
+  XMP sidecar files are not read and stay where they are.
 
-Ends with:
-  0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output
-     could not be written.
+Exit status:
+  0  All photographs are done, or came back unchanged (a message says why).
+  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
+Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -197,57 +175,32 @@ Użycie:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Każdy wynik jest zapisywany obok swojego zdjęcia, pod jego nazwą z przyrostkiem:
-z hills.jpg powstaje hills_dehazed.jpg. Samo zdjęcie nigdy nie jest zmieniane.
-Przyrostek zależy od języka: na przykład _entnebelt przy --language de.
+Każdy wynik jest zapisywany obok swojego zdjęcia, pod jego nazwą z przyrostkiem: z hills.jpg powstaje hills_dehazed.jpg. Samo zdjęcie nigdy nie jest zmieniane. Przyrostek zależy od języka: na przykład _entnebelt przy --language de.
 
-Kreator otwiera okno, w którym można wybrać zdjęcia, ustawić poziom dla każdego z nich
-z podglądem na żywo, usunąć zamglenie i porównać wyniki. Przyjmuje --settings (plik
-zawiera potem poziomy), --language, --jobs, --share-services i --plugin.
+Kreator otwiera okno, w którym można wybrać zdjęcia, ustawić poziom dla każdego z nich z podglądem na żywo, usunąć zamglenie i porównać wyniki. Przyjmuje --settings (plik zawiera potem poziomy), --language, --jobs, --share-services i --plugin.
 
 Opcje:
-  --strength N      Ile zamglenia usunąć, w procentach: 0 pozostawia obraz bez zmian,
-                    100 usuwa całe, a auto dobiera poziom do każdego zdjęcia: od 50 dla
-                    ciemnego do 80 dla jasnego. Bez tej opcji liczy się poziom z pliku
-                    ustawień, następnie zapisana wartość domyślna, a potem 70.
-  --set-default N   Zapisuje tę wartość domyślną, liczbę lub auto, albo usuwa ją przy
-                    none. Nie robi nic więcej.
-  --settings PLIK   Przechowuje poziom dla każdego zdjęcia w tym pliku XML. Jeśli plik
-                    istnieje, używane są poziomy z niego, chyba że podano też
-                    --strength; na koniec zawiera poziomy, których użyto. Bez
-                    argumentu ZDJĘCIE przetwarzane są wszystkie zdjęcia z pliku.
-  --language JĘZYK  Język komunikatów i przyrostka: de, en, es, fr, it, ja, pl, ru,
-                    zh_CN lub zh_TW. Bez tej opcji język systemu.
-  --jobs N          Liczba zdjęć przetwarzanych jednocześnie. Bez tej opcji tyle, ile
-                    zajmie wszystkie rdzenie i zmieści się w pamięci.
+  --strength N      Ile zamglenia usunąć, w procentach: 0 pozostawia obraz bez zmian, 100 usuwa całe, a auto dobiera poziom do każdego zdjęcia: od 50 dla ciemnego do 80 dla jasnego. Bez tej opcji liczy się poziom z pliku ustawień, następnie zapisana wartość domyślna, a potem 70.
+  --set-default N   Zapisuje tę wartość domyślną, liczbę lub auto, albo usuwa ją przy none. Nie robi nic więcej.
+  --settings PLIK   Przechowuje poziom dla każdego zdjęcia w tym pliku XML. Jeśli plik istnieje, używane są poziomy z niego, chyba że podano też --strength; na koniec zawiera poziomy, których użyto. Bez argumentu ZDJĘCIE przetwarzane są wszystkie zdjęcia z pliku.
+  --language JĘZYK  Język komunikatów i przyrostka: de, en, es, fr, it, ja, pl, ru, zh_CN lub zh_TW. Bez tej opcji język systemu.
+  --jobs N          Liczba zdjęć przetwarzanych jednocześnie. Bez tej opcji tyle, ile zajmie wszystkie rdzenie i zmieści się w pamięci.
   --overwrite       Zastępuje wyniki, które już istnieją.
   --quiet           Zgłasza tylko to, co się nie powiodło.
-  --json            Wypisuje dla każdego zdjęcia wiersz z obiektem JSON: photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (powód albo null).
-  --share-services  Użycza wtyczce usług programu (dziennik, pula pamięci, liczba
-                    procesorów), zamiast pozwalać jej tworzyć własne.
-  --plugin PLIK     Wczytuje ten plik wtyczki zamiast Nimbra.so obok programu lub
-                    w ../lib/nimbra.
+  --json            Wypisuje dla każdego zdjęcia wiersz z obiektem JSON: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (powód albo null).
+  --share-services  Użycza wtyczce usług programu (dziennik, pula pamięci, liczba procesorów), zamiast pozwalać jej tworzyć własne.
+  --plugin PLIK     Wczytuje ten plik wtyczki zamiast Nimbra.so obok programu lub w ../lib/nimbra.
   -h, --help        Wyświetla ten tekst.
   --version         Wyświetla wersje programu i wtyczki.
-  --                Dalsze argumenty to zdjęcia, nawet jeśli zaczynają się od
-                    myślnika.
+  --                Dalsze argumenty to zdjęcia, nawet jeśli zaczynają się od myślnika.
 
 Formaty:
-  Odczyt i zapis: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) i PSD. Wynik ma format swojego zdjęcia, jego głębię (8 lub 16 bitów
-  albo liczby zmiennoprzecinkowe), profil kolorów oraz dane EXIF, IPTC i XMP.
-  Orientacja EXIF jest zachowana, więc wynik jest wyświetlany tak jak jego zdjęcie.
-  Tylko odczyt: pliki RAW z aparatu (dng, cr2, nef, arw, raf, orf, rw2 i inne).
-  Wynikiem jest 16-bitowy TIFF. Zdjęcia z innym rozszerzeniem lub bez niego również
-  stają się plikami TIFF. Pliki towarzyszące XMP pozostają na miejscu i nie są
-  czytane.
+  Odczyt i zapis: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) i PSD. Wynik ma format swojego zdjęcia, jego głębię (8 lub 16 bitów albo liczby zmiennoprzecinkowe), profil kolorów oraz dane EXIF, IPTC i XMP. Orientacja EXIF jest zachowana, więc wynik jest wyświetlany tak jak jego zdjęcie.
+  Tylko odczyt: pliki RAW z aparatu (dng, cr2, nef, arw, raf, orf, rw2 i inne). Wynikiem jest 16-bitowy TIFF. Zdjęcia z innym rozszerzeniem lub bez niego również stają się plikami TIFF. Pliki towarzyszące XMP pozostają na miejscu i nie są czytane.
 
 Kody wyjścia:
   0  Wszystkie zdjęcia są gotowe albo pozostały bez zmian (z podaniem przyczyny).
-  1  Niektóre nie są: standardowe wyjście błędów podaje które, dlaczego i co pomoże.
-     Albo nie udało się zapisać na standardowe wyjście.
+  1  Niektóre nie są: standardowe wyjście błędów podaje które, dlaczego i co pomoże. Albo nie udało się zapisać na standardowe wyjście.
   2  Wiersz polecenia lub plik ustawień jest błędny; niczego nie rozpoczęto.
 Ctrl-C kończy program sygnałem (130 w powłoce), bez pozostawiania niepełnego wyniku.
 

@@ -130,57 +130,35 @@ Usage:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Each result is written beside its photograph, under the photograph&apos;s name with a
-tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
-The tag follows the language: _entnebelt with --language de, for instance.
+Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.
 
-The wizard opens a window: choose photographs, set the strength of each with a live
-preview, take the haze away, and compare. It takes --settings (which then holds the
-strengths), --language, --jobs, --share-services and --plugin.
+The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
-  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all, and auto fits it to each photograph: 50 for
-                    a dark one up to 80 for a bright one. Without it, the strength in
-                    the settings file counts, then your stored default, then 70.
-  --set-default N   Store this default, a number or auto, or take it back with none.
-                    Does nothing else.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file
-                    is there, its strengths are used, unless --strength is given too;
-                    at the end it holds the strengths that were used. Without a PHOTO,
-                    all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN or zh_TW. Without it, that of the system.
-  --jobs N          Photographs worked on at the same time. Without it, as many as keep
-                    all cores busy and fit into memory.
-  --overwrite       Replace results that are there already.
-  --quiet           Say nothing but what failed.
-  --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
-                    processor count) instead of letting it make them.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
-                    in ../lib/nimbra.
+  --strength N      How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
+  --set-default N   Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
+  --settings FILE   Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
+  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
+  --jobs N          Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
+  --overwrite       Replace results that already exist.
+  --quiet           Report failures only.
+  --json            Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
+  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
+  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
   -h, --help        Show this text.
-  --version         Show the versions of the program and of the plug-in.
-  --                What follows are photographs, even if they begin with a dash.
+  --version         Show the versions of the program and the plug-in.
+  --                Everything that follows is a photograph, even if it begins with a dash.
 
 Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
-  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
-  the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
-  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files stay where they are and are not read.
+  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. Photographs with any other suffix, or none, become a TIFF too.
+  XMP sidecar files are not read and stay where they are.
 
-Ends with:
-  0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output
-     could not be written.
+Exit status:
+  0  All photographs are done, or came back unchanged (a message says why).
+  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
+Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -197,59 +175,32 @@ Examples:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Каждый результат записывается рядом со своей фотографией под её именем с добавкой:
-из hills.jpg получается «hills_удалена атмосферная дымка.jpg». Сама фотография
-никогда не изменяется. Добавка зависит от языка: например, _dehazed при
---language en.
+Каждый результат записывается рядом со своей фотографией под её именем с добавкой: из hills.jpg получается «hills_удалена атмосферная дымка.jpg». Сама фотография никогда не изменяется. Добавка зависит от языка: например, _dehazed при --language en.
 
-Мастер открывает окно: выберите фотографии, задайте интенсивность для каждой, сразу
-видя её действие в предварительном просмотре, уберите дымку и сравните. Он принимает
---settings (тогда интенсивность хранится в этом файле), --language, --jobs,
---share-services и --plugin.
+Мастер открывает окно: выберите фотографии, задайте интенсивность для каждой, сразу видя её действие в предварительном просмотре, уберите дымку и сравните. Он принимает --settings (тогда интенсивность хранится в этом файле), --language, --jobs, --share-services и --plugin.
 
 Параметры:
-  --strength N      Сколько дымки убрать, в процентах: 0 оставляет снимок как есть,
-                    100 убирает всю, а auto подбирает интенсивность к каждой
-                    фотографии: от 50 для тёмной до 80 для светлой. Если не указано,
-                    действует интенсивность из файла настроек, затем ваше сохранённое
-                    значение по умолчанию, затем 70.
-  --set-default N   Сохранить это значение по умолчанию, число или auto, либо убрать
-                    его с помощью none. Больше ничего не делает.
-  --settings FILE   Хранить интенсивность для каждой фотографии в этом файле XML. Если
-                    файл есть, значения берутся из него, когда не указан --strength; в
-                    конце в нём остаются использованные значения. Без PHOTO
-                    обрабатываются все фотографии из файла.
-  --language LANG   Язык сообщений и добавки к имени: de, en, es, fr, it, ja, pl, ru,
-                    zh_CN или zh_TW. Если не указан, берётся язык системы.
-  --jobs N          Сколько фотографий обрабатывать одновременно. Если не указано,
-                    столько, чтобы загрузить все ядра и уместиться в памяти.
+  --strength N      Сколько дымки убрать, в процентах: 0 оставляет снимок как есть, 100 убирает всю, а auto подбирает интенсивность к каждой фотографии: от 50 для тёмной до 80 для светлой. Если не указано, действует интенсивность из файла настроек, затем ваше сохранённое значение по умолчанию, затем 70.
+  --set-default N   Сохранить это значение по умолчанию, число или auto, либо убрать его с помощью none. Больше ничего не делает.
+  --settings FILE   Хранить интенсивность для каждой фотографии в этом файле XML. Если файл есть, значения берутся из него, когда не указан --strength; в конце в нём остаются использованные значения. Без PHOTO обрабатываются все фотографии из файла.
+  --language LANG   Язык сообщений и добавки к имени: de, en, es, fr, it, ja, pl, ru, zh_CN или zh_TW. Если не указан, берётся язык системы.
+  --jobs N          Сколько фотографий обрабатывать одновременно. Если не указано, столько, чтобы загрузить все ядра и уместиться в памяти.
   --overwrite       Заменять уже существующие результаты.
   --quiet           Сообщать только о том, что не удалось.
-  --json            Выводить для каждой фотографии объект JSON в отдельной строке с
-                    полями photo, result, status (done, unchanged, failed, stopped),
-                    strength, automatic, seconds, message, unchanged (причина или
-                    null).
-  --share-services  Предоставить модулю собственные службы программы (журнал, пул
-                    памяти, число процессоров), чтобы он не создавал свои.
-  --plugin FILE     Загрузить модуль из этого файла вместо Nimbra.so, лежащего рядом с
-                    программой или в ../lib/nimbra.
+  --json            Выводить для каждой фотографии объект JSON в отдельной строке с полями photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (причина или null).
+  --share-services  Предоставить модулю собственные службы программы (журнал, пул памяти, число процессоров), чтобы он не создавал свои.
+  --plugin FILE     Загрузить модуль из этого файла вместо Nimbra.so, лежащего рядом с программой или в ../lib/nimbra.
   -h, --help        Показать эту справку.
   --version         Показать версии программы и модуля.
   --                Всё, что дальше, — фотографии, даже если имя начинается с дефиса.
 
 Форматы:
-  Чтение и запись: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) и PSD. Результат получает формат своей фотографии, её глубину цвета
-  (8, 16 бит или с плавающей запятой), цветовой профиль, EXIF, IPTC и XMP. Ориентация
-  EXIF сохраняется, и результат отображается так же, как сама фотография.
-  Только чтение: RAW-файлы камер (dng, cr2, nef, arw, raf, orf, rw2 и другие).
-  Результат — TIFF с 16 битами. Для фотографий с другим расширением или без него
-  результат тоже TIFF. Сопутствующие файлы XMP остаются на месте и не читаются.
+  Чтение и запись: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) и PSD. Результат получает формат своей фотографии, её глубину цвета (8, 16 бит или с плавающей запятой), цветовой профиль, EXIF, IPTC и XMP. Ориентация EXIF сохраняется, и результат отображается так же, как сама фотография.
+  Только чтение: RAW-файлы камер (dng, cr2, nef, arw, raf, orf, rw2 и другие). Результат — TIFF с 16 битами. Для фотографий с другим расширением или без него результат тоже TIFF. Сопутствующие файлы XMP остаются на месте и не читаются.
 
 Код завершения:
   0  Все фотографии обработаны или остались прежними (с указанием причины).
-  1  Обработаны не все: в стандартном потоке ошибок указано, какие нет, почему и что
-     поможет. Либо не удалась запись в стандартный поток вывода.
+  1  Обработаны не все: в стандартном потоке ошибок указано, какие нет, почему и что поможет. Либо не удалась запись в стандартный поток вывода.
   2  Ошибка в командной строке или в файле настроек; обработка не начиналась.
 Ctrl-C завершает работу сигналом (130 в оболочке), не оставляя незаконченных результатов.
 

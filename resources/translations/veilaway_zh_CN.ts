@@ -130,57 +130,35 @@ Usage:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Each result is written beside its photograph, under the photograph&apos;s name with a
-tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
-The tag follows the language: _entnebelt with --language de, for instance.
+Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.
 
-The wizard opens a window: choose photographs, set the strength of each with a live
-preview, take the haze away, and compare. It takes --settings (which then holds the
-strengths), --language, --jobs, --share-services and --plugin.
+The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
-  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all, and auto fits it to each photograph: 50 for
-                    a dark one up to 80 for a bright one. Without it, the strength in
-                    the settings file counts, then your stored default, then 70.
-  --set-default N   Store this default, a number or auto, or take it back with none.
-                    Does nothing else.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file
-                    is there, its strengths are used, unless --strength is given too;
-                    at the end it holds the strengths that were used. Without a PHOTO,
-                    all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN or zh_TW. Without it, that of the system.
-  --jobs N          Photographs worked on at the same time. Without it, as many as keep
-                    all cores busy and fit into memory.
-  --overwrite       Replace results that are there already.
-  --quiet           Say nothing but what failed.
-  --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
-                    processor count) instead of letting it make them.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
-                    in ../lib/nimbra.
+  --strength N      How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
+  --set-default N   Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
+  --settings FILE   Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
+  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
+  --jobs N          Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
+  --overwrite       Replace results that already exist.
+  --quiet           Report failures only.
+  --json            Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
+  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
+  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
   -h, --help        Show this text.
-  --version         Show the versions of the program and of the plug-in.
-  --                What follows are photographs, even if they begin with a dash.
+  --version         Show the versions of the program and the plug-in.
+  --                Everything that follows is a photograph, even if it begins with a dash.
 
 Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
-  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
-  the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
-  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files stay where they are and are not read.
+  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. Photographs with any other suffix, or none, become a TIFF too.
+  XMP sidecar files are not read and stay where they are.
 
-Ends with:
-  0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output
-     could not be written.
+Exit status:
+  0  All photographs are done, or came back unchanged (a message says why).
+  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
+Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -197,50 +175,32 @@ Examples:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-每张照片的结果都写入其所在的文件夹，名称为照片名加上标记：hills.jpg 变为
-hills_离开薄雾.jpg。照片本身绝不会改动。标记随语言而变，例如 --language en 时为
-_dehazed。
+每张照片的结果都写入其所在的文件夹，名称为照片名加上标记：hills.jpg 变为 hills_离开薄雾.jpg。照片本身绝不会改动。标记随语言而变，例如 --language en 时为 _dehazed。
 
-向导会打开一个窗口：选择照片，在实时预览下设定每张照片的强度，去除薄雾，然后比较前后
-效果。它接受 --settings（强度保存在该文件中）、--language、--jobs、--share-services
-和 --plugin。
+向导会打开一个窗口：选择照片，在实时预览下设定每张照片的强度，去除薄雾，然后比较前后效果。它接受 --settings（强度保存在该文件中）、--language、--jobs、--share-services 和 --plugin。
 
 选项：
-  --strength N      去除薄雾的程度（百分比）：0 表示保持照片不变，100 表示全部去除，
-                    auto 表示按每张照片自动选择：暗的照片为 50，亮的照片最高为 80。
-                    未指定时，依次采用设置文件中的强度、您保存的默认值、70。
+  --strength N      去除薄雾的程度（百分比）：0 表示保持照片不变，100 表示全部去除，auto 表示按每张照片自动选择：暗的照片为 50，亮的照片最高为 80。未指定时，依次采用设置文件中的强度、您保存的默认值、70。
   --set-default N   保存此默认值（数字或 auto），或用 none 取消。不做其他任何事。
-  --settings FILE   将每张照片的强度保存在此 XML 文件中。如果文件已存在，则使用其中的
-                    强度，除非另外指定了 --strength；结束时，文件记录实际使用的强度。
-                    不给出 PHOTO 时，处理文件中的所有照片。
-  --language LANG   消息和标记的语言：de、en、es、fr、it、ja、pl、ru、zh_CN 或 zh_TW。
-                    未指定时，使用系统的语言。
-  --jobs N          同时处理的照片数量。未指定时，在内存允许的范围内取能让所有核心保持
-                    忙碌的数量。
+  --settings FILE   将每张照片的强度保存在此 XML 文件中。如果文件已存在，则使用其中的强度，除非另外指定了 --strength；结束时，文件记录实际使用的强度。不给出 PHOTO 时，处理文件中的所有照片。
+  --language LANG   消息和标记的语言：de、en、es、fr、it、ja、pl、ru、zh_CN 或 zh_TW。未指定时，使用系统的语言。
+  --jobs N          同时处理的照片数量。未指定时，在内存允许的范围内取能让所有核心保持忙碌的数量。
   --overwrite       替换已有的结果。
   --quiet           只报告失败的内容。
-  --json            为每张照片输出一行 JSON 对象，包含 photo、result、status（done、
-                    unchanged、failed、stopped）、strength、automatic、seconds、message、
-                    unchanged（原因，或 null）。
-  --share-services  让插件使用本程序自身的服务（日志、内存池、处理器数量），而不是
-                    由插件自行创建。
-  --plugin FILE     加载此插件文件，而不是程序所在文件夹或 ../lib/nimbra 中的
-                    Nimbra.so。
+  --json            为每张照片输出一行 JSON 对象，包含 photo、result、status（done、unchanged、failed、stopped）、strength、automatic、seconds、message、unchanged（原因，或 null）。
+  --share-services  让插件使用本程序自身的服务（日志、内存池、处理器数量），而不是由插件自行创建。
+  --plugin FILE     加载此插件文件，而不是程序所在文件夹或 ../lib/nimbra 中的 Nimbra.so。
   -h, --help        显示本说明。
   --version         显示程序和插件的版本。
   --                其后的内容都是照片，即使以连字符开头。
 
 格式：
-  读取和写入：JPEG（jpg、jpeg）、PNG、TIFF（tif、tiff）、Radiance（hdr、hdri）、
-  OpenEXR（exr）和 PSD。结果沿用照片的格式、位深度（8 位、16 位或浮点）、颜色配置
-  文件、EXIF、IPTC 和 XMP。EXIF 方向保持不变，因此结果的显示方向与照片相同。
-  仅读取：相机 RAW（dng、cr2、nef、arw、raf、orf、rw2 等）。结果为 16 位 TIFF。
-  扩展名为其他或没有扩展名的照片，结果也是 TIFF。XMP 附属文件留在原处，不会读取。
+  读取和写入：JPEG（jpg、jpeg）、PNG、TIFF（tif、tiff）、Radiance（hdr、hdri）、OpenEXR（exr）和 PSD。结果沿用照片的格式、位深度（8 位、16 位或浮点）、颜色配置文件、EXIF、IPTC 和 XMP。EXIF 方向保持不变，因此结果的显示方向与照片相同。
+  仅读取：相机 RAW（dng、cr2、nef、arw、raf、orf、rw2 等）。结果为 16 位 TIFF。扩展名为其他或没有扩展名的照片，结果也是 TIFF。XMP 附属文件留在原处，不会读取。
 
 退出代码：
   0  所有照片均已完成，或保持原样（并说明原因）。
-  1  部分照片未完成：标准错误输出会说明是哪些照片、原因以及解决办法。或者无法写入标准
-     输出。
+  1  部分照片未完成：标准错误输出会说明是哪些照片、原因以及解决办法。或者无法写入标准输出。
   2  命令行或设置文件有误；未开始任何处理。
 按 Ctrl-C 时程序由该信号结束（在 shell 中为 130），且不会留下不完整的结果。
 

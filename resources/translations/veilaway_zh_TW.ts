@@ -130,57 +130,35 @@ Usage:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-Each result is written beside its photograph, under the photograph&apos;s name with a
-tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed.
-The tag follows the language: _entnebelt with --language de, for instance.
+Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.
 
-The wizard opens a window: choose photographs, set the strength of each with a live
-preview, take the haze away, and compare. It takes --settings (which then holds the
-strengths), --language, --jobs, --share-services and --plugin.
+The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
-  --strength N      How much haze to take away, in per cent: 0 leaves the picture as
-                    it is, 100 takes all, and auto fits it to each photograph: 50 for
-                    a dark one up to 80 for a bright one. Without it, the strength in
-                    the settings file counts, then your stored default, then 70.
-  --set-default N   Store this default, a number or auto, or take it back with none.
-                    Does nothing else.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file
-                    is there, its strengths are used, unless --strength is given too;
-                    at the end it holds the strengths that were used. Without a PHOTO,
-                    all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl,
-                    ru, zh_CN or zh_TW. Without it, that of the system.
-  --jobs N          Photographs worked on at the same time. Without it, as many as keep
-                    all cores busy and fit into memory.
-  --overwrite       Replace results that are there already.
-  --quiet           Say nothing but what failed.
-  --json            Write one JSON object a line for each photograph, with photo,
-                    result, status (done, unchanged, failed, stopped), strength,
-                    automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool,
-                    processor count) instead of letting it make them.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or
-                    in ../lib/nimbra.
+  --strength N      How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
+  --set-default N   Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
+  --settings FILE   Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
+  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
+  --jobs N          Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
+  --overwrite       Replace results that already exist.
+  --quiet           Report failures only.
+  --json            Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
+  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
+  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
   -h, --help        Show this text.
-  --version         Show the versions of the program and of the plug-in.
-  --                What follows are photographs, even if they begin with a dash.
+  --version         Show the versions of the program and the plug-in.
+  --                Everything that follows is a photograph, even if it begins with a dash.
 
 Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri),
-  OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8, 16
-  bits or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that
-  the result is shown as its photograph is.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result
-  is a TIFF of 16 bits. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files stay where they are and are not read.
+  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
+  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. Photographs with any other suffix, or none, become a TIFF too.
+  XMP sidecar files are not read and stay where they are.
 
-Ends with:
-  0  All photographs are done, or came back as they were (it says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output
-     could not be written.
+Exit status:
+  0  All photographs are done, or came back unchanged (a message says why).
+  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.
   2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends it by the signal (130 in a shell), without leaving half a result.
+Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.
 
 Examples:
   veilaway hills.jpg --strength 80
@@ -197,50 +175,32 @@ Examples:
   veilaway --set-default N|auto|none
   veilaway --help | --version
 
-每張照片的結果都寫入其所在的資料夾，名稱為照片名稱加上標記：hills.jpg 變為
-hills_去除糢糊.jpg。照片本身絕不會更動。標記隨語言而變，例如 --language en 時為
-_dehazed。
+每張照片的結果都寫入其所在的資料夾，名稱為照片名稱加上標記：hills.jpg 變為 hills_去除糢糊.jpg。照片本身絕不會更動。標記隨語言而變，例如 --language en 時為 _dehazed。
 
-精靈會開啟一個視窗：選擇照片，在即時預覽下設定每張照片的強度，去除薄霧，然後比較前後
-效果。它接受 --settings（強度儲存在該檔案中）、--language、--jobs、--share-services
-和 --plugin。
+精靈會開啟一個視窗：選擇照片，在即時預覽下設定每張照片的強度，去除薄霧，然後比較前後效果。它接受 --settings（強度儲存在該檔案中）、--language、--jobs、--share-services 和 --plugin。
 
 選項：
-  --strength N      去除薄霧的程度（百分比）：0 表示保持照片不變，100 表示全部去除，
-                    auto 表示依每張照片自動選擇：暗的照片為 50，亮的照片最高為 80。
-                    未指定時，依序採用設定檔中的強度、您儲存的預設值、70。
+  --strength N      去除薄霧的程度（百分比）：0 表示保持照片不變，100 表示全部去除，auto 表示依每張照片自動選擇：暗的照片為 50，亮的照片最高為 80。未指定時，依序採用設定檔中的強度、您儲存的預設值、70。
   --set-default N   儲存此預設值（數字或 auto），或用 none 取消。不做其他任何事。
-  --settings FILE   將每張照片的強度儲存在此 XML 檔案中。如果檔案已存在，則使用其中的
-                    強度，除非另外指定了 --strength；結束時，檔案記錄實際使用的強度。
-                    未指定 PHOTO 時，處理檔案中的所有照片。
-  --language LANG   訊息和標記的語言：de、en、es、fr、it、ja、pl、ru、zh_CN 或 zh_TW。
-                    未指定時，使用系統的語言。
-  --jobs N          同時處理的照片數量。未指定時，在記憶體允許的範圍內取能讓所有核心
-                    保持忙碌的數量。
+  --settings FILE   將每張照片的強度儲存在此 XML 檔案中。如果檔案已存在，則使用其中的強度，除非另外指定了 --strength；結束時，檔案記錄實際使用的強度。未指定 PHOTO 時，處理檔案中的所有照片。
+  --language LANG   訊息和標記的語言：de、en、es、fr、it、ja、pl、ru、zh_CN 或 zh_TW。未指定時，使用系統的語言。
+  --jobs N          同時處理的照片數量。未指定時，在記憶體允許的範圍內取能讓所有核心保持忙碌的數量。
   --overwrite       取代已有的結果。
   --quiet           只回報失敗的內容。
-  --json            為每張照片輸出一行 JSON 物件，包含 photo、result、status（done、
-                    unchanged、failed、stopped）、strength、automatic、seconds、message、
-                    unchanged（原因，或 null）。
-  --share-services  讓外掛程式使用本程式自身的服務（記錄、記憶體集區、處理器數量），
-                    而不是由外掛程式自行建立。
-  --plugin FILE     載入此外掛程式檔案，而不是程式所在資料夾或 ../lib/nimbra 中的
-                    Nimbra.so。
+  --json            為每張照片輸出一行 JSON 物件，包含 photo、result、status（done、unchanged、failed、stopped）、strength、automatic、seconds、message、unchanged（原因，或 null）。
+  --share-services  讓外掛程式使用本程式自身的服務（記錄、記憶體集區、處理器數量），而不是由外掛程式自行建立。
+  --plugin FILE     載入此外掛程式檔案，而不是程式所在資料夾或 ../lib/nimbra 中的 Nimbra.so。
   -h, --help        顯示本說明。
   --version         顯示程式和外掛程式的版本。
   --                其後的內容都是照片，即使以連字號開頭。
 
 格式：
-  讀取和寫入：JPEG（jpg、jpeg）、PNG、TIFF（tif、tiff）、Radiance（hdr、hdri）、
-  OpenEXR（exr）和 PSD。結果沿用照片的格式、位元深度（8 位元、16 位元或浮點）、色彩
-  描述檔、EXIF、IPTC 和 XMP。EXIF 方向保持不變，因此結果的顯示方向與照片相同。
-  僅讀取：相機 RAW（dng、cr2、nef、arw、raf、orf、rw2 等）。結果為 16 位元 TIFF。
-  副檔名為其他或沒有副檔名的照片，結果也是 TIFF。XMP 附屬檔案留在原處，不會讀取。
+  讀取和寫入：JPEG（jpg、jpeg）、PNG、TIFF（tif、tiff）、Radiance（hdr、hdri）、OpenEXR（exr）和 PSD。結果沿用照片的格式、位元深度（8 位元、16 位元或浮點）、色彩描述檔、EXIF、IPTC 和 XMP。EXIF 方向保持不變，因此結果的顯示方向與照片相同。
+  僅讀取：相機 RAW（dng、cr2、nef、arw、raf、orf、rw2 等）。結果為 16 位元 TIFF。副檔名為其他或沒有副檔名的照片，結果也是 TIFF。XMP 附屬檔案留在原處，不會讀取。
 
 結束代碼：
   0  所有照片皆已完成，或保持原樣（並說明原因）。
-  1  部分照片未完成：標準錯誤輸出會說明是哪些照片、原因以及解決辦法。或者無法寫入標準
-     輸出。
+  1  部分照片未完成：標準錯誤輸出會說明是哪些照片、原因以及解決辦法。或者無法寫入標準輸出。
   2  命令列或設定檔有誤；未開始任何處理。
 按 Ctrl-C 時程式由該訊號結束（在 shell 中為 130），且不會留下不完整的結果。
 
