@@ -32,6 +32,7 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     if (parser.isSet(help) || parser.isSet(version)) {
         line.command = parser.isSet(help) ? Command::Help : Command::Version;
         line.pluginFile = parser.value(plugin);
+        line.language = parser.value(language);
         return line;
     }
 

@@ -29,16 +29,18 @@ QStringList piecesOf(const QString &text)
     QStringList pieces;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
     int begin = 0;
-    while (finder.toNextBoundary() >= 0) {
-        const int end = finder.position();
-        // Breaks behind hyphens and slashes would cut options and paths.
-        if (end < text.size() && !text[end - 1].isSpace() && columnsOf(text[end - 1].unicode()) < 2 &&
-            columnsOf(text[end].unicode()) < 2)
-            continue;
-        pieces << text.mid(begin, end - begin);
-        begin = end;
+    for (int at = 1; at < text.size(); ++at) {
+        const QChar before = text[at - 1];
+        const bool isComma = before == QChar(0x3001) || before == QChar(0xFF0C);
+        const bool isWide = columnsOf(before.unicode()) > 1 || columnsOf(text[at].unicode()) > 1;
+        finder.setPosition(at);
+        // Not behind hyphens and slashes, which would cut options and paths.
+        if (isComma || (finder.isAtBoundary() && (before.isSpace() || isWide))) {
+            pieces << text.mid(begin, at - begin);
+            begin = at;
+        }
     }
-    return pieces;
+    return pieces << text.mid(begin);
 }
 
 QString wrappedLine(const QString &line, int columns)

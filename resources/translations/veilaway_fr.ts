@@ -135,19 +135,19 @@ Each result is written beside its photograph, under the photograph&apos;s name w
 The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
 
 Options:
-  --strength N        How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
-  --set-default N     Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
-  --settings FILE     Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
-  --language LANG     Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
-  --jobs N            Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
-  --overwrite         Replace results that already exist.
-  --quiet             Report failures only.
-  --json              Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
-  --share-services    Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
-  --plugin FILE       Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
-  -h, --help          Show this text.
-  --version           Show the versions of the program and the plug-in.
-  --                  Everything that follows is a photograph, even if it begins with a dash.
+  --strength N      How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
+  --set-default N   Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
+  --settings FILE   Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
+  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
+  --jobs N          Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
+  --overwrite       Replace results that already exist.
+  --quiet           Report failures only.
+  --json            Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
+  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
+  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
+  -h, --help        Show this text.
+  --version         Show the versions of the program and the plug-in.
+  --                Everything that follows is a photograph, even if it begins with a dash.
 
 Formats:
   Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
