@@ -56,38 +56,37 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     if (parser.isSet(strength)) {
         line.strength = WantedStrength::parse(parser.value(strength));
         if (!line.strength)
-            return fail(tr("--strength wants a whole number from 0 to 100, or auto, not \"%1\".").arg(parser.value(strength)));
+            return fail(tr("--strength must be a whole number from 0 to 100, or auto, not \"%1\".").arg(parser.value(strength)));
     }
     if (parser.isSet(jobs)) {
         line.jobs = parser.value(jobs).toInt(&whole);
         if (!whole || line.jobs < 1 || line.jobs > kMostJobs)
-            return fail(tr("--jobs wants a whole number from 1 to %1, not \"%2\".").arg(kMostJobs).arg(parser.value(jobs)));
+            return fail(tr("--jobs must be a whole number from 1 to %1, not \"%2\".").arg(kMostJobs).arg(parser.value(jobs)));
     }
     if (parser.isSet(language) && !HostApplication::localeFor(line.language))
-        return fail(tr("--language knows %1, but not \"%2\".").arg(HostApplication::languages().join(", "), line.language));
+        return fail(tr("--language must be one of %1, not \"%2\".").arg(HostApplication::languages().join(", "), line.language));
     if (parser.isSet(settings) &&
         (line.settingsFile.isEmpty() || QString::fromUtf8(argumentBytes(line.settingsFile)) != line.settingsFile))
-        return fail(tr("--settings wants the name of a file, in UTF-8."));
+        return fail(tr("--settings must be the name of a file, in UTF-8."));
     if (parser.isSet(setDefault)) {
         const QString value = parser.value(setDefault);
         line.newDefault = WantedStrength::parse(value);
         if (!line.newDefault && value != "none")
-            return fail(tr("--set-default wants a whole number from 0 to 100, auto or none, not \"%1\".").arg(value));
+            return fail(tr("--set-default must be a whole number from 0 to 100, auto or none, not \"%1\".").arg(value));
         bool alone = line.command == Command::Run && line.photographs.isEmpty();
         for (const QCommandLineOption &option : {strength, settings, jobs, overwrite, json})
             alone = alone && !parser.isSet(option);
         if (!alone)
-            return fail(
-                tr("--set-default stores the default and does nothing else: leave out photographs and the options for them."));
+            return fail(tr("--set-default only stores the default: leave out photographs and the options for them."));
         line.command = Command::SetDefault;
         return line;
     }
     if (line.command == Command::Wizard) {
         for (const QCommandLineOption &option : {strength, overwrite, quiet, json})
             if (parser.isSet(option))
-                return fail(tr("--%1 is not for the wizard, which asks in its window.").arg(option.names().constFirst()));
+                return fail(tr("--%1 can't be used with the wizard, which asks in its window.").arg(option.names().constFirst()));
     } else if (line.photographs.isEmpty() && line.settingsFile.isEmpty())
-        return fail(tr("Name the photographs to take the haze from."));
+        return fail(tr("Name the photographs to remove haze from."));
     return line;
 }
 

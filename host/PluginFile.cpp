@@ -18,7 +18,7 @@ PluginFile::PluginFile(const QString &path)
             break;
         }
     if (loader.fileName().isEmpty())
-        throw VException(tr("The plug-in \"%1\" is not there. Build or install it, or say with --plugin FILE where it is.")
+        throw VException(tr("The plug-in \"%1\" was not found. Build or install it, or give its location with --plugin FILE.")
                              .arg(candidates.join(tr("\" or \""))),
                          V_LOCATION);
     QObject *object = loader.instance();
@@ -32,7 +32,7 @@ PluginFile::PluginFile(const QString &path)
         if (reason.endsWith('.')) // some of Qt's are sentences
             reason.chop(1);
         delete object;
-        throw VException(tr("The plug-in \"%1\" can't be used: %2. Install it anew, or name another one with --plugin FILE.")
+        throw VException(tr("The plug-in \"%1\" can't be used: %2. Install it again, or name another one with --plugin FILE.")
                              .arg(loader.fileName(), reason),
                          V_LOCATION);
     }

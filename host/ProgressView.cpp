@@ -57,8 +57,7 @@ void ProgressView::say(const QString &text)
 bool ProgressView::allSaid()
 {
     if (outputError != 0)
-        complain(
-            tr("Standard output can't be written: %1. Make room there, or send it elsewhere.").arg(qt_error_string(outputError)));
+        complain(tr("Writing to standard output failed: %1. Make room there, or redirect it.").arg(qt_error_string(outputError)));
     return outputError == 0;
 }
 
@@ -124,13 +123,13 @@ void ProgressView::finished(int index, const BatchOutcome &outcome)
 void ProgressView::summarize()
 {
     if (notBegunCount > 0)
-        complain(tr("%n photograph(s) not begun.", nullptr, notBegunCount));
+        complain(tr("%n photograph(s) not started.", nullptr, notBegunCount));
     if (style == Style::Quiet || style == Style::Json || (items.size() == 1 && allDone()))
         return;
     const int failed = int(items.size()) - doneCount - unchangedCount;
-    const QString text = failed == 0 ? tr("%1 photographs done.").arg(doneCount)
+    const QString text = failed == 0 ? tr("%n photograph(s) done.", nullptr, doneCount)
                                      : tr("%1 of %2 photographs done, %3 not.").arg(doneCount).arg(items.size()).arg(failed);
-    write(stderr, text + (unchangedCount > 0 ? ' ' + tr("%1 came back unchanged.").arg(unchangedCount) : QString()) + '\n');
+    write(stderr, text + (unchangedCount > 0 ? ' ' + tr("%n came back unchanged.", nullptr, unchangedCount) : QString()) + '\n');
 }
 
 void ProgressView::eraseBars()
@@ -152,7 +151,7 @@ void ProgressView::drawBars()
                            : stage == BatchRunner::Stage::Dehazing ? kBarWidth / 6
                                                                    : kBarWidth * 5 / 6;
         const QString word = stage == BatchRunner::Stage::Reading    ? tr("reading")
-                             : stage == BatchRunner::Stage::Dehazing ? tr("taking haze away")
+                             : stage == BatchRunner::Stage::Dehazing ? tr("removing haze")
                                                                      : tr("saving");
         text += fitted(bar(filled) + ' ' + word + "  " + harmless(items[std::size_t(index)].given), columns) + '\n';
         ++barsDrawn;

@@ -38,7 +38,7 @@ public:
     explicit StopOnSignal(BatchRunner &runner)
     {
         notice = "\nveilaway: " +
-                 RunCommand::tr("Stopping; finishing the file being saved. Press Ctrl-C again to end at once.").toUtf8() + '\n';
+                 RunCommand::tr("Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.").toUtf8() + '\n';
         interruptible = &runner;
         struct sigaction action = {};
         action.sa_handler = stopBatch;
@@ -114,13 +114,16 @@ int RunCommand::run()
             photographs = settings->photographs();
         if (photographs.isEmpty()) {
             ProgressView::complain(
-                settings->exists() ? tr("The settings file \"%1\" names no photographs. Name some.").arg(settings->path())
-                                   : tr("There is no settings file \"%1\". Name photographs to make one.").arg(settings->path()));
+                settings->exists()
+                    ? tr("The settings file \"%1\" names no photographs. Name some on the command line.").arg(settings->path())
+                    : tr("There is no settings file \"%1\". Name photographs on the command line to create it.")
+                          .arg(settings->path()));
             return ExitUsage;
         }
         if (!QFileInfo(QFileInfo(settings->path()).absolutePath()).isWritable()) {
-            ProgressView::complain(
-                tr("The settings file \"%1\" can't be written there. Name one in another folder.").arg(settings->path()));
+            ProgressView::complain(tr("The settings file \"%1\" can't be written: its folder is read-only or missing. Name a "
+                                      "file in another folder.")
+                                       .arg(settings->path()));
             return ExitUsage;
         }
     }
@@ -143,7 +146,7 @@ int RunCommand::run()
     for (const BatchItem &item : items) {
         if (settings && QFileInfo(item.result).absoluteFilePath() == settings->path()) {
             ProgressView::complain(
-                tr("The settings file \"%1\" has the name of a result. Give it another one.").arg(settings->path()));
+                tr("The settings file \"%1\" has the name of a result. Give it another name.").arg(settings->path()));
             return ExitUsage;
         }
         if (!item.note.isEmpty() && item.refusal.isEmpty())

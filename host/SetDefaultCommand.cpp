@@ -16,7 +16,8 @@ int SetDefaultCommand::run()
     }
     if (!line.quiet)
         ProgressView::say(
-            (!strength ? tr("No default is stored any more; without --strength, it is %1 per cent.").arg(WantedStrength::kUsual)
+            (!strength
+                 ? tr("The stored default was removed. Without --strength, %1 per cent is used.").arg(WantedStrength::kUsual)
              : strength->automatic ? tr("From now on, each photograph gets its automatic strength.")
                                    : tr("From now on, the default strength is %1 per cent.").arg(strength->percent)) +
             '\n');

@@ -83,7 +83,7 @@ QSet<QString> BatchPlan::resultsAmong(const QStringList &files, const QStringLis
 
 QString BatchPlan::existsText(const QString &result)
 {
-    return tr("Its result \"%1\" is there already. Give --overwrite to replace it.").arg(result);
+    return tr("Its result \"%1\" already exists. Add --overwrite to replace it.").arg(result);
 }
 
 std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostApplication &host, const Options &options)
@@ -117,7 +117,7 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         const QString suffix = QFileInfo(item.path).suffix();
         if (tiff && !PhotoLoader::rawSuffixes().contains(suffix.toLower()))
             item.note = suffix.isEmpty() ? tr("It has no suffix, so the result is a TIFF.")
-                                         : tr("\"%1\" is no format that can be written, so the result is a TIFF.").arg(suffix);
+                                         : tr("\"%1\" is not a format that can be written, so the result is a TIFF.").arg(suffix);
         if (!item.automatic)
             item.settings =
                 options.strength || stored.isNull() ? SettingsFile::withStrength(options.processName, item.strength) : stored;
@@ -142,15 +142,15 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
             BatchItem &other = items[input->second];
             item.refusal =
                 tr("Its result \"%1\" is itself one of the photographs given. Leave out one of the two.").arg(item.result);
-            other.refusal = tr("It is the result of \"%1\", which is given too. Leave out one of the two.").arg(item.given);
+            other.refusal = tr("It is the result of \"%1\", which is also given. Leave out one of the two.").arg(item.given);
         } else if (source != sources.end()) {
             item.refusal = tr("Its result \"%1\" is the same file as the photograph \"%2\". Move one of the two away.")
                                .arg(item.result, items[source->second].given);
         } else if (!fresh) {
-            item.refusal = tr("Its result \"%1\" would be that of \"%2\" too. Rename one of the two photographs.")
+            item.refusal = tr("Its result \"%1\" would also be the result of \"%2\". Rename one of the two photographs.")
                                .arg(item.result, items[first->second].given);
         } else if (result.isDir()) {
-            item.refusal = tr("Where its result belongs, at \"%1\", a folder stands. Move the folder away.").arg(item.result);
+            item.refusal = tr("Its result can't be written: \"%1\" is a folder. Move the folder away.").arg(item.result);
         } else if (!options.overwrite && (result.exists() || result.isSymLink())) {
             item.refusal = existsText(item.result);
             item.reason = BatchOutcome::Reason::ResultExists;

@@ -124,7 +124,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         outcome.message = carryXmp(item.path, item.result);
         if (!outcome.message.isEmpty())
             outcome.message =
-                tr("The result is there, but the photograph's XMP could not be copied into it: %1.").arg(outcome.message);
+                tr("The result was written, but the photograph's XMP could not be copied into it: %1.").arg(outcome.message);
         return outcome;
     } catch (const VException &failure) {
         outcome.message = failure.message.isEmpty() ? tr("The plug-in failed at %1").arg(failure.location) : failure.message;
@@ -143,8 +143,8 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         return outcome;
     // The engine reads the photograph once more when it saves.
     if (stage == Stage::Saving && outcome.message.contains('"' + item.path + '"')) {
-        outcome.message = tr("The photograph was changed, moved or deleted while the haze was being taken away. Put it back and "
-                             "begin again.");
+        outcome.message =
+            tr("The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.");
         return outcome;
     }
     outcome.message = outcome.message.trimmed().replace('\n', ", ");
@@ -155,7 +155,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     else if (stage == Stage::Saving)
         outcome.message +=
             ' ' +
-            tr("Make room in the folder \"%1\", and see that you may write there.").arg(QFileInfo(item.result).absolutePath());
+            tr("Make room in the folder \"%1\", and check that you can write to it.").arg(QFileInfo(item.result).absolutePath());
     return outcome;
 }
 
@@ -226,9 +226,10 @@ void BatchRunner::reserve(qint64 bytes)
     if (bytes > memoryForOne) {
         const QLocale locale = application.locale();
         const auto size = [&](qint64 count) { return locale.formattedDataSize(count, 1, QLocale::DataSizeSIFormat); };
-        throw VException(tr("It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.")
-                             .arg(size(bytes), size(memoryForOne)),
-                         V_LOCATION);
+        throw VException(
+            tr("It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.")
+                .arg(size(bytes), size(memoryForOne)),
+            V_LOCATION);
     }
     ++running;
     memoryLeft -= bytes;

@@ -26,6 +26,6 @@ void DefaultStrength::store(const std::optional<WantedStrength> &strength)
         application.setValue(group, kNumber, strength ? QVariant(strength->percent) : QVariant());
     if (const QString file = application.unwrittenSettings(); !file.isEmpty())
         throw VException(
-            tr("The default can't be stored in \"%1\". Make room, or give yourself the permission to write there.").arg(file),
+            tr("The default can't be stored in \"%1\". Make room, or give yourself permission to write there.").arg(file),
             V_LOCATION);
 }

@@ -116,7 +116,7 @@ void SettingsFile::load()
         if (entry.attribute(kPath).isEmpty())
             throw broken(tr("%1: a photo without a path").arg(where));
         if (seen.contains(absolute(entry)))
-            throw broken(tr("%1: \"%2\" stands in it twice").arg(where, entry.attribute(kPath)));
+            throw broken(tr("%1: \"%2\" appears twice").arg(where, entry.attribute(kPath)));
         if (!strengthOf(entry.firstChildElement(tag)))
             throw broken(tr("%1: the photo needs <%2 %3=\"...\"/> with a whole number from 0 to 100").arg(where, tag, kStrength));
         seen.insert(absolute(entry));
@@ -149,15 +149,15 @@ void SettingsFile::save()
     // Flushed here: where the disk is full, a commit of what is still in the buffer succeeds, with an empty file.
     if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size() || !output.flush() || !output.commit())
         throw VException(
-            tr("The settings file \"%1\" can't be written: %2. Make room, or give yourself the permission to write there.")
+            tr("The settings file \"%1\" can't be written: %2. Make room, or give yourself permission to write there.")
                 .arg(file, output.errorString()),
             V_LOCATION);
     changed = false;
     if (!unfit.isEmpty())
-        throw VException(
-            tr("The settings file \"%1\" can't hold the photograph \"%2\": its name has control characters. Rename it.")
-                .arg(file, unfit),
-            V_LOCATION);
+        throw VException(tr("The settings file \"%1\" can't hold the photograph \"%2\": its name contains control characters. "
+                            "Rename the photograph.")
+                             .arg(file, unfit),
+                         V_LOCATION);
 }
 
 QString SettingsFile::absolute(const QDomElement &entry) const

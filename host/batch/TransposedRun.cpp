@@ -20,11 +20,10 @@ TransposedRun::TransposedRun(HostApplication &host, const QString &path) : appli
             return;
         }
     }
-    throw VException(
-        tr("No temporary folder with a link to it can be made, neither beside it nor in \"%1\". Make room there, and "
-           "see that you may write there.")
-            .arg(QDir::tempPath()),
-        V_LOCATION);
+    throw VException(tr("A temporary folder with a link to the photograph can't be created, neither beside it nor in \"%1\". "
+                        "Make room there, and check that you can write there.")
+                         .arg(QDir::tempPath()),
+                     V_LOCATION);
 }
 
 TransposedRun::~TransposedRun()

@@ -16,12 +16,12 @@ QString whyUnchanged(VIPluginOne2One &process, VISettingsHandle settings)
         return QString();
     const auto isZero = [](float value) { return value == 0.0f; };
     if (std::all_of(std::begin(settings->airlight), std::end(settings->airlight), isZero))
-        return QCoreApplication::translate("whyUnchanged",
-                                           "It came back as it was, since no haze could be measured: one side is more than "
-                                           "100,000 times as long as the other, or no pixel has a usable colour. Crop it, or "
-                                           "repair its colours in an image editor.");
+        return QCoreApplication::translate(
+            "whyUnchanged",
+            "It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, "
+            "or no pixel has a usable colour. Crop it, or repair its colours in an image editor.");
     return QCoreApplication::translate(
-        "whyUnchanged", "It came back as it was, since the haze could not be worked out: some pixels hold infinite "
-                        "or undefined values, or memory ran short. Repair those pixels in an image editor, or "
-                        "close other programs and do it again.");
+        "whyUnchanged",
+        "It came back unchanged because the haze could not be worked out: some pixels hold infinite or undefined values, or "
+        "memory ran short. Repair those pixels in an image editor, or close other programs and try again.");
 }

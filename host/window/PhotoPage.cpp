@@ -55,9 +55,8 @@ PhotoPage::PhotoPage(HostApplication &host, QWidget *parent)
       removeButton(new QPushButton(tr("&Remove"), this)), reader(host, int(kPicture.width() * devicePixelRatioF()))
 {
     setTitle(tr("Photographs"));
-    setSubTitle(
-        tr("Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written "
-           "beside its photograph."));
+    setSubTitle(tr("Choose the photographs to remove haze from, or drop them here. They are never changed: each result is saved "
+                   "beside its photograph."));
     setAcceptDrops(true);
 
     list->setObjectName(QStringLiteral("photographs"));

@@ -39,7 +39,7 @@ ResultPage::ResultPage(HostApplication &host, QWidget *parent)
     folderButton->setObjectName(QStringLiteral("openFolder"));
     auto *saveButton = new QPushButton(tr("&Save session..."), this);
     saveButton->setObjectName(QStringLiteral("saveSession"));
-    saveButton->setToolTip(tr("Keep the photographs and the strength of each in a settings file"));
+    saveButton->setToolTip(tr("Save the photographs and the strength of each in a settings file"));
     auto *againButton = new QPushButton(tr("Start &over"), this);
     againButton->setObjectName(QStringLiteral("startOver"));
     againButton->setToolTip(tr("Choose other photographs"));

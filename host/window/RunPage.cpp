@@ -23,7 +23,7 @@ RunPage::RunPage(HostApplication &host, VIPluginOne2One &process, QWidget *paren
     : QWizardPage(parent), runner(host, process, *this), question(new QWidget(this)), questionText(new QLabel(question)),
       table(new QTableWidget(0, Columns, this)), overall(new QProgressBar(this)), stopButton(new QPushButton(tr("&Stop"), this))
 {
-    setTitle(tr("Taking the haze away"));
+    setTitle(tr("Removing haze"));
 
     questionText->setWordWrap(true);
     auto *replace = new QPushButton(tr("&Replace them"), question);
@@ -80,7 +80,7 @@ void RunPage::begin(std::vector<BatchItem> keeping, std::vector<BatchItem> repla
     complete = false;
     endedCount = 0;
     batchJobs = jobs;
-    setSubTitle(tr("Each result is written beside its photograph."));
+    setSubTitle(tr("Each result is saved beside its photograph."));
     int there = 0;
     for (const BatchItem &item : keeping)
         there += item.reason == BatchOutcome::Reason::ResultExists;
@@ -92,7 +92,7 @@ void RunPage::begin(std::vector<BatchItem> keeping, std::vector<BatchItem> repla
     batch = std::move(keeping);
     other = std::move(replacing);
     fillTable();
-    questionText->setText(tr("%n result(s) of an earlier run are there already.", nullptr, there));
+    questionText->setText(tr("%n result(s) of an earlier run already exist.", nullptr, there));
     question->show();
     Q_EMIT completeChanged();
 }
@@ -142,7 +142,7 @@ void RunPage::stop()
 {
     runner.stop();
     stopButton->setEnabled(false);
-    setSubTitle(tr("Stopping. The photographs in hand end first."));
+    setSubTitle(tr("Stopping. A result that is being saved is finished first."));
 }
 
 void RunPage::stageBegins(int item, BatchRunner::Stage stage)
@@ -164,7 +164,7 @@ void RunPage::showProgress(int item, int percent)
 
 void RunPage::showStage(int item, BatchRunner::Stage stage)
 {
-    const QString texts[] = {tr("Reading"), tr("Taking the haze away"), tr("Saving")};
+    const QString texts[] = {tr("Reading"), tr("Removing haze"), tr("Saving")};
     table->scrollToItem(table->item(item, Photo));
     table->item(item, State)->setText(texts[int(stage)]);
     showProgress(item, kStageStart[int(stage)]);

@@ -37,7 +37,7 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
     setPage(Photographs, photoPage);
     QWizardPage *const strengthPage = process.wizardPage();
     strengthPage->setCommitPage(true); // the way back ends where the work begins
-    strengthPage->setButtonText(QWizard::CommitButton, tr("&Take the haze away"));
+    strengthPage->setButtonText(QWizard::CommitButton, tr("&Remove haze"));
     setPage(Strength, strengthPage);
     imageList = strengthPage->findChild<QComboBox *>(QStringLiteral("comboBoxImageDef"));
     if (imageList) // behind the page's own slot: where that fails, this one is not reached

@@ -8,7 +8,7 @@
         <translation>Das Foto hat keine Dateiendung, daher wird das Ergebnis ein TIFF.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
+        <source>&quot;%1&quot; is not a format that can be written, so the result is a TIFF.</source>
         <translation>Das Format „%1“ kann nicht geschrieben werden, daher wird das Ergebnis ein TIFF.</translation>
     </message>
     <message>
@@ -16,7 +16,7 @@
         <translation>Das Ergebnis „%1“ ist selbst eines der angegebenen Fotos. Lassen Sie eines der beiden weg.</translation>
     </message>
     <message>
-        <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
+        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
         <translation>Dieses Foto ist das Ergebnis von „%1“, das ebenfalls angegeben ist. Lassen Sie eines der beiden weg.</translation>
     </message>
     <message>
@@ -24,15 +24,15 @@
         <translation>Das Ergebnis „%1“ ist dieselbe Datei wie das Foto „%2“. Verschieben Sie eines der beiden an einen anderen Ort.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Das Ergebnis „%1“ wäre zugleich das von „%2“. Benennen Sie eines der beiden Fotos um.</translation>
     </message>
     <message>
-        <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
         <translation>Am Ort des Ergebnisses, „%1“, liegt ein Ordner. Verschieben Sie den Ordner.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
+        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
         <translation>Das Ergebnis „%1“ ist schon vorhanden. Geben Sie --overwrite an, um es zu ersetzen.</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
 <context>
     <name>BatchRunner</name>
     <message>
-        <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
+        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
         <translation>Das Ergebnis liegt vor, aber die XMP-Daten des Fotos konnten nicht hineinkopiert werden: %1.</translation>
     </message>
     <message>
@@ -67,7 +67,7 @@
         <translation>Schließen Sie andere Programme oder bearbeiten Sie die Fotos einzeln (--jobs 1).</translation>
     </message>
     <message>
-        <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
+        <source>Make room in the folder &quot;%1&quot;, and check that you can write to it.</source>
         <translation>Schaffen Sie Platz im Ordner „%1“ und prüfen Sie, ob Sie dort schreiben dürfen.</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>Das Plug-in hat „%1“ statt „%2“ geschrieben</translation>
     </message>
     <message>
-        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
         <translation>Das Foto wurde geändert, verschoben oder gelöscht, während der Dunst entfernt wurde. Legen Sie es zurück und beginnen Sie von vorn.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
+        <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>Das Foto braucht etwa %1 Arbeitsspeicher, frei sind %2. Schließen Sie andere Programme oder verkleinern Sie das Foto.</translation>
     </message>
 </context>
@@ -97,27 +97,27 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <source>--strength must be a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
         <translation>--strength erwartet eine ganze Zahl von 0 bis 100 oder auto, nicht „%1“.</translation>
     </message>
     <message>
-        <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <source>--jobs must be a whole number from 1 to %1, not &quot;%2&quot;.</source>
         <translation>--jobs erwartet eine ganze Zahl von 1 bis %1, nicht „%2“.</translation>
     </message>
     <message>
-        <source>--language knows %1, but not &quot;%2&quot;.</source>
+        <source>--language must be one of %1, not &quot;%2&quot;.</source>
         <translation>--language kennt %1, aber nicht „%2“.</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file, in UTF-8.</source>
+        <source>--settings must be the name of a file, in UTF-8.</source>
         <translation>--settings erwartet den Namen einer Datei, in UTF-8.</translation>
     </message>
     <message>
-        <source>--%1 is not for the wizard, which asks in its window.</source>
+        <source>--%1 can&apos;t be used with the wizard, which asks in its window.</source>
         <translation>--%1 gilt nicht für den Assistenten; er fragt in seinem Fenster danach.</translation>
     </message>
     <message>
-        <source>Name the photographs to take the haze from.</source>
+        <source>Name the photographs to remove haze from.</source>
         <translation>Geben Sie die Fotos an, aus denen der Dunst entfernt werden soll.</translation>
     </message>
     <message>
@@ -216,18 +216,18 @@ Beispiele:
         <translation>Siehe veilaway --help.</translation>
     </message>
     <message>
-        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <source>--set-default must be a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
         <translation>--set-default erwartet eine ganze Zahl von 0 bis 100, auto oder none, nicht „%1“.</translation>
     </message>
     <message>
-        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <source>--set-default only stores the default: leave out photographs and the options for them.</source>
         <translation>--set-default speichert nur die Voreinstellung: Lassen Sie Fotos und die Optionen für sie weg.</translation>
     </message>
 </context>
 <context>
     <name>DefaultStrength</name>
     <message>
-        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself permission to write there.</source>
         <translation>Die Voreinstellung kann nicht in „%1“ gespeichert werden. Schaffen Sie Platz, oder geben Sie sich die Berechtigung, dort zu schreiben.</translation>
     </message>
 </context>
@@ -314,6 +314,13 @@ Beispiele:
 </context>
 <context>
     <name>PhotoPage</name>
+    <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>%1: Das ist das Ergebnis eines anderen Fotos in der Liste.</numerusform>
+            <numerusform>%n Dateien, die Ergebnisse anderer Fotos in der Liste sind, zum Beispiel „%1“.</numerusform>
+        </translation>
+    </message>
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Entfernen</translation>
@@ -323,7 +330,7 @@ Beispiele:
         <translation>Fotos</translation>
     </message>
     <message>
-        <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
+        <source>Choose the photographs to remove haze from, or drop them here. They are never changed: each result is saved beside its photograph.</source>
         <translation>Wählen Sie die Fotos aus, aus denen der Dunst entfernt werden soll, oder ziehen Sie sie hierher. Sie bleiben unverändert: Jedes Ergebnis wird neben seinem Foto gespeichert.</translation>
     </message>
     <message>
@@ -402,7 +409,7 @@ Beispiele:
 <context>
     <name>PluginFile</name>
     <message>
-        <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
+        <source>The plug-in &quot;%1&quot; was not found. Build or install it, or give its location with --plugin FILE.</source>
         <translation>Das Plug-in „%1“ ist nicht vorhanden. Erstellen oder installieren Sie es, oder geben Sie mit --plugin DATEI an, wo es liegt.</translation>
     </message>
     <message>
@@ -414,7 +421,7 @@ Beispiele:
         <translation>es ist ein Plug-in anderer Art</translation>
     </message>
     <message>
-        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
+        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it again, or name another one with --plugin FILE.</source>
         <translation>Das Plug-in „%1“ kann nicht verwendet werden: %2. Installieren Sie es neu, oder geben Sie mit --plugin DATEI ein anderes an.</translation>
     </message>
 </context>
@@ -428,9 +435,12 @@ Beispiele:
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
     </message>
-    <message>
-        <source>%1 photographs done.</source>
-        <translation>%1 Fotos fertig.</translation>
+    <message numerus="yes">
+        <source>%n photograph(s) done.</source>
+        <translation>
+            <numerusform>%n Foto fertig.</numerusform>
+            <numerusform>%n Fotos fertig.</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
@@ -441,7 +451,7 @@ Beispiele:
         <translation>Lesen</translation>
     </message>
     <message>
-        <source>taking haze away</source>
+        <source>removing haze</source>
         <translation>Dunst entfernen</translation>
     </message>
     <message>
@@ -452,16 +462,19 @@ Beispiele:
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
     </message>
-    <message>
-        <source>%1 came back unchanged.</source>
-        <translation>%1 kamen unverändert zurück.</translation>
+    <message numerus="yes">
+        <source>%n came back unchanged.</source>
+        <translation>
+            <numerusform>%n kam unverändert zurück.</numerusform>
+            <numerusform>%n kamen unverändert zurück.</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
         <translation>In die Standardausgabe kann nicht geschrieben werden: %1. Schaffen Sie dort Platz, oder leiten Sie die Ausgabe woandershin.</translation>
     </message>
     <message numerus="yes">
-        <source>%n photograph(s) not begun.</source>
+        <source>%n photograph(s) not started.</source>
         <translation>
             <numerusform>%n Foto wurde nicht begonnen.</numerusform>
             <numerusform>%n Fotos wurden nicht begonnen.</numerusform>
@@ -483,7 +496,7 @@ Beispiele:
         <translation>Sitzung s&amp;peichern...</translation>
     </message>
     <message>
-        <source>Keep the photographs and the strength of each in a settings file</source>
+        <source>Save the photographs and the strength of each in a settings file</source>
         <translation>Die Fotos und die Stärke für jedes Foto in einer Einstellungsdatei aufbewahren</translation>
     </message>
     <message>
@@ -497,10 +510,6 @@ Beispiele:
     <message>
         <source>%1 of %2 photographs are done.</source>
         <translation>%1 von %2 Fotos sind fertig.</translation>
-    </message>
-    <message>
-        <source>Stopped before it began.</source>
-        <translation>Vor Beginn angehalten.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
@@ -522,23 +531,23 @@ Beispiele:
         <translation>Kein --strength angegeben und keine Voreinstellung gespeichert: %1 wird verwendet.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
+        <source>The settings file &quot;%1&quot; names no photographs. Name some on the command line.</source>
         <translation>Die Einstellungsdatei „%1“ nennt keine Fotos. Geben Sie welche an.</translation>
     </message>
     <message>
-        <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
+        <source>There is no settings file &quot;%1&quot;. Name photographs on the command line to create it.</source>
         <translation>Die Einstellungsdatei „%1“ gibt es nicht. Geben Sie Fotos an, um sie anzulegen.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: its folder is read-only or missing. Name a file in another folder.</source>
         <translation>Die Einstellungsdatei „%1“ kann dort nicht geschrieben werden. Geben Sie eine in einem anderen Ordner an.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
+        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
         <translation>Die Einstellungsdatei „%1“ trägt den Namen eines Ergebnisses. Geben Sie ihr einen anderen.</translation>
     </message>
     <message>
-        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
         <translation>Wird beendet; die Datei, die gerade gespeichert wird, wird noch fertiggestellt. Nochmals Strg+C beendet sofort.</translation>
     </message>
     <message numerus="yes">
@@ -560,11 +569,11 @@ Beispiele:
         <translation>&amp;Anhalten</translation>
     </message>
     <message>
-        <source>Taking the haze away</source>
+        <source>Removing haze</source>
         <translation>Dunst wird entfernt</translation>
     </message>
     <message>
-        <source>Each result is written beside its photograph.</source>
+        <source>Each result is saved beside its photograph.</source>
         <translation>Jedes Ergebnis wird neben seinem Foto gespeichert.</translation>
     </message>
     <message>
@@ -592,7 +601,7 @@ Beispiele:
         <translation>Status</translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) of an earlier run are there already.</source>
+        <source>%n result(s) of an earlier run already exist.</source>
         <translation>
             <numerusform>%n Ergebnis eines früheren Durchgangs ist schon vorhanden.</numerusform>
             <numerusform>%n Ergebnisse eines früheren Durchgangs sind schon vorhanden.</numerusform>
@@ -631,11 +640,11 @@ Beispiele:
         <translation>Fehlgeschlagen</translation>
     </message>
     <message>
-        <source>Stopping. The photographs in hand end first.</source>
-        <translation>Wird angehalten. Die begonnenen Fotos werden noch fertiggestellt.</translation>
+        <source>Stopping. A result that is being saved is finished first.</source>
+        <translation>Wird angehalten. Ein Ergebnis, das gerade gespeichert wird, wird noch fertiggestellt.</translation>
     </message>
     <message>
-        <source>Its result was there already and has been kept.</source>
+        <source>Its result already existed and was kept.</source>
         <translation>Das Ergebnis war schon vorhanden und wurde behalten.</translation>
     </message>
     <message>
@@ -650,7 +659,7 @@ Beispiele:
 <context>
     <name>SetDefaultCommand</name>
     <message>
-        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <source>The stored default was removed. Without --strength, %1 per cent is used.</source>
         <translation>Es ist keine Voreinstellung mehr gespeichert; ohne --strength sind es %1 Prozent.</translation>
     </message>
     <message>
@@ -689,7 +698,7 @@ Beispiele:
         <translation>%1: ein Foto ohne Pfad</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; stands in it twice</source>
+        <source>%1: &quot;%2&quot; appears twice</source>
         <translation>%1: „%2“ kommt darin zweimal vor</translation>
     </message>
     <message>
@@ -697,18 +706,18 @@ Beispiele:
         <translation>%1: Das Foto braucht &lt;%2 %3=&quot;...&quot;/&gt; mit einer ganzen Zahl von 0 bis 100</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself permission to write there.</source>
         <translation>Die Einstellungsdatei „%1“ kann nicht geschrieben werden: %2. Schaffen Sie Platz oder verschaffen Sie sich dort das Schreibrecht.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name contains control characters. Rename the photograph.</source>
         <translation>Die Einstellungsdatei „%1“ kann das Foto „%2“ nicht aufnehmen: Sein Name enthält Steuerzeichen. Benennen Sie es um.</translation>
     </message>
 </context>
 <context>
     <name>TransposedRun</name>
     <message>
-        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <source>A temporary folder with a link to the photograph can&apos;t be created, neither beside it nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
         <translation>Weder neben dem Foto noch in „%1“ kann ein temporärer Ordner mit einer Verknüpfung angelegt werden. Schaffen Sie dort Platz und prüfen Sie, ob Sie dort schreiben dürfen.</translation>
     </message>
     <message>
@@ -723,7 +732,7 @@ Beispiele:
         <translation>veilaway</translation>
     </message>
     <message>
-        <source>&amp;Take the haze away</source>
+        <source>&amp;Remove haze</source>
         <translation>&amp;Dunst entfernen</translation>
     </message>
     <message>
@@ -745,11 +754,11 @@ Beispiele:
 <context>
     <name>whyUnchanged</name>
     <message>
-        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <source>It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
         <translation>Das Foto kam unverändert zurück, da sich kein Dunst messen ließ: Eine Seite ist mehr als 100.000-mal so lang wie die andere, oder kein Pixel hat eine brauchbare Farbe. Schneiden Sie das Foto zu, oder berichtigen Sie seine Farben in einem Bildbearbeitungsprogramm.</translation>
     </message>
     <message>
-        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <source>It came back unchanged because the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and try again.</source>
         <translation>Das Foto kam unverändert zurück, da sich der Dunst nicht berechnen ließ: Einige Pixel haben unendliche oder undefinierte Werte, oder der Arbeitsspeicher reichte nicht. Berichtigen Sie diese Pixel in einem Bildbearbeitungsprogramm, oder schließen Sie andere Programme und versuchen Sie es noch einmal.</translation>
     </message>
 </context>

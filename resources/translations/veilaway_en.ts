@@ -4,6 +4,13 @@
 <context>
     <name>PhotoPage</name>
     <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>%1: This is the result of another photograph in the list.</numerusform>
+            <numerusform>%n results of other photographs in the list, such as &quot;%1&quot;.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>Reading %n photograph(s)...</source>
         <translation>
             <numerusform>Reading %n photograph...</numerusform>
@@ -28,20 +35,27 @@
 <context>
     <name>RunPage</name>
     <message numerus="yes">
-        <source>%n result(s) of an earlier run are there already.</source>
+        <source>%n result(s) of an earlier run already exist.</source>
         <translation>
-            <numerusform>%n result of an earlier run is there already.</numerusform>
-            <numerusform>%n results of an earlier run are there already.</numerusform>
+            <numerusform>%n result of an earlier run already exists.</numerusform>
+            <numerusform>%n results of an earlier run already exist.</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>ProgressView</name>
     <message numerus="yes">
-        <source>%n photograph(s) not begun.</source>
+        <source>%n photograph(s) done.</source>
         <translation>
-            <numerusform>%n photograph was not begun.</numerusform>
-            <numerusform>%n photographs were not begun.</numerusform>
+            <numerusform>%n photograph done.</numerusform>
+            <numerusform>%n photographs done.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) not started.</source>
+        <translation>
+            <numerusform>%n photograph was not started.</numerusform>
+            <numerusform>%n photographs were not started.</numerusform>
         </translation>
     </message>
 </context>

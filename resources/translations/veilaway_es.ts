@@ -8,7 +8,7 @@
         <translation>La foto no tiene extensión, así que el resultado será un TIFF.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
+        <source>&quot;%1&quot; is not a format that can be written, so the result is a TIFF.</source>
         <translation>El formato «%1» no se puede escribir, así que el resultado será un TIFF.</translation>
     </message>
     <message>
@@ -16,7 +16,7 @@
         <translation>Su resultado «%1» es a su vez una de las fotos indicadas. Omita una de las dos.</translation>
     </message>
     <message>
-        <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
+        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
         <translation>Esta foto es el resultado de «%1», que también se ha indicado. Omita una de las dos.</translation>
     </message>
     <message>
@@ -24,15 +24,15 @@
         <translation>Su resultado «%1» es el mismo archivo que la foto «%2». Mueva uno de los dos a otro lugar.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Su resultado «%1» sería también el de «%2». Cambie el nombre de una de las dos fotos.</translation>
     </message>
     <message>
-        <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
         <translation>En el lugar del resultado, «%1», hay una carpeta. Mueva la carpeta a otro lugar.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
+        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
         <translation>Su resultado «%1» ya existe. Indique --overwrite para reemplazarlo.</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
 <context>
     <name>BatchRunner</name>
     <message>
-        <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
+        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
         <translation>El resultado se ha guardado, pero no se han podido copiar en él los datos XMP de la foto: %1.</translation>
     </message>
     <message>
@@ -67,7 +67,7 @@
         <translation>Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
     </message>
     <message>
-        <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
+        <source>Make room in the folder &quot;%1&quot;, and check that you can write to it.</source>
         <translation>Libere espacio en la carpeta «%1» y compruebe que tiene permiso para escribir en ella.</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>El complemento ha escrito «%1» en lugar de «%2»</translation>
     </message>
     <message>
-        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
         <translation>La foto se modificó, se movió o se borró mientras se quitaba la bruma. Vuelva a ponerla en su sitio y empiece de nuevo.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
+        <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>La foto necesita unos %1 de memoria y hay %2 libres. Cierre otros programas o reduzca la foto.</translation>
     </message>
 </context>
@@ -97,27 +97,27 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <source>--strength must be a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
         <translation>--strength requiere un número entero de 0 a 100 o auto, no «%1».</translation>
     </message>
     <message>
-        <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <source>--jobs must be a whole number from 1 to %1, not &quot;%2&quot;.</source>
         <translation>--jobs espera un número entero de 1 a %1, no «%2».</translation>
     </message>
     <message>
-        <source>--language knows %1, but not &quot;%2&quot;.</source>
+        <source>--language must be one of %1, not &quot;%2&quot;.</source>
         <translation>--language conoce %1, pero no «%2».</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file, in UTF-8.</source>
+        <source>--settings must be the name of a file, in UTF-8.</source>
         <translation>--settings espera el nombre de un archivo, en UTF-8.</translation>
     </message>
     <message>
-        <source>--%1 is not for the wizard, which asks in its window.</source>
+        <source>--%1 can&apos;t be used with the wizard, which asks in its window.</source>
         <translation>--%1 no sirve para el asistente, que pregunta en su ventana.</translation>
     </message>
     <message>
-        <source>Name the photographs to take the haze from.</source>
+        <source>Name the photographs to remove haze from.</source>
         <translation>Indique las fotos de las que se debe quitar la bruma.</translation>
     </message>
     <message>
@@ -216,18 +216,18 @@ Ejemplos:
         <translation>Consulte veilaway --help.</translation>
     </message>
     <message>
-        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <source>--set-default must be a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
         <translation>--set-default requiere un número entero de 0 a 100, auto o none, no «%1».</translation>
     </message>
     <message>
-        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <source>--set-default only stores the default: leave out photographs and the options for them.</source>
         <translation>--set-default guarda el valor predeterminado y no hace nada más: omita las fotos y las opciones para ellas.</translation>
     </message>
 </context>
 <context>
     <name>DefaultStrength</name>
     <message>
-        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself permission to write there.</source>
         <translation>El valor predeterminado no se puede guardar en «%1». Libere espacio o concédase permiso para escribir ahí.</translation>
     </message>
 </context>
@@ -314,6 +314,13 @@ Ejemplos:
 </context>
 <context>
     <name>PhotoPage</name>
+    <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>%1: es el resultado de otra foto de la lista.</numerusform>
+            <numerusform>%n resultados de otras fotos de la lista, por ejemplo «%1».</numerusform>
+        </translation>
+    </message>
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Quitar</translation>
@@ -323,7 +330,7 @@ Ejemplos:
         <translation>Fotos</translation>
     </message>
     <message>
-        <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
+        <source>Choose the photographs to remove haze from, or drop them here. They are never changed: each result is saved beside its photograph.</source>
         <translation>Elija las fotos de las que se debe quitar la bruma o arrástrelas aquí. Las fotos no se modifican: cada resultado se guarda junto a su foto.</translation>
     </message>
     <message>
@@ -402,7 +409,7 @@ Ejemplos:
 <context>
     <name>PluginFile</name>
     <message>
-        <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
+        <source>The plug-in &quot;%1&quot; was not found. Build or install it, or give its location with --plugin FILE.</source>
         <translation>No se encuentra el complemento «%1». Compílelo o instálelo, o indique dónde está con --plugin ARCHIVO.</translation>
     </message>
     <message>
@@ -414,7 +421,7 @@ Ejemplos:
         <translation>es un complemento de otro tipo</translation>
     </message>
     <message>
-        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
+        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it again, or name another one with --plugin FILE.</source>
         <translation>No se puede usar el complemento «%1»: %2. Vuelva a instalarlo o indique otro con --plugin ARCHIVO.</translation>
     </message>
 </context>
@@ -428,9 +435,12 @@ Ejemplos:
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
     </message>
-    <message>
-        <source>%1 photographs done.</source>
-        <translation>%1 fotos procesadas.</translation>
+    <message numerus="yes">
+        <source>%n photograph(s) done.</source>
+        <translation>
+            <numerusform>%n foto procesada.</numerusform>
+            <numerusform>%n fotos procesadas.</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
@@ -441,7 +451,7 @@ Ejemplos:
         <translation>leyendo</translation>
     </message>
     <message>
-        <source>taking haze away</source>
+        <source>removing haze</source>
         <translation>quitando la bruma</translation>
     </message>
     <message>
@@ -452,16 +462,19 @@ Ejemplos:
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
     </message>
-    <message>
-        <source>%1 came back unchanged.</source>
-        <translation>Sin cambios: %1.</translation>
+    <message numerus="yes">
+        <source>%n came back unchanged.</source>
+        <translation>
+            <numerusform>Sin cambios: %n.</numerusform>
+            <numerusform>Sin cambios: %n.</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
         <translation>No se puede escribir en la salida estándar: %1. Libere espacio ahí o envíela a otro lugar.</translation>
     </message>
     <message numerus="yes">
-        <source>%n photograph(s) not begun.</source>
+        <source>%n photograph(s) not started.</source>
         <translation>
             <numerusform>No se ha empezado %n foto.</numerusform>
             <numerusform>No se han empezado %n fotos.</numerusform>
@@ -483,7 +496,7 @@ Ejemplos:
         <translation>&amp;Guardar la sesión...</translation>
     </message>
     <message>
-        <source>Keep the photographs and the strength of each in a settings file</source>
+        <source>Save the photographs and the strength of each in a settings file</source>
         <translation>Conservar las fotos y la potencia de cada una en un archivo de ajustes</translation>
     </message>
     <message>
@@ -497,10 +510,6 @@ Ejemplos:
     <message>
         <source>%1 of %2 photographs are done.</source>
         <translation>Fotos procesadas: %1 de %2.</translation>
-    </message>
-    <message>
-        <source>Stopped before it began.</source>
-        <translation>Detenido antes de empezar.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
@@ -522,23 +531,23 @@ Ejemplos:
         <translation>No se ha indicado --strength ni hay un valor predeterminado guardado: se usa %1.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
+        <source>The settings file &quot;%1&quot; names no photographs. Name some on the command line.</source>
         <translation>El archivo de ajustes «%1» no contiene ninguna foto. Indique alguna.</translation>
     </message>
     <message>
-        <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
+        <source>There is no settings file &quot;%1&quot;. Name photographs on the command line to create it.</source>
         <translation>El archivo de ajustes «%1» no existe. Indique fotos para crearlo.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: its folder is read-only or missing. Name a file in another folder.</source>
         <translation>El archivo de ajustes «%1» no se puede escribir ahí. Indique uno en otra carpeta.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
+        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
         <translation>El archivo de ajustes «%1» tiene el nombre de un resultado. Dele otro nombre.</translation>
     </message>
     <message>
-        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
         <translation>Deteniendo; se termina el archivo que se está guardando. Pulse Ctrl-C otra vez para salir de inmediato.</translation>
     </message>
     <message numerus="yes">
@@ -560,11 +569,11 @@ Ejemplos:
         <translation>&amp;Detener</translation>
     </message>
     <message>
-        <source>Taking the haze away</source>
+        <source>Removing haze</source>
         <translation>Quitando la bruma</translation>
     </message>
     <message>
-        <source>Each result is written beside its photograph.</source>
+        <source>Each result is saved beside its photograph.</source>
         <translation>Cada resultado se guarda junto a su foto.</translation>
     </message>
     <message>
@@ -592,7 +601,7 @@ Ejemplos:
         <translation>Estado</translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) of an earlier run are there already.</source>
+        <source>%n result(s) of an earlier run already exist.</source>
         <translation>
             <numerusform>Ya existe %n resultado de un proceso anterior.</numerusform>
             <numerusform>Ya existen %n resultados de un proceso anterior.</numerusform>
@@ -631,11 +640,11 @@ Ejemplos:
         <translation>Error</translation>
     </message>
     <message>
-        <source>Stopping. The photographs in hand end first.</source>
-        <translation>Deteniendo. Antes se terminan las fotos en curso.</translation>
+        <source>Stopping. A result that is being saved is finished first.</source>
+        <translation>Deteniendo. Antes se termina de guardar el resultado en curso.</translation>
     </message>
     <message>
-        <source>Its result was there already and has been kept.</source>
+        <source>Its result already existed and was kept.</source>
         <translation>Su resultado ya existía y se ha conservado.</translation>
     </message>
     <message>
@@ -650,7 +659,7 @@ Ejemplos:
 <context>
     <name>SetDefaultCommand</name>
     <message>
-        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <source>The stored default was removed. Without --strength, %1 per cent is used.</source>
         <translation>Ya no hay ningún valor predeterminado guardado; sin --strength es %1 por ciento.</translation>
     </message>
     <message>
@@ -689,7 +698,7 @@ Ejemplos:
         <translation>%1: una foto sin ruta</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; stands in it twice</source>
+        <source>%1: &quot;%2&quot; appears twice</source>
         <translation>%1: «%2» aparece dos veces</translation>
     </message>
     <message>
@@ -697,18 +706,18 @@ Ejemplos:
         <translation>%1: la foto necesita &lt;%2 %3=&quot;...&quot;/&gt; con un número entero de 0 a 100</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself permission to write there.</source>
         <translation>No se puede escribir el archivo de ajustes «%1»: %2. Libere espacio o asígnese permiso para escribir ahí.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name contains control characters. Rename the photograph.</source>
         <translation>El archivo de ajustes «%1» no puede incluir la foto «%2»: su nombre contiene caracteres de control. Cámbiele el nombre.</translation>
     </message>
 </context>
 <context>
     <name>TransposedRun</name>
     <message>
-        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <source>A temporary folder with a link to the photograph can&apos;t be created, neither beside it nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
         <translation>No se puede crear una carpeta temporal con un enlace a la foto, ni junto a ella ni en «%1». Libere espacio allí y compruebe que tiene permiso para escribir.</translation>
     </message>
     <message>
@@ -723,7 +732,7 @@ Ejemplos:
         <translation>veilaway</translation>
     </message>
     <message>
-        <source>&amp;Take the haze away</source>
+        <source>&amp;Remove haze</source>
         <translation>&amp;Quitar la bruma</translation>
     </message>
     <message>
@@ -745,11 +754,11 @@ Ejemplos:
 <context>
     <name>whyUnchanged</name>
     <message>
-        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <source>It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
         <translation>La foto ha quedado como estaba, pues no se pudo medir bruma alguna: un lado es más de 100 000 veces más largo que el otro, o ningún píxel tiene un color utilizable. Recorte la foto o corrija sus colores en un editor de imágenes.</translation>
     </message>
     <message>
-        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <source>It came back unchanged because the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and try again.</source>
         <translation>La foto ha quedado como estaba, pues no se pudo calcular la bruma: algunos píxeles tienen valores infinitos o indefinidos, o faltó memoria. Corrija esos píxeles en un editor de imágenes, o cierre otros programas y repita la operación.</translation>
     </message>
 </context>

@@ -8,7 +8,7 @@
         <translation>La photo n&apos;a pas d&apos;extension&#xa0;: le résultat sera un TIFF.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
+        <source>&quot;%1&quot; is not a format that can be written, so the result is a TIFF.</source>
         <translation>Le format «&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: le résultat sera un TIFF.</translation>
     </message>
     <message>
@@ -16,7 +16,7 @@
         <translation>Son résultat «&#xa0;%1&#xa0;» est lui-même l&apos;une des photos indiquées. Retirez l&apos;une des deux.</translation>
     </message>
     <message>
-        <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
+        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
         <translation>Cette photo est le résultat de «&#xa0;%1&#xa0;», également indiquée. Retirez l&apos;une des deux.</translation>
     </message>
     <message>
@@ -24,15 +24,15 @@
         <translation>Son résultat «&#xa0;%1&#xa0;» est le même fichier que la photo «&#xa0;%2&#xa0;». Déplacez l&apos;un des deux.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Son résultat «&#xa0;%1&#xa0;» serait aussi celui de «&#xa0;%2&#xa0;». Renommez l&apos;une des deux photos.</translation>
     </message>
     <message>
-        <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
         <translation>Un dossier se trouve à l&apos;emplacement du résultat, «&#xa0;%1&#xa0;». Déplacez ce dossier.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
+        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
         <translation>Son résultat «&#xa0;%1&#xa0;» existe déjà. Indiquez --overwrite pour le remplacer.</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
 <context>
     <name>BatchRunner</name>
     <message>
-        <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
+        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
         <translation>Le résultat est enregistré, mais les données XMP de la photo n&apos;ont pas pu y être copiées&#xa0;: %1.</translation>
     </message>
     <message>
@@ -67,7 +67,7 @@
         <translation>Fermez d&apos;autres programmes ou traitez les photos une par une (--jobs 1).</translation>
     </message>
     <message>
-        <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
+        <source>Make room in the folder &quot;%1&quot;, and check that you can write to it.</source>
         <translation>Libérez de la place dans le dossier «&#xa0;%1&#xa0;» et vérifiez que vous avez le droit d&apos;y écrire.</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>Le module a écrit «&#xa0;%1&#xa0;» au lieu de «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
-        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
         <translation>La photo a été modifiée, déplacée ou supprimée pendant que le voile était retiré. Remettez-la en place et recommencez.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
+        <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>La photo demande environ %1 de mémoire, et %2 sont libres. Fermez d&apos;autres programmes ou réduisez la photo.</translation>
     </message>
 </context>
@@ -97,27 +97,27 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <source>--strength must be a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
         <translation>--strength attend un nombre entier de 0 à 100 ou auto, pas «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <source>--jobs must be a whole number from 1 to %1, not &quot;%2&quot;.</source>
         <translation>--jobs attend un nombre entier de 1 à %1, et non «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
-        <source>--language knows %1, but not &quot;%2&quot;.</source>
+        <source>--language must be one of %1, not &quot;%2&quot;.</source>
         <translation>--language connaît %1, mais pas «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file, in UTF-8.</source>
+        <source>--settings must be the name of a file, in UTF-8.</source>
         <translation>--settings attend le nom d&apos;un fichier, en UTF-8.</translation>
     </message>
     <message>
-        <source>--%1 is not for the wizard, which asks in its window.</source>
+        <source>--%1 can&apos;t be used with the wizard, which asks in its window.</source>
         <translation>--%1 ne s&apos;applique pas à l&apos;assistant, qui pose la question dans sa fenêtre.</translation>
     </message>
     <message>
-        <source>Name the photographs to take the haze from.</source>
+        <source>Name the photographs to remove haze from.</source>
         <translation>Indiquez les photos dont il faut retirer le voile.</translation>
     </message>
     <message>
@@ -216,18 +216,18 @@ Exemples&#xa0;:
         <translation>Voir veilaway --help.</translation>
     </message>
     <message>
-        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <source>--set-default must be a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
         <translation>--set-default attend un nombre entier de 0 à 100, auto ou none, pas «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <source>--set-default only stores the default: leave out photographs and the options for them.</source>
         <translation>--set-default enregistre la valeur par défaut et ne fait rien d&apos;autre&#xa0;: omettez les photos et les options qui les concernent.</translation>
     </message>
 </context>
 <context>
     <name>DefaultStrength</name>
     <message>
-        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself permission to write there.</source>
         <translation>La valeur par défaut ne peut pas être enregistrée dans «&#xa0;%1&#xa0;». Libérez de la place, ou donnez-vous le droit d&apos;y écrire.</translation>
     </message>
 </context>
@@ -314,6 +314,13 @@ Exemples&#xa0;:
 </context>
 <context>
     <name>PhotoPage</name>
+    <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>%1&#xa0;: c&apos;est le résultat d&apos;une autre photo de la liste.</numerusform>
+            <numerusform>%n résultats d&apos;autres photos de la liste, par exemple «&#xa0;%1&#xa0;».</numerusform>
+        </translation>
+    </message>
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Retirer</translation>
@@ -323,7 +330,7 @@ Exemples&#xa0;:
         <translation>Photos</translation>
     </message>
     <message>
-        <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
+        <source>Choose the photographs to remove haze from, or drop them here. They are never changed: each result is saved beside its photograph.</source>
         <translation>Choisissez les photos dont il faut retirer le voile, ou déposez-les ici. Elles restent intactes&#xa0;: chaque résultat est enregistré à côté de sa photo.</translation>
     </message>
     <message>
@@ -402,7 +409,7 @@ Exemples&#xa0;:
 <context>
     <name>PluginFile</name>
     <message>
-        <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
+        <source>The plug-in &quot;%1&quot; was not found. Build or install it, or give its location with --plugin FILE.</source>
         <translation>Le module «&#xa0;%1&#xa0;» est introuvable. Compilez-le, installez-le, ou indiquez son emplacement avec --plugin FICHIER.</translation>
     </message>
     <message>
@@ -414,7 +421,7 @@ Exemples&#xa0;:
         <translation>c&apos;est un module d&apos;un autre type</translation>
     </message>
     <message>
-        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
+        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it again, or name another one with --plugin FILE.</source>
         <translation>Impossible d&apos;utiliser le module «&#xa0;%1&#xa0;»&#xa0;: %2. Réinstallez-le ou indiquez-en un autre avec --plugin FICHIER.</translation>
     </message>
 </context>
@@ -428,9 +435,12 @@ Exemples&#xa0;:
         <source>%1: %2 (%3)</source>
         <translation>%1&#xa0;: %2 (%3)</translation>
     </message>
-    <message>
-        <source>%1 photographs done.</source>
-        <translation>%1 photos traitées.</translation>
+    <message numerus="yes">
+        <source>%n photograph(s) done.</source>
+        <translation>
+            <numerusform>%n photo traitée.</numerusform>
+            <numerusform>%n photos traitées.</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
@@ -441,7 +451,7 @@ Exemples&#xa0;:
         <translation>lecture</translation>
     </message>
     <message>
-        <source>taking haze away</source>
+        <source>removing haze</source>
         <translation>retrait du voile</translation>
     </message>
     <message>
@@ -452,16 +462,19 @@ Exemples&#xa0;:
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
     </message>
-    <message>
-        <source>%1 came back unchanged.</source>
-        <translation>Inchangées : %1.</translation>
+    <message numerus="yes">
+        <source>%n came back unchanged.</source>
+        <translation>
+            <numerusform>Inchangée&#xa0;: %n.</numerusform>
+            <numerusform>Inchangées&#xa0;: %n.</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
         <translation>Impossible d&apos;écrire sur la sortie standard&#xa0;: %1. Libérez de la place, ou envoyez-la ailleurs.</translation>
     </message>
     <message numerus="yes">
-        <source>%n photograph(s) not begun.</source>
+        <source>%n photograph(s) not started.</source>
         <translation>
             <numerusform>%n photo n&apos;a pas été commencée.</numerusform>
             <numerusform>%n photos n&apos;ont pas été commencées.</numerusform>
@@ -483,7 +496,7 @@ Exemples&#xa0;:
         <translation>&amp;Enregistrer la session...</translation>
     </message>
     <message>
-        <source>Keep the photographs and the strength of each in a settings file</source>
+        <source>Save the photographs and the strength of each in a settings file</source>
         <translation>Conserver les photos et la puissance de chacune dans un fichier de réglages</translation>
     </message>
     <message>
@@ -497,10 +510,6 @@ Exemples&#xa0;:
     <message>
         <source>%1 of %2 photographs are done.</source>
         <translation>Photos traitées&#xa0;: %1 sur %2.</translation>
-    </message>
-    <message>
-        <source>Stopped before it began.</source>
-        <translation>Arrêté avant d&apos;avoir commencé.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
@@ -522,23 +531,23 @@ Exemples&#xa0;:
         <translation>--strength non indiqué et aucune valeur par défaut enregistrée&#xa0;: %1 est utilisé.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
+        <source>The settings file &quot;%1&quot; names no photographs. Name some on the command line.</source>
         <translation>Le fichier de réglages «&#xa0;%1&#xa0;» ne cite aucune photo. Indiquez-en.</translation>
     </message>
     <message>
-        <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
+        <source>There is no settings file &quot;%1&quot;. Name photographs on the command line to create it.</source>
         <translation>Le fichier de réglages «&#xa0;%1&#xa0;» n&apos;existe pas. Indiquez des photos pour le créer.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: its folder is read-only or missing. Name a file in another folder.</source>
         <translation>Impossible d&apos;écrire le fichier de réglages «&#xa0;%1&#xa0;» à cet endroit. Indiquez-en un dans un autre dossier.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
+        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
         <translation>Le fichier de réglages «&#xa0;%1&#xa0;» porte le nom d&apos;un résultat. Donnez-lui un autre nom.</translation>
     </message>
     <message>
-        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
         <translation>Arrêt en cours&#xa0;; le fichier en cours d&apos;enregistrement est terminé. Appuyez encore sur Ctrl-C pour quitter immédiatement.</translation>
     </message>
     <message numerus="yes">
@@ -560,11 +569,11 @@ Exemples&#xa0;:
         <translation>&amp;Arrêter</translation>
     </message>
     <message>
-        <source>Taking the haze away</source>
+        <source>Removing haze</source>
         <translation>Retrait du voile</translation>
     </message>
     <message>
-        <source>Each result is written beside its photograph.</source>
+        <source>Each result is saved beside its photograph.</source>
         <translation>Chaque résultat est enregistré à côté de sa photo.</translation>
     </message>
     <message>
@@ -592,7 +601,7 @@ Exemples&#xa0;:
         <translation>État</translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) of an earlier run are there already.</source>
+        <source>%n result(s) of an earlier run already exist.</source>
         <translation>
             <numerusform>%n résultat d&apos;un traitement précédent existe déjà.</numerusform>
             <numerusform>%n résultats d&apos;un traitement précédent existent déjà.</numerusform>
@@ -631,11 +640,11 @@ Exemples&#xa0;:
         <translation>Échec</translation>
     </message>
     <message>
-        <source>Stopping. The photographs in hand end first.</source>
-        <translation>Arrêt en cours. Le traitement des photos commencées se termine d&apos;abord.</translation>
+        <source>Stopping. A result that is being saved is finished first.</source>
+        <translation>Arrêt en cours. L&apos;enregistrement d&apos;un résultat déjà commencé se termine d&apos;abord.</translation>
     </message>
     <message>
-        <source>Its result was there already and has been kept.</source>
+        <source>Its result already existed and was kept.</source>
         <translation>Son résultat existait déjà et a été conservé.</translation>
     </message>
     <message>
@@ -650,7 +659,7 @@ Exemples&#xa0;:
 <context>
     <name>SetDefaultCommand</name>
     <message>
-        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <source>The stored default was removed. Without --strength, %1 per cent is used.</source>
         <translation>Plus aucune valeur par défaut n&apos;est enregistrée&#xa0;; sans --strength, c&apos;est %1 pour cent.</translation>
     </message>
     <message>
@@ -689,7 +698,7 @@ Exemples&#xa0;:
         <translation>%1&#xa0;: une photo sans chemin</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; stands in it twice</source>
+        <source>%1: &quot;%2&quot; appears twice</source>
         <translation>%1&#xa0;: «&#xa0;%2&#xa0;» y figure deux fois</translation>
     </message>
     <message>
@@ -697,18 +706,18 @@ Exemples&#xa0;:
         <translation>%1&#xa0;: la photo requiert &lt;%2 %3=&quot;...&quot;/&gt; avec un nombre entier de 0 à 100</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself permission to write there.</source>
         <translation>Impossible d&apos;écrire le fichier de réglages «&#xa0;%1&#xa0;»&#xa0;: %2. Libérez de la place ou accordez-vous le droit d&apos;écrire à cet endroit.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name contains control characters. Rename the photograph.</source>
         <translation>Le fichier de réglages «&#xa0;%1&#xa0;» ne peut pas contenir la photo «&#xa0;%2&#xa0;»&#xa0;: son nom contient des caractères de contrôle. Renommez-la.</translation>
     </message>
 </context>
 <context>
     <name>TransposedRun</name>
     <message>
-        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <source>A temporary folder with a link to the photograph can&apos;t be created, neither beside it nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
         <translation>Aucun dossier temporaire avec un lien vers la photo ne peut être créé, ni à côté d&apos;elle ni dans «&#xa0;%1&#xa0;». Libérez-y de la place et vérifiez que vous avez le droit d&apos;y écrire.</translation>
     </message>
     <message>
@@ -723,7 +732,7 @@ Exemples&#xa0;:
         <translation>veilaway</translation>
     </message>
     <message>
-        <source>&amp;Take the haze away</source>
+        <source>&amp;Remove haze</source>
         <translation>Retirer le &amp;voile</translation>
     </message>
     <message>
@@ -745,11 +754,11 @@ Exemples&#xa0;:
 <context>
     <name>whyUnchanged</name>
     <message>
-        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <source>It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
         <translation>La photo est revenue telle quelle, car aucun voile n&apos;a pu être mesuré : un côté est plus de 100 000 fois plus long que l&apos;autre, ou aucun pixel n&apos;a de couleur utilisable. Recadrez la photo, ou corrigez ses couleurs dans un éditeur d&apos;images.</translation>
     </message>
     <message>
-        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <source>It came back unchanged because the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and try again.</source>
         <translation>La photo est revenue telle quelle, car le voile n&apos;a pas pu être calculé : certains pixels ont des valeurs infinies ou indéfinies, ou la mémoire a manqué. Corrigez ces pixels dans un éditeur d&apos;images, ou fermez d&apos;autres programmes et recommencez.</translation>
     </message>
 </context>

@@ -8,7 +8,7 @@
         <translation>La foto non ha estensione, quindi il risultato sarà un TIFF.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
+        <source>&quot;%1&quot; is not a format that can be written, so the result is a TIFF.</source>
         <translation>Il formato &quot;%1&quot; non può essere scritto, quindi il risultato sarà un TIFF.</translation>
     </message>
     <message>
@@ -16,7 +16,7 @@
         <translation>Il suo risultato &quot;%1&quot; è a sua volta una delle foto indicate. Omettere una delle due.</translation>
     </message>
     <message>
-        <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
+        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
         <translation>Questa foto è il risultato di &quot;%1&quot;, anch&apos;essa indicata. Omettere una delle due.</translation>
     </message>
     <message>
@@ -24,15 +24,15 @@
         <translation>Il suo risultato &quot;%1&quot; è lo stesso file della foto &quot;%2&quot;. Spostare altrove uno dei due.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Il suo risultato &quot;%1&quot; sarebbe anche quello di &quot;%2&quot;. Rinominare una delle due foto.</translation>
     </message>
     <message>
-        <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
         <translation>Al posto del risultato, &quot;%1&quot;, c&apos;è una cartella. Spostare altrove la cartella.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
+        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
         <translation>Il suo risultato &quot;%1&quot; esiste già. Indicare --overwrite per sostituirlo.</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
 <context>
     <name>BatchRunner</name>
     <message>
-        <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
+        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
         <translation>Il risultato è stato salvato, ma non è stato possibile copiarvi i dati XMP della foto: %1.</translation>
     </message>
     <message>
@@ -67,7 +67,7 @@
         <translation>Chiudere altri programmi o elaborare una foto alla volta (--jobs 1).</translation>
     </message>
     <message>
-        <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
+        <source>Make room in the folder &quot;%1&quot;, and check that you can write to it.</source>
         <translation>Liberare spazio nella cartella &quot;%1&quot; e verificare di avere il permesso di scrivervi.</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>Il plugin ha scritto &quot;%1&quot; invece di &quot;%2&quot;</translation>
     </message>
     <message>
-        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
         <translation>La foto è stata modificata, spostata o cancellata mentre si toglieva la foschia. Rimettetela al suo posto e ricominciate.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
+        <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>La foto richiede circa %1 di memoria e ne sono liberi %2. Chiudere altri programmi o ridurre la foto.</translation>
     </message>
 </context>
@@ -97,27 +97,27 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <source>--strength must be a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
         <translation>--strength richiede un numero intero da 0 a 100 oppure auto, non &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <source>--jobs must be a whole number from 1 to %1, not &quot;%2&quot;.</source>
         <translation>--jobs richiede un numero intero da 1 a %1, non &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>--language knows %1, but not &quot;%2&quot;.</source>
+        <source>--language must be one of %1, not &quot;%2&quot;.</source>
         <translation>--language riconosce %1, ma non &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file, in UTF-8.</source>
+        <source>--settings must be the name of a file, in UTF-8.</source>
         <translation>--settings richiede il nome di un file, in UTF-8.</translation>
     </message>
     <message>
-        <source>--%1 is not for the wizard, which asks in its window.</source>
+        <source>--%1 can&apos;t be used with the wizard, which asks in its window.</source>
         <translation>--%1 non vale per la procedura guidata, che chiede nella sua finestra.</translation>
     </message>
     <message>
-        <source>Name the photographs to take the haze from.</source>
+        <source>Name the photographs to remove haze from.</source>
         <translation>Indicare le foto da cui rimuovere la foschia.</translation>
     </message>
     <message>
@@ -216,18 +216,18 @@ Esempi:
         <translation>Vedere veilaway --help.</translation>
     </message>
     <message>
-        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <source>--set-default must be a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
         <translation>--set-default richiede un numero intero da 0 a 100, auto o none, non &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <source>--set-default only stores the default: leave out photographs and the options for them.</source>
         <translation>--set-default salva il valore predefinito e non fa altro: omettere le foto e le opzioni per esse.</translation>
     </message>
 </context>
 <context>
     <name>DefaultStrength</name>
     <message>
-        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself permission to write there.</source>
         <translation>Il valore predefinito non può essere salvato in &quot;%1&quot;. Liberare spazio o concedersi il permesso di scrivere lì.</translation>
     </message>
 </context>
@@ -314,6 +314,13 @@ Esempi:
 </context>
 <context>
     <name>PhotoPage</name>
+    <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>%1: è il risultato di un&apos;altra foto dell&apos;elenco.</numerusform>
+            <numerusform>%n risultati di altre foto dell&apos;elenco, per esempio &quot;%1&quot;.</numerusform>
+        </translation>
+    </message>
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Rimuovi</translation>
@@ -323,7 +330,7 @@ Esempi:
         <translation>Foto</translation>
     </message>
     <message>
-        <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
+        <source>Choose the photographs to remove haze from, or drop them here. They are never changed: each result is saved beside its photograph.</source>
         <translation>Scegliere le foto da cui rimuovere la foschia o trascinarle qui. Le foto restano intatte: ogni risultato viene salvato accanto alla propria foto.</translation>
     </message>
     <message>
@@ -402,7 +409,7 @@ Esempi:
 <context>
     <name>PluginFile</name>
     <message>
-        <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
+        <source>The plug-in &quot;%1&quot; was not found. Build or install it, or give its location with --plugin FILE.</source>
         <translation>Il plugin &quot;%1&quot; non è presente. Compilarlo o installarlo, oppure indicare con --plugin FILE dove si trova.</translation>
     </message>
     <message>
@@ -414,7 +421,7 @@ Esempi:
         <translation>è un plugin di un altro tipo</translation>
     </message>
     <message>
-        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
+        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it again, or name another one with --plugin FILE.</source>
         <translation>Impossibile usare il plugin &quot;%1&quot;: %2. Reinstallarlo o indicarne un altro con --plugin FILE.</translation>
     </message>
 </context>
@@ -428,9 +435,12 @@ Esempi:
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
     </message>
-    <message>
-        <source>%1 photographs done.</source>
-        <translation>%1 foto elaborate.</translation>
+    <message numerus="yes">
+        <source>%n photograph(s) done.</source>
+        <translation>
+            <numerusform>%n foto elaborata.</numerusform>
+            <numerusform>%n foto elaborate.</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
@@ -441,7 +451,7 @@ Esempi:
         <translation>lettura</translation>
     </message>
     <message>
-        <source>taking haze away</source>
+        <source>removing haze</source>
         <translation>rimozione della foschia</translation>
     </message>
     <message>
@@ -452,16 +462,19 @@ Esempi:
         <source>%1 of %2</source>
         <translation>%1 di %2</translation>
     </message>
-    <message>
-        <source>%1 came back unchanged.</source>
-        <translation>Rimaste invariate: %1.</translation>
+    <message numerus="yes">
+        <source>%n came back unchanged.</source>
+        <translation>
+            <numerusform>Rimasta invariata: %n.</numerusform>
+            <numerusform>Rimaste invariate: %n.</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
         <translation>Impossibile scrivere sullo standard output: %1. Liberare spazio, o inviarlo altrove.</translation>
     </message>
     <message numerus="yes">
-        <source>%n photograph(s) not begun.</source>
+        <source>%n photograph(s) not started.</source>
         <translation>
             <numerusform>%n foto non è stata iniziata.</numerusform>
             <numerusform>%n foto non sono state iniziate.</numerusform>
@@ -483,7 +496,7 @@ Esempi:
         <translation>&amp;Salva la sessione...</translation>
     </message>
     <message>
-        <source>Keep the photographs and the strength of each in a settings file</source>
+        <source>Save the photographs and the strength of each in a settings file</source>
         <translation>Conserva le foto e la potenza di ciascuna in un file di impostazioni</translation>
     </message>
     <message>
@@ -497,10 +510,6 @@ Esempi:
     <message>
         <source>%1 of %2 photographs are done.</source>
         <translation>Foto elaborate: %1 su %2.</translation>
-    </message>
-    <message>
-        <source>Stopped before it began.</source>
-        <translation>Interrotto prima di iniziare.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
@@ -522,23 +531,23 @@ Esempi:
         <translation>--strength non indicato e nessun valore predefinito salvato: si usa %1.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
+        <source>The settings file &quot;%1&quot; names no photographs. Name some on the command line.</source>
         <translation>Il file di impostazioni &quot;%1&quot; non elenca alcuna foto. Indicarne qualcuna.</translation>
     </message>
     <message>
-        <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
+        <source>There is no settings file &quot;%1&quot;. Name photographs on the command line to create it.</source>
         <translation>Il file di impostazioni &quot;%1&quot; non esiste. Indicare delle foto per crearlo.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: its folder is read-only or missing. Name a file in another folder.</source>
         <translation>Impossibile scrivere lì il file di impostazioni &quot;%1&quot;. Indicarne uno in un&apos;altra cartella.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
+        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
         <translation>Il file di impostazioni &quot;%1&quot; ha il nome di un risultato. Dargli un altro nome.</translation>
     </message>
     <message>
-        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
         <translation>Arresto in corso; si completa il file che si sta salvando. Premere di nuovo Ctrl-C per terminare subito.</translation>
     </message>
     <message numerus="yes">
@@ -560,11 +569,11 @@ Esempi:
         <translation>&amp;Interrompi</translation>
     </message>
     <message>
-        <source>Taking the haze away</source>
+        <source>Removing haze</source>
         <translation>Rimozione della foschia</translation>
     </message>
     <message>
-        <source>Each result is written beside its photograph.</source>
+        <source>Each result is saved beside its photograph.</source>
         <translation>Ogni risultato viene salvato accanto alla propria foto.</translation>
     </message>
     <message>
@@ -592,7 +601,7 @@ Esempi:
         <translation>Stato</translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) of an earlier run are there already.</source>
+        <source>%n result(s) of an earlier run already exist.</source>
         <translation>
             <numerusform>Esiste già %n risultato di un&apos;elaborazione precedente.</numerusform>
             <numerusform>Esistono già %n risultati di un&apos;elaborazione precedente.</numerusform>
@@ -631,11 +640,11 @@ Esempi:
         <translation>Non riuscito</translation>
     </message>
     <message>
-        <source>Stopping. The photographs in hand end first.</source>
-        <translation>Interruzione in corso. Prima si concludono le foto in lavorazione.</translation>
+        <source>Stopping. A result that is being saved is finished first.</source>
+        <translation>Interruzione in corso. Prima si conclude il salvataggio di un risultato già iniziato.</translation>
     </message>
     <message>
-        <source>Its result was there already and has been kept.</source>
+        <source>Its result already existed and was kept.</source>
         <translation>Il suo risultato esisteva già ed è stato mantenuto.</translation>
     </message>
     <message>
@@ -650,7 +659,7 @@ Esempi:
 <context>
     <name>SetDefaultCommand</name>
     <message>
-        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <source>The stored default was removed. Without --strength, %1 per cent is used.</source>
         <translation>Nessun valore predefinito è più salvato; senza --strength è %1 per cento.</translation>
     </message>
     <message>
@@ -689,7 +698,7 @@ Esempi:
         <translation>%1: una foto senza percorso</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; stands in it twice</source>
+        <source>%1: &quot;%2&quot; appears twice</source>
         <translation>%1: &quot;%2&quot; vi compare due volte</translation>
     </message>
     <message>
@@ -697,18 +706,18 @@ Esempi:
         <translation>%1: alla foto serve &lt;%2 %3=&quot;...&quot;/&gt; con un numero intero da 0 a 100</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself permission to write there.</source>
         <translation>Impossibile scrivere il file di impostazioni &quot;%1&quot;: %2. Liberare spazio o attribuirsi il permesso di scrivervi.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name contains control characters. Rename the photograph.</source>
         <translation>Il file delle impostazioni &quot;%1&quot; non può contenere la foto &quot;%2&quot;: il suo nome ha caratteri di controllo. Rinominatela.</translation>
     </message>
 </context>
 <context>
     <name>TransposedRun</name>
     <message>
-        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <source>A temporary folder with a link to the photograph can&apos;t be created, neither beside it nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
         <translation>Non è possibile creare una cartella temporanea con un collegamento alla foto, né accanto ad essa né in &quot;%1&quot;. Liberare spazio e verificare di avere il permesso di scrivervi.</translation>
     </message>
     <message>
@@ -723,7 +732,7 @@ Esempi:
         <translation>veilaway</translation>
     </message>
     <message>
-        <source>&amp;Take the haze away</source>
+        <source>&amp;Remove haze</source>
         <translation>&amp;Rimuovi la foschia</translation>
     </message>
     <message>
@@ -745,11 +754,11 @@ Esempi:
 <context>
     <name>whyUnchanged</name>
     <message>
-        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <source>It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
         <translation>La foto è rimasta com&apos;era, perché non è stato possibile misurare la foschia: un lato è oltre 100.000 volte più lungo dell&apos;altro, o nessun pixel ha un colore utilizzabile. Ritagliare la foto o correggerne i colori in un editor di immagini.</translation>
     </message>
     <message>
-        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <source>It came back unchanged because the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and try again.</source>
         <translation>La foto è rimasta com&apos;era, perché non è stato possibile calcolare la foschia: alcuni pixel hanno valori infiniti o non definiti, o la memoria non è bastata. Correggere quei pixel in un editor di immagini, oppure chiudere altri programmi e riprovare.</translation>
     </message>
 </context>

@@ -8,7 +8,7 @@
         <translation>拡張子がないため、結果は TIFF になります。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
+        <source>&quot;%1&quot; is not a format that can be written, so the result is a TIFF.</source>
         <translation>「%1」形式では書き込めないため、結果は TIFF になります。</translation>
     </message>
     <message>
@@ -16,7 +16,7 @@
         <translation>結果のファイル「%1」自体も、処理する写真に指定されています。どちらか一方を外してください。</translation>
     </message>
     <message>
-        <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
+        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
         <translation>同じく指定された「%1」の結果のファイルです。どちらか一方を外してください。</translation>
     </message>
     <message>
@@ -24,15 +24,15 @@
         <translation>結果のファイル「%1」は写真「%2」と同一のファイルです。どちらか一方を別の場所に移してください。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>結果のファイル「%1」は「%2」の結果と同じになります。どちらか一方の写真の名前を変えてください。</translation>
     </message>
     <message>
-        <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
         <translation>結果の書き込み先「%1」に同名のフォルダーがあります。フォルダーを別の場所に移してください。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
+        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
         <translation>結果のファイル「%1」はすでにあります。置き換えるには --overwrite を指定してください。</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
 <context>
     <name>BatchRunner</name>
     <message>
-        <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
+        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
         <translation>結果は書き込まれましたが、写真の XMP を結果にコピーできませんでした: %1。</translation>
     </message>
     <message>
@@ -67,7 +67,7 @@
         <translation>ほかのプログラムを終了するか、写真を 1 枚ずつ処理してください (--jobs 1)。</translation>
     </message>
     <message>
-        <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
+        <source>Make room in the folder &quot;%1&quot;, and check that you can write to it.</source>
         <translation>フォルダー「%1」に空き容量があり、書き込みが許可されていることを確認してください。</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>プラグインは「%2」ではなく「%1」に書き込みました。</translation>
     </message>
     <message>
-        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
         <translation>かすみを取り除いている間に写真が変更、移動、または削除されました。元に戻してからやり直してください。</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
+        <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>この写真には約 %1 のメモリが必要ですが、空きは %2 です。ほかのプログラムを終了するか、写真を縮小してください。</translation>
     </message>
 </context>
@@ -97,27 +97,27 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <source>--strength must be a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
         <translation>--strength には 0 から 100 までの整数または auto を指定してください（「%1」は使えません）。</translation>
     </message>
     <message>
-        <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <source>--jobs must be a whole number from 1 to %1, not &quot;%2&quot;.</source>
         <translation>--jobs には 1 から %1 までの整数を指定してください。「%2」は使えません。</translation>
     </message>
     <message>
-        <source>--language knows %1, but not &quot;%2&quot;.</source>
+        <source>--language must be one of %1, not &quot;%2&quot;.</source>
         <translation>--language に指定できるのは %1 です。「%2」は使えません。</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file, in UTF-8.</source>
+        <source>--settings must be the name of a file, in UTF-8.</source>
         <translation>--settings には UTF-8 のファイル名を指定してください。</translation>
     </message>
     <message>
-        <source>--%1 is not for the wizard, which asks in its window.</source>
+        <source>--%1 can&apos;t be used with the wizard, which asks in its window.</source>
         <translation>--%1 はウィザードでは使えません。ウィンドウの中で指定します。</translation>
     </message>
     <message>
-        <source>Name the photographs to take the haze from.</source>
+        <source>Name the photographs to remove haze from.</source>
         <translation>ヘイズを除去する写真を指定してください。</translation>
     </message>
     <message>
@@ -216,18 +216,18 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>veilaway --help をご覧ください。</translation>
     </message>
     <message>
-        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <source>--set-default must be a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
         <translation>--set-default には 0 から 100 までの整数、auto、none のいずれかを指定してください（「%1」は使えません）。</translation>
     </message>
     <message>
-        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <source>--set-default only stores the default: leave out photographs and the options for them.</source>
         <translation>--set-default は既定値を保存するだけです。写真と、写真のためのオプションは指定しないでください。</translation>
     </message>
 </context>
 <context>
     <name>DefaultStrength</name>
     <message>
-        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself permission to write there.</source>
         <translation>既定値を「%1」に保存できません。空き容量を増やすか、書き込みの権限を付けてください。</translation>
     </message>
 </context>
@@ -314,6 +314,12 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
 </context>
 <context>
     <name>PhotoPage</name>
+    <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>リスト内のほかの写真の結果である %n 個のファイル（「%1」など）</numerusform>
+        </translation>
+    </message>
     <message>
         <source>&amp;Remove</source>
         <translation>リストから外す(&amp;R)</translation>
@@ -323,7 +329,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>写真</translation>
     </message>
     <message>
-        <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
+        <source>Choose the photographs to remove haze from, or drop them here. They are never changed: each result is saved beside its photograph.</source>
         <translation>ヘイズを除去する写真を選ぶか、ここにドロップしてください。元の写真は変更されません。結果はそれぞれの写真と同じフォルダーに書き込まれます。</translation>
     </message>
     <message>
@@ -399,7 +405,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
 <context>
     <name>PluginFile</name>
     <message>
-        <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
+        <source>The plug-in &quot;%1&quot; was not found. Build or install it, or give its location with --plugin FILE.</source>
         <translation>プラグイン「%1」が見つかりません。ビルドまたはインストールするか、--plugin FILE で場所を指定してください。</translation>
     </message>
     <message>
@@ -411,7 +417,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>種類の異なるプラグインです</translation>
     </message>
     <message>
-        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
+        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it again, or name another one with --plugin FILE.</source>
         <translation>プラグイン「%1」を使えません: %2。インストールし直すか、--plugin FILE で別のプラグインを指定してください。</translation>
     </message>
 </context>
@@ -425,9 +431,11 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
     </message>
-    <message>
-        <source>%1 photographs done.</source>
-        <translation>%1 枚の写真を処理しました。</translation>
+    <message numerus="yes">
+        <source>%n photograph(s) done.</source>
+        <translation>
+            <numerusform>%n 枚の写真を処理しました。</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
@@ -438,7 +446,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>読み込み中</translation>
     </message>
     <message>
-        <source>taking haze away</source>
+        <source>removing haze</source>
         <translation>ヘイズを除去中</translation>
     </message>
     <message>
@@ -449,16 +457,18 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
     </message>
-    <message>
-        <source>%1 came back unchanged.</source>
-        <translation>%1 枚は元のままです。</translation>
+    <message numerus="yes">
+        <source>%n came back unchanged.</source>
+        <translation>
+            <numerusform>%n 枚は元のままです。</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
         <translation>標準出力に書き込めません: %1。空き容量を確保するか、別の出力先を指定してください。</translation>
     </message>
     <message numerus="yes">
-        <source>%n photograph(s) not begun.</source>
+        <source>%n photograph(s) not started.</source>
         <translation>
             <numerusform>%n 枚の写真は処理を始めていません。</numerusform>
         </translation>
@@ -479,7 +489,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>セッションを保存(&amp;S)...</translation>
     </message>
     <message>
-        <source>Keep the photographs and the strength of each in a settings file</source>
+        <source>Save the photographs and the strength of each in a settings file</source>
         <translation>写真とそれぞれの強さを設定ファイルに保存します</translation>
     </message>
     <message>
@@ -493,10 +503,6 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
     <message>
         <source>%1 of %2 photographs are done.</source>
         <translation>%2 枚の写真のうち %1 枚を処理しました。</translation>
-    </message>
-    <message>
-        <source>Stopped before it began.</source>
-        <translation>開始前に中止されました。</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
@@ -518,23 +524,23 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>--strength が指定されておらず、既定値も保存されていないため、%1 を使います。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
+        <source>The settings file &quot;%1&quot; names no photographs. Name some on the command line.</source>
         <translation>設定ファイル「%1」に写真がありません。写真を指定してください。</translation>
     </message>
     <message>
-        <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
+        <source>There is no settings file &quot;%1&quot;. Name photographs on the command line to create it.</source>
         <translation>設定ファイル「%1」はありません。新しく作るには写真を指定してください。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: its folder is read-only or missing. Name a file in another folder.</source>
         <translation>その場所には設定ファイル「%1」を書き込めません。別のフォルダーのファイルを指定してください。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
+        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
         <translation>設定ファイル「%1」の名前が結果のファイルと同じです。別の名前にしてください。</translation>
     </message>
     <message>
-        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
         <translation>停止しています。保存中のファイルを書き終えます。すぐに終了するには、もう一度 Ctrl-C を押してください。</translation>
     </message>
     <message numerus="yes">
@@ -555,11 +561,11 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>中止(&amp;S)</translation>
     </message>
     <message>
-        <source>Taking the haze away</source>
+        <source>Removing haze</source>
         <translation>ヘイズを除去中</translation>
     </message>
     <message>
-        <source>Each result is written beside its photograph.</source>
+        <source>Each result is saved beside its photograph.</source>
         <translation>結果はそれぞれの写真と同じフォルダーに書き込まれます。</translation>
     </message>
     <message>
@@ -587,7 +593,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>状態</translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) of an earlier run are there already.</source>
+        <source>%n result(s) of an earlier run already exist.</source>
         <translation>
             <numerusform>以前の処理結果がすでに %n 件あります。</numerusform>
         </translation>
@@ -625,11 +631,11 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>失敗</translation>
     </message>
     <message>
-        <source>Stopping. The photographs in hand end first.</source>
-        <translation>中止しています。処理中の写真が終わるまでお待ちください。</translation>
+        <source>Stopping. A result that is being saved is finished first.</source>
+        <translation>中止しています。保存中の結果は最後まで保存されます。</translation>
     </message>
     <message>
-        <source>Its result was there already and has been kept.</source>
+        <source>Its result already existed and was kept.</source>
         <translation>結果がすでにあったため、そのまま残しました。</translation>
     </message>
     <message>
@@ -644,7 +650,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
 <context>
     <name>SetDefaultCommand</name>
     <message>
-        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <source>The stored default was removed. Without --strength, %1 per cent is used.</source>
         <translation>保存されている既定値はなくなりました。--strength を指定しない場合は %1 パーセントです。</translation>
     </message>
     <message>
@@ -683,7 +689,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>%1: パスのない写真があります</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; stands in it twice</source>
+        <source>%1: &quot;%2&quot; appears twice</source>
         <translation>%1: 「%2」が重複しています</translation>
     </message>
     <message>
@@ -691,18 +697,18 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>%1: 写真には &lt;%2 %3=&quot;...&quot;/&gt; と 0 から 100 までの整数が必要です</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself permission to write there.</source>
         <translation>設定ファイル「%1」を書き込めません: %2。空き容量を増やすか、書き込みの許可を設定してください。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name contains control characters. Rename the photograph.</source>
         <translation>設定ファイル「%1」に写真「%2」を記録できません。名前に制御文字が含まれています。名前を変更してください。</translation>
     </message>
 </context>
 <context>
     <name>TransposedRun</name>
     <message>
-        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <source>A temporary folder with a link to the photograph can&apos;t be created, neither beside it nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
         <translation>写真と同じ場所にも「%1」にも、写真へのリンクを含む一時フォルダーを作成できません。空き容量があり、書き込みが許可されていることを確認してください。</translation>
     </message>
     <message>
@@ -717,7 +723,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>veilaway</translation>
     </message>
     <message>
-        <source>&amp;Take the haze away</source>
+        <source>&amp;Remove haze</source>
         <translation>ヘイズを除去(&amp;T)</translation>
     </message>
     <message>
@@ -739,11 +745,11 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
 <context>
     <name>whyUnchanged</name>
     <message>
-        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <source>It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
         <translation>ヘイズを測定できなかったため、写真は元のままです。一辺が他辺の 100,000 倍を超えているか、使える色の画素がありません。写真を切り抜くか、画像編集ソフトで色を修正してください。</translation>
     </message>
     <message>
-        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <source>It came back unchanged because the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and try again.</source>
         <translation>ヘイズを計算できなかったため、写真は元のままです。無限大または未定義の値の画素があるか、メモリが不足しました。画像編集ソフトでその画素を修正するか、ほかのプログラムを終了してやり直してください。</translation>
     </message>
 </context>

@@ -8,7 +8,7 @@
         <translation>Zdjęcie nie ma rozszerzenia, więc wynik będzie plikiem TIFF.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
+        <source>&quot;%1&quot; is not a format that can be written, so the result is a TIFF.</source>
         <translation>Formatu „%1” nie można zapisać, więc wynik będzie plikiem TIFF.</translation>
     </message>
     <message>
@@ -16,7 +16,7 @@
         <translation>Wynik „%1” jest zarazem jednym z podanych zdjęć. Należy pominąć jedno z nich.</translation>
     </message>
     <message>
-        <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
+        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
         <translation>To zdjęcie jest wynikiem dla „%1”, które również podano. Należy pominąć jedno z nich.</translation>
     </message>
     <message>
@@ -24,15 +24,15 @@
         <translation>Wynik „%1” to ten sam plik co zdjęcie „%2”. Jeden z nich należy przenieść gdzie indziej.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Wynik „%1” byłby zarazem wynikiem dla „%2”. Należy zmienić nazwę jednego z tych zdjęć.</translation>
     </message>
     <message>
-        <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
         <translation>W miejscu wyniku, „%1”, znajduje się folder. Należy go przenieść gdzie indziej.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
+        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
         <translation>Wynik „%1” już istnieje. Aby go zastąpić, należy podać --overwrite.</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
 <context>
     <name>BatchRunner</name>
     <message>
-        <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
+        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
         <translation>Wynik został zapisany, ale nie udało się skopiować do niego danych XMP zdjęcia: %1.</translation>
     </message>
     <message>
@@ -67,7 +67,7 @@
         <translation>Należy zamknąć inne programy lub przetwarzać zdjęcia pojedynczo (--jobs 1).</translation>
     </message>
     <message>
-        <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
+        <source>Make room in the folder &quot;%1&quot;, and check that you can write to it.</source>
         <translation>Należy zwolnić miejsce w folderze „%1” i sprawdzić, czy można w nim zapisywać.</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>Wtyczka zapisała „%1” zamiast „%2”</translation>
     </message>
     <message>
-        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
         <translation>Zdjęcie zostało zmienione, przeniesione lub usunięte podczas usuwania mgły. Przywróć je i zacznij od nowa.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
+        <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>Zdjęcie wymaga około %1 pamięci, a wolne jest %2. Należy zamknąć inne programy lub zmniejszyć zdjęcie.</translation>
     </message>
 </context>
@@ -97,27 +97,27 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <source>--strength must be a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
         <translation>--strength wymaga liczby całkowitej od 0 do 100 albo auto, a nie „%1”.</translation>
     </message>
     <message>
-        <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <source>--jobs must be a whole number from 1 to %1, not &quot;%2&quot;.</source>
         <translation>--jobs wymaga liczby całkowitej od 1 do %1, a nie „%2”.</translation>
     </message>
     <message>
-        <source>--language knows %1, but not &quot;%2&quot;.</source>
+        <source>--language must be one of %1, not &quot;%2&quot;.</source>
         <translation>--language zna wartości %1, ale nie „%2”.</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file, in UTF-8.</source>
+        <source>--settings must be the name of a file, in UTF-8.</source>
         <translation>--settings wymaga nazwy pliku w UTF-8.</translation>
     </message>
     <message>
-        <source>--%1 is not for the wizard, which asks in its window.</source>
+        <source>--%1 can&apos;t be used with the wizard, which asks in its window.</source>
         <translation>--%1 nie dotyczy kreatora, który pyta o to w swoim oknie.</translation>
     </message>
     <message>
-        <source>Name the photographs to take the haze from.</source>
+        <source>Name the photographs to remove haze from.</source>
         <translation>Należy podać zdjęcia, z których ma zostać usunięte zamglenie.</translation>
     </message>
     <message>
@@ -216,18 +216,18 @@ Przykłady:
         <translation>Zobacz veilaway --help.</translation>
     </message>
     <message>
-        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <source>--set-default must be a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
         <translation>--set-default wymaga liczby całkowitej od 0 do 100, auto albo none, a nie „%1”.</translation>
     </message>
     <message>
-        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <source>--set-default only stores the default: leave out photographs and the options for them.</source>
         <translation>--set-default zapisuje wartość domyślną i nie robi nic więcej: pomiń zdjęcia i opcje dla nich.</translation>
     </message>
 </context>
 <context>
     <name>DefaultStrength</name>
     <message>
-        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself permission to write there.</source>
         <translation>Nie można zapisać wartości domyślnej w „%1”. Zwolnij miejsce albo nadaj sobie uprawnienie do zapisu w tym miejscu.</translation>
     </message>
 </context>
@@ -314,6 +314,14 @@ Przykłady:
 </context>
 <context>
     <name>PhotoPage</name>
+    <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>%1: to wynik innego zdjęcia z listy.</numerusform>
+            <numerusform>%n wyniki innych zdjęć z listy, na przykład „%1”.</numerusform>
+            <numerusform>%n wyników innych zdjęć z listy, na przykład „%1”.</numerusform>
+        </translation>
+    </message>
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Usuń</translation>
@@ -323,7 +331,7 @@ Przykłady:
         <translation>Zdjęcia</translation>
     </message>
     <message>
-        <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
+        <source>Choose the photographs to remove haze from, or drop them here. They are never changed: each result is saved beside its photograph.</source>
         <translation>Należy wybrać zdjęcia, z których ma zostać usunięte zamglenie, lub upuścić je tutaj. Same zdjęcia się nie zmieniają: każdy wynik jest zapisywany obok swojego zdjęcia.</translation>
     </message>
     <message>
@@ -405,7 +413,7 @@ Przykłady:
 <context>
     <name>PluginFile</name>
     <message>
-        <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
+        <source>The plug-in &quot;%1&quot; was not found. Build or install it, or give its location with --plugin FILE.</source>
         <translation>Brak wtyczki „%1”. Należy ją zbudować lub zainstalować albo wskazać jej położenie za pomocą --plugin PLIK.</translation>
     </message>
     <message>
@@ -417,7 +425,7 @@ Przykłady:
         <translation>to wtyczka innego rodzaju</translation>
     </message>
     <message>
-        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
+        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it again, or name another one with --plugin FILE.</source>
         <translation>Nie można użyć wtyczki „%1”: %2. Należy zainstalować ją ponownie lub wskazać inną za pomocą --plugin PLIK.</translation>
     </message>
 </context>
@@ -431,9 +439,13 @@ Przykłady:
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
     </message>
-    <message>
-        <source>%1 photographs done.</source>
-        <translation>Gotowe zdjęcia: %1.</translation>
+    <message numerus="yes">
+        <source>%n photograph(s) done.</source>
+        <translation>
+            <numerusform>Gotowe zdjęcia: %n.</numerusform>
+            <numerusform>Gotowe zdjęcia: %n.</numerusform>
+            <numerusform>Gotowe zdjęcia: %n.</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
@@ -444,7 +456,7 @@ Przykłady:
         <translation>wczytywanie</translation>
     </message>
     <message>
-        <source>taking haze away</source>
+        <source>removing haze</source>
         <translation>usuwanie zamglenia</translation>
     </message>
     <message>
@@ -455,16 +467,20 @@ Przykłady:
         <source>%1 of %2</source>
         <translation>%1 z %2</translation>
     </message>
-    <message>
-        <source>%1 came back unchanged.</source>
-        <translation>Bez zmian: %1.</translation>
+    <message numerus="yes">
+        <source>%n came back unchanged.</source>
+        <translation>
+            <numerusform>Bez zmian: %n.</numerusform>
+            <numerusform>Bez zmian: %n.</numerusform>
+            <numerusform>Bez zmian: %n.</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
         <translation>Nie można pisać na standardowe wyjście: %1. Należy zwolnić tam miejsce lub skierować je gdzie indziej.</translation>
     </message>
     <message numerus="yes">
-        <source>%n photograph(s) not begun.</source>
+        <source>%n photograph(s) not started.</source>
         <translation>
             <numerusform>Nie rozpoczęto %n zdjęcia.</numerusform>
             <numerusform>Nie rozpoczęto %n zdjęć.</numerusform>
@@ -487,7 +503,7 @@ Przykłady:
         <translation>Zapisz &amp;sesję...</translation>
     </message>
     <message>
-        <source>Keep the photographs and the strength of each in a settings file</source>
+        <source>Save the photographs and the strength of each in a settings file</source>
         <translation>Zapisuje zdjęcia i poziom dla każdego z nich w pliku ustawień</translation>
     </message>
     <message>
@@ -501,10 +517,6 @@ Przykłady:
     <message>
         <source>%1 of %2 photographs are done.</source>
         <translation>Gotowe zdjęcia: %1 z %2.</translation>
-    </message>
-    <message>
-        <source>Stopped before it began.</source>
-        <translation>Zatrzymano przed rozpoczęciem.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
@@ -526,23 +538,23 @@ Przykłady:
         <translation>Nie podano --strength i nie zapisano wartości domyślnej: używana jest wartość %1.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
+        <source>The settings file &quot;%1&quot; names no photographs. Name some on the command line.</source>
         <translation>Plik ustawień „%1” nie zawiera żadnych zdjęć. Należy podać zdjęcia.</translation>
     </message>
     <message>
-        <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
+        <source>There is no settings file &quot;%1&quot;. Name photographs on the command line to create it.</source>
         <translation>Nie ma pliku ustawień „%1”. Aby go utworzyć, należy podać zdjęcia.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: its folder is read-only or missing. Name a file in another folder.</source>
         <translation>Nie można tam zapisać pliku ustawień „%1”. Należy podać plik w innym folderze.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
+        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
         <translation>Plik ustawień „%1” ma nazwę jednego z wyników. Należy nadać mu inną nazwę.</translation>
     </message>
     <message>
-        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
         <translation>Zatrzymywanie; trwa kończenie zapisywanego pliku. Ponowne naciśnięcie Ctrl-C kończy natychmiast.</translation>
     </message>
     <message numerus="yes">
@@ -565,11 +577,11 @@ Przykłady:
         <translation>&amp;Zatrzymaj</translation>
     </message>
     <message>
-        <source>Taking the haze away</source>
+        <source>Removing haze</source>
         <translation>Usuwanie zamglenia</translation>
     </message>
     <message>
-        <source>Each result is written beside its photograph.</source>
+        <source>Each result is saved beside its photograph.</source>
         <translation>Każdy wynik jest zapisywany obok swojego zdjęcia.</translation>
     </message>
     <message>
@@ -597,7 +609,7 @@ Przykłady:
         <translation>Stan</translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) of an earlier run are there already.</source>
+        <source>%n result(s) of an earlier run already exist.</source>
         <translation>
             <numerusform>Istnieje już %n wynik wcześniejszego przetwarzania.</numerusform>
             <numerusform>Istnieją już %n wyniki wcześniejszego przetwarzania.</numerusform>
@@ -637,11 +649,11 @@ Przykłady:
         <translation>Niepowodzenie</translation>
     </message>
     <message>
-        <source>Stopping. The photographs in hand end first.</source>
-        <translation>Zatrzymywanie. Najpierw dokończone zostaną zdjęcia w trakcie przetwarzania.</translation>
+        <source>Stopping. A result that is being saved is finished first.</source>
+        <translation>Zatrzymywanie. Najpierw zostanie dokończony zapis wyniku, który jest już zapisywany.</translation>
     </message>
     <message>
-        <source>Its result was there already and has been kept.</source>
+        <source>Its result already existed and was kept.</source>
         <translation>Wynik już istniał i został zachowany.</translation>
     </message>
     <message>
@@ -656,7 +668,7 @@ Przykłady:
 <context>
     <name>SetDefaultCommand</name>
     <message>
-        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <source>The stored default was removed. Without --strength, %1 per cent is used.</source>
         <translation>Nie ma już zapisanej wartości domyślnej; bez --strength jest to %1 procent.</translation>
     </message>
     <message>
@@ -695,7 +707,7 @@ Przykłady:
         <translation>%1: zdjęcie bez ścieżki</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; stands in it twice</source>
+        <source>%1: &quot;%2&quot; appears twice</source>
         <translation>%1: „%2” występuje w nim dwa razy</translation>
     </message>
     <message>
@@ -703,18 +715,18 @@ Przykłady:
         <translation>%1: zdjęcie wymaga &lt;%2 %3=&quot;...&quot;/&gt; z liczbą całkowitą od 0 do 100</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself permission to write there.</source>
         <translation>Nie można zapisać pliku ustawień „%1”: %2. Należy zwolnić miejsce lub nadać sobie prawo zapisu w tym folderze.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name contains control characters. Rename the photograph.</source>
         <translation>Plik ustawień „%1” nie może zawierać zdjęcia „%2”: jego nazwa zawiera znaki sterujące. Zmień nazwę.</translation>
     </message>
 </context>
 <context>
     <name>TransposedRun</name>
     <message>
-        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <source>A temporary folder with a link to the photograph can&apos;t be created, neither beside it nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
         <translation>Nie można utworzyć folderu tymczasowego z dowiązaniem do zdjęcia ani obok niego, ani w „%1”. Należy zwolnić tam miejsce i sprawdzić, czy można tam zapisywać.</translation>
     </message>
     <message>
@@ -729,7 +741,7 @@ Przykłady:
         <translation>veilaway</translation>
     </message>
     <message>
-        <source>&amp;Take the haze away</source>
+        <source>&amp;Remove haze</source>
         <translation>&amp;Usuń zamglenie</translation>
     </message>
     <message>
@@ -751,11 +763,11 @@ Przykłady:
 <context>
     <name>whyUnchanged</name>
     <message>
-        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <source>It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
         <translation>Zdjęcie pozostało bez zmian, ponieważ nie udało się zmierzyć zamglenia: jeden bok jest ponad 100 000 razy dłuższy od drugiego albo żaden piksel nie ma użytecznego koloru. Należy przyciąć zdjęcie lub poprawić jego kolory w edytorze obrazów.</translation>
     </message>
     <message>
-        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <source>It came back unchanged because the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and try again.</source>
         <translation>Zdjęcie pozostało bez zmian, ponieważ nie udało się obliczyć zamglenia: niektóre piksele mają wartości nieskończone lub nieokreślone albo zabrakło pamięci. Należy poprawić te piksele w edytorze obrazów albo zamknąć inne programy i spróbować ponownie.</translation>
     </message>
 </context>

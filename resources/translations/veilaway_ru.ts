@@ -8,7 +8,7 @@
         <translation>У файла нет расширения, поэтому результат сохраняется в TIFF.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
+        <source>&quot;%1&quot; is not a format that can be written, so the result is a TIFF.</source>
         <translation>Запись в формат «%1» не поддерживается, поэтому результат сохраняется в TIFF.</translation>
     </message>
     <message>
@@ -16,7 +16,7 @@
         <translation>Результат «%1» сам указан среди фотографий. Исключите один из двух файлов.</translation>
     </message>
     <message>
-        <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
+        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
         <translation>Это результат обработки «%1», который тоже указан. Исключите один из двух файлов.</translation>
     </message>
     <message>
@@ -24,15 +24,15 @@
         <translation>Результат «%1» — тот же файл, что и фотография «%2». Переместите один из них.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Результат «%1» совпал бы с результатом для «%2». Переименуйте одну из двух фотографий.</translation>
     </message>
     <message>
-        <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
         <translation>На месте результата «%1» находится папка. Переместите её.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
+        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
         <translation>Результат «%1» уже существует. Чтобы заменить его, укажите --overwrite.</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
 <context>
     <name>BatchRunner</name>
     <message>
-        <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
+        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
         <translation>Результат сохранён, но скопировать в него XMP фотографии не удалось: %1.</translation>
     </message>
     <message>
@@ -67,7 +67,7 @@
         <translation>Закройте другие программы или обрабатывайте фотографии по одной (--jobs 1).</translation>
     </message>
     <message>
-        <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
+        <source>Make room in the folder &quot;%1&quot;, and check that you can write to it.</source>
         <translation>Освободите место в папке «%1» и проверьте, разрешена ли вам запись в неё.</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>Модуль записал «%1» вместо «%2»</translation>
     </message>
     <message>
-        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
         <translation>Снимок был изменён, перемещён или удалён, пока убиралась дымка. Верните его на место и начните заново.</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
+        <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>Для фотографии нужно около %1 памяти, а свободно %2. Закройте другие программы или уменьшите фотографию.</translation>
     </message>
 </context>
@@ -97,27 +97,27 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <source>--strength must be a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
         <translation>Для --strength нужно целое число от 0 до 100 или auto, а не «%1».</translation>
     </message>
     <message>
-        <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <source>--jobs must be a whole number from 1 to %1, not &quot;%2&quot;.</source>
         <translation>Для --jobs нужно целое число от 1 до %1, а не «%2».</translation>
     </message>
     <message>
-        <source>--language knows %1, but not &quot;%2&quot;.</source>
+        <source>--language must be one of %1, not &quot;%2&quot;.</source>
         <translation>Для --language допустимы значения %1, но не «%2».</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file, in UTF-8.</source>
+        <source>--settings must be the name of a file, in UTF-8.</source>
         <translation>Для --settings нужно имя файла в UTF-8.</translation>
     </message>
     <message>
-        <source>--%1 is not for the wizard, which asks in its window.</source>
+        <source>--%1 can&apos;t be used with the wizard, which asks in its window.</source>
         <translation>Параметр --%1 не для мастера: там это задаётся в окне.</translation>
     </message>
     <message>
-        <source>Name the photographs to take the haze from.</source>
+        <source>Name the photographs to remove haze from.</source>
         <translation>Укажите фотографии, с которых нужно убрать дымку.</translation>
     </message>
     <message>
@@ -216,18 +216,18 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>См. veilaway --help.</translation>
     </message>
     <message>
-        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <source>--set-default must be a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
         <translation>Для --set-default нужно целое число от 0 до 100, auto или none, а не «%1».</translation>
     </message>
     <message>
-        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <source>--set-default only stores the default: leave out photographs and the options for them.</source>
         <translation>--set-default сохраняет значение по умолчанию и больше ничего не делает: уберите фотографии и параметры для них.</translation>
     </message>
 </context>
 <context>
     <name>DefaultStrength</name>
     <message>
-        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself permission to write there.</source>
         <translation>Значение по умолчанию не удаётся сохранить в «%1». Освободите место или дайте себе право записи туда.</translation>
     </message>
 </context>
@@ -314,6 +314,14 @@ Ctrl-C завершает работу сигналом (130 в оболочке
 </context>
 <context>
     <name>PhotoPage</name>
+    <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>%n файл — результат другой фотографии из списка, например «%1».</numerusform>
+            <numerusform>%n файла — результаты других фотографий из списка, например «%1».</numerusform>
+            <numerusform>%n файлов — результаты других фотографий из списка, например «%1».</numerusform>
+        </translation>
+    </message>
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Убрать</translation>
@@ -323,7 +331,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Фотографии</translation>
     </message>
     <message>
-        <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
+        <source>Choose the photographs to remove haze from, or drop them here. They are never changed: each result is saved beside its photograph.</source>
         <translation>Выберите фотографии, с которых нужно убрать дымку, или перетащите их сюда. Сами они не изменятся: каждый результат записывается рядом со своей фотографией.</translation>
     </message>
     <message>
@@ -405,7 +413,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
 <context>
     <name>PluginFile</name>
     <message>
-        <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
+        <source>The plug-in &quot;%1&quot; was not found. Build or install it, or give its location with --plugin FILE.</source>
         <translation>Модуль «%1» не найден. Соберите или установите его либо укажите его расположение с помощью --plugin FILE.</translation>
     </message>
     <message>
@@ -417,7 +425,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>это модуль другого типа</translation>
     </message>
     <message>
-        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
+        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it again, or name another one with --plugin FILE.</source>
         <translation>Модуль «%1» нельзя использовать: %2. Установите его заново или укажите другой с помощью --plugin FILE.</translation>
     </message>
 </context>
@@ -431,9 +439,13 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
     </message>
-    <message>
-        <source>%1 photographs done.</source>
-        <translation>Обработано фотографий: %1.</translation>
+    <message numerus="yes">
+        <source>%n photograph(s) done.</source>
+        <translation>
+            <numerusform>Обработано фотографий: %n.</numerusform>
+            <numerusform>Обработано фотографий: %n.</numerusform>
+            <numerusform>Обработано фотографий: %n.</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
@@ -444,7 +456,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>чтение</translation>
     </message>
     <message>
-        <source>taking haze away</source>
+        <source>removing haze</source>
         <translation>удаление дымки</translation>
     </message>
     <message>
@@ -455,16 +467,20 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <source>%1 of %2</source>
         <translation>%1 из %2</translation>
     </message>
-    <message>
-        <source>%1 came back unchanged.</source>
-        <translation>Осталось без изменений: %1.</translation>
+    <message numerus="yes">
+        <source>%n came back unchanged.</source>
+        <translation>
+            <numerusform>Осталось без изменений: %n.</numerusform>
+            <numerusform>Осталось без изменений: %n.</numerusform>
+            <numerusform>Осталось без изменений: %n.</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
         <translation>Не удаётся записать в стандартный поток вывода: %1. Освободите место или направьте его в другое место.</translation>
     </message>
     <message numerus="yes">
-        <source>%n photograph(s) not begun.</source>
+        <source>%n photograph(s) not started.</source>
         <translation>
             <numerusform>Не начата %n фотография.</numerusform>
             <numerusform>Не начаты %n фотографии.</numerusform>
@@ -487,7 +503,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>&amp;Сохранить сеанс...</translation>
     </message>
     <message>
-        <source>Keep the photographs and the strength of each in a settings file</source>
+        <source>Save the photographs and the strength of each in a settings file</source>
         <translation>Сохранить фотографии и интенсивность для каждой из них в файле настроек</translation>
     </message>
     <message>
@@ -501,10 +517,6 @@ Ctrl-C завершает работу сигналом (130 в оболочке
     <message>
         <source>%1 of %2 photographs are done.</source>
         <translation>Обработано фотографий: %1 из %2.</translation>
-    </message>
-    <message>
-        <source>Stopped before it began.</source>
-        <translation>Остановлено до начала обработки.</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
@@ -526,23 +538,23 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Параметр --strength не указан, сохранённого значения по умолчанию нет: используется %1.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
+        <source>The settings file &quot;%1&quot; names no photographs. Name some on the command line.</source>
         <translation>В файле настроек «%1» нет фотографий. Укажите их.</translation>
     </message>
     <message>
-        <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
+        <source>There is no settings file &quot;%1&quot;. Name photographs on the command line to create it.</source>
         <translation>Файла настроек «%1» нет. Чтобы создать его, укажите фотографии.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: its folder is read-only or missing. Name a file in another folder.</source>
         <translation>Файл настроек «%1» там нельзя записать. Укажите файл в другой папке.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
+        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
         <translation>Имя файла настроек «%1» совпадает с именем результата. Дайте ему другое имя.</translation>
     </message>
     <message>
-        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
         <translation>Остановка; дописывается сохраняемый файл. Чтобы завершить немедленно, нажмите Ctrl-C ещё раз.</translation>
     </message>
     <message numerus="yes">
@@ -565,11 +577,11 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>&amp;Остановить</translation>
     </message>
     <message>
-        <source>Taking the haze away</source>
+        <source>Removing haze</source>
         <translation>Удаление дымки</translation>
     </message>
     <message>
-        <source>Each result is written beside its photograph.</source>
+        <source>Each result is saved beside its photograph.</source>
         <translation>Каждый результат записывается рядом со своей фотографией.</translation>
     </message>
     <message>
@@ -597,7 +609,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Состояние</translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) of an earlier run are there already.</source>
+        <source>%n result(s) of an earlier run already exist.</source>
         <translation>
             <numerusform>Уже есть %n результат прошлой обработки.</numerusform>
             <numerusform>Уже есть %n результата прошлой обработки.</numerusform>
@@ -637,11 +649,11 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Ошибка</translation>
     </message>
     <message>
-        <source>Stopping. The photographs in hand end first.</source>
-        <translation>Остановка. Сначала должна завершиться работа с текущими фотографиями.</translation>
+        <source>Stopping. A result that is being saved is finished first.</source>
+        <translation>Остановка. Результат, который уже сохраняется, будет дописан.</translation>
     </message>
     <message>
-        <source>Its result was there already and has been kept.</source>
+        <source>Its result already existed and was kept.</source>
         <translation>Результат уже был и оставлен без изменений.</translation>
     </message>
     <message>
@@ -656,7 +668,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
 <context>
     <name>SetDefaultCommand</name>
     <message>
-        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <source>The stored default was removed. Without --strength, %1 per cent is used.</source>
         <translation>Сохранённого значения по умолчанию больше нет; без --strength это %1 процентов.</translation>
     </message>
     <message>
@@ -695,7 +707,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>%1: фотография без пути</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; stands in it twice</source>
+        <source>%1: &quot;%2&quot; appears twice</source>
         <translation>%1: «%2» встречается дважды</translation>
     </message>
     <message>
@@ -703,18 +715,18 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>%1: для фотографии нужен элемент &lt;%2 %3=&quot;...&quot;/&gt; с целым числом от 0 до 100</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself permission to write there.</source>
         <translation>Файл настроек «%1» нельзя записать: %2. Освободите место или разрешите себе запись в эту папку.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name contains control characters. Rename the photograph.</source>
         <translation>Файл настроек «%1» не может содержать снимок «%2»: в его имени есть управляющие символы. Переименуйте его.</translation>
     </message>
 </context>
 <context>
     <name>TransposedRun</name>
     <message>
-        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <source>A temporary folder with a link to the photograph can&apos;t be created, neither beside it nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
         <translation>Временную папку со ссылкой на фотографию нельзя создать ни рядом с ней, ни в «%1». Освободите там место и проверьте, разрешена ли вам запись.</translation>
     </message>
     <message>
@@ -729,7 +741,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>veilaway</translation>
     </message>
     <message>
-        <source>&amp;Take the haze away</source>
+        <source>&amp;Remove haze</source>
         <translation>&amp;Убрать дымку</translation>
     </message>
     <message>
@@ -751,11 +763,11 @@ Ctrl-C завершает работу сигналом (130 в оболочке
 <context>
     <name>whyUnchanged</name>
     <message>
-        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <source>It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
         <translation>Фотография осталась прежней, так как измерить дымку не удалось: одна сторона более чем в 100 000 раз длиннее другой, либо ни у одного пикселя нет пригодного цвета. Обрежьте фотографию или исправьте её цвета в редакторе изображений.</translation>
     </message>
     <message>
-        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <source>It came back unchanged because the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and try again.</source>
         <translation>Фотография осталась прежней, так как вычислить дымку не удалось: у некоторых пикселей бесконечные или неопределённые значения, либо не хватило памяти. Исправьте эти пиксели в редакторе изображений или закройте другие программы и повторите.</translation>
     </message>
 </context>

@@ -8,7 +8,7 @@
         <translation>没有扩展名，因此结果保存为 TIFF。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
+        <source>&quot;%1&quot; is not a format that can be written, so the result is a TIFF.</source>
         <translation>无法写入“%1”格式，因此结果保存为 TIFF。</translation>
     </message>
     <message>
@@ -16,7 +16,7 @@
         <translation>其结果文件“%1”本身也是要处理的照片之一。请去掉两者之一。</translation>
     </message>
     <message>
-        <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
+        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
         <translation>这是“%1”的结果文件，而后者也在要处理的照片中。请去掉两者之一。</translation>
     </message>
     <message>
@@ -24,15 +24,15 @@
         <translation>其结果文件“%1”与照片“%2”是同一个文件。请将两者之一移到别处。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>其结果文件“%1”会与“%2”的结果同名。请重命名其中一张照片。</translation>
     </message>
     <message>
-        <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
         <translation>结果文件的位置“%1”上有一个同名文件夹。请将该文件夹移到别处。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
+        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
         <translation>其结果文件“%1”已经存在。如要替换，请加上 --overwrite。</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
 <context>
     <name>BatchRunner</name>
     <message>
-        <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
+        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
         <translation>结果已保存，但无法将照片的 XMP 复制到结果中：%1。</translation>
     </message>
     <message>
@@ -67,7 +67,7 @@
         <translation>请关闭其他程序，或一次只处理一张照片（--jobs 1）。</translation>
     </message>
     <message>
-        <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
+        <source>Make room in the folder &quot;%1&quot;, and check that you can write to it.</source>
         <translation>请在文件夹“%1”中腾出空间，并确认您有权在其中写入。</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>插件写入的是“%1”，而不是“%2”。</translation>
     </message>
     <message>
-        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
         <translation>去除雾霾期间，照片被更改、移动或删除。请将其放回原处，然后重新开始。</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
+        <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>此照片约需 %1 内存，而可用内存为 %2。请关闭其他程序，或缩小照片。</translation>
     </message>
 </context>
@@ -97,27 +97,27 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <source>--strength must be a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
         <translation>--strength 需要 0 到 100 之间的整数或 auto，而不是“%1”。</translation>
     </message>
     <message>
-        <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <source>--jobs must be a whole number from 1 to %1, not &quot;%2&quot;.</source>
         <translation>--jobs 必须是 1 到 %1 之间的整数，不能是“%2”。</translation>
     </message>
     <message>
-        <source>--language knows %1, but not &quot;%2&quot;.</source>
+        <source>--language must be one of %1, not &quot;%2&quot;.</source>
         <translation>--language 支持 %1，不支持“%2”。</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file, in UTF-8.</source>
+        <source>--settings must be the name of a file, in UTF-8.</source>
         <translation>--settings 后面必须给出 UTF-8 文件名。</translation>
     </message>
     <message>
-        <source>--%1 is not for the wizard, which asks in its window.</source>
+        <source>--%1 can&apos;t be used with the wizard, which asks in its window.</source>
         <translation>向导不接受 --%1，请在其窗口中设置。</translation>
     </message>
     <message>
-        <source>Name the photographs to take the haze from.</source>
+        <source>Name the photographs to remove haze from.</source>
         <translation>请指定要去除薄雾的照片。</translation>
     </message>
     <message>
@@ -216,18 +216,18 @@ Examples:
         <translation>请参阅 veilaway --help。</translation>
     </message>
     <message>
-        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <source>--set-default must be a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
         <translation>--set-default 需要 0 到 100 之间的整数、auto 或 none，而不是“%1”。</translation>
     </message>
     <message>
-        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <source>--set-default only stores the default: leave out photographs and the options for them.</source>
         <translation>--set-default 只保存默认值：请去掉照片以及用于照片的选项。</translation>
     </message>
 </context>
 <context>
     <name>DefaultStrength</name>
     <message>
-        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself permission to write there.</source>
         <translation>无法将默认值保存到“%1”。请腾出空间，或为自己授予写入权限。</translation>
     </message>
 </context>
@@ -314,6 +314,12 @@ Examples:
 </context>
 <context>
     <name>PhotoPage</name>
+    <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>列表中其他照片的 %n 个结果，例如“%1”。</numerusform>
+        </translation>
+    </message>
     <message>
         <source>&amp;Remove</source>
         <translation>移除(&amp;R)</translation>
@@ -323,7 +329,7 @@ Examples:
         <translation>照片</translation>
     </message>
     <message>
-        <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
+        <source>Choose the photographs to remove haze from, or drop them here. They are never changed: each result is saved beside its photograph.</source>
         <translation>请选择要去除薄雾的照片，或将照片拖放到此处。原照片保持不变，每张照片的结果都写入其所在的文件夹。</translation>
     </message>
     <message>
@@ -399,7 +405,7 @@ Examples:
 <context>
     <name>PluginFile</name>
     <message>
-        <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
+        <source>The plug-in &quot;%1&quot; was not found. Build or install it, or give its location with --plugin FILE.</source>
         <translation>找不到插件“%1”。请构建或安装它，或用 --plugin FILE 指定其位置。</translation>
     </message>
     <message>
@@ -411,7 +417,7 @@ Examples:
         <translation>它是另一种类型的插件</translation>
     </message>
     <message>
-        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
+        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it again, or name another one with --plugin FILE.</source>
         <translation>无法使用插件“%1”：%2。请重新安装，或用 --plugin FILE 指定其他插件。</translation>
     </message>
 </context>
@@ -425,9 +431,11 @@ Examples:
         <source>%1: %2 (%3)</source>
         <translation>%1：%2（%3）</translation>
     </message>
-    <message>
-        <source>%1 photographs done.</source>
-        <translation>%1 张照片已完成。</translation>
+    <message numerus="yes">
+        <source>%n photograph(s) done.</source>
+        <translation>
+            <numerusform>%n 张照片已完成。</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
@@ -438,7 +446,7 @@ Examples:
         <translation>正在读取</translation>
     </message>
     <message>
-        <source>taking haze away</source>
+        <source>removing haze</source>
         <translation>正在去除薄雾</translation>
     </message>
     <message>
@@ -449,16 +457,18 @@ Examples:
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
     </message>
-    <message>
-        <source>%1 came back unchanged.</source>
-        <translation>%1 张保持原样。</translation>
+    <message numerus="yes">
+        <source>%n came back unchanged.</source>
+        <translation>
+            <numerusform>%n 张保持原样。</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
         <translation>无法写入标准输出：%1。请腾出空间，或将其输出到别处。</translation>
     </message>
     <message numerus="yes">
-        <source>%n photograph(s) not begun.</source>
+        <source>%n photograph(s) not started.</source>
         <translation>
             <numerusform>%n 张照片未开始处理。</numerusform>
         </translation>
@@ -479,7 +489,7 @@ Examples:
         <translation>保存会话(&amp;S)...</translation>
     </message>
     <message>
-        <source>Keep the photographs and the strength of each in a settings file</source>
+        <source>Save the photographs and the strength of each in a settings file</source>
         <translation>将照片及每张照片的强度保存到设置文件中</translation>
     </message>
     <message>
@@ -493,10 +503,6 @@ Examples:
     <message>
         <source>%1 of %2 photographs are done.</source>
         <translation>共 %2 张照片，%1 张已完成。</translation>
-    </message>
-    <message>
-        <source>Stopped before it began.</source>
-        <translation>尚未开始即已停止。</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
@@ -518,23 +524,23 @@ Examples:
         <translation>未指定 --strength，也没有保存的默认值：使用 %1。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
+        <source>The settings file &quot;%1&quot; names no photographs. Name some on the command line.</source>
         <translation>设置文件“%1”中没有照片。请指定照片。</translation>
     </message>
     <message>
-        <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
+        <source>There is no settings file &quot;%1&quot;. Name photographs on the command line to create it.</source>
         <translation>没有设置文件“%1”。请指定照片以创建该文件。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: its folder is read-only or missing. Name a file in another folder.</source>
         <translation>无法在该位置写入设置文件“%1”。请指定其他文件夹中的文件。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
+        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
         <translation>设置文件“%1”与某个结果文件同名。请另取一个名称。</translation>
     </message>
     <message>
-        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
         <translation>正在停止；正在完成当前保存的文件。再按一次 Ctrl-C 可立即结束。</translation>
     </message>
     <message numerus="yes">
@@ -555,11 +561,11 @@ Examples:
         <translation>停止(&amp;S)</translation>
     </message>
     <message>
-        <source>Taking the haze away</source>
+        <source>Removing haze</source>
         <translation>正在去除薄雾</translation>
     </message>
     <message>
-        <source>Each result is written beside its photograph.</source>
+        <source>Each result is saved beside its photograph.</source>
         <translation>每张照片的结果都写入其所在的文件夹。</translation>
     </message>
     <message>
@@ -587,7 +593,7 @@ Examples:
         <translation>状态</translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) of an earlier run are there already.</source>
+        <source>%n result(s) of an earlier run already exist.</source>
         <translation>
             <numerusform>已有 %n 个先前处理的结果。</numerusform>
         </translation>
@@ -625,11 +631,11 @@ Examples:
         <translation>失败</translation>
     </message>
     <message>
-        <source>Stopping. The photographs in hand end first.</source>
-        <translation>正在停止。请等待正在处理的照片结束。</translation>
+        <source>Stopping. A result that is being saved is finished first.</source>
+        <translation>正在停止。正在保存的结果会先保存完毕。</translation>
     </message>
     <message>
-        <source>Its result was there already and has been kept.</source>
+        <source>Its result already existed and was kept.</source>
         <translation>其结果已经存在，已予保留。</translation>
     </message>
     <message>
@@ -644,7 +650,7 @@ Examples:
 <context>
     <name>SetDefaultCommand</name>
     <message>
-        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <source>The stored default was removed. Without --strength, %1 per cent is used.</source>
         <translation>不再保存默认值；未指定 --strength 时为百分之 %1。</translation>
     </message>
     <message>
@@ -683,7 +689,7 @@ Examples:
         <translation>%1：有一张照片没有路径</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; stands in it twice</source>
+        <source>%1: &quot;%2&quot; appears twice</source>
         <translation>%1：“%2”重复出现</translation>
     </message>
     <message>
@@ -691,18 +697,18 @@ Examples:
         <translation>%1：该照片需要 &lt;%2 %3=&quot;...&quot;/&gt;，其值为 0 到 100 之间的整数</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself permission to write there.</source>
         <translation>无法写入设置文件“%1”：%2。请腾出空间，或为自己授予在该处写入的权限。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name contains control characters. Rename the photograph.</source>
         <translation>设置文件“%1”无法记录照片“%2”：其名称含有控制字符。请重命名。</translation>
     </message>
 </context>
 <context>
     <name>TransposedRun</name>
     <message>
-        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <source>A temporary folder with a link to the photograph can&apos;t be created, neither beside it nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
         <translation>在照片旁边和“%1”中都无法创建包含照片链接的临时文件夹。请在那里腾出空间，并确认您有权写入。</translation>
     </message>
     <message>
@@ -717,7 +723,7 @@ Examples:
         <translation>veilaway</translation>
     </message>
     <message>
-        <source>&amp;Take the haze away</source>
+        <source>&amp;Remove haze</source>
         <translation>去除薄雾(&amp;T)</translation>
     </message>
     <message>
@@ -739,11 +745,11 @@ Examples:
 <context>
     <name>whyUnchanged</name>
     <message>
-        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <source>It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
         <translation>照片保持原样，因为无法测量薄雾：一边的长度超过另一边的 100,000 倍，或没有任何像素具有可用的颜色。请裁剪照片，或在图像编辑器中修正其颜色。</translation>
     </message>
     <message>
-        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <source>It came back unchanged because the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and try again.</source>
         <translation>照片保持原样，因为无法计算薄雾：某些像素含有无穷大或未定义的值，或内存不足。请在图像编辑器中修正这些像素，或关闭其他程序后重试。</translation>
     </message>
 </context>

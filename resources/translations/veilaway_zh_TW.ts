@@ -8,7 +8,7 @@
         <translation>沒有副檔名，因此結果儲存為 TIFF。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no format that can be written, so the result is a TIFF.</source>
+        <source>&quot;%1&quot; is not a format that can be written, so the result is a TIFF.</source>
         <translation>無法寫入「%1」格式，因此結果儲存為 TIFF。</translation>
     </message>
     <message>
@@ -16,7 +16,7 @@
         <translation>其結果檔案「%1」本身也是要處理的照片之一。請去掉其中一個。</translation>
     </message>
     <message>
-        <source>It is the result of &quot;%1&quot;, which is given too. Leave out one of the two.</source>
+        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
         <translation>這是「%1」的結果檔案，而後者也在要處理的照片中。請去掉其中一個。</translation>
     </message>
     <message>
@@ -24,15 +24,15 @@
         <translation>其結果檔案「%1」與照片「%2」是同一個檔案。請將其中一個移到別處。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would be that of &quot;%2&quot; too. Rename one of the two photographs.</source>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>其結果檔案「%1」會與「%2」的結果同名。請重新命名其中一張照片。</translation>
     </message>
     <message>
-        <source>Where its result belongs, at &quot;%1&quot;, a folder stands. Move the folder away.</source>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
         <translation>結果檔案的位置「%1」上有一個同名資料夾。請將該資料夾移到別處。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is there already. Give --overwrite to replace it.</source>
+        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
         <translation>其結果檔案「%1」已經存在。如要取代，請加上 --overwrite。</translation>
     </message>
     <message>
@@ -47,7 +47,7 @@
 <context>
     <name>BatchRunner</name>
     <message>
-        <source>The result is there, but the photograph&apos;s XMP could not be copied into it: %1.</source>
+        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
         <translation>結果已儲存，但無法將照片的 XMP 複製到結果中：%1。</translation>
     </message>
     <message>
@@ -67,7 +67,7 @@
         <translation>請關閉其他程式，或一次只處理一張照片（--jobs 1）。</translation>
     </message>
     <message>
-        <source>Make room in the folder &quot;%1&quot;, and see that you may write there.</source>
+        <source>Make room in the folder &quot;%1&quot;, and check that you can write to it.</source>
         <translation>請在資料夾「%1」中騰出空間，並確認您有權在其中寫入。</translation>
     </message>
     <message>
@@ -75,11 +75,11 @@
         <translation>外掛程式寫入的是「%1」，而不是「%2」。</translation>
     </message>
     <message>
-        <source>The photograph was changed, moved or deleted while the haze was being taken away. Put it back and begin again.</source>
+        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
         <translation>去除霧霾期間，照片被更改、移動或刪除。請將其放回原處，然後重新開始。</translation>
     </message>
     <message>
-        <source>It takes about %1 of memory, but only %2 is free. Close other programs, or scale it down.</source>
+        <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>此照片約需 %1 記憶體，而可用記憶體為 %2。請關閉其他程式，或縮小照片。</translation>
     </message>
 </context>
@@ -97,27 +97,27 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>--strength wants a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
+        <source>--strength must be a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
         <translation>--strength 需要 0 到 100 之間的整數或 auto，而不是「%1」。</translation>
     </message>
     <message>
-        <source>--jobs wants a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <source>--jobs must be a whole number from 1 to %1, not &quot;%2&quot;.</source>
         <translation>--jobs 必須是 1 到 %1 之間的整數，不能是「%2」。</translation>
     </message>
     <message>
-        <source>--language knows %1, but not &quot;%2&quot;.</source>
+        <source>--language must be one of %1, not &quot;%2&quot;.</source>
         <translation>--language 支援 %1，不支援「%2」。</translation>
     </message>
     <message>
-        <source>--settings wants the name of a file, in UTF-8.</source>
+        <source>--settings must be the name of a file, in UTF-8.</source>
         <translation>--settings 後面必須指定 UTF-8 檔案名稱。</translation>
     </message>
     <message>
-        <source>--%1 is not for the wizard, which asks in its window.</source>
+        <source>--%1 can&apos;t be used with the wizard, which asks in its window.</source>
         <translation>精靈不接受 --%1，請在其視窗中設定。</translation>
     </message>
     <message>
-        <source>Name the photographs to take the haze from.</source>
+        <source>Name the photographs to remove haze from.</source>
         <translation>請指定要去除薄霧的照片。</translation>
     </message>
     <message>
@@ -216,18 +216,18 @@ Examples:
         <translation>請參閱 veilaway --help。</translation>
     </message>
     <message>
-        <source>--set-default wants a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
+        <source>--set-default must be a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
         <translation>--set-default 需要 0 到 100 之間的整數、auto 或 none，而不是「%1」。</translation>
     </message>
     <message>
-        <source>--set-default stores the default and does nothing else: leave out photographs and the options for them.</source>
+        <source>--set-default only stores the default: leave out photographs and the options for them.</source>
         <translation>--set-default 只儲存預設值：請去掉照片以及用於照片的選項。</translation>
     </message>
 </context>
 <context>
     <name>DefaultStrength</name>
     <message>
-        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself the permission to write there.</source>
+        <source>The default can&apos;t be stored in &quot;%1&quot;. Make room, or give yourself permission to write there.</source>
         <translation>無法將預設值儲存到「%1」。請騰出空間，或為自己授予寫入權限。</translation>
     </message>
 </context>
@@ -314,6 +314,12 @@ Examples:
 </context>
 <context>
     <name>PhotoPage</name>
+    <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>清單中其他照片的 %n 個結果，例如「%1」。</numerusform>
+        </translation>
+    </message>
     <message>
         <source>&amp;Remove</source>
         <translation>移除(&amp;R)</translation>
@@ -323,7 +329,7 @@ Examples:
         <translation>照片</translation>
     </message>
     <message>
-        <source>Choose the photographs to take the haze from, or drop them here. They stay as they are: each result is written beside its photograph.</source>
+        <source>Choose the photographs to remove haze from, or drop them here. They are never changed: each result is saved beside its photograph.</source>
         <translation>請選擇要去除薄霧的照片，或將照片拖放到此處。原照片保持不變，每張照片的結果都寫入其所在的資料夾。</translation>
     </message>
     <message>
@@ -399,7 +405,7 @@ Examples:
 <context>
     <name>PluginFile</name>
     <message>
-        <source>The plug-in &quot;%1&quot; is not there. Build or install it, or say with --plugin FILE where it is.</source>
+        <source>The plug-in &quot;%1&quot; was not found. Build or install it, or give its location with --plugin FILE.</source>
         <translation>找不到外掛程式「%1」。請建置或安裝它，或用 --plugin FILE 指定其位置。</translation>
     </message>
     <message>
@@ -411,7 +417,7 @@ Examples:
         <translation>它是另一種類型的外掛程式</translation>
     </message>
     <message>
-        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it anew, or name another one with --plugin FILE.</source>
+        <source>The plug-in &quot;%1&quot; can&apos;t be used: %2. Install it again, or name another one with --plugin FILE.</source>
         <translation>無法使用外掛程式「%1」：%2。請重新安裝，或用 --plugin FILE 指定其他外掛程式。</translation>
     </message>
 </context>
@@ -425,9 +431,11 @@ Examples:
         <source>%1: %2 (%3)</source>
         <translation>%1：%2（%3）</translation>
     </message>
-    <message>
-        <source>%1 photographs done.</source>
-        <translation>%1 張照片已完成。</translation>
+    <message numerus="yes">
+        <source>%n photograph(s) done.</source>
+        <translation>
+            <numerusform>%n 張照片已完成。</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2 photographs done, %3 not.</source>
@@ -438,7 +446,7 @@ Examples:
         <translation>正在讀取</translation>
     </message>
     <message>
-        <source>taking haze away</source>
+        <source>removing haze</source>
         <translation>正在去除薄霧</translation>
     </message>
     <message>
@@ -449,16 +457,18 @@ Examples:
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
     </message>
-    <message>
-        <source>%1 came back unchanged.</source>
-        <translation>%1 張保持原樣。</translation>
+    <message numerus="yes">
+        <source>%n came back unchanged.</source>
+        <translation>
+            <numerusform>%n 張保持原樣。</numerusform>
+        </translation>
     </message>
     <message>
-        <source>Standard output can&apos;t be written: %1. Make room there, or send it elsewhere.</source>
+        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
         <translation>無法寫入標準輸出：%1。請騰出空間，或將其輸出到別處。</translation>
     </message>
     <message numerus="yes">
-        <source>%n photograph(s) not begun.</source>
+        <source>%n photograph(s) not started.</source>
         <translation>
             <numerusform>%n 張照片未開始處理。</numerusform>
         </translation>
@@ -479,7 +489,7 @@ Examples:
         <translation>儲存工作階段(&amp;S)...</translation>
     </message>
     <message>
-        <source>Keep the photographs and the strength of each in a settings file</source>
+        <source>Save the photographs and the strength of each in a settings file</source>
         <translation>將照片及每張照片的強度儲存到設定檔中</translation>
     </message>
     <message>
@@ -493,10 +503,6 @@ Examples:
     <message>
         <source>%1 of %2 photographs are done.</source>
         <translation>共 %2 張照片，%1 張已完成。</translation>
-    </message>
-    <message>
-        <source>Stopped before it began.</source>
-        <translation>尚未開始即已停止。</translation>
     </message>
     <message>
         <source>Start &amp;over</source>
@@ -518,23 +524,23 @@ Examples:
         <translation>未指定 --strength，也沒有儲存的預設值：使用 %1。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; names no photographs. Name some.</source>
+        <source>The settings file &quot;%1&quot; names no photographs. Name some on the command line.</source>
         <translation>設定檔「%1」中沒有照片。請指定照片。</translation>
     </message>
     <message>
-        <source>There is no settings file &quot;%1&quot;. Name photographs to make one.</source>
+        <source>There is no settings file &quot;%1&quot;. Name photographs on the command line to create it.</source>
         <translation>沒有設定檔「%1」。請指定照片以建立該檔案。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written there. Name one in another folder.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: its folder is read-only or missing. Name a file in another folder.</source>
         <translation>無法在該位置寫入設定檔「%1」。請指定其他資料夾中的檔案。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; has the name of a result. Give it another one.</source>
+        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
         <translation>設定檔「%1」與某個結果檔案同名。請另取一個名稱。</translation>
     </message>
     <message>
-        <source>Stopping; finishing the file being saved. Press Ctrl-C again to end at once.</source>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
         <translation>正在停止；正在完成目前儲存的檔案。再按一次 Ctrl-C 可立即結束。</translation>
     </message>
     <message numerus="yes">
@@ -555,11 +561,11 @@ Examples:
         <translation>停止(&amp;S)</translation>
     </message>
     <message>
-        <source>Taking the haze away</source>
+        <source>Removing haze</source>
         <translation>正在去除薄霧</translation>
     </message>
     <message>
-        <source>Each result is written beside its photograph.</source>
+        <source>Each result is saved beside its photograph.</source>
         <translation>每張照片的結果都寫入其所在的資料夾。</translation>
     </message>
     <message>
@@ -587,7 +593,7 @@ Examples:
         <translation>狀態</translation>
     </message>
     <message numerus="yes">
-        <source>%n result(s) of an earlier run are there already.</source>
+        <source>%n result(s) of an earlier run already exist.</source>
         <translation>
             <numerusform>已有 %n 個先前處理的結果。</numerusform>
         </translation>
@@ -625,11 +631,11 @@ Examples:
         <translation>失敗</translation>
     </message>
     <message>
-        <source>Stopping. The photographs in hand end first.</source>
-        <translation>正在停止。請等待正在處理的照片結束。</translation>
+        <source>Stopping. A result that is being saved is finished first.</source>
+        <translation>正在停止。正在儲存的結果會先儲存完畢。</translation>
     </message>
     <message>
-        <source>Its result was there already and has been kept.</source>
+        <source>Its result already existed and was kept.</source>
         <translation>其結果已經存在，已予保留。</translation>
     </message>
     <message>
@@ -644,7 +650,7 @@ Examples:
 <context>
     <name>SetDefaultCommand</name>
     <message>
-        <source>No default is stored any more; without --strength, it is %1 per cent.</source>
+        <source>The stored default was removed. Without --strength, %1 per cent is used.</source>
         <translation>不再儲存預設值；未指定 --strength 時為百分之 %1。</translation>
     </message>
     <message>
@@ -683,7 +689,7 @@ Examples:
         <translation>%1：有一張照片沒有路徑</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; stands in it twice</source>
+        <source>%1: &quot;%2&quot; appears twice</source>
         <translation>%1：「%2」重複出現</translation>
     </message>
     <message>
@@ -691,18 +697,18 @@ Examples:
         <translation>%1：該照片需要 &lt;%2 %3=&quot;...&quot;/&gt;，其值為 0 到 100 之間的整數</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself the permission to write there.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t be written: %2. Make room, or give yourself permission to write there.</source>
         <translation>無法寫入設定檔「%1」：%2。請騰出空間，或為自己授予在該處寫入的權限。</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name has control characters. Rename it.</source>
+        <source>The settings file &quot;%1&quot; can&apos;t hold the photograph &quot;%2&quot;: its name contains control characters. Rename the photograph.</source>
         <translation>設定檔「%1」無法記錄照片「%2」：其名稱含有控制字元。請重新命名。</translation>
     </message>
 </context>
 <context>
     <name>TransposedRun</name>
     <message>
-        <source>No temporary folder with a link to it can be made, neither beside it nor in &quot;%1&quot;. Make room there, and see that you may write there.</source>
+        <source>A temporary folder with a link to the photograph can&apos;t be created, neither beside it nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
         <translation>在照片旁邊和「%1」中都無法建立含有照片連結的暫存資料夾。請在那裡騰出空間，並確認您有權寫入。</translation>
     </message>
     <message>
@@ -717,7 +723,7 @@ Examples:
         <translation>veilaway</translation>
     </message>
     <message>
-        <source>&amp;Take the haze away</source>
+        <source>&amp;Remove haze</source>
         <translation>去除薄霧(&amp;T)</translation>
     </message>
     <message>
@@ -739,11 +745,11 @@ Examples:
 <context>
     <name>whyUnchanged</name>
     <message>
-        <source>It came back as it was, since no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
+        <source>It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, or no pixel has a usable colour. Crop it, or repair its colours in an image editor.</source>
         <translation>照片保持原樣，因為無法測量薄霧：一邊的長度超過另一邊的 100,000 倍，或沒有任何像素具有可用的顏色。請裁切照片，或在影像編輯器中修正其顏色。</translation>
     </message>
     <message>
-        <source>It came back as it was, since the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and do it again.</source>
+        <source>It came back unchanged because the haze could not be worked out: some pixels hold infinite or undefined values, or memory ran short. Repair those pixels in an image editor, or close other programs and try again.</source>
         <translation>照片保持原樣，因為無法計算薄霧：某些像素含有無窮大或未定義的值，或記憶體不足。請在影像編輯器中修正這些像素，或關閉其他程式後重試。</translation>
     </message>
 </context>

@@ -188,7 +188,7 @@ TEST_F(BatchFaults, AnotherProgramIsDoneFirst)
     folder.photograph("photo.png");
     const BatchOutcome outcome = outcomeOf(folder.path("photo.png"), Stage::Dehazing, other);
     EXPECT_EQ(int(outcome.status), int(BatchOutcome::Status::Failed));
-    EXPECT_TRUE(outcome.message.endsWith("is there already. Give --overwrite to replace it.")) << outcome.message;
+    EXPECT_TRUE(outcome.message.endsWith("already exists. Add --overwrite to replace it.")) << outcome.message;
     EXPECT_EQ(folder.content("photo_dehazed.png"), "the other's");
 
     // Nor is it lost when this program fails afterwards, whatever it was told.
@@ -279,7 +279,7 @@ TEST_F(ProgramFaults, AFileSystemWithoutRoom)
             << said.err;
     EXPECT_TRUE(said.err.contains("s.xml\" can't be written")) << said.err;
     EXPECT_TRUE(said.err.contains(
-        "x.tif: The result is there, but the photograph's XMP could not be copied into it: No space left on device"))
+        "x.tif: The result was written, but the photograph's XMP could not be copied into it: No space left on device"))
         << said.err;
     EXPECT_THAT(QDir(folder.path("left")).entryList(QDir::Files | QDir::Hidden),
                 testing::UnorderedElementsAreArray(photographs + QStringList{"x.tif", "x_dehazed.tif", "s.xml"}));
@@ -304,9 +304,9 @@ TEST_F(ProgramFaults, WriteProtection)
     EXPECT_TRUE(
         said.err.contains(QRegularExpression("ro/a.png: [^\n]*ro\" is read-only. Copy the photograph to another folder.\n")))
         << said.err;
-    EXPECT_TRUE(said.err.contains(QRegularExpression("b.jpg: [^\n]*b_dehazed.jpg\"\\. Make room[^\n]*may write there.\n")))
+    EXPECT_TRUE(said.err.contains(QRegularExpression("b.jpg: [^\n]*b_dehazed.jpg\"\\. Make room[^\n]*can write to it.\n")))
         << said.err;
-    EXPECT_TRUE(said.err.contains("ro/s.xml\" can't be written there")) << said.err;
+    EXPECT_TRUE(said.err.contains("ro/s.xml\" can't be written: its folder")) << said.err;
     EXPECT_EQ(folder.content("b_dehazed.jpg"), "older");
     EXPECT_THAT(folder.files(), testing::ElementsAre("a.png", "b.jpg", "b_dehazed.jpg"));
 }
@@ -447,7 +447,7 @@ TEST_F(ProgramFaults, TwoProgramsOnOnePhotograph)
             EXPECT_EQ(said.out, "=0\n=0\n") << said.err;
         } else {
             EXPECT_TRUE(said.out.contains("=0\n")) << said.err;
-            EXPECT_EQ(said.out.count("=1\n"), said.err.count("is there already. Give --overwrite")) << said.err;
+            EXPECT_EQ(said.out.count("=1\n"), said.err.count("already exists. Add --overwrite")) << said.err;
         }
         EXPECT_EQ(folder.content("a.tif"), source);
         EXPECT_EQ(folder.content("a_dehazed.tif"), whole);
@@ -514,7 +514,7 @@ TEST_F(ProgramFaults, ANameThatIsNoUtf8IsRefused)
     const QString json = said.out.mid(said.out.indexOf('{')).section('\n', 0, 0);
     const QString bytes = QJsonDocument::fromJson(json.toUtf8()).object()["photo_bytes"].toString();
     EXPECT_EQ(QByteArray::fromPercentEncoding(bytes.toUtf8()), "odd\303\251\377\303.png") << json;
-    EXPECT_TRUE(said.out.contains("=2\n") && said.err.contains("--settings wants")) << said.err;
+    EXPECT_TRUE(said.out.contains("=2\n") && said.err.contains("--settings must be")) << said.err;
     EXPECT_TRUE(said.out.endsWith("=1\nplain.png\n")) << said.out;
     EXPECT_EQ(said.out.count("=1\n"), 2);
     EXPECT_EQ(said.err.count(QRegularExpression("veilaway: (odd.*|plain).png: Its name or that of a folder[^\n]*Rename it.\n")),

@@ -64,18 +64,18 @@ TEST_F(Veilaway, WrongCommandLinesEndWith2AndSayWhatIsWrong)
     } cases[] = {
         {{}, "Name the photographs"},
         {{"run"}, "Name the photographs"},
-        {{"a.png", "--strength", "101"}, "--strength wants"},
-        {{"a.png", "--strength", "-1"}, "--strength wants"},
+        {{"a.png", "--strength", "101"}, "--strength must be"},
+        {{"a.png", "--strength", "-1"}, "--strength must be"},
         {{"a.png", "--strength", "70.5"}, "70.5"},
-        {{"a.png", "--strength="}, "--strength wants"},
+        {{"a.png", "--strength="}, "--strength must be"},
         {{"a.png", "--strength"}, "strength"},
-        {{"--set-default", "101"}, "--set-default wants"},
+        {{"--set-default", "101"}, "--set-default must be"},
         {{"--set-default", "auto", "a.png"}, "leave out photographs"},
         {{"wizard", "--set-default", "auto"}, "leave out photographs"},
-        {{"a.png", "--jobs", "0"}, "--jobs wants"},
+        {{"a.png", "--jobs", "0"}, "--jobs must be"},
         {{"a.png", "--language", "xx"}, "zh_TW"},
         {{"a.png", "--nonsense"}, "nonsense"},
-        {{"--quiet", "wizard"}, "--quiet is not for the wizard"},
+        {{"--quiet", "wizard"}, "--quiet can't be used with the wizard"},
         {{"--settings", "none.xml"}, "none.xml"},
         {{"a.png", "--strength", "9", "--settings", "broken.xml"}, "broken.xml"},
         {{"a.png", "--settings", "twice.xml"}, "twice"},
@@ -405,7 +405,7 @@ TEST_F(Veilaway, TellsOfAPhotographThatCameBackAsItWas)
 
     const Said plain = folder.run(QStringList{"--strength", "60", "--overwrite"} + photographs);
     EXPECT_EQ(plain.code, 0);
-    EXPECT_TRUE(plain.err.endsWith("\n1 photographs done. 4 came back unchanged.\n")) << plain.err;
+    EXPECT_TRUE(plain.err.endsWith("\n1 photograph done. 4 came back unchanged.\n")) << plain.err;
     for (const char *style : {"--quiet", "--json"}) {
         const Said quiet = folder.run(QStringList{"--quiet", style, "--strength", "60", "--overwrite"} + photographs);
         EXPECT_EQ(quiet.code, 0);
@@ -728,7 +728,7 @@ TEST_F(Veilaway, InterruptedItKeepsWhatIsWholeAndLeavesNothingElse)
     {
         QString language, notice, notBegun, stopped;
     } cases[] = {
-        {"en", "veilaway: Stopping; finishing the file being saved. ", "veilaway: (\\d+) photographs were not begun.\n",
+        {"en", "veilaway: Stopping; finishing the file being saved. ", "veilaway: (\\d+) photographs were not started.\n",
          "Stopped; no result"},
         {"de", "veilaway: Wird beendet; ", "veilaway: (\\d+) Fotos wurden nicht begonnen.\n", "Angehalten"},
     };
@@ -766,7 +766,7 @@ TEST_F(Veilaway, SaysThatStandardOutputCanNotBeWritten)
         for (const char *output : {">/dev/full", ">&-"}) {
             const Said answer = folder.shell(QStringLiteral("\"$V\" %1 %2").arg(arguments, output));
             EXPECT_EQ(answer.code, 1) << arguments << output;
-            EXPECT_TRUE(contains(answer.err, "Standard output can't be written: ")) << arguments << output;
+            EXPECT_TRUE(contains(answer.err, "Writing to standard output failed: ")) << arguments << output;
         }
     EXPECT_EQ(folder.shell("\"$V\" a.png --strength 0 --overwrite --quiet >&-").code, 0) << "nothing was to be said";
     EXPECT_NO_THROW(PhotoLoader::decode(folder.path("a_dehazed.png")));
@@ -780,7 +780,7 @@ TEST_F(Veilaway, ShowsABarForEachPhotographOnATerminal)
     folder.photograph("b\x1b.png");
     const Said answer = folder.shell("script -qec '\"$V\" --strength 50 *.png' /dev/null </dev/null");
     EXPECT_EQ(answer.code, 0) << answer.out;
-    for (const char *part : {"taking haze away  a.png", "[--------------------] reading", "[####################]",
-                             "a_dehazed.png", "2 photographs done.", "b?_dehazed.png"})
+    for (const char *part : {"removing haze  a.png", "[--------------------] reading", "[####################]", "a_dehazed.png",
+                             "2 photographs done.", "b?_dehazed.png"})
         EXPECT_TRUE(contains(answer.out, part));
 }
