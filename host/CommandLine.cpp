@@ -37,7 +37,7 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     }
 
     line.photographs = parser.positionalArguments();
-    const int end = arguments.indexOf("--"); // what stands behind it is no command
+    const int end = arguments.indexOf("--"); // what follows it is not a command
     const bool named = end < 0 || line.photographs.size() >= arguments.size() - end;
     const QString command = named ? line.photographs.value(0) : QString();
     if (command == "wizard")

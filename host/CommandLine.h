@@ -8,7 +8,7 @@
 
 #include "WantedStrength.h"
 
-/// What the user asked for. Read before the application object exists, since that depends on it.
+/// The parsed command line. Parsed before the application object exists, since that depends on it.
 class CommandLine
 {
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
@@ -19,7 +19,7 @@ public:
     Command command = Command::Run;
     QStringList photographs;
     std::optional<WantedStrength> strength;
-    std::optional<WantedStrength> newDefault; ///< Of SetDefault; nothing takes the stored one back.
+    std::optional<WantedStrength> newDefault; ///< For SetDefault; nothing removes the stored one.
     QString settingsFile;
     QString language;
     int jobs = 0; ///< 0: as many as fit.
@@ -29,19 +29,19 @@ public:
     bool shareServices = false;
     QString pluginFile;
 
-    /// What is wrong with the command line, or empty. Nothing else holds then.
+    /// What is wrong with the command line, or empty. If it is set, the other members are meaningless.
     QString error;
 
-    /// `arguments` as the program got them, its own name first.
+    /// `arguments` start with the name of the program.
     static CommandLine parse(const QStringList &arguments);
     /// Paragraphs without line breaks, see wrapped().
     static QString help();
 };
 
-/// What the program ends with.
+/// The exit status of the program.
 enum ExitCode : int {
     ExitAllDone = 0,
     ExitSomeFailed = 1,
-    ExitUsage = 2,     ///< The command line or the settings file can't be followed; nothing was begun.
-    ExitBySignal = 128 ///< Plus the number of the signal by which the process is to end, as a shell counts.
+    ExitUsage = 2,     ///< The command line or the settings file is wrong; nothing was begun.
+    ExitBySignal = 128 ///< Plus the number of the signal that ends the process, as a shell counts.
 };

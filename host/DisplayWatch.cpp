@@ -12,11 +12,11 @@ namespace {
 
 QtMessageHandler usual = nullptr;
 QString language;
-QString reason; ///< The first that a platform plug-in, or the search for one, complained of.
+QString reason; ///< The first complaint of a platform plug-in, or of the search for one.
 
 [[noreturn]] void endWithout()
 {
-    // The application object takes no translators yet.
+    // The application object has no translators yet.
     QTranslator texts;
     texts.load(QStringLiteral("veilaway_%1.qm").arg(language), QStringLiteral(":/Translation"));
     constexpr char kText[] = QT_TRANSLATE_NOOP(
@@ -25,7 +25,7 @@ QString reason; ///< The first that a platform plug-in, or the search for one, c
         "Without a window, veilaway PHOTO... does the work.");
     const QString text = texts.translate("DisplayWatch", kText);
     ProgressView::complain((text.isEmpty() ? QString(kText) : text).arg(reason.trimmed()));
-    std::_Exit(ExitSomeFailed); // half an application object can't be destroyed
+    std::_Exit(ExitSomeFailed); // a half-made application object can't be destroyed
 }
 
 void take(QtMsgType type, const QMessageLogContext &context, const QString &message)

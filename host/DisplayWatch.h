@@ -3,9 +3,9 @@
 #include <QCoreApplication>
 #include <QLocale>
 
-/// The program's end where no window can be shown. Qt aborts the program when no platform plug-in finds a display, and tells why
-/// in its own terms; while this object lives, the program says instead what helps, in the user's language, and ends with
-/// ExitSomeFailed. Lives while the QApplication is made, before any other thread runs; one at a time.
+/// Ends the program in good order where no window can be shown. Qt aborts when no platform plug-in finds a display, with a
+/// message in its own terms; while this object exists, the program instead prints the remedy in the user's language and exits
+/// with ExitSomeFailed. Exists while the QApplication is created, before any other thread runs; one at a time.
 class DisplayWatch
 {
     Q_DECLARE_TR_FUNCTIONS(DisplayWatch)
@@ -16,6 +16,6 @@ public:
     DisplayWatch(const DisplayWatch &) = delete;
     DisplayWatch &operator=(const DisplayWatch &) = delete;
 
-    /// Ends the program so too if the application object, which is there, has got no screen.
+    /// Ends the program in the same way if the application object, now created, has no screen.
     void checkScreens() const;
 };

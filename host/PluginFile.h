@@ -8,22 +8,22 @@
 #include "VIPluginLibrary.h"
 #include "VIPluginOne2One.h"
 
-/// The plug-in file, loaded, and one process of it. The library object goes with this object, after which the process is gone;
-/// the file itself stays mapped until the program ends.
+/// A loaded plug-in file and one process of it. This object's end destroys the library object and the process; the file itself
+/// stays mapped until the program ends.
 class PluginFile
 {
     Q_DECLARE_TR_FUNCTIONS(PluginFile)
 
 public:
-    /// Loads `path`; an empty one stands for Nimbra.so beside the program or in ../lib/nimbra. The application object must exist.
-    /// Throws VException with what is wrong and what helps.
+    /// Loads `path`, or if that is empty Nimbra.so beside the program or in ../lib/nimbra. The application object must exist.
+    /// Throws VException, whose message says what is wrong and how to put it right.
     explicit PluginFile(const QString &path);
     ~PluginFile();
     PluginFile(const PluginFile &) = delete;
     PluginFile &operator=(const PluginFile &) = delete;
 
     VIPluginOne2One &process() { return *one2one; }
-    /// Name, version, maker and file, as one line.
+    /// Name, version, maker and file, in one line.
     QString identity();
 
 private:

@@ -14,7 +14,7 @@ constexpr int kBarWidth = 20;
 
 int outputError = 0; ///< Of the first write to standard output that failed.
 
-/// False if it could not be written; errno says why.
+/// False if writing failed; errno has the reason.
 bool write(std::FILE *stream, const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
@@ -22,7 +22,7 @@ bool write(std::FILE *stream, const QString &text)
     return std::fwrite(bytes.constData(), 1, length, stream) == length && std::fflush(stream) == 0;
 }
 
-/// A file name may hold anything; a terminal would obey some of it.
+/// A file name may hold control characters, which a terminal would obey.
 QString harmless(QString text)
 {
     for (QChar &character : text)
@@ -146,7 +146,7 @@ void ProgressView::drawBars()
     const int columns = terminalWidth() - 1; // a line that wraps could not be redrawn
     QString text;
     for (const auto &[index, stage] : inProgress) {
-        // The engine takes about two thirds of the time; reading and saving share the rest.
+        // The engine takes about two thirds of the time, reading and saving the rest.
         const int filled = stage == BatchRunner::Stage::Reading    ? 0
                            : stage == BatchRunner::Stage::Dehazing ? kBarWidth / 6
                                                                    : kBarWidth * 5 / 6;

@@ -5,8 +5,8 @@
 
 #include "BatchRunner.h"
 
-/// Shows a batch on the command line. Bars are redrawn on a terminal, one for each photograph in hand, the finished ones above
-/// them; elsewhere each finished photograph is a line, or a JSON object in a line. Failures go to standard error in every style.
+/// Shows a batch on the command line. On a terminal, bars are redrawn, one for each photograph in progress, below those that are
+/// finished; elsewhere each finished photograph is one line of text or JSON. Failures go to standard error in every style.
 class ProgressView : public BatchRunner::Observer
 {
     Q_DECLARE_TR_FUNCTIONS(ProgressView)
@@ -21,20 +21,20 @@ public:
 
     void stageBegins(int item, BatchRunner::Stage stage) override;
     void finished(int item, const BatchOutcome &outcome) override;
-    /// The last lines: how many were not begun before a stop, and how many are done. The second not for one photograph that has
-    /// its result, and not in the styles Quiet and Json.
+    /// Prints the last lines: how many were not started before a stop, and how many are done. The second is left out for a single
+    /// photograph that has its result, and in the styles Quiet and Json.
     void summarize();
 
-    /// Whether each photograph has its result, be it unchanged.
+    /// True if each photograph has a result, even an unchanged one.
     bool allDone() const { return doneCount + unchangedCount == int(items.size()); }
-    /// What a finished item's BatchOutcome says.
+    /// The strength in a finished item's BatchOutcome.
     std::optional<int> strength(std::size_t item) const { return strengths[item]; }
 
-    /// A line on standard error that begins with the program's name.
+    /// Writes a line to standard error, prefixed with the program's name.
     static void complain(const QString &text);
-    /// To standard output, at once.
+    /// Writes to standard output and flushes it.
     static void say(const QString &text);
-    /// False, with a complaint, if something that was said could not be written.
+    /// False, after a complaint, if writing to standard output has failed.
     [[nodiscard]] static bool allSaid();
 
 private:

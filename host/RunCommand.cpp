@@ -20,9 +20,9 @@ namespace {
 
 std::atomic<BatchRunner *> interruptible{nullptr};
 std::atomic<int> caughtSignal{0};
-QByteArray notice; ///< Made before the batch begins, since the handler may not.
+QByteArray notice; ///< Prepared before the batch, since a signal handler may not allocate.
 
-/// The first signal lets the batch end in good order, a second one ends the program at once.
+/// The first signal stops the batch in good order, a second one ends the program at once.
 void stopBatch(int number)
 {
     caughtSignal = number;
@@ -95,7 +95,7 @@ int RunCommand::run()
         ProgressView::complain(failure.message);
         return ExitSomeFailed;
     }
-    // The texts of the layers under the plug-in, which came with its resources.
+    // The texts of the layers below the plug-in, whose catalogues are in its resources.
     for (const char *set : {"VImage", "VTools"})
         application.loadTranslator(QStringLiteral("%1_%2.qm").arg(QLatin1String(set), application.locale().name()));
     VIPluginOne2One &process = plugin->process();

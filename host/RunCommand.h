@@ -7,8 +7,8 @@
 #include "CommandLine.h"
 #include "HostApplication.h"
 
-/// The command `run`: photographs in, results beside them. Returns what the program ends with, above ExitBySignal after a signal
-/// that stopped it in good order.
+/// The command `run`, which processes photographs and writes the results beside them. Returns the exit status, which is above
+/// ExitBySignal if a signal stopped it.
 class RunCommand
 {
     Q_DECLARE_TR_FUNCTIONS(RunCommand)
@@ -18,9 +18,9 @@ public:
     [[nodiscard]] int run();
 
 private:
-    /// The strength of photographs that nothing else gives one: the stored default, or 70.
+    /// The strength of photographs without another one: the stored default, or 70. Prints a note that says which.
     WantedStrength defaultStrength(const QString &group);
-    /// Takes these out of the photographs, with one note for all.
+    /// Removes `results` from `photographs`, with one note for all.
     void leaveOut(const QSet<QString> &results, QStringList &photographs) const;
     void note(const QString &text) const;
 

@@ -5,7 +5,7 @@
 #include "CommandLine.h"
 #include "HostApplication.h"
 
-/// The option --set-default: stores the strength of photographs that nothing else gives one. Returns what the program ends with.
+/// The option --set-default, which stores the default strength. Returns the exit status.
 class SetDefaultCommand
 {
     Q_DECLARE_TR_FUNCTIONS(SetDefaultCommand)

@@ -5,7 +5,7 @@
 #include "CommandLine.h"
 #include "HostApplication.h"
 
-/// The command `wizard`: the window, until it is closed. Returns what the program ends with. Needs a QApplication.
+/// The command `wizard`, which shows the window until it is closed. Returns the exit status. Needs a QApplication.
 class WizardCommand
 {
     Q_DECLARE_TR_FUNCTIONS(WizardCommand)

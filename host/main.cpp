@@ -29,7 +29,7 @@ QLocale wantedLocale(const QString &language)
     return HostApplication::localeFor(language.isEmpty() ? system : language).value_or(QLocale(QLocale::English));
 }
 
-/// What the licences of linked libraries want said where the user finds it. docs/licences.md tells which.
+/// Notices that the licences of linked libraries require where the user finds them; see docs/licences.md.
 constexpr char kNotices[] = R"(
 Copyright 2026 the Nimbra developers. There is NO WARRANTY, to the extent that the law permits.
 The program and the plug-in with their libraries are under the GNU General Public License, version 3. They use MUMPS, Copyright
@@ -50,7 +50,7 @@ int showVersion(const CommandLine &line)
     }
 }
 
-/// What is not the wizard's.
+/// Runs every command but the wizard.
 int answer(const CommandLine &line, HostApplication &application)
 {
     switch (line.command) {
@@ -66,26 +66,26 @@ int answer(const CommandLine &line, HostApplication &application)
     }
 }
 
-/// The first file that the program opens would take the place of a standard stream that is closed, and get what is said there.
+/// Keeps the first file that the program opens from taking the descriptor of a closed standard stream, and receiving its output.
 void holdStandardStreams()
 {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         if (fcntl(stream, F_GETFD) == -1)
-            open("/dev/null", stream == STDERR_FILENO ? O_WRONLY : O_RDONLY); // so that saying something fails
+            open("/dev/null", stream == STDERR_FILENO ? O_WRONLY : O_RDONLY); // so that writing to it fails
 }
 
 int runProgram(int argc, char **argv)
 {
-    // File names are UTF-8 here, also where the environment sets no locale; otherwise Qt would turn their letters into "?".
+    // File names are UTF-8 even where the environment sets no locale; otherwise Qt would turn their letters into "?".
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    // A reader that goes away, or a limit on the size of files, is a failed write and not the end.
+    // A closed pipe or a limit on the size of files is a failed write and must not end the program.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
 
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << argumentText(argv[i]);
-    // Read before the application object is there, which depends on it; its messages are not in the user's language yet.
+    // Parsed before the application object exists, which depends on it; its messages are not in the user's language yet.
     const CommandLine line = CommandLine::parse(arguments);
     const QLocale locale = wantedLocale(line.language);
 
@@ -124,7 +124,7 @@ int main(int argc, char **argv)
 {
     holdStandardStreams();
     const int code = runProgram(argc, argv);
-    if (code > ExitBySignal) { // all is put away; a shell ends its loop if the signal itself ends the process
+    if (code > ExitBySignal) { // all is cleaned up; a shell ends its loop only if the signal itself ends the process
         std::signal(code - ExitBySignal, SIG_DFL);
         std::raise(code - ExitBySignal);
     }

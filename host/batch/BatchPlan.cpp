@@ -24,7 +24,7 @@ std::optional<FileId> idOf(const QString &path)
     return FileId(status.st_dev, status.st_ino);
 }
 
-/// One spelling for one place, also where folders are links.
+/// One spelling for each place, even where folders are links.
 QString placeOf(const QString &path)
 {
     const QFileInfo info(path);
@@ -32,13 +32,13 @@ QString placeOf(const QString &path)
     return (folder.isEmpty() ? info.absolutePath() : folder) + '/' + info.fileName();
 }
 
-/// Absolute. A path through ".." is resolved here, since cleaning it as a text goes wrong behind a link.
+/// Absolute. A path with ".." is resolved on the disk, since cleaning it as text goes wrong after a link.
 QString pathOf(const QString &given)
 {
     return given.contains("..") ? placeOf(QDir::current().filePath(given)) : QFileInfo(given).absoluteFilePath();
 }
 
-/// The text that the process puts behind a photograph's name.
+/// The text that the process appends to a photograph's name.
 constexpr char kTagContext[] = "NimbraOne2One", kTag[] = "_dehazed";
 
 QString nameWith(const QString &tag, const QString &photograph, bool needsTiff)
@@ -48,7 +48,7 @@ QString nameWith(const QString &tag, const QString &photograph, bool needsTiff)
     return info.absolutePath() + QDir::separator() + info.completeBaseName() + tag + '.' + suffix;
 }
 
-/// A file system takes no longer names, and the codec layer's temporary file has a few characters more.
+/// The longest name that file systems take, less what the codec layer adds for its temporary file.
 constexpr int kLongestName = 255 - 16;
 
 } // namespace
@@ -138,12 +138,7 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         const auto id = idOf(item.result);
         const auto source = id ? sources.find(*id) : sources.end();
         const auto [first, fresh] = results.emplace(place, index);
-        if (const auto input = inputs.find(place); input != inputs.end()) {
-            BatchItem &other = items[input->second];
-            item.refusal =
-                tr("Its result \"%1\" is itself one of the photographs given. Leave out one of the two.").arg(item.result);
-            other.refusal = tr("It is the result of \"%1\", which is also given. Leave out one of the two.").arg(item.given);
-        } else if (source != sources.end()) {
+        if (source != sources.end()) {
             item.refusal = tr("Its result \"%1\" is the same file as the photograph \"%2\". Move one of the two away.")
                                .arg(item.result, items[source->second].given);
         } else if (!fresh) {

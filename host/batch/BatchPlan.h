@@ -13,7 +13,7 @@
 
 /// Decides what is to be done with each photograph before any work begins: its strength, the name of its result, and whether it
 /// is refused (see BatchItem::refusal). Refused are files that can't be photographs, results that exist already, results that
-/// are themselves among the photographs, and two photographs with the same result. A photograph named twice is done once.
+/// are the same file as one of the photographs, and two photographs with the same result. A photograph named twice is done once.
 class BatchPlan
 {
     Q_DECLARE_TR_FUNCTIONS(BatchPlan)

@@ -25,17 +25,17 @@
 
 namespace {
 
-/// Ends a run on its way through the plug-in; BatchRunner::stopping tells it from a failure.
+/// Ends a run from inside the plug-in; BatchRunner::stopping distinguishes this from a failure.
 [[noreturn]] void endRun()
 {
     throw VException(QStringLiteral("Stopped"), V_LOCATION);
 }
 
-/// What one photograph takes at most, `facts` being those that the engine sees, for source pixels of `sourceBytes`. The source
-/// and the working image of 16 bytes a pixel are there throughout. Beside them there is first the sparse system, whose size is
-/// the same for every photograph (measured: 150 MB), and at last the map of 4 bytes a pixel, with guide and map of the level
-/// before: the copy of 100,000 pixels, doubled for as long as it stays narrower. To turn a picture takes it twice, or 12 bytes a
-/// pixel of coefficients, which is less than all that.
+/// The most memory that one photograph takes, with `facts` as the engine sees them and `sourceBytes` per pixel of the source.
+/// The source and the working image of 16 bytes per pixel exist throughout. Added to them is first the sparse system, whose size
+/// is the same for every photograph (measured: 150 MB), and at the end the haze map of 4 bytes per pixel, with the guide and the
+/// map of the level before: the copy of 100,000 pixels, doubled as long as it stays narrower. Transposing a picture takes two
+/// copies of it, or 12 bytes per pixel of coefficients, which is less than all that.
 qint64 memoryFor(const PhotoFacts &facts, int sourceBytes, bool untouched)
 {
     constexpr int kWorkingBytes = 16, kMapBytes = 4;
@@ -55,9 +55,9 @@ bool exists(const QString &file)
     return QFileInfo::exists(file) || QFileInfo(file).isSymLink();
 }
 
-constexpr QChar kIdeographicStop(0x3002); ///< Ends a sentence in Chinese and Japanese.
+constexpr QChar kIdeographicStop(0x3002); ///< The full stop of Chinese and Japanese.
 
-/// Several at a time keep the cores busy while one of them decodes or encodes; more than this many only cost memory.
+/// Several at a time keep the cores busy while one of them decodes or encodes; more than this only cost memory.
 constexpr int kMostJobs = 8;
 
 } // namespace
@@ -78,7 +78,7 @@ void BatchRunner::run(const std::vector<BatchItem> &items, int jobs)
     try {
         for (std::size_t i = 1; i < std::min(items.size(), std::size_t(std::max(jobs, 1))); ++i)
             team.emplace_back([&] { work(items); });
-    } catch (const std::exception &) { // no more threads to be had: those that there are do it
+    } catch (const std::exception &) { // no more threads available: those started so far do the work
     }
     work(items);
     for (std::thread &member : team)
@@ -134,14 +134,14 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     } catch (const std::exception &failure) {
         outcome.message = QString::fromLocal8Bit(failure.what());
     }
-    // The write check of a failed save may have left an empty file. A whole one is another program's.
+    // The write check of a failed save may have left an empty file. One with content is another program's.
     if (!existedBefore && QFileInfo(item.result).size() == 0)
         QFile::remove(item.result);
     if (stopping)
         return stopped();
     if (outcome.reason == BatchOutcome::Reason::ResultExists)
         return outcome;
-    // The engine reads the photograph once more when it saves.
+    // The plug-in reads the photograph once more when it saves; a message that names it means that this failed.
     if (stage == Stage::Saving && outcome.message.contains('"' + item.path + '"')) {
         outcome.message =
             tr("The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.");

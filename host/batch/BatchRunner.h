@@ -11,9 +11,9 @@
 #include "HostApplication.h"
 #include "VIPluginOne2One.h"
 
-/// Runs a process over many photographs, several at a time, so that reading, engine and writing of neighbours overlap. It goes on
-/// after a failure, and a failed or stopped photograph leaves no result behind, but an older one as it was. A photograph that
-/// would take more memory than is free when nothing else is in hand is refused.
+/// Runs a process over many photographs, several at a time, so that one is read or saved while the engine works on another. It
+/// continues after a failure. A photograph that fails or is stopped leaves no new result, and an older result is not touched. A
+/// photograph that needs more memory than is free while no other is in progress is refused.
 class BatchRunner
 {
     Q_DECLARE_TR_FUNCTIONS(BatchRunner)
@@ -21,7 +21,7 @@ class BatchRunner
 public:
     enum class Stage { Reading, Dehazing, Saving };
 
-    /// Told what goes on, from the threads of the batch but never from two at once.
+    /// Receives the progress, on the threads of the batch but never on two at once.
     class Observer
     {
     public:
@@ -32,18 +32,18 @@ public:
 
     BatchRunner(HostApplication &host, VIPluginOne2One &process, Observer &observer);
 
-    /// Works on all items and returns when each has had its outcome; begins them in their order. `jobs` photographs at a time, or
-    /// for 0 as many as keep all cores busy and fit into the free memory.
+    /// Works on all items, beginning them in their order, and returns when each has had its outcome. Works on `jobs` photographs
+    /// at a time; 0 means as many as keep all cores busy and fit into the free memory.
     void run(const std::vector<BatchItem> &items, int jobs);
 
-    /// No further photograph begins, and those in hand end before their result is written, unless that has begun. May be called
-    /// on any thread and from a signal handler.
+    /// Begins no further photograph, and ends those in progress without a result, except where the result is being written
+    /// already. May be called on any thread and from a signal handler.
     void stop() { stopping = true; }
-    /// Takes a stop back, before the next batch.
+    /// Cancels an earlier stop(), before the next batch.
     void resume() { stopping = false; }
 
-    /// From this width on photographs come back from the engine unchanged, since the size of its analysis copy wraps. They are
-    /// handed to it with rows for columns, and refused where their height is no smaller.
+    /// The engine returns photographs of this width and above unchanged, because the size of its analysis copy overflows. They
+    /// are handed to it transposed, and refused if their height is not below this limit either.
     static constexpr int kRefusedWidth = 21475;
 
 private:
@@ -61,9 +61,9 @@ private:
     std::atomic<bool> stopping{false};
     std::atomic<std::size_t> next{0};
     std::mutex reportMutex;
-    std::mutex memoryMutex; ///< Over the next four.
+    std::mutex memoryMutex; ///< Guards the next four.
     std::condition_variable memoryFreed;
     qint64 memoryLeft = 0;
-    qint64 memoryForOne = 0; ///< What was free when last no photograph was in hand.
+    qint64 memoryForOne = 0; ///< What was free the last time that no photograph was in progress.
     int running = 0;
 };

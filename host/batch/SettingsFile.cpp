@@ -16,14 +16,14 @@
 
 namespace {
 
-constexpr int kDepth = 100; ///< Elements within elements; ours are three.
+constexpr int kDepth = 100; ///< Of nested elements; the format has three.
 const QString kRoot = QStringLiteral("veilaway");
 const QString kEntry = QStringLiteral("photo");
 const QString kPath = QStringLiteral("path");
 const QString kStrength = pluginIdentity::strengthKey();
-const QString kWanted = QStringLiteral("strength"); // the program's own, beside the process's
+const QString kWanted = QStringLiteral("strength"); // the program's, beside the process's
 
-/// False for a text with letters that XML can't hold, in whatever spelling.
+/// False for text with characters that XML can't hold, not even as references.
 bool fitsXml(const QString &text)
 {
     return std::all_of(text.begin(), text.end(), [](QChar letter) {
@@ -35,7 +35,7 @@ QByteArray written(const QDomDocument &document)
 {
     QByteArray text;
     QTextStream stream(&text);
-    stream.setCodec("UTF-8"); // and a declaration to match, whatever the one of the file that was read is worth
+    stream.setCodec("UTF-8"); // also in the declaration, whatever the file that was read declared
     document.save(stream, /*indent=*/4, QDomNode::EncodingFromTextStream);
     stream.flush();
     return text;
@@ -89,7 +89,7 @@ void SettingsFile::load()
     QFile input(file);
     if (QFileInfo(file).isDir() || !input.open(QIODevice::ReadOnly))
         throw broken(QFileInfo(file).isDir() ? tr("it is a folder") : input.errorString());
-    // The tree is built and freed by recursion: a file may not choose how deep that goes.
+    // The tree is built and freed recursively: a file must not decide how deep that goes.
     const QByteArray text = input.readAll();
     QXmlStreamReader reader(text);
     for (int depth = 0; !reader.atEnd();) {
@@ -100,7 +100,7 @@ void SettingsFile::load()
     }
     if (reader.hasError())
         throw broken(tr("line %1, column %2: %3").arg(reader.lineNumber()).arg(reader.columnNumber()).arg(reader.errorString()));
-    // By this reader, since the document's own one cuts letters beyond U+FFFF short where they are written as numbers.
+    // With this reader, since the document's own truncates character references above U+FFFF.
     QDomDocument read;
     QString error;
     int line = 0, column = 0;
@@ -121,7 +121,7 @@ void SettingsFile::load()
             throw broken(tr("%1: the photo needs <%2 %3=\"...\"/> with a whole number from 0 to 100").arg(where, tag, kStrength));
         seen.insert(absolute(entry));
     }
-    // Qt reads some letters that it refuses once it has written them, as in a processing instruction.
+    // Qt reads some characters that it rejects once it has written them, as in a processing instruction.
     QXmlStreamReader saved(written(read));
     while (!saved.atEnd())
         saved.readNext();
@@ -146,7 +146,7 @@ void SettingsFile::save()
     }
     QSaveFile output(file);
     const QByteArray text = written(fit);
-    // Flushed here: where the disk is full, a commit of what is still in the buffer succeeds, with an empty file.
+    // Flushed here: on a full disk, committing what is still in the buffer succeeds and leaves an empty file.
     if (!output.open(QIODevice::WriteOnly) || output.write(text) != text.size() || !output.flush() || !output.commit())
         throw VException(
             tr("The settings file \"%1\" can't be written: %2. Make room, or give yourself permission to write there.")
@@ -199,12 +199,12 @@ void SettingsFile::setElement(const QString &photograph, const QDomElement &elem
                known.attribute(kStrength) == element.attribute(kStrength) && isAutomatic(known) == isAutomatic(element)) {
         return;
     }
-    // Not by importNode: the copy of an attribute writes to the document that made it, which may be gone.
+    // Not with importNode: copying an attribute writes to the document that made it, which may be gone.
     QDomElement own = document.createElement(element.tagName());
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.count(); ++i)
         own.setAttribute(attributes.item(i).nodeName(), attributes.item(i).nodeValue());
-    // In its place: the first one counts, and there may be others.
+    // In the same place: the first one is used, and there may be others.
     const QDomElement old = entry.firstChildElement(tag);
     if (old.isNull())
         entry.appendChild(own);

@@ -8,15 +8,15 @@
 #include <QString>
 #include <QStringList>
 
-/// The settings of a batch, one element of the process a photograph:
+/// The settings of a batch, with one element of the process per photograph:
 ///
 ///     <veilaway>
 ///         <photo path="IMG_1.jpg"><Veilaway hazeRemove="40"/></photo>
 ///         <photo path="IMG_2.jpg"><Veilaway hazeRemove="64" strength="auto"/></photo>
 ///     </veilaway>
 ///
-/// A relative path is relative to the file's folder. What the file holds besides stays in it. Failures are VExceptions whose
-/// message names the file and says what helps.
+/// A relative path is relative to the file's folder. Anything else in the file is kept. Failures are VExceptions whose message
+/// names the file and the remedy.
 class SettingsFile
 {
     Q_DECLARE_TR_FUNCTIONS(SettingsFile)
@@ -25,10 +25,11 @@ public:
     /// `processName` is the tag of the elements.
     SettingsFile(const QString &path, const QString &processName);
 
-    /// Reads the file; a missing one is an empty list. Throws for a file that can't be read, isn't XML of this shape, names a
-    /// photograph twice or holds a strength that is no whole number from 0 to 100.
+    /// Reads the file; a missing one is an empty list. Throws if the file can't be read, isn't XML of this form, names a
+    /// photograph twice, or holds a strength that is not a whole number from 0 to 100.
     void load();
-    /// Writes the file as a whole or not at all, and only if something changed since `load`. Throws if it can't be written.
+    /// Writes the whole file or nothing, and only if something has changed since load(). Throws if it can't be written, and
+    /// after writing all others if it can't hold the name of a photograph.
     void save();
 
     bool exists() const;
@@ -37,15 +38,16 @@ public:
     QStringList photographs() const;
     /// The settings of this photograph (absolute path); null if there are none.
     QDomElement element(const QString &photograph) const;
-    /// Copies the element's attributes; its document need not exist any more. One that says the same leaves the file's as it is.
+    /// Copies the element's attributes; the element's document may be gone. If strength and mark are the same, nothing changes.
     void setElement(const QString &photograph, const QDomElement &element);
 
-    /// Drops what the file holds of this photograph (absolute path).
+    /// Removes the entry of this photograph (absolute path).
     void remove(const QString &photograph);
 
+    /// Nothing if the attribute is missing or not a whole number from 0 to 100.
     static std::optional<int> strengthOf(const QDomElement &element);
-    /// With `automatic` the element also says that this strength was chosen for the photograph, not asked for. That is a note for
-    /// the reader, and for the window: the number is what counts.
+    /// With `automatic`, the element is also marked as chosen for the photograph instead of given by the user. The mark informs
+    /// the reader and the window; the number is what is used.
     [[nodiscard]] static QDomElement withStrength(const QString &processName, int strength, bool automatic = false);
     static bool isAutomatic(const QDomElement &element);
 

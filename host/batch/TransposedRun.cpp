@@ -11,7 +11,7 @@
 
 TransposedRun::TransposedRun(HostApplication &host, const QString &path) : application(host), source(path)
 {
-    // A memory card's file system may have no links.
+    // The file system of a memory card may not support links.
     for (const QString &place : {QFileInfo(path).absolutePath(), QDir::tempPath()}) {
         folder = std::make_unique<QTemporaryDir>(place + QStringLiteral("/.veilaway-XXXXXX"));
         link = folder->filePath(QFileInfo(path).fileName());
@@ -49,7 +49,7 @@ void TransposedRun::run(VIPluginOne2One &process, VISettingsHandle settings, con
 void TransposedRun::turnBack(const QString &written, const QString &result) const
 {
     const int code = gflTransposeJpegUTF8(written.toUtf8().constData(), result.toUtf8().constData());
-    if (code == GFL_ERROR_FILE_CREATE || code == GFL_ERROR_FILE_WRITE) // the reason is a clearer sentence than the code
+    if (code == GFL_ERROR_FILE_CREATE || code == GFL_ERROR_FILE_WRITE) // its message is clearer than the code
         checkFileWritable(result, QFileInfo(written).size(), V_LOCATION);
     if (code != GFL_ERROR_UNKNOWN_FORMAT) {
         throwGflError(code, result, V_LOCATION);

@@ -7,28 +7,28 @@
 #include "HostApplication.h"
 #include "VIPluginOne2One.h"
 
-/// One run of a process over a photograph that is too wide for it but not too high. The process is shown the photograph with rows
-/// for columns, under a path in a folder of its own beside it, where its result lies until it has been turned back: under the
-/// name of the result there is nothing, or what stood there before, or the result as it shall be.
+/// One run of a process over a photograph that is too wide for it but not too high. The process sees the photograph transposed,
+/// under a path in a temporary folder beside it, which also holds the result until it has been transposed back. Under the
+/// result's own name there is at any time nothing, an older file, or the finished result.
 ///
-/// Pictures are turned back by their pixels and written with the photograph's own metadata, as a process writes them; the result
-/// of a JPEG is turned in its coefficients. Neither changes a value.
+/// The result of a JPEG is transposed back in its coefficients; all others in their pixels, and written with the photograph's own
+/// metadata, as a process writes them. Neither changes a value.
 class TransposedRun
 {
     Q_DECLARE_TR_FUNCTIONS(TransposedRun)
 
 public:
-    /// Makes the folder, and in it a link to the photograph. Throws VException if neither the photograph's folder nor the one for
-    /// temporary files takes a link.
+    /// Creates the folder with a link to the photograph. Throws VException if no link can be created in the photograph's folder
+    /// or in the one for temporary files.
     TransposedRun(HostApplication &host, const QString &path);
-    /// Removes the folder with all that is in it.
+    /// Removes the folder and everything in it.
     ~TransposedRun();
     TransposedRun(const TransposedRun &) = delete;
     TransposedRun &operator=(const TransposedRun &) = delete;
 
-    /// What the process is shown.
+    /// The photograph as the process sees it.
     Photograph &photograph() { return *transposed; }
-    /// Runs the process and writes `result`. Throws VException, which names the places that the user knows.
+    /// Runs the process and writes `result`. Throws VException, whose message names the paths that the user knows.
     void run(VIPluginOne2One &process, VISettingsHandle settings, const QString &result);
 
 private:
@@ -38,5 +38,5 @@ private:
     const QString source;
     std::unique_ptr<QTemporaryDir> folder;
     QString link;
-    Photograph *transposed = nullptr; ///< The application's.
+    Photograph *transposed = nullptr; ///< Owned by the application.
 };

@@ -3,8 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
-/// An argument of the command line, taken for UTF-8. A byte that is none becomes the lone surrogate U+DC00 + byte, which no UTF-8
-/// gives, so that nothing of a name is lost.
+/// An argument of the command line, read as UTF-8. A byte that isn't valid becomes the lone surrogate U+DC00 + byte, which no
+/// UTF-8 yields, so that a file name survives unaltered.
 QString argumentText(const QByteArray &argument);
-/// The way back, the same bytes. Their text by QString::fromUtf8 is one to show.
+/// The inverse, with the same bytes. To show the text, decode them by QString::fromUtf8.
 QByteArray argumentBytes(const QString &text);

@@ -4,7 +4,7 @@
 
 #include "VIPluginOne2One.h"
 
-/// Why a run with these settings left its photograph as it was although haze was to be taken away, in words for its owner. Empty
+/// Why a run with these settings left its photograph unchanged although haze was to be removed, as a message to the user. Empty
 /// if the engine did its work, at strength 0, and for a process of another kind or version than these sources', whose settings
-/// stay closed. Between `run` and destroySettings, on the thread of the run. Only here does the program look behind a handle.
+/// are opaque. Call it between run and destroySettings, on the thread of the run. Only this function looks behind a handle.
 [[nodiscard]] QString whyUnchanged(VIPluginOne2One &process, VISettingsHandle settings);

@@ -11,7 +11,7 @@ class BeforeAfterView : public QWidget
 public:
     explicit BeforeAfterView(QWidget *parent = nullptr);
 
-    /// A picture without the other takes all the room.
+    /// If one picture is null, the other takes all the room.
     void compare(const QImage &before, const QImage &after);
 
     QSize sizeHint() const override;

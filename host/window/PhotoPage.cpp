@@ -22,11 +22,11 @@
 namespace {
 
 enum Role { Path = Qt::UserRole, Stage };
-enum { Waiting, Checked, Pictured }; ///< How far a photograph has been read; in its Stage.
+enum { Waiting, Checked, Pictured }; ///< How far a photograph has been read; its Stage.
 constexpr QSize kPicture(160, 120);
 constexpr int kComplaintsShown = 3;
 
-/// The picture in the middle of a transparent field, so that all entries have one size.
+/// The picture in the middle of a transparent field, so that all entries have the same size.
 QIcon centred(const QImage &picture, qreal ratio)
 {
     QImage field(kPicture * ratio, QImage::Format_ARGB32_Premultiplied);

@@ -11,8 +11,8 @@ class QListWidget;
 class QListWidgetItem;
 class QPushButton;
 
-/// The window's first page: the photographs, chosen by a dialog, dropped, or named on the command line. One that can't be read is
-/// named with the reason and left out. Complete once the heads of all have been read and the picture of one is there.
+/// The window's first page: the photographs, chosen in a dialog, dropped, or named on the command line. One that can't be read is
+/// left out and named with the reason. Complete once the heads of all have been read and the thumbnail of one is shown.
 class PhotoPage : public QWizardPage
 {
     Q_OBJECT
@@ -27,12 +27,12 @@ public:
     /// Absolute paths in the order of the list.
     QStringList photographs() const;
 
-    /// From now on the page is complete only when the pictures of all are there.
+    /// From now on the page is complete only once the thumbnails of all are shown.
     void waitForAll() { waitsForAll = true; }
     bool isComplete() const override;
 
 Q_SIGNALS:
-    /// The user wants the photographs and strengths of a settings file.
+    /// The user asks for the photographs and strengths in a settings file.
     void settingsWanted(const QString &file);
 
 protected:
@@ -59,7 +59,7 @@ private:
     QLabel *leftOut;
     QPushButton *removeButton;
     QHash<QString, QListWidgetItem *> items; ///< By absolute path; the list owns them.
-    QStringList complaints;                  ///< Since photographs were last chosen.
+    QStringList complaints;                  ///< Since the user last chose photographs.
     bool waitsForAll = false;
     PhotoReader reader;
 };

@@ -114,11 +114,11 @@ void ResultPage::showCurrent()
         try {
             before = PhotoReader::picture(*application.photograph(path), kPictureSide);
             if (!resultPath.isEmpty()) {
-                Photograph result(resultPath); // of its own: the program's keep what the file was before
+                Photograph result(resultPath); // not the application's, which may hold what the file was before
                 after = PhotoReader::picture(result, kPictureSide);
             }
         } catch (const VException &) {
-            // What became of the photograph stands below the view.
+            // The text below the view has the outcome.
         } catch (const std::exception &) {
         }
         QMetaObject::invokeMethod(

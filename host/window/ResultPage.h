@@ -12,7 +12,7 @@ class QLabel;
 class QListWidget;
 class QPushButton;
 
-/// The window's last page: what became of each photograph, before and after side by side, or the reason of a failure.
+/// The window's last page: the outcome of each photograph, with before and after side by side or the reason of a failure.
 class ResultPage : public QWizardPage
 {
     Q_OBJECT
@@ -25,9 +25,9 @@ public:
     void present(const std::vector<BatchItem> &items, const std::vector<BatchOutcome> &outcomes);
 
 Q_SIGNALS:
-    /// The user wants to keep the photographs and their strengths.
+    /// The user asks to save the photographs and their strengths.
     void saveWanted();
-    /// The user wants to begin again with other photographs.
+    /// The user asks to start over with other photographs.
     void startOverWanted();
 
 private:

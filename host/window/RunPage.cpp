@@ -13,7 +13,7 @@ namespace {
 
 enum Column { Photo, Strength, Progress, State, Columns };
 
-// The engine takes most of the time of a photograph.
+// In per cent; the engine takes most of the time of a photograph.
 constexpr int kStageStart[] = {5, 20, 85};
 constexpr int kBarHeight = 10;
 

@@ -13,8 +13,8 @@ class QProgressBar;
 class QPushButton;
 class QTableWidget;
 
-/// The window's page for the work itself: a bar for each photograph and one for all. Work can be stopped between photographs:
-/// those in hand end without a result, unless it is being saved. Complete when all have had their outcome.
+/// The window's page for the work itself, with a bar for each photograph and one for all. When work is stopped, photographs in
+/// progress end without a result, except where the result is being saved already. Complete when all have had their outcome.
 class RunPage : public QWizardPage, private BatchRunner::Observer
 {
     Q_OBJECT
@@ -24,11 +24,11 @@ public:
     /// Stops and waits.
     ~RunPage() override;
 
-    /// Takes a batch twice planned: with the results that are there already refused, and with them replaced. If there are any,
-    /// the user is asked which of the two it shall be; otherwise work begins at once. `jobs` as BatchRunner::run takes it.
+    /// Takes two plans of one batch: `keeping` refuses photographs whose result exists, `replacing` replaces the result. If there
+    /// are such results, the user is asked which plan to use; otherwise work begins at once. `jobs` is that of BatchRunner::run.
     void begin(std::vector<BatchItem> keeping, std::vector<BatchItem> replacing, int jobs);
     bool isRunning() const { return worker.joinable(); }
-    /// Returns at once; the page gets complete when what is in hand has ended.
+    /// Returns at once; the page is complete when the photographs in progress have ended.
     void stop();
 
     const std::vector<BatchItem> &items() const { return batch; }

@@ -31,16 +31,16 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
     setWindowTitle(tr("veilaway"));
     setWizardStyle(QWizard::ClassicStyle);
     setOptions(QWizard::NoBackButtonOnStartPage | QWizard::NoBackButtonOnLastPage | QWizard::NoCancelButtonOnLastPage);
-    // The two buttons of the plug-in's page have no face of their own.
+    // These two buttons of the plug-in's page have neither text nor icon.
     setStyleSheet(QStringLiteral("QToolButton#QToolButton_Prev { qproperty-arrowType: LeftArrow; }"
                                  "QToolButton#QToolButton_Next { qproperty-arrowType: RightArrow; }"));
     setPage(Photographs, photoPage);
     QWizardPage *const strengthPage = process.wizardPage();
-    strengthPage->setCommitPage(true); // the way back ends where the work begins
+    strengthPage->setCommitPage(true); // there is no way back once the work has begun
     strengthPage->setButtonText(QWizard::CommitButton, tr("&Remove haze"));
     setPage(Strength, strengthPage);
     imageList = strengthPage->findChild<QComboBox *>(QStringLiteral("comboBoxImageDef"));
-    if (imageList) // behind the page's own slot: where that fails, this one is not reached
+    if (imageList) // after the page's own slot: if that throws, this one is not reached
         connect(imageList, qOverload<int>(&QComboBox::currentIndexChanged), this, [this](int index) { shownImage = index; });
     setPage(Work, runPage);
     setPage(Results, resultPage);
@@ -54,7 +54,7 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
 
 void WizardWindow::fitSubTitle()
 {
-    // Above its pages the wizard has room for two lines and cuts off the rest.
+    // The wizard has room for two lines above its pages and cuts off the rest.
     if (!currentPage())
         return;
     const QString text = currentPage()->subTitle();
@@ -79,7 +79,7 @@ void WizardWindow::putListBack()
 
 void WizardWindow::complain(const QString &message)
 {
-    putListBack(); // perhaps the photograph chosen could not be read
+    putListBack(); // the photograph chosen may be one that could not be read
     if (!QApplication::activeModalWidget())
         QMessageBox::warning(this, windowTitle(), message);
 }
@@ -94,7 +94,7 @@ void WizardWindow::openSession(const QString &file)
     try {
         auto opened = std::make_unique<SettingsFile>(file, one2one.name());
         opened->load();
-        for (const QString &path : photoPage->photographs()) // what it doesn't name stays as it is
+        for (const QString &path : photoPage->photographs()) // photographs that it doesn't name keep their strength
             if (const QDomElement kept = session->element(path); !kept.isNull() && opened->element(path).isNull())
                 opened->setElement(path, kept);
         session = std::move(opened);
@@ -154,13 +154,13 @@ void WizardWindow::preparePluginPage()
         one2one.setImages(paths);
         shownImage = imageList ? imageList->currentIndex() : -1;
     } catch (const VException &failure) {
-        // A photograph that went away meanwhile. The page holds the others and goes on to the first that can be shown, but an
-        // exception would leave the window half switched.
+        // A photograph was removed meanwhile. The page has the others and moves to the first that can be shown; an exception
+        // would leave the window between two pages.
         shownImage = -1;
         for (int index = 1; imageList && shownImage < 0 && index < imageList->count(); ++index)
             try {
                 imageList->setCurrentIndex(index);
-            } catch (const VException &) { // the same for this one
+            } catch (const VException &) { // removed too
             }
         QMetaObject::invokeMethod(
             this, [this, failure] { complain(failure.message); }, Qt::QueuedConnection);
@@ -183,7 +183,7 @@ void WizardWindow::takeStrengths()
     for (const QString &path : qAsConst(onPage)) {
         const QDomElement taken = one2one.settingsFor(path);
         const auto strength = SettingsFile::strengthOf(taken);
-        if (strength && automatic.contains(path) && automatic[path] == *strength) // it still is the one chosen
+        if (strength && automatic.contains(path) && automatic[path] == *strength) // the user has not changed it
             session->setElement(path, SettingsFile::withStrength(one2one.name(), *strength, /*automatic=*/true));
         else
             session->setElement(path, taken);
@@ -242,14 +242,14 @@ void WizardWindow::startOver()
 
 void WizardWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() != Qt::Key_Escape) // too easily pressed to end the program
+    if (event->key() != Qt::Key_Escape) // too easily pressed to close the window
         QWizard::keyPressEvent(event);
 }
 
 void WizardWindow::done(int result)
 {
     if (runPage->isRunning()) {
-        // What is in hand has to end before the window may go.
+        // Photographs in progress have to end before the window closes.
         runPage->stop();
         connect(runPage, &RunPage::ended, this, [this, result] { QWizard::done(result); });
         return;

@@ -14,8 +14,8 @@ class QComboBox;
 class ResultPage;
 class RunPage;
 
-/// The window: photographs, the plug-in's page with its preview, the work, the results. The strength of each photograph lives in
-/// a session, which is a settings file as the command line reads and writes it, once the user names one.
+/// The window: photographs, the plug-in's page with its preview, the work, the results. The strength of each photograph is kept
+/// in a session, and once the user names a file, in a settings file as the command line reads and writes it.
 class WizardWindow : public QWizard
 {
     Q_OBJECT
@@ -23,11 +23,11 @@ class WizardWindow : public QWizard
 public:
     enum Page { Photographs, Strength, Work, Results };
 
-    /// `settings` is loaded already; null for a session without a file. `jobs` as BatchRunner::run takes it.
+    /// `settings` is loaded already, or null for a session without a file. `jobs` is that of BatchRunner::run.
     WizardWindow(HostApplication &host, VIPluginOne2One &process, std::unique_ptr<SettingsFile> settings, int jobs);
 
     void addPhotographs(const QStringList &paths);
-    /// Tells the user, unless a dialog is open already.
+    /// Shows the message in a dialog, unless one is open already.
     void complain(const QString &message);
 
     void done(int result) override;
@@ -47,8 +47,8 @@ private:
     [[nodiscard]] bool saveSession(SettingsFile &file);
     void preparePluginPage();
     void putListBack();
-    /// The number from which the page starts this photograph: that of the session, or else the automatic one if that is the
-    /// default; nothing for the default itself.
+    /// The strength at which the page starts this photograph: the one in the session, or else the automatic one if that is the
+    /// default. Nothing if it starts at the stored number.
     std::optional<int> startOf(const QString &photograph);
     void takeStrengths();
     void prepareWork();
@@ -60,9 +60,9 @@ private:
     int batchJobs;
     bool automaticDefault = false;
     QHash<QString, int> automatic;  ///< By photograph: the strength that was chosen for it.
-    QStringList onPage;             ///< What the plug-in's page edits.
+    QStringList onPage;             ///< The photographs on the plug-in's page.
     QComboBox *imageList = nullptr; ///< The one on the plug-in's page; null if it has none.
-    int shownImage = -1;            ///< In that list: what the panel below shows.
+    int shownImage = -1;            ///< The index in that list of the photograph shown below it.
     PhotoPage *photoPage;
     RunPage *runPage;
     ResultPage *resultPage;

@@ -12,14 +12,6 @@
         <translation>Das Format „%1“ kann nicht geschrieben werden, daher wird das Ergebnis ein TIFF.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation>Das Ergebnis „%1“ ist selbst eines der angegebenen Fotos. Lassen Sie eines der beiden weg.</translation>
-    </message>
-    <message>
-        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
-        <translation>Dieses Foto ist das Ergebnis von „%1“, das ebenfalls angegeben ist. Lassen Sie eines der beiden weg.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
         <translation>Das Ergebnis „%1“ ist dieselbe Datei wie das Foto „%2“. Verschieben Sie eines der beiden an einen anderen Ort.</translation>
     </message>

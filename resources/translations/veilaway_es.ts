@@ -12,14 +12,6 @@
         <translation>El formato «%1» no se puede escribir, así que el resultado será un TIFF.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation>Su resultado «%1» es a su vez una de las fotos indicadas. Omita una de las dos.</translation>
-    </message>
-    <message>
-        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
-        <translation>Esta foto es el resultado de «%1», que también se ha indicado. Omita una de las dos.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
         <translation>Su resultado «%1» es el mismo archivo que la foto «%2». Mueva uno de los dos a otro lugar.</translation>
     </message>

@@ -12,14 +12,6 @@
         <translation>Le format «&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: le résultat sera un TIFF.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation>Son résultat «&#xa0;%1&#xa0;» est lui-même l&apos;une des photos indiquées. Retirez l&apos;une des deux.</translation>
-    </message>
-    <message>
-        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
-        <translation>Cette photo est le résultat de «&#xa0;%1&#xa0;», également indiquée. Retirez l&apos;une des deux.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
         <translation>Son résultat «&#xa0;%1&#xa0;» est le même fichier que la photo «&#xa0;%2&#xa0;». Déplacez l&apos;un des deux.</translation>
     </message>

@@ -12,14 +12,6 @@
         <translation>Il formato &quot;%1&quot; non può essere scritto, quindi il risultato sarà un TIFF.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation>Il suo risultato &quot;%1&quot; è a sua volta una delle foto indicate. Omettere una delle due.</translation>
-    </message>
-    <message>
-        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
-        <translation>Questa foto è il risultato di &quot;%1&quot;, anch&apos;essa indicata. Omettere una delle due.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
         <translation>Il suo risultato &quot;%1&quot; è lo stesso file della foto &quot;%2&quot;. Spostare altrove uno dei due.</translation>
     </message>

@@ -12,14 +12,6 @@
         <translation>「%1」形式では書き込めないため、結果は TIFF になります。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation>結果のファイル「%1」自体も、処理する写真に指定されています。どちらか一方を外してください。</translation>
-    </message>
-    <message>
-        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
-        <translation>同じく指定された「%1」の結果のファイルです。どちらか一方を外してください。</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
         <translation>結果のファイル「%1」は写真「%2」と同一のファイルです。どちらか一方を別の場所に移してください。</translation>
     </message>

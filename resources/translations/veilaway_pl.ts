@@ -12,14 +12,6 @@
         <translation>Formatu „%1” nie można zapisać, więc wynik będzie plikiem TIFF.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation>Wynik „%1” jest zarazem jednym z podanych zdjęć. Należy pominąć jedno z nich.</translation>
-    </message>
-    <message>
-        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
-        <translation>To zdjęcie jest wynikiem dla „%1”, które również podano. Należy pominąć jedno z nich.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
         <translation>Wynik „%1” to ten sam plik co zdjęcie „%2”. Jeden z nich należy przenieść gdzie indziej.</translation>
     </message>

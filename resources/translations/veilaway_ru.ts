@@ -12,14 +12,6 @@
         <translation>Запись в формат «%1» не поддерживается, поэтому результат сохраняется в TIFF.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation>Результат «%1» сам указан среди фотографий. Исключите один из двух файлов.</translation>
-    </message>
-    <message>
-        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
-        <translation>Это результат обработки «%1», который тоже указан. Исключите один из двух файлов.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
         <translation>Результат «%1» — тот же файл, что и фотография «%2». Переместите один из них.</translation>
     </message>

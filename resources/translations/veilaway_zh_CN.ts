@@ -12,14 +12,6 @@
         <translation>无法写入“%1”格式，因此结果保存为 TIFF。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation>其结果文件“%1”本身也是要处理的照片之一。请去掉两者之一。</translation>
-    </message>
-    <message>
-        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
-        <translation>这是“%1”的结果文件，而后者也在要处理的照片中。请去掉两者之一。</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
         <translation>其结果文件“%1”与照片“%2”是同一个文件。请将两者之一移到别处。</translation>
     </message>

@@ -12,14 +12,6 @@
         <translation>無法寫入「%1」格式，因此結果儲存為 TIFF。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is itself one of the photographs given. Leave out one of the two.</source>
-        <translation>其結果檔案「%1」本身也是要處理的照片之一。請去掉其中一個。</translation>
-    </message>
-    <message>
-        <source>It is the result of &quot;%1&quot;, which is also given. Leave out one of the two.</source>
-        <translation>這是「%1」的結果檔案，而後者也在要處理的照片中。請去掉其中一個。</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
         <translation>其結果檔案「%1」與照片「%2」是同一個檔案。請將其中一個移到別處。</translation>
     </message>

@@ -11,7 +11,7 @@
 
 #include "VImage.h"
 
-/// What the program said and how it ended.
+/// The output and the exit status of the program.
 struct Said
 {
     int code;
@@ -19,19 +19,20 @@ struct Said
     QString err;
 };
 
-/// A folder of its own, photographs made in code, and the program run in it as a user would, without a locale or stored settings.
+/// A temporary folder with photographs made in code, in which the program is run as a user would, without a locale or stored
+/// settings.
 class TestFolder
 {
 public:
     QString path(const QString &name) const { return folder.filePath(name); }
-    /// The files that are there, sorted, without the configuration.
+    /// The names of the files in it, sorted, without the configuration.
     QStringList files() const;
     QByteArray content(const QString &name) const;
     void write(const QString &name, const QByteArray &bytes) const;
 
     /// A hazy slope in the format of the suffix: colours that fade towards a light grey from bottom to top.
     void photograph(const QString &name, int width = 48, int height = 32, unsigned short type = VImage::Rgb, int bits = 8) const;
-    /// Gives one pixel of a float photograph a colour that is no number.
+    /// Gives one pixel of a float photograph a colour that is not a number.
     void spoil(const QString &name) const;
     /// A 16-bit camera raw file (DNG with one Bayer plane) lying on its side.
     void raw(const QString &name, int width = 64, int height = 48) const;
@@ -42,7 +43,7 @@ public:
     /// The same through the shell, "$V" being the program.
     Said shell(const QString &script, const QStringList &environment = {}) const;
 
-    /// The program under way.
+    /// Starts the program without waiting for it.
     std::unique_ptr<QProcess> launch(const QStringList &arguments) const;
 
 private:

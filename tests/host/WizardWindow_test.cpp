@@ -33,12 +33,12 @@
 
 namespace {
 
-constexpr int kLimitMs = 300000; ///< For a few runs of the engine under a sanitizer on a busy machine.
+constexpr int kLimitMs = 300000; ///< Enough for a few runs of the engine under a sanitizer on a busy machine.
 const char kProcessGuid[] = "51D2A7E4-93C6-4F08-B1E5-6A0C7D3E9F21";
 
 HostApplication *host = nullptr;
 
-/// Lets the events come until something holds.
+/// Processes events until the condition holds; false after kLimitMs.
 bool eventually(const std::function<bool()> &holds)
 {
     bool late = false;
@@ -67,7 +67,7 @@ protected:
         ASSERT_TRUE(drawScene(width, height, /*haze=*/true).save(folder.path(name), nullptr, 90));
     }
 
-    /// Starts the command, does as the person does, closes the window unless it is closed, and returns how the command ended.
+    /// Starts the command, lets the person act, closes the window if it is open, and returns the exit status.
     int use(const QStringList &arguments, const std::function<void()> &person)
     {
         const CommandLine line = CommandLine::parse(QStringList{"veilaway", "wizard"} + arguments);
@@ -187,7 +187,7 @@ protected:
     bool workShown = false;
 };
 
-/// The first column from which on two pictures are the same.
+/// The first column from which two pictures are the same.
 int sameFrom(const QImage &one, const QImage &other)
 {
     for (int x = one.width(); x-- > 0;)
@@ -264,15 +264,15 @@ TEST_F(Wizard, FromChoosingTwoPhotographsToTwoResults)
         EXPECT_EQ(find<QListWidget>("results")->count(), 2);
         EXPECT_EQ(find<QLabel>("outcome")->text(), folder.path("valley" + tag + ".jpg"));
         auto *view = find<BeforeAfterView>("beforeAfter");
-        const auto tellsApart = [&] {
+        const auto showsBoth = [&] {
             const QImage picture = view->grab().toImage();
             const int y = picture.height() / 2, x = picture.width() / 4, ground = 0;
             return picture.pixel(x, y) != picture.pixel(ground, ground) &&
                    picture.pixel(3 * x, y) != picture.pixel(ground, ground);
         };
-        EXPECT_TRUE(eventually(tellsApart));
+        EXPECT_TRUE(eventually(showsBoth));
         keepPicture("4_results");
-        clickAndPaste("saveSession", folder.path("evening")); // the suffix comes by itself
+        clickAndPaste("saveSession", folder.path("evening")); // the suffix is added
         go(QWizard::FinishButton);
         EXPECT_FALSE(window->isVisible());
     });
@@ -320,7 +320,7 @@ TEST_F(Wizard, ASessionGoesOnWithAFurtherPhotograph)
         click("pushButtonApplyAll");
         EXPECT_EQ(strengthOf("valley.jpg"), 55);
 
-        // The earlier result is asked for, and stays.
+        // The user is asked about the earlier result, which stays.
         go(QWizard::CommitButton);
         keepPicture("3_question");
         click("keep");
@@ -341,7 +341,7 @@ TEST_F(Wizard, ASessionGoesOnWithAFurtherPhotograph)
     EXPECT_EQ(strengthIn(folder.path("session.xml"), folder.path(result)), "");
     EXPECT_EQ(strengthIn(folder.path("session.xml"), folder.path("more/tower.png")), "55");
 
-    // The strength for all is the stored default from now on.
+    // The strength applied to all is now the stored default.
     use({folder.path("valley.jpg")}, [&] {
         ASSERT_TRUE(reached(WizardWindow::Photographs));
         go(QWizard::NextButton);
@@ -393,7 +393,7 @@ TEST_F(Wizard, WithAutoAsTheDefaultEachPhotographStartsAtItsOwnStrength)
     host->setValue(kProcessGuid, "strength", {});
 }
 
-TEST_F(Wizard, WhatWentAwayOrCameBackAsItWasIsToldWithTheReason)
+TEST_F(Wizard, AMissingAndAnUnchangedPhotographAreShownWithTheReason)
 {
     photograph("valley.jpg", 300, 200);
     folder.photograph("nan.tif", 300, 200, VImage::Rgb, 32);
@@ -438,11 +438,11 @@ TEST_F(Wizard, TheListNamesThePhotographShownWhenAnotherCannotBeRead)
             const QString whole = QCoreApplication::translate("PhotoPage", "%n photograph(s)", nullptr, 2);
             ASSERT_TRUE(eventually([&] { return find<QLabel>("state")->text() == whole; }));
             QFile::remove(folder.path(goes));
-            QString told;
+            QString shown;
             QTimer reader;
             QObject::connect(&reader, &QTimer::timeout, [&] {
                 if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-                    told = box->text();
+                    shown = box->text();
                     box->accept();
                 }
             });
@@ -453,8 +453,8 @@ TEST_F(Wizard, TheListNamesThePhotographShownWhenAnotherCannotBeRead)
             typeStrength(stays, "40");
             if (!firstGoes)
                 click("QToolButton_Next");
-            ASSERT_TRUE(eventually([&] { return !told.isEmpty(); }));
-            EXPECT_TRUE(told.startsWith(goes + ": ")) << told;
+            ASSERT_TRUE(eventually([&] { return !shown.isEmpty(); }));
+            EXPECT_TRUE(shown.startsWith(goes + ": ")) << shown;
             EXPECT_EQ(find<QComboBox>("comboBoxImageDef")->currentText(), stays);
             click("pushButtonApplyAll");
             go(QWizard::CommitButton);
@@ -491,7 +491,7 @@ TEST_F(Wizard, ClosingStopsTheWorkBetweenPhotographs)
     EXPECT_EQ(folder.files().size(), 3);
 }
 
-/// The program's own start, but for the command line: the first argument is the language of the window.
+/// Starts as the program does, except that the first argument is the language of the window.
 int main(int argc, char **argv)
 {
     testing::InitGoogleTest(&argc, argv);

@@ -1,5 +1,5 @@
-// What goes wrong around the program: full and write-protected places, photographs that go away, a killed program, two at once,
-// odd names. Each time the sources stay whole, a result is whole or absent, and nothing else is left.
+// What goes wrong around the program: full and write-protected folders, photographs that disappear, a killed program, two at
+// once, odd names. In each case the sources are untouched, each result is complete or absent, and nothing else is left.
 
 #include <chrono>
 #include <csignal>
@@ -40,7 +40,7 @@ using Stage = BatchRunner::Stage;
 class BatchFaults : public testing::Test, protected BatchRunner::Observer
 {
 protected:
-    /// What becomes of one photograph if `act` happens when this stage begins.
+    /// The outcome of one photograph if `act` happens when this stage begins.
     BatchOutcome outcomeOf(const QString &path, Stage stage, const std::function<void()> &act, bool overwrite = false)
     {
         when = stage;
@@ -74,7 +74,7 @@ private:
     BatchOutcome last;
 };
 
-/// No file may grow beyond this while it lives: to a program, a full disk.
+/// While it exists, no file may grow beyond this size: to a program, a full disk.
 class FullDisk
 {
 public:
@@ -174,14 +174,6 @@ TEST_F(BatchFaults, ADiskThatIsFullWhenTheResultIsWritten)
         }
 }
 
-TEST_F(BatchFaults, APhotographAndItsResultInOneBatch)
-{
-    folder.photograph("photo.png");
-    folder.photograph("photo_dehazed.png");
-    for (const BatchItem &item : plan({folder.path("photo.png"), folder.path("photo_dehazed.png")}, /*overwrite=*/true))
-        EXPECT_TRUE(item.refusal.endsWith("Leave out one of the two.")) << item.given << item.refusal;
-}
-
 TEST_F(BatchFaults, AnotherProgramIsDoneFirst)
 {
     const auto other = [this] { folder.write("photo_dehazed.png", "the other's"); };
@@ -191,7 +183,7 @@ TEST_F(BatchFaults, AnotherProgramIsDoneFirst)
     EXPECT_TRUE(outcome.message.endsWith("already exists. Add --overwrite to replace it.")) << outcome.message;
     EXPECT_EQ(folder.content("photo_dehazed.png"), "the other's");
 
-    // Nor is it lost when this program fails afterwards, whatever it was told.
+    // Nor is it lost when this program fails afterwards, even with --overwrite.
     QFile::remove(folder.path("photo_dehazed.png"));
     std::unique_ptr<FullDisk> full;
     const auto otherAndFull = [&] {
@@ -216,7 +208,7 @@ protected:
     static void SetUpTestSuite() { gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr); }
     static void TearDownTestSuite() { gflLibraryExit(); }
 
-    /// A photograph with an XMP packet, which the program carries over when the result stands already.
+    /// A photograph with an XMP packet, which the program copies once the result exists.
     void photographWithXmp(const QString &name, int width, int height)
     {
         folder.photograph(name, width, height);
@@ -419,7 +411,7 @@ TEST_F(ProgramFaults, AFileSystemWhereEveryFileHasAName)
     folder.photograph("new.tif", 300, 200);
     folder.photograph("old.tif", 300, 200);
     folder.write("old_dehazed.tif", "older");
-    // An unnamed file gets its name through /proc.
+    // An unnamed file is given its name through /proc.
     const Said said =
         inPrivateMounts("mount -t tmpfs none /proc; "
                         "rm -f *_dehazed.tif; (ulimit -f 8; $V new.tif --strength 0); echo =$?; ls -A; "
@@ -482,7 +474,7 @@ TEST_F(ProgramFaults, NamesOfAnyLetters)
     const Said first = folder.run(options + QStringList{"--"} + photographs);
     EXPECT_EQ(first.code, 0) << first.err;
     EXPECT_THAT(resultsIn(first), testing::UnorderedElementsAreArray(results));
-    // And back out of the settings file.
+    // And read back from the settings file.
     const Said again = folder.run({"--settings", "s.xml", "--json", "--overwrite"});
     EXPECT_EQ(again.code, 0) << again.err;
     EXPECT_THAT(resultsIn(again), testing::UnorderedElementsAreArray(results));
@@ -502,9 +494,9 @@ TEST_F(ProgramFaults, ANameThatTheSettingsCanNotHold)
     EXPECT_EQ(folder.run({"--settings", "s.xml", "--overwrite"}).code, 0) << "of the others it keeps the strength";
 }
 
-TEST_F(ProgramFaults, ANameThatIsNoUtf8IsRefused)
+TEST_F(ProgramFaults, ANameThatIsNotUtf8IsRefused)
 {
-    // It does not come through the interface of the plug-in.
+    // The plug-in's interface can't pass it on.
     folder.photograph("plain.png", 16, 12);
     const Said said =
         folder.shell("n=$(printf 'odd\\303\\251\\377\\303.png'); mkdir \"$n.d\"; cp plain.png \"$n\"; cp plain.png \"$n.d\"; "
@@ -521,19 +513,4 @@ TEST_F(ProgramFaults, ANameThatIsNoUtf8IsRefused)
               2)
         << said.err;
     EXPECT_THAT(folder.files(), testing::ElementsAre("plain.png", "plain_dehazed.png"));
-}
-
-TEST_F(ProgramFaults, APhotographThatTheSolverCanNotTakeIsWrittenAsItWas)
-{
-    VImage image(40, 30, VImage::Rgb, 32, /*clear=*/true);
-    for (int y = 0; y < 30; ++y)
-        for (int x = 0; x < 40; ++x)
-            std::fill_n(reinterpret_cast<float *>(image.PixelAddress(x, y)), 3, 0.2f + 0.02f * float(y));
-    reinterpret_cast<float *>(image.PixelAddress(20, 15))[1] = std::numeric_limits<float>::quiet_NaN();
-    image.Save(folder.path("nan.tif"), "tif", -1, QString());
-    const Said said = folder.run({"nan.tif", "--strength", "90"});
-    EXPECT_EQ(said.code, 0) << said.err;
-    const auto result = PhotoLoader::decode(folder.path("nan_dehazed.tif"));
-    for (int y = 0; y < 30; ++y)
-        ASSERT_EQ(std::memcmp(result->image().PixelAddress(0, y), image.PixelAddress(0, y), 40 * 12), 0) << y;
 }
