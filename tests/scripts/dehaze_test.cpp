@@ -1,4 +1,4 @@
-// scripts/dehaze in a copied tree, where what it calls only writes down that it was called.
+// scripts/dehaze in a copied tree, where the programs that it calls only record their calls.
 
 #include <QDir>
 #include <gtest/gtest.h>
