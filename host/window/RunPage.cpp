@@ -26,9 +26,9 @@ RunPage::RunPage(HostApplication &host, VIPluginOne2One &process, QWidget *paren
     setTitle(tr("Removing haze"));
 
     questionText->setWordWrap(true);
-    auto *replace = new QPushButton(tr("&Replace them"), question);
+    auto *replace = new QPushButton(tr("&Replace"), question);
     replace->setObjectName(QStringLiteral("replace"));
-    auto *keep = new QPushButton(tr("&Keep them"), question);
+    auto *keep = new QPushButton(tr("&Keep"), question);
     keep->setObjectName(QStringLiteral("keep"));
     auto *asked = new QHBoxLayout(question);
     asked->setContentsMargins(0, 0, 0, 0);

@@ -569,11 +569,11 @@ Beispiele:
         <translation>Jedes Ergebnis wird neben seinem Foto gespeichert.</translation>
     </message>
     <message>
-        <source>&amp;Replace them</source>
+        <source>&amp;Replace</source>
         <translation>&amp;Ersetzen</translation>
     </message>
     <message>
-        <source>&amp;Keep them</source>
+        <source>&amp;Keep</source>
         <translation>&amp;Behalten</translation>
     </message>
     <message>

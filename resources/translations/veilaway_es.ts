@@ -569,11 +569,11 @@ Ejemplos:
         <translation>Cada resultado se guarda junto a su foto.</translation>
     </message>
     <message>
-        <source>&amp;Replace them</source>
+        <source>&amp;Replace</source>
         <translation>&amp;Reemplazar</translation>
     </message>
     <message>
-        <source>&amp;Keep them</source>
+        <source>&amp;Keep</source>
         <translation>&amp;Conservar</translation>
     </message>
     <message>

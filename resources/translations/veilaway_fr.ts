@@ -569,11 +569,11 @@ Exemples&#xa0;:
         <translation>Chaque résultat est enregistré à côté de sa photo.</translation>
     </message>
     <message>
-        <source>&amp;Replace them</source>
+        <source>&amp;Replace</source>
         <translation>&amp;Remplacer</translation>
     </message>
     <message>
-        <source>&amp;Keep them</source>
+        <source>&amp;Keep</source>
         <translation>&amp;Conserver</translation>
     </message>
     <message>

@@ -569,11 +569,11 @@ Esempi:
         <translation>Ogni risultato viene salvato accanto alla propria foto.</translation>
     </message>
     <message>
-        <source>&amp;Replace them</source>
+        <source>&amp;Replace</source>
         <translation>S&amp;ostituisci</translation>
     </message>
     <message>
-        <source>&amp;Keep them</source>
+        <source>&amp;Keep</source>
         <translation>&amp;Mantieni</translation>
     </message>
     <message>

@@ -561,11 +561,11 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>結果はそれぞれの写真と同じフォルダーに書き込まれます。</translation>
     </message>
     <message>
-        <source>&amp;Replace them</source>
+        <source>&amp;Replace</source>
         <translation>置き換える(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Keep them</source>
+        <source>&amp;Keep</source>
         <translation>そのまま残す(&amp;K)</translation>
     </message>
     <message>

@@ -577,11 +577,11 @@ Przykłady:
         <translation>Każdy wynik jest zapisywany obok swojego zdjęcia.</translation>
     </message>
     <message>
-        <source>&amp;Replace them</source>
+        <source>&amp;Replace</source>
         <translation>Za&amp;stąp</translation>
     </message>
     <message>
-        <source>&amp;Keep them</source>
+        <source>&amp;Keep</source>
         <translation>Z&amp;achowaj</translation>
     </message>
     <message>

@@ -577,11 +577,11 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Каждый результат записывается рядом со своей фотографией.</translation>
     </message>
     <message>
-        <source>&amp;Replace them</source>
+        <source>&amp;Replace</source>
         <translation>&amp;Заменить</translation>
     </message>
     <message>
-        <source>&amp;Keep them</source>
+        <source>&amp;Keep</source>
         <translation>Ос&amp;тавить</translation>
     </message>
     <message>

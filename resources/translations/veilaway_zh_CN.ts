@@ -561,11 +561,11 @@ Examples:
         <translation>每张照片的结果都写入其所在的文件夹。</translation>
     </message>
     <message>
-        <source>&amp;Replace them</source>
+        <source>&amp;Replace</source>
         <translation>替换(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Keep them</source>
+        <source>&amp;Keep</source>
         <translation>保留(&amp;K)</translation>
     </message>
     <message>

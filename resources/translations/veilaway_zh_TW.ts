@@ -561,11 +561,11 @@ Examples:
         <translation>每張照片的結果都寫入其所在的資料夾。</translation>
     </message>
     <message>
-        <source>&amp;Replace them</source>
+        <source>&amp;Replace</source>
         <translation>取代(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Keep them</source>
+        <source>&amp;Keep</source>
         <translation>保留(&amp;K)</translation>
     </message>
     <message>
