@@ -19,7 +19,7 @@
 #include "TransposedRun.h"
 #include "VException.h"
 #include "WantedStrength.h"
-#include "XmpCarrier.h"
+#include "carryXmp.h"
 #include "kernel32.h"
 #include "whyUnchanged.h"
 
@@ -31,16 +31,16 @@ namespace {
     throw VException(QStringLiteral("Stopped"), V_LOCATION);
 }
 
-/// What one photograph takes at most, `facts` being those that the engine sees, for source pixels of `sourceBytes`. The source
+/// What one photograph takes at most, `facts` being those that the engine sees. The source
 /// and the working image of 16 bytes a pixel are there throughout. Beside them there is first the sparse system, whose size is
 /// the same for every photograph (measured: 150 MB), and at last the map of 4 bytes a pixel, with guide and map of the level
 /// before: the copy of 100,000 pixels, doubled for as long as it stays narrower. To turn a picture takes it twice, or 12 bytes a
 /// pixel of coefficients, which is less than all that.
-qint64 memoryFor(const PhotoFacts &facts, int sourceBytes, bool untouched)
+qint64 memoryFor(const PhotoHead &facts, bool untouched)
 {
     constexpr int kWorkingBytes = 16, kMapBytes = 4;
     const qint64 pixels = qint64(facts.width) * facts.height;
-    const qint64 images = pixels * (sourceBytes + kWorkingBytes);
+    const qint64 images = pixels * (facts.bytesPerPixel + kWorkingBytes);
     if (untouched || pixels == 0)
         return images;
     qint64 level = std::max(1, int(std::sqrt(100000.0 * facts.width / facts.height)));
@@ -158,7 +158,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
 QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage, std::optional<int> &strength)
 {
     Photograph &original = *application.photograph(item.path);
-    const PhotoFacts facts = original.facts();
+    const PhotoHead facts = original.facts();
     const bool untouched = !item.automatic && item.strength == 0;
     const int limit = untouched ? 0 : kRefusedWidth;
     const bool wide = limit > 0 && facts.width >= limit;
@@ -170,7 +170,7 @@ QString BatchRunner::attempt(const BatchItem &item, int index, Stage &stage, std
         turned.emplace(application, item.path);
     Photograph &photograph = turned ? turned->photograph() : original;
 
-    const qint64 bytes = memoryFor(photograph.facts(), PhotoLoader::pixelBytes(item.path), untouched);
+    const qint64 bytes = memoryFor(photograph.facts(), untouched);
     reserve(bytes);
     VISettingsHandle settings = nullptr;
     const auto finish = [&](void *) {

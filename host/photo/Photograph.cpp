@@ -24,7 +24,7 @@ QString Photograph::tooLarge(int limit)
         .arg(limit - 1);
 }
 
-PhotoFacts Photograph::facts()
+PhotoHead Photograph::facts()
 {
     const std::lock_guard lock(mutex);
     if (!head) {
@@ -45,13 +45,13 @@ QString Photograph::displayName()
 
 int Photograph::width()
 {
-    const PhotoFacts known = facts();
+    const PhotoHead known = facts();
     return liesOnItsSide(known.orientation) ? known.height : known.width;
 }
 
 int Photograph::height()
 {
-    const PhotoFacts known = facts();
+    const PhotoHead known = facts();
     return liesOnItsSide(known.orientation) ? known.width : known.height;
 }
 

@@ -38,7 +38,7 @@ public:
 
     const QString &path() const { return file; }
     /// The head of the file, read at the first call.
-    PhotoFacts facts();
+    PhotoHead facts();
     /// Calls `next` on the acquiring thread at each step of a full use; none by default. Not while a use goes on.
     void watch(Watcher next) { watcher = std::move(next); }
     /// acquireFull refuses wider photographs; 0, the default, refuses none.
@@ -92,7 +92,7 @@ private:
     int refusedWidth = 0;
 
     std::mutex mutex; ///< Over all that follows.
-    std::optional<PhotoFacts> head;
+    std::optional<PhotoHead> head;
     std::optional<Form> form;
     std::optional<int> automatic;
     std::shared_ptr<DecodedPhoto> full;

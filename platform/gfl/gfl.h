@@ -2,6 +2,8 @@
 
 #include "GflBitmap.h"
 
+class RegularFile;
+
 /// The codec layer: reads and writes image files, and carries their colour profile, IPTC and EXIF.
 ///
 /// Every operation returns or yields a result code; nothing throws. After gflLibraryInitEx the operations may be called from
@@ -95,6 +97,8 @@ void gflGetDefaultLoadParams(GflLoadParams *params);
 /// form that is nearest to the file's own (grey, RGB or RGBA; 8, 16 bits or float), its rows aligned to 4 bytes, top to bottom,
 /// with no orientation applied. On an error `*bitmap` is null.
 int gflLoadBitmapUTF8(const char *fileName, GflBitmap **bitmap, const GflLoadParams *params, GflFileInformation *information);
+/// The same for a file that the caller has opened; it is not opened again.
+int gflLoadBitmapFrom(const RegularFile &file, GflBitmap **bitmap, const GflLoadParams *params);
 
 /// Writes a bitmap, by way of a temporary file beside `fileName` that takes its place when it is whole: an error leaves what
 /// stood under the name as it was.

@@ -3,6 +3,8 @@
 #include "ByteReader.h"
 #include "gflBitmapParts.h"
 
+class RegularFile;
+
 /// Blocks of metadata, taken apart and put together. Everything here takes damaged blocks: what can't be understood is left out.
 namespace gfl {
 
@@ -49,7 +51,7 @@ struct FileMetadata
     int width = 0;
     int height = 0;
 };
-FileMetadata metadataFromFile(const std::string &fileName, bool raw);
+FileMetadata metadataFromFile(const RegularFile &file, bool raw);
 
 /// The block, made smaller where it exceeds `limit` bytes by leaving out the thumbnail and then the largest unknown tags; empty
 /// if that does not suffice.

@@ -7,10 +7,12 @@
 #include "PixelForm.h"
 #include "gflBitmapParts.h"
 
+class RegularFile;
+
 /// Rows of samples: from one form to another, out of a bitmap that is written, into a bitmap that is read.
 namespace gfl {
 
-class InputFile;
+using InputFile = RegularFile;
 
 using Form = PixelForm;
 

@@ -6,7 +6,7 @@
 #include "PhotoLoader.h"
 #include "TestFolder.h"
 #include "VException.h"
-#include "XmpCarrier.h"
+#include "carryXmp.h"
 #include "gfl.h"
 
 namespace {

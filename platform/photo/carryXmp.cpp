@@ -1,15 +1,15 @@
-#include "XmpCarrier.h"
+#include "carryXmp.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <optional>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
 
 #include "ByteReader.h"
+#include "RegularFile.h"
 #include "photoMetadata.h"
 
 namespace {
@@ -88,7 +88,8 @@ QByteArray mapped(QFile &file)
 std::string packetOf(const QString &path)
 {
     try {
-        const auto image = openMetadata(QFile::encodeName(path).toStdString());
+        const RegularFile file(QFile::encodeName(path).toStdString());
+        const auto image = openMetadata(file);
         if (!image)
             return {}; // a format without XMP
         image->readMetadata();
@@ -165,7 +166,7 @@ QString carryXmp(const QString &source, const QString &result)
     }
     copy.setPermissions(to.permissions());
     if (std::rename(QFile::encodeName(copy.fileName()).constData(), QFile::encodeName(result).constData()) != 0)
-        return QCoreApplication::translate("XmpCarrier", "the result can't be replaced");
+        return qt_error_string(errno);
     copy.setAutoRemove(false);
     return QString();
 }
