@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Some hundred copies at the size of the plug-in's page.
+/// Enough for about a hundred copies at the size of the plug-in's page.
 constexpr std::size_t kScaledBytes = std::size_t(256) << 20;
 
 } // namespace

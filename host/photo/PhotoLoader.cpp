@@ -16,13 +16,13 @@ QString reasonFor(const PhotoProblem &problem)
         return PhotoLoader::tr("The file can't be opened. Check that it exists and that you may read it.");
     case Cause::Video:
         return PhotoLoader::tr(
-            "It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.");
+            "It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.");
     case Cause::UnknownFormat:
         return PhotoLoader::tr(
-            "It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, "
-            "PSD and camera raw can be read; give the file the suffix of what it is, or convert it.");
+            "It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, "
+            "PSD and camera raw can be read; give the file the suffix of its format, or convert it.");
     case Cause::Damaged:
-        return PhotoLoader::tr("The file is cut short or damaged. Copy it anew from the camera or a backup.");
+        return PhotoLoader::tr("The file is cut short or damaged. Copy it again from the camera or a backup.");
     case Cause::NoMemory:
         return PhotoLoader::tr("There is not enough memory for it. Close other programs, or work on one photograph at a time "
                                "(--jobs 1).");
@@ -30,7 +30,7 @@ QString reasonFor(const PhotoProblem &problem)
         return PhotoLoader::tr("There is not enough memory for this camera raw file. Close other programs, or work on one "
                                "photograph at a time (--jobs 1).");
     case Cause::RawNotRead:
-        return PhotoLoader::tr("The camera raw file can't be developed: %1. Copy it anew, or convert it to DNG or TIFF.")
+        return PhotoLoader::tr("The camera raw file can't be developed: %1. Copy it again, or convert it to DNG or TIFF.")
             .arg(QString::fromStdString(problem.detail));
     case Cause::PixelForm:
     case Cause::None:
@@ -65,7 +65,7 @@ QString PhotoLoader::complaint(const QString &path)
 {
     const QFileInfo info(path);
     if (path.isEmpty())
-        return tr("An empty name stands for no photograph.");
+        return tr("An empty name cannot be that of a photograph.");
     if (!info.exists() && path.contains(QChar::ReplacementCharacter))
         return tr("Its name or that of a folder holds letters that are not UTF-8. Rename it.");
     if (!info.exists())
@@ -74,11 +74,11 @@ QString PhotoLoader::complaint(const QString &path)
     if (info.isDir())
         return tr("This is a folder. Name the photographs in it, for instance \"%1\".").arg(path + QStringLiteral("/*.jpg"));
     if (!info.isFile())
-        return tr("This is no regular file. Copy the photograph into one.");
+        return tr("This is not a regular file. Copy the photograph into one.");
     if (!info.isReadable())
         return tr("The file can't be read. Give yourself the permission to read it.");
     if (info.size() == 0)
-        return tr("The file is empty. Copy it anew from the camera or a backup.");
+        return tr("The file is empty. Copy it again from the camera or a backup.");
     return QString();
 }
 

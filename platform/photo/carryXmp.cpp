@@ -14,9 +14,9 @@
 
 namespace {
 
-/// The XMP of a JPEG or PNG file as it stands in it, an extended one in several segments included, and the place where such a
-/// file takes it. Between two files of one of these formats it is moved as it is: the metadata library would write the EXIF of a
-/// PNG anew.
+/// The XMP of a JPEG or PNG file, byte for byte and including extended XMP in several segments, and the place for XMP in such a
+/// file. Between two files of the same of these formats it is copied verbatim: the metadata library would rewrite the EXIF of a
+/// PNG.
 struct XmpPieces
 {
     QByteArray bytes;
@@ -50,7 +50,7 @@ std::optional<XmpPieces> piecesOfJpeg(const QByteArray &file)
             if (leading)
                 pieces.place = qint64(reader.position());
         }
-    } catch (const EndOfBytes &) { // what came before counts
+    } catch (const EndOfBytes &) { // what came before is kept
     }
     return pieces;
 }
@@ -76,7 +76,7 @@ std::optional<XmpPieces> piecesOfPng(const QByteArray &file)
     return pieces;
 }
 
-/// The content of a file without a copy; null if it can't be had.
+/// The content of a file, mapped instead of copied; null on a failure.
 QByteArray mapped(QFile &file)
 {
     if (!file.open(QIODevice::ReadOnly) || file.size() > INT_MAX)
@@ -93,7 +93,7 @@ std::string packetOf(const QString &path)
         if (!image)
             return {}; // a format without XMP
         image->readMetadata();
-        // As it stands in the file, where the library keeps that (it does not for TIFF), or else in the library's own words.
+        // Verbatim where the library keeps the file's own packet (for TIFF it does not), or else as the library writes it.
         image->writeXmpFromPacket(true);
         if (std::string packet = image->xmpPacket(); !packet.empty())
             return packet;
@@ -104,7 +104,7 @@ std::string packetOf(const QString &path)
     }
 }
 
-/// False if the format can't hold any.
+/// False if the format can't hold XMP.
 bool setPacket(const QString &path, const std::string &packet)
 {
     const auto image = openMetadata(QFile::encodeName(path).toStdString());
@@ -124,7 +124,7 @@ QString copyTo(QIODevice &target, QIODevice &source)
         if (got < 0)
             return source.errorString();
         const qint64 written = target.write(block.constData(), got);
-        if (written != got) // what went in in part is no error to Qt
+        if (written != got) // Qt does not count a partial write as an error
             return written < 0 ? target.errorString() : qt_error_string(ENOSPC);
     }
     return QString();
