@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "FuzzTarget.h"
-#include "XmpCarrier.h"
+#include "carryXmp.h"
 #include "gfl.h"
 
 // Photographs of one format, with their metadata: reading ends with a result code and nothing worse, and whatever was read can be

@@ -1,12 +1,9 @@
 #include <filesystem>
 
-#include <exiv2/exiv2.hpp>
-
 #include "FuzzTarget.h"
-#include "PhotoLoader.h"
-#include "VException.h"
 #include "gfl.h"
-#include "photoKind.h"
+#include "metadataLibrary.h"
+#include "readPhoto.h"
 
 // Heads of files under names that may be wrong: whatever is not a photograph is refused, and everything else has a size that the
 // file could hold.
@@ -17,15 +14,10 @@ constexpr const char *kNames[] = {"source.mp4", "source.nef", "source.jpg", "sou
 
 void describe(const std::string &name, PhotoKind kind, std::size_t count)
 {
-    bool described = false;
-    try {
-        const PhotoFacts facts = PhotoLoader::describe(QString::fromStdString(name));
-        described = true;
-        require(facts.width >= 0 && facts.height >= 0 && facts.orientation >= 1 && facts.orientation <= 8,
-                "figures are in range");
-        require(std::int64_t(facts.width) * facts.height < std::int64_t(count + 1) << 20, "a file of its length could hold it");
-    } catch (const VException &) {
-    }
+    PhotoHead head;
+    const bool described = !readHead(name, head);
+    require(head.width >= 0 && head.height >= 0 && head.orientation >= 1 && head.orientation <= 8, "figures are in range");
+    require(std::int64_t(head.width) * head.height < std::int64_t(count + 1) << 20, "a file of its length could hold it");
     require(!described || (kind != PhotoKind::Video && kind != PhotoKind::Other), "what is not a photograph is refused");
 }
 
@@ -35,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t cou
 {
     static const ScratchFolder folder;
     static const bool started = [] {
-        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        startMetadataLibrary();
         folder.write("source", nullptr, 0);
         for (const char *name : kNames)
             std::filesystem::create_hard_link(folder.path("source"), folder.path(name));

@@ -19,7 +19,7 @@
 #include "TransposedRun.h"
 #include "VException.h"
 #include "WantedStrength.h"
-#include "XmpCarrier.h"
+#include "carryXmp.h"
 #include "kernel32.h"
 #include "whyUnchanged.h"
 
@@ -31,16 +31,16 @@ namespace {
     throw VException(QStringLiteral("Stopped"), V_LOCATION);
 }
 
-/// The most memory that one photograph takes, with `facts` as the engine sees them and `sourceBytes` per pixel of the source.
+/// The most memory that one photograph takes, with `facts` as the engine sees them.
 /// The source and the working image of 16 bytes per pixel exist throughout. Added to them is first the sparse system, whose size
 /// is the same for every photograph (measured: 150 MB), and at the end the haze map of 4 bytes per pixel, with the guide and the
 /// map of the level before: the copy of 100,000 pixels, doubled as long as it stays narrower. Transposing a picture takes two
 /// copies of it, or 12 bytes per pixel of coefficients, which is less than all that.
-qint64 memoryFor(const PhotoFacts &facts, int sourceBytes, bool untouched)
+qint64 memoryFor(const PhotoHead &facts, bool untouched)
 {
     constexpr int kWorkingBytes = 16, kMapBytes = 4;
     const qint64 pixels = qint64(facts.width) * facts.height;
-    const qint64 images = pixels * (sourceBytes + kWorkingBytes);
+    const qint64 images = pixels * (facts.bytesPerPixel + kWorkingBytes);
     if (untouched || pixels == 0)
         return images;
     qint64 level = std::max(1, int(std::sqrt(100000.0 * facts.width / facts.height)));
@@ -162,7 +162,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
 void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage> &stage, BatchOutcome &outcome)
 {
     Photograph &original = *application.photograph(item.path);
-    const PhotoFacts facts = original.facts();
+    const PhotoHead facts = original.facts();
     const bool untouched = !item.automatic && item.strength == 0;
     const int limit = untouched ? 0 : kRefusedWidth;
     const bool wide = limit > 0 && facts.width >= limit;
@@ -174,7 +174,7 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
         turned.emplace(application, item.path);
     Photograph &photograph = turned ? turned->photograph() : original;
 
-    const qint64 bytes = memoryFor(photograph.facts(), PhotoLoader::pixelBytes(item.path), untouched);
+    const qint64 bytes = memoryFor(photograph.facts(), untouched);
     reserve(bytes);
     VISettingsHandle settings = nullptr;
     const auto finish = [&](void *) {

@@ -5,22 +5,16 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <exiv2/exiv2.hpp>
 
 #include "gfl.h"
 #include "gflCallbacks.h"
+#include "metadataLibrary.h"
 #include "startLibraries.h"
 
 namespace {
 
-/// Some hundred copies at the size of the plug-in's page.
+/// Enough for about a hundred copies at the size of the plug-in's page.
 constexpr std::size_t kScaledBytes = std::size_t(256) << 20;
-
-void lockXmp(void *mutex, bool take)
-{
-    auto *lock = static_cast<std::recursive_mutex *>(mutex);
-    take ? lock->lock() : lock->unlock();
-}
 
 } // namespace
 
@@ -29,9 +23,7 @@ HostApplication::HostApplication(const QLocale &locale, bool lendServices)
       settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Ombre"), QStringLiteral("veilaway")),
       scaledImages(kScaledBytes)
 {
-    static std::recursive_mutex xmpMutex;
-    Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
-    Exiv2::XmpParser::initialize(lockXmp, &xmpMutex);
+    startMetadataLibrary();
     if (lending) {
         startImageLibrary(nullptr); // the codec layer with it
         startInterfaceLibrary(nullptr);

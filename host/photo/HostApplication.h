@@ -19,8 +19,8 @@
 
 /// The program as its plug-ins see it: settings, language, catalogues, photographs and lent services.
 ///
-/// Settings live in the user's Ombre/veilaway.ini (XDG_CONFIG_HOME, or ~/.config), one section a group. value, setValue, locale,
-/// imageDef, photograph, addTransposed and forget may be called on any thread, the rest on the main one.
+/// Settings live in the user's Ombre/veilaway.ini (XDG_CONFIG_HOME, or ~/.config), one section per group. value, setValue,
+/// locale, imageDef, photograph, addTransposed and forget may be called on any thread, the rest on the main one.
 class HostApplication : public VIApplication
 {
 public:
@@ -29,18 +29,18 @@ public:
     HostApplication(const QLocale &locale, bool lendServices);
     ~HostApplication() override;
 
-    /// The locale for what a user writes as a language: "de", "fr_CA", "pt-BR.UTF-8"; Russian also as "re", as its catalogue is
-    /// named. Nothing if there is no catalogue for it.
+    /// The locale for a language as a user writes it: "de", "fr_CA", "pt-BR.UTF-8"; Russian also as "re", the name of its
+    /// catalogue. Nothing if there is no catalogue for it.
     static std::optional<QLocale> localeFor(const QString &language);
     /// The languages that have a catalogue, as --language takes them.
     static QStringList languages();
 
-    /// What `value` answers for this key, in any group, in place of the caller's fallback when nothing is stored. Before any
-    /// other thread runs.
+    /// Sets what `value` returns for this key, in any group, instead of the caller's fallback when nothing is stored. Call it
+    /// before any other thread runs.
     void setUsual(const QString &key, const QVariant &value);
 
-    /// For its lifetime, `value` answers each question for this key with the next of `answers`; an invalid one stands for the
-    /// usual answer. So a process that asks for its stored default once a photograph starts each with a strength of its own.
+    /// During its lifetime, each `value` for this key returns the next of `answers`; an invalid one means the usual result. So a
+    /// process that reads its stored default once per photograph starts each of them with a different strength.
     class Presets
     {
     public:
@@ -53,17 +53,17 @@ public:
         HostApplication &application;
     };
 
-    /// What is stored under this key, as a text; null if nothing is. setValue with an invalid value takes it away. Any thread.
+    /// What is stored under this key, as text; null if nothing is. setValue with an invalid value removes it. Any thread.
     QString storedText(const QString &group, const QString &key);
-    /// Writes what setValue was given, and names the file if that can't be done.
+    /// Writes the settings to their file; returns its name if that fails, or else an empty string.
     QString unwrittenSettings();
 
-    /// Who is told of a failure that no one has caught on the interface thread; the program then goes on.
+    /// Where failures that nothing has caught on the interface thread are reported; the program then goes on.
     void reportTo(std::function<void(const QString &message)> next) { reporter = std::move(next); }
 
     /// The photograph behind imageDef.
     Photograph *photograph(const QString &path);
-    /// From now on the photograph at this path, which no one has asked for before, is shown with rows for columns.
+    /// From now on the photograph at this path, which must not have been requested before, is shown with rows for columns.
     Photograph *addTransposed(const QString &path);
     /// Destroys the photograph of this path, which no one uses any longer.
     void forget(const QString &path);

@@ -21,7 +21,7 @@ PhotoReader::PhotoReader(HostApplication &host, int pictureSide, QObject *parent
 PhotoReader::~PhotoReader()
 {
     heads.clear();
-    heads.waitForDone(); // it may hand on to the other one
+    heads.waitForDone(); // it may add work to the other pool
     pictures.clear();
     pictures.waitForDone();
 }
@@ -80,8 +80,8 @@ void PhotoReader::read(const QString &path)
             const QString complaint = PhotoLoader::complaint(path);
             if (!complaint.isEmpty())
                 throw VException(complaint, V_LOCATION);
-            // A head without a size is none; what is wrong with the file, its decoding says best.
-            if (photograph.width() <= 0 || photograph.height() <= 0)
+            // What is wrong with a file whose head gives no size, its decoding reports best.
+            if (!photograph.facts().pixels)
                 picture(photograph, side);
             Q_EMIT checked(path);
             pictures.start([this, path] {

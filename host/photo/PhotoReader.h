@@ -12,22 +12,21 @@
 
 #include "HostApplication.h"
 
-/// Reads photographs in the background: first the heads of all, then one picture after the other, so that small pictures and the
-/// copies that the plug-in's page will ask for are there before they are needed. Interface thread only; the signals come there
-/// too.
+/// Reads photographs in the background: first the heads of all, then one picture after another, so that small pictures and the
+/// copies for the plug-in's page are there before they are needed. Interface thread only; the signals are delivered there too.
 class PhotoReader : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The pictures announced have a longest side of `pictureSide`.
+    /// The pictures in `ready` have a longest side of `pictureSide`.
     PhotoReader(HostApplication &host, int pictureSide, QObject *parent = nullptr);
-    /// Drops what has not begun and waits for the photograph in hand.
+    /// Drops what has not begun and waits for the photograph in progress.
     ~PhotoReader() override;
 
-    /// Reads the photograph at this path (absolute): announces `checked` and later `ready`, or `failed` once in place of either.
+    /// Reads the photograph at this absolute path: emits `checked` and later `ready`, or `failed` once instead of either.
     void read(const QString &path);
-    /// Spares what has not begun of the reading of this photograph.
+    /// Skips what has not begun yet of reading this photograph.
     void forget(const QString &path);
     /// A picture of a photograph as a viewer shows it, with its longest side at most this long. Blocks while it decodes; any
     /// thread. Throws VException.
@@ -37,7 +36,7 @@ public:
     static QSize previewSize(Photograph &photograph);
 
 Q_SIGNALS:
-    /// Its head is that of a photograph.
+    /// The file has the head of a photograph.
     void checked(const QString &path);
     void ready(const QString &path, const QImage &picture);
     void failed(const QString &path, const QString &reason);

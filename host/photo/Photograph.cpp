@@ -10,7 +10,7 @@
 
 namespace {
 
-bool liesOnItsSide(int orientation)
+bool isOnItsSide(int orientation)
 {
     return orientation >= 5;
 }
@@ -24,7 +24,7 @@ QString Photograph::tooLarge(int limit)
         .arg(limit - 1);
 }
 
-PhotoFacts Photograph::facts()
+PhotoHead Photograph::facts()
 {
     const std::lock_guard lock(mutex);
     if (!head) {
@@ -45,14 +45,14 @@ QString Photograph::displayName()
 
 int Photograph::width()
 {
-    const PhotoFacts known = facts();
-    return liesOnItsSide(known.orientation) ? known.height : known.width;
+    const PhotoHead known = facts();
+    return isOnItsSide(known.orientation) ? known.height : known.width;
 }
 
 int Photograph::height()
 {
-    const PhotoFacts known = facts();
-    return liesOnItsSide(known.orientation) ? known.width : known.height;
+    const PhotoHead known = facts();
+    return isOnItsSide(known.orientation) ? known.width : known.height;
 }
 
 std::unique_ptr<DecodedPhoto> Photograph::load() const
@@ -99,12 +99,12 @@ ScaledImages::Image Photograph::makeScaled(int width, int height)
 {
     const int orientation = facts().orientation;
     int lyingWidth = std::max(width, 1), lyingHeight = std::max(height, 1);
-    if (liesOnItsSide(orientation))
+    if (isOnItsSide(orientation))
         std::swap(lyingWidth, lyingHeight);
     auto upright = std::make_shared<VImage>();
     VImage lying;
     VImage &small = orientation == 1 ? *upright : lying;
-    // Decoding takes no lock: meanwhile the photograph answers all other questions.
+    // Decoding holds no lock, so that the other operations do not wait for it.
     std::shared_ptr<DecodedPhoto> photo;
     {
         const std::lock_guard lock(mutex);
@@ -122,10 +122,10 @@ ScaledImages::Image Photograph::makeScaled(int width, int height)
     return upright;
 }
 
-ScaledImages::Image Photograph::scaledCopy(int width, int height, ScaledImages::Keep wish)
+ScaledImages::Image Photograph::scaledCopy(int width, int height, ScaledImages::Keep keep)
 {
     const auto make = [&] { return makeScaled(width, height); };
-    return copies ? copies->obtain({file, width, height}, make, wish) : make();
+    return copies ? copies->obtain({file, width, height}, make, keep) : make();
 }
 
 VImage *Photograph::acquireScaled(int width, int height, int)

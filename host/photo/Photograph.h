@@ -11,46 +11,46 @@
 #include "PhotoLoader.h"
 #include "ScaledImages.h"
 
-/// One photograph of the program, as a plug-in sees it. Pixels are decoded at an acquire and freed at its release, so that a list
-/// of any length costs no memory by itself. All operations may be called from several threads at once; those that read the file
-/// throw VException (see PhotoLoader).
+/// One photograph of the program, as a plug-in sees it. Pixels are decoded when they are acquired and freed when they are
+/// released, so that a long list takes no memory by itself. All operations may be called from several threads at once; those that
+/// read the file throw VException (see PhotoLoader).
 ///
-/// Full size comes as stored; scaled images and width() and height() are as a viewer shows the photograph, with its EXIF
+/// The full image is as stored; scaled images, width() and height() are as a viewer shows the photograph, with its EXIF
 /// orientation applied.
 class Photograph : public ImageDef
 {
     Q_DECLARE_TR_FUNCTIONS(Photograph)
 
 public:
-    /// The steps of a full use. What a watcher throws leaves through the call of the plug-in, and so ends its run.
+    /// The steps in the use of a full image. What a watcher throws propagates through the plug-in's call, and so ends its run.
     enum class Use { Reading, Read, Released };
     using Watcher = std::function<void(Use)>;
 
-    /// The EXIF orientation that has rows for columns and turns nothing else; it is its own inverse.
+    /// The EXIF orientation that exchanges rows and columns and does nothing else; it is its own inverse.
     static constexpr int kRowsForColumns = 5;
 
-    /// `keptCopies`, which may be null, outlives the photograph and keeps its scaled images beyond their release. With
-    /// `rowsForColumns` everything is as if the file were stored so: facts, sizes, images and orientation.
+    /// `keptCopies`, which may be null, must outlive the photograph and keeps its scaled images beyond their release. With
+    /// `rowsForColumns` everything is as if rows and columns were exchanged in the file: facts, sizes, images and orientation.
     explicit Photograph(const QString &path, ScaledImages *keptCopies = nullptr, bool rowsForColumns = false)
         : file(path), copies(keptCopies), transposed(rowsForColumns)
     {
     }
 
     const QString &path() const { return file; }
-    /// The head of the file, read at the first call.
-    PhotoFacts facts();
-    /// Calls `next` on the acquiring thread at each step of a full use; none by default. Not while a use goes on.
+    /// The head of the file, read at the first call and kept.
+    PhotoHead facts();
+    /// Calls `next` on the acquiring thread at each step of a full use; by default nothing. Not during a use.
     void watch(Watcher next) { watcher = std::move(next); }
-    /// acquireFull refuses wider photographs; 0, the default, refuses none.
+    /// acquireFull refuses photographs of this width and more; 0, the default, refuses none.
     void refuseFrom(int width) { refusedWidth = width; }
     static QString tooLarge(int limit);
-    /// Frees the full image whatever holds it: a run that failed never releases.
+    /// Frees the full image even if it was not released: a run that failed never releases it.
     void dropFull();
 
-    /// The reduced copy that acquireScaled hands out, shared with all who use it. Blocks while it decodes.
-    ScaledImages::Image scaledCopy(int width, int height, ScaledImages::Keep wish);
+    /// The reduced copy that acquireScaled returns, shared by all its users. Blocks while it decodes.
+    ScaledImages::Image scaledCopy(int width, int height, ScaledImages::Keep keep);
 
-    /// Decodes the full image, for its automatic strength and for the next acquireFull, which then hands it out.
+    /// Decodes the full image, for its automatic strength and for the next acquireFull, which then returns it.
     void decodeAhead();
     /// See AutomaticStrength. Known since decodeAhead, or since a scaled image was made from the file; before that there is none.
     std::optional<int> automaticStrength();
@@ -61,7 +61,7 @@ public:
     int channelCount() override;
     int bitsPerChannel() override;
     bool needsTiffOutput() override;
-    /// On the interface thread the window goes on painting meanwhile. What it throws names the photograph.
+    /// Called on the interface thread, it lets the window keep painting. The messages that it throws name the photograph.
     VImage *acquireScaled(int width, int height, int flag) override;
     void releaseScaled(int width, int height, int flag) override;
     VImage *acquireFull(int flag) override;
@@ -80,8 +80,8 @@ private:
     };
 
     std::unique_ptr<DecodedPhoto> load() const;
-    std::unique_ptr<DecodedPhoto> decode(); ///< Loads and notes the form. With `mutex` held.
-    void holdFull();                        ///< Sees to it that `full` is there. With `mutex` held.
+    std::unique_ptr<DecodedPhoto> decode(); ///< Loads, and records the form. With `mutex` held.
+    void holdFull();                        ///< Decodes `full` unless it is there. With `mutex` held.
     ScaledImages::Image makeScaled(int width, int height);
     Form knownForm();
 
@@ -91,8 +91,8 @@ private:
     Watcher watcher;
     int refusedWidth = 0;
 
-    std::mutex mutex; ///< Over all that follows.
-    std::optional<PhotoFacts> head;
+    std::mutex mutex; ///< Guards all that follows.
+    std::optional<PhotoHead> head;
     std::optional<Form> form;
     std::optional<int> automatic;
     std::shared_ptr<DecodedPhoto> full;

@@ -1,34 +1,34 @@
 #include "ScaledImages.h"
 
-ScaledImages::Image ScaledImages::obtain(const Key &key, const std::function<Image()> &make, Keep wish)
+ScaledImages::Image ScaledImages::obtain(const Key &key, const std::function<Image()> &make, Keep when)
 {
     {
         std::unique_lock lock(mutex);
-        made.wait(lock, [&] { return inHand.count(key) == 0; });
+        made.wait(lock, [&] { return inProgress.count(key) == 0; });
         if (const auto place = places.find(key); place != places.end()) {
             recent.splice(recent.begin(), recent, place->second);
             return recent.front().image;
         }
-        inHand.insert(key);
+        inProgress.insert(key);
     }
     const auto finish = [&](void *) {
         {
             const std::lock_guard lock(mutex);
-            inHand.erase(key);
+            inProgress.erase(key);
         }
         made.notify_all();
     };
     const std::unique_ptr<void, decltype(finish)> end(this, finish);
     Image image = make();
-    keep(key, image, wish);
+    keep(key, image, when);
     return image;
 }
 
-void ScaledImages::keep(const Key &key, const Image &image, Keep wish)
+void ScaledImages::keep(const Key &key, const Image &image, Keep when)
 {
     const std::size_t size = std::size_t(image->BytesPerLine()) * std::size_t(image->Height());
     const std::lock_guard lock(mutex);
-    if (wish == Keep::IfRoom && held + size > limit)
+    if (when == Keep::IfRoom && held + size > limit)
         return;
     recent.push_front({key, image, size});
     places[key] = recent.begin();

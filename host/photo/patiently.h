@@ -2,6 +2,7 @@
 
 #include <functional>
 
-/// Runs `work` to its end. On the interface thread it runs on a thread of its own meanwhile, and the window goes on painting, but
-/// takes no clicks and keys; on any other thread, or without a window, it runs here. What it throws leaves here.
+/// Runs `work` and returns when it is done. If called on the interface thread, `work` runs on another thread, and the window
+/// keeps painting but ignores clicks and keys; on any other thread, or without a window, it runs on the caller's. Rethrows what
+/// it throws.
 void patiently(const std::function<void()> &work);

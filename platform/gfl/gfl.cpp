@@ -33,29 +33,17 @@ static_assert(std::size_t(PhotoKind::Photoshop) + 1 == std::size(kFormats));
 
 constexpr int kRawFormat = -1; // has no name and no index
 
-std::string suffixOf(const std::string &fileName)
-{
-    const std::size_t dot = fileName.find_last_of('.');
-    const std::size_t slash = fileName.find_last_of('/');
-    if (dot == std::string::npos || (slash != std::string::npos && slash > dot))
-        return {};
-    std::string suffix = fileName.substr(dot + 1);
-    std::transform(suffix.begin(), suffix.end(), suffix.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; });
-    return suffix;
-}
-
 int formatOf(const InputFile &file)
 {
-    char start[kPhotoKindBytes];
-    const std::string_view content(start, file.readAt(0, start, sizeof start));
-    if (content.empty())
+    if (!file.isOpen())
+        throw Failure{GFL_ERROR_FILE_OPEN};
+    const std::optional<PhotoKind> kind = photoKindOf(file);
+    if (!kind || file.size() == 0)
         throw Failure{GFL_ERROR_FILE_READ};
-    const PhotoKind kind = photoKind(content);
     const std::string suffix = suffixOf(file.name());
-    if (!suffixFits(kind, suffix))
+    if (!suffixFits(*kind, suffix))
         throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
-    return isRawSuffix(suffix) || isRawOnly(kind) ? kRawFormat : int(kind);
+    return isRawSuffix(suffix) || isRawOnly(*kind) ? kRawFormat : int(*kind);
 }
 
 /// Runs `work` and returns the result code of what it throws.
@@ -74,6 +62,21 @@ int resultOf(Work work)
     } catch (...) {
         return GFL_ERROR_FILE_READ;
     }
+}
+
+void load(const InputFile &file, GflBitmap *&bitmap, const GflLoadParams *params, GflFileInformation *information)
+{
+    const int index = formatOf(file);
+    const std::uint32_t flags = params ? params->flags : 0;
+    const bool only = (flags & GFL_LOAD_METADATA_ONLY) != 0;
+    const ReadRequest request{file, only || (flags & GFL_LOAD_METADATA) != 0, !only};
+    BitmapPointer read = index == kRawFormat ? readRaw(request) : kFormats[index].read(request);
+    if (Metadata *metadata = metadataOf(read.get()))
+        if (!profileFits(metadata->icc, read->componentsPerPixel))
+            metadata->icc.clear();
+    if (information)
+        *information = {index, read->width, read->height, read->bitsPerComponent, read->componentsPerPixel};
+    bitmap = read.release();
 }
 
 bool isWritable(const GflBitmap &bitmap)
@@ -137,19 +140,17 @@ int gflLoadBitmapUTF8(const char *fileName, GflBitmap **bitmap, const GflLoadPar
         return GFL_ERROR_BAD_PARAMETERS;
     *bitmap = nullptr;
     return gfl::resultOf([&] {
-        const gfl::InputFile file(fileName);
-        const int index = gfl::formatOf(file);
-        const std::uint32_t flags = params ? params->flags : 0;
-        const bool only = (flags & GFL_LOAD_METADATA_ONLY) != 0;
-        const gfl::ReadRequest request{file, only || (flags & GFL_LOAD_METADATA) != 0, !only};
-        gfl::BitmapPointer read = index == gfl::kRawFormat ? gfl::readRaw(request) : gfl::kFormats[index].read(request);
-        if (gfl::Metadata *metadata = gfl::metadataOf(read.get()))
-            if (!gfl::profileFits(metadata->icc, read->componentsPerPixel))
-                metadata->icc.clear();
-        if (information)
-            *information = {index, read->width, read->height, read->bitsPerComponent, read->componentsPerPixel};
-        *bitmap = read.release();
+        const RegularFile file(fileName);
+        gfl::load(file, *bitmap, params, information);
     });
+}
+
+int gflLoadBitmapFrom(const RegularFile &file, GflBitmap **bitmap, const GflLoadParams *params)
+{
+    if (!bitmap)
+        return GFL_ERROR_BAD_PARAMETERS;
+    *bitmap = nullptr;
+    return gfl::resultOf([&] { gfl::load(file, *bitmap, params, /*information=*/nullptr); });
 }
 
 int gflSaveBitmapUTF8(const char *fileName, const GflBitmap *bitmap, const GflSaveParams *params)
@@ -178,7 +179,7 @@ int gflTransposeJpegUTF8(const char *sourceName, const char *targetName)
     if (!sourceName || !targetName)
         return GFL_ERROR_BAD_PARAMETERS;
     return gfl::resultOf([&] {
-        const gfl::InputFile source(sourceName);
+        const RegularFile source(sourceName);
         if (gfl::formatOf(source) != gflGetFormatIndexByName("jpeg"))
             throw gfl::Failure{GFL_ERROR_UNKNOWN_FORMAT};
         gfl::OutputFile target(targetName);

@@ -2,6 +2,8 @@
 
 #include "GflBitmap.h"
 
+class RegularFile;
+
 /// The codec layer: reads and writes image files, and carries their colour profile, IPTC and EXIF.
 ///
 /// Nothing throws; operations that can fail return a result code. After gflLibraryInitEx the operations may be called from
@@ -98,6 +100,8 @@ void gflGetDefaultLoadParams(GflLoadParams *params);
 /// bottom, and no orientation is applied. On an error `*bitmap` is null.
 [[nodiscard]] int gflLoadBitmapUTF8(const char *fileName, GflBitmap **bitmap, const GflLoadParams *params,
                                     GflFileInformation *information);
+/// The same for a file that the caller has opened; it is not opened again.
+[[nodiscard]] int gflLoadBitmapFrom(const RegularFile &file, GflBitmap **bitmap, const GflLoadParams *params);
 
 /// Writes a bitmap to a temporary file beside `fileName` that replaces it once it is complete: an error leaves an existing file
 /// unchanged.

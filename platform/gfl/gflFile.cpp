@@ -51,39 +51,6 @@ struct OpenPath
 
 } // namespace
 
-InputFile::InputFile(const char *name) : fileName(name)
-{
-    // Without O_NONBLOCK a pipe would wait for its writer.
-    descriptor = ::open(name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    struct stat status;
-    if (descriptor < 0 || ::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
-        if (descriptor >= 0)
-            ::close(descriptor);
-        throw Failure{GFL_ERROR_FILE_OPEN};
-    }
-    fileSize = std::uint64_t(status.st_size);
-}
-
-InputFile::~InputFile()
-{
-    ::close(descriptor);
-}
-
-std::size_t InputFile::readAt(std::uint64_t offset, void *target, std::size_t bytes) const noexcept
-{
-    auto *to = static_cast<std::uint8_t *>(target);
-    std::size_t done = 0;
-    while (done < bytes && offset + done < fileSize) {
-        const ssize_t got = ::pread(descriptor, to + done, bytes - done, static_cast<off_t>(offset + done));
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0)
-            break;
-        done += std::size_t(got);
-    }
-    return done;
-}
-
 InputStream::InputStream(const InputFile &source, std::uint64_t start) : file(source), buffer(kBufferBytes), bufferStart(start) {}
 
 bool InputStream::fill() noexcept

@@ -5,31 +5,13 @@
 #include <string>
 #include <utility>
 
-#include "ByteReader.h"
+#include "RegularFile.h"
 #include "gflBitmapParts.h"
 
 /// The files that the codecs read and write. Errors are thrown as gfl::Failure.
 namespace gfl {
 
-/// A regular file, readable at any offset.
-class InputFile final : public ByteSource
-{
-public:
-    /// Throws FILE_OPEN, also if this is not a regular file.
-    explicit InputFile(const char *fileName);
-    ~InputFile();
-    InputFile(const InputFile &) = delete;
-    InputFile &operator=(const InputFile &) = delete;
-
-    const std::string &name() const { return fileName; }
-    std::uint64_t size() const noexcept override { return fileSize; }
-    std::size_t readAt(std::uint64_t offset, void *target, std::size_t bytes) const noexcept override;
-
-private:
-    std::string fileName;
-    int descriptor;
-    std::uint64_t fileSize = 0;
-};
+using InputFile = RegularFile;
 
 /// Reads an InputFile from front to back through a buffer.
 class InputStream

@@ -221,12 +221,12 @@ bool isExifBlock(const std::uint8_t *bytes, std::size_t count)
     return block.holds(0, kSmallest) && (block.startsWith("II*\0"sv) || block.startsWith("MM\0*"sv));
 }
 
-FileMetadata metadataFromFile(const std::string &fileName, bool raw)
+FileMetadata metadataFromFile(const RegularFile &file, bool raw)
 {
     startExiv2();
     FileMetadata result;
     try {
-        const auto image = openMetadata(fileName);
+        const auto image = openMetadata(file);
         if (!image)
             throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
         {
@@ -340,7 +340,7 @@ Bytes exifFromTexts(const std::vector<std::pair<std::uint16_t, std::string>> &te
 
 BitmapPointer readRaw(const ReadRequest &request)
 {
-    const FileMetadata found = metadataFromFile(request.file.name(), /*raw=*/true);
+    const FileMetadata found = metadataFromFile(request.file, /*raw=*/true);
     NewBitmap bitmap(request.file, 1, 1, {3, 8});
     if (request.pixels)
         std::memset(bitmap.row(0), 0, bitmap.record().bytesPerLine);

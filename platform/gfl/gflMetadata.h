@@ -3,6 +3,8 @@
 #include "ByteReader.h"
 #include "gflBitmapParts.h"
 
+class RegularFile;
+
 /// Parses and composes metadata blocks. Everything here accepts damaged blocks: what can't be understood is left out.
 namespace gfl {
 
@@ -49,7 +51,7 @@ struct FileMetadata
     int width = 0;
     int height = 0;
 };
-FileMetadata metadataFromFile(const std::string &fileName, bool raw);
+FileMetadata metadataFromFile(const RegularFile &file, bool raw);
 
 /// The block; if it exceeds `limit` bytes, without its thumbnail and its largest unknown tags, or empty if that is not enough.
 Bytes shrinkExif(const Bytes &exif, std::size_t limit);

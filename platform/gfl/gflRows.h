@@ -7,10 +7,12 @@
 #include "PixelForm.h"
 #include "gflBitmapParts.h"
 
+class RegularFile;
+
 /// Rows of samples: converted between forms, taken from a bitmap being written, placed in a bitmap being read.
 namespace gfl {
 
-class InputFile;
+using InputFile = RegularFile;
 
 using Form = PixelForm;
 

@@ -484,7 +484,7 @@ void readMetadata(const InputFile &file, TIFF *tiff, Metadata &metadata)
         const auto *bytes = static_cast<const std::uint8_t *>(profile);
         metadata.icc.assign(bytes, bytes + count);
     }
-    metadata.exif.block = metadataFromFile(file.name(), /*raw=*/false).exif;
+    metadata.exif.block = metadataFromFile(file, /*raw=*/false).exif;
     if (metadata.exif.block.empty()) {
         std::vector<std::pair<std::uint16_t, std::string>> texts;
         const char *text = nullptr;

@@ -2,18 +2,15 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <iterator>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "ByteReader.h"
 
 using namespace std::string_view_literals;
 
 namespace {
 
-/// Bytes that stand at a place of the file.
+/// Bytes at a fixed place in the file.
 struct Mark
 {
     std::string_view bytes;
@@ -24,7 +21,7 @@ struct Picture
 {
     PhotoKind kind;
     std::string_view kept[3];   ///< Suffixes under which results are written.
-    std::string_view others[3]; ///< Further ones that it is read under.
+    std::string_view others[3]; ///< Further suffixes under which the format is read.
 };
 constexpr Picture kPictures[] = {
     {PhotoKind::Jpeg, {"jpg", "jpeg"}, {"jpe", "jfif"}},
@@ -56,40 +53,40 @@ constexpr Signature kSignatures[] = {
     {PhotoKind::Raf, "FUJIFILM"sv},      {PhotoKind::Rw2, "IIU\0"sv},
 };
 
-/// All marks of a row together make it a video.
+/// A file is a video if it has all the marks of a row.
 constexpr std::array<Mark, 3> kVideos[] = {
     {{{"RIFF"sv}, {"AVI "sv, 8}}},
     {{{"\x1A\x45\xDF\xA3"sv}}},                                  // Matroska, WebM
     {{{"\x30\x26\xB2\x75\x8E\x66\xCF\x11"sv}}},                  // ASF, WMV
     {{{"\x47"sv}, {"\x47"sv, 188}, {"\x47"sv, 376}}},            // MPEG transport stream
-    {{{"\x47"sv, 4}, {"\x47"sv, 4 + 192}, {"\x47"sv, 4 + 384}}}, // the same with time codes
+    {{{"\x47"sv, 4}, {"\x47"sv, 4 + 192}, {"\x47"sv, 4 + 384}}}, // with time codes
     {{{"\0\0\1\xBA"sv}}},                                        // MPEG programme stream
-    {{{"\0\0\1\xB3"sv}}},                                        // MPEG without one
+    {{{"\0\0\1\xB3"sv}}},                                        // MPEG video without one
     {{{"FLV\1"sv}}},
     {{{".RMF"sv}}},
     {{{"\x06\x0E\x2B\x34\x02\x05\x01\x01"sv}}}, // MXF
     {{{"OggS"sv}, {"\x80theora"sv, 28}}},
-    {{{"moov"sv, 4}}}, // QuickTime before it told its type
+    {{{"moov"sv, 4}}}, // QuickTime from before files stated their type
     {{{"mdat"sv, 4}}},
     {{{"wide"sv, 4}}},
     {{{"pnot"sv, 4}}},
 };
 
-/// Types of the ISO media format that are no videos: pictures, camera raw, sound.
+/// Types of the ISO media format that are not videos: pictures, camera raw, sound.
 constexpr std::string_view kStillBrands[] = {"heic", "heix", "heim", "heis", "mif1", "mif2",
                                              "avif", "crx ", "jpx ", "jp2 ", "M4A ", "M4B "};
 
-bool stands(std::string_view start, const Mark &mark)
+bool isThere(std::string_view start, const Mark &mark)
 {
     return start.size() >= mark.at && start.substr(mark.at, mark.bytes.size()) == mark.bytes;
 }
 
 bool isVideo(std::string_view start)
 {
-    if (stands(start, {"ftyp"sv, 4}))
+    if (isThere(start, {"ftyp"sv, 4}))
         return std::find(std::begin(kStillBrands), std::end(kStillBrands), start.substr(8, 4)) == std::end(kStillBrands);
     return std::any_of(std::begin(kVideos), std::end(kVideos), [&](const auto &marks) {
-        return std::all_of(marks.begin(), marks.end(), [&](const Mark &mark) { return stands(start, mark); });
+        return std::all_of(marks.begin(), marks.end(), [&](const Mark &mark) { return isThere(start, mark); });
     });
 }
 
@@ -113,26 +110,25 @@ PhotoKind photoKind(std::string_view start)
     return isVideo(start) ? PhotoKind::Video : PhotoKind::Other;
 }
 
-std::optional<PhotoKind> photoKindOfFile(const std::string &path)
+std::optional<PhotoKind> photoKindOf(const ByteSource &file)
 {
-    // Without O_NONBLOCK a pipe would wait for its writer.
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0)
+    char start[kPhotoKindBytes];
+    const std::size_t count = file.readAt(0, start, sizeof start);
+    if (count == 0 && file.size() > 0)
         return std::nullopt;
-    char bytes[kPhotoKindBytes];
-    std::size_t count = 0;
-    struct stat status;
-    ssize_t got = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) ? 1 : -1;
-    while (got > 0 && count < sizeof bytes) {
-        do
-            got = ::read(descriptor, bytes + count, sizeof bytes - count);
-        while (got < 0 && errno == EINTR);
-        count += got > 0 ? std::size_t(got) : 0;
-    }
-    ::close(descriptor);
-    if (got < 0)
-        return std::nullopt;
-    return photoKind({bytes, count});
+    return photoKind({start, count});
+}
+
+std::string suffixOf(std::string_view path)
+{
+    const std::size_t dot = path.find_last_of('.');
+    const std::size_t slash = path.find_last_of('/');
+    if (dot == std::string_view::npos || (slash != std::string_view::npos && slash > dot))
+        return {};
+    std::string suffix(path.substr(dot + 1));
+    std::transform(suffix.begin(), suffix.end(), suffix.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; });
+    return suffix;
 }
 
 PhotoKind pictureKindOfSuffix(std::string_view suffix)

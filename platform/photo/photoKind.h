@@ -5,8 +5,10 @@
 #include <string_view>
 #include <vector>
 
-/// What a file is, told by its first bytes. Nothing is handed to a library before this layer has said that the library reads it:
-/// libraries that guess hold parsers of many formats that nobody wants a stranger's file to reach. Nothing here throws but
+class ByteSource;
+
+/// What a file is, decided by its first bytes. No library is given a file before this layer has found that it reads such files:
+/// libraries that guess contain parsers for many formats, which a stranger's file must not reach. Throws nothing but
 /// std::bad_alloc; any thread.
 enum class PhotoKind {
     // Pictures, in the order of the codec layer's formats. A TIFF may be camera raw as well.
@@ -16,34 +18,36 @@ enum class PhotoKind {
     Radiance,
     OpenExr,
     Photoshop,
-    // Camera raw that is no TIFF.
+    // Camera raw that is not TIFF.
     Crw,
     Mrw,
     Orf,
     Raf,
     Rw2,
-    // What is refused. Video: what it is can be told.
+    // Refused. A video gets a message of its own.
     Video,
     Other,
 };
 
-/// Bytes from the start of a file that decide.
+/// How many bytes from the start of a file decide.
 constexpr std::size_t kPhotoKindBytes = 512;
 
-/// The kind of a file that begins like this. A file that ends within the signature of a picture counts as one of these, cut
-/// short. Empty: Other.
+/// The kind of a file that begins with these bytes. A file that ends within the signature of a picture counts as such a picture,
+/// cut short. Other if there are none.
 PhotoKind photoKind(std::string_view start);
-/// The same of a regular file; nothing if it can't be read.
-std::optional<PhotoKind> photoKindOfFile(const std::string &path);
+/// The same for an open file; nothing if its bytes can't be read.
+std::optional<PhotoKind> photoKindOf(const ByteSource &file);
 
-/// The picture kind that this suffix (lower case, without the dot) stands for, or Other.
+/// The suffix of a path in lower case (A to Z), without the dot; empty if there is none. The calls below take it like this.
+std::string suffixOf(std::string_view path);
+/// The kind of picture that this suffix names, or Other.
 PhotoKind pictureKindOfSuffix(std::string_view suffix);
 /// True for a suffix of camera raw.
 bool isRawSuffix(std::string_view suffix);
-/// True if a file of this kind may have this suffix: a suffix that names a format must be true, under any other one the content
-/// decides. False for what is no photograph, under any suffix.
+/// True if a file of this kind may have this suffix: a suffix that names a format must be true, and under any other the content
+/// decides. False under every suffix for what is not a photograph.
 bool suffixFits(PhotoKind kind, std::string_view suffix);
-/// True for kinds that are camera raw and nothing else.
+/// True for kinds that are always camera raw.
 bool isRawOnly(PhotoKind kind);
 
 /// The suffixes under which results keep their photograph's format, and all those of camera raw, for texts and file dialogs.

@@ -5,7 +5,13 @@
 
 #include <exiv2/exiv2.hpp>
 
-/// The metadata library's view of a file, for the sources that read and write metadata through it. The file goes to the parser of
-/// its own kind, by name, and to no other one; null for kinds whose metadata the library doesn't read (Radiance, OpenEXR) or that
-/// are no photographs. Nothing has been read yet. Throws what the library throws.
+class RegularFile;
+
+/// The metadata library's view of a file, for the sources of platform that read and write metadata through it. The file goes to
+/// the parser for its own kind and to no other; null for kinds whose metadata the library doesn't read (Radiance, OpenEXR) and
+/// for what is not a photograph. Nothing has been read yet. Throws what the library throws.
+
+/// For reading; the file is not opened again and must outlive the view.
+std::unique_ptr<Exiv2::Image> openMetadata(const RegularFile &file);
+/// For reading and writing.
 std::unique_ptr<Exiv2::Image> openMetadata(const std::string &path);

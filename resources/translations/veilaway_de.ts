@@ -244,7 +244,7 @@ Beispiele:
         <translation>Die Datei kann nicht geöffnet werden. Prüfen Sie, ob sie existiert und ob Sie sie lesen dürfen.</translation>
     </message>
     <message>
-        <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
+        <source>The file is cut short or damaged. Copy it again from the camera or a backup.</source>
         <translation>Die Datei ist unvollständig oder beschädigt. Kopieren Sie sie erneut von der Kamera oder aus einer Sicherung.</translation>
     </message>
     <message>
@@ -252,11 +252,11 @@ Beispiele:
         <translation>Der Arbeitsspeicher reicht dafür nicht aus. Schließen Sie andere Programme oder bearbeiten Sie die Fotos einzeln (--jobs 1).</translation>
     </message>
     <message>
-        <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
+        <source>It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of its format, or convert it.</source>
         <translation>Das ist kein Bild in einem bekannten Format oder ein anderes, als die Dateiendung angibt. Lesbar sind JPEG, PNG, TIFF, HDR, EXR, PSD und Kamera-RAW; geben Sie der Datei die passende Endung oder konvertieren Sie sie.</translation>
     </message>
     <message>
-        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
         <translation>Das ist ein Video. Dunst lässt sich nur aus Fotos entfernen; speichern Sie ein Bild daraus als JPEG, PNG oder TIFF.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Beispiele:
         <translation>Diese Art von Pixeln kann nicht gelesen werden. Speichern Sie das Foto als RGB mit 8 oder 16 Bit und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>An empty name stands for no photograph.</source>
+        <source>An empty name cannot be that of a photograph.</source>
         <translation>Ein leerer Name bezeichnet kein Foto.</translation>
     </message>
     <message>
@@ -280,7 +280,7 @@ Beispiele:
         <translation>Das ist ein Ordner. Geben Sie die Fotos darin an, zum Beispiel „%1“.</translation>
     </message>
     <message>
-        <source>This is no regular file. Copy the photograph into one.</source>
+        <source>This is not a regular file. Copy the photograph into one.</source>
         <translation>Das ist keine gewöhnliche Datei. Kopieren Sie das Foto in eine solche.</translation>
     </message>
     <message>
@@ -288,7 +288,7 @@ Beispiele:
         <translation>Die Datei kann nicht gelesen werden. Verschaffen Sie sich das Leserecht dafür.</translation>
     </message>
     <message>
-        <source>The file is empty. Copy it anew from the camera or a backup.</source>
+        <source>The file is empty. Copy it again from the camera or a backup.</source>
         <translation>Die Datei ist leer. Kopieren Sie sie erneut von der Kamera oder aus einer Sicherung.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@ Beispiele:
         <translation>Der Arbeitsspeicher reicht für diese RAW-Datei nicht aus. Schließen Sie andere Programme oder bearbeiten Sie die Fotos einzeln (--jobs 1).</translation>
     </message>
     <message>
-        <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
+        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
         <translation>Die RAW-Datei kann nicht entwickelt werden: %1. Kopieren Sie sie erneut oder konvertieren Sie sie in DNG oder TIFF.</translation>
     </message>
     <message>
@@ -734,13 +734,6 @@ Beispiele:
     <message>
         <source>Settings files (*.xml)</source>
         <translation>Einstellungsdateien (*.xml)</translation>
-    </message>
-</context>
-<context>
-    <name>XmpCarrier</name>
-    <message>
-        <source>the result can&apos;t be replaced</source>
-        <translation>das Ergebnis kann nicht ersetzt werden</translation>
     </message>
 </context>
 <context>

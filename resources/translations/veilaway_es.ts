@@ -244,7 +244,7 @@ Ejemplos:
         <translation>No se puede abrir el archivo. Compruebe que existe y que tiene permiso para leerlo.</translation>
     </message>
     <message>
-        <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
+        <source>The file is cut short or damaged. Copy it again from the camera or a backup.</source>
         <translation>El archivo está incompleto o dañado. Vuelva a copiarlo desde la cámara o desde una copia de seguridad.</translation>
     </message>
     <message>
@@ -252,11 +252,11 @@ Ejemplos:
         <translation>No hay suficiente memoria para esta foto. Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
     </message>
     <message>
-        <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
+        <source>It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of its format, or convert it.</source>
         <translation>No es una imagen de un formato conocido, o su formato no es el que indica la extensión. Se pueden leer JPEG, PNG, TIFF, HDR, EXR, PSD y RAW de cámara; dé al archivo la extensión que le corresponde o conviértalo.</translation>
     </message>
     <message>
-        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
         <translation>Es un vídeo. La bruma solo se puede quitar de fotografías; guarde una imagen del vídeo como JPEG, PNG o TIFF.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Ejemplos:
         <translation>Este tipo de píxeles no se puede leer. Guarde la foto como RGB de 8 o 16 bits e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>An empty name stands for no photograph.</source>
+        <source>An empty name cannot be that of a photograph.</source>
         <translation>Un nombre vacío no designa ninguna foto.</translation>
     </message>
     <message>
@@ -280,7 +280,7 @@ Ejemplos:
         <translation>Esto es una carpeta. Indique las fotos que contiene, por ejemplo «%1».</translation>
     </message>
     <message>
-        <source>This is no regular file. Copy the photograph into one.</source>
+        <source>This is not a regular file. Copy the photograph into one.</source>
         <translation>Esto no es un archivo normal. Copie la foto en un archivo normal.</translation>
     </message>
     <message>
@@ -288,7 +288,7 @@ Ejemplos:
         <translation>No se puede leer el archivo. Asígnese permiso para leerlo.</translation>
     </message>
     <message>
-        <source>The file is empty. Copy it anew from the camera or a backup.</source>
+        <source>The file is empty. Copy it again from the camera or a backup.</source>
         <translation>El archivo está vacío. Vuelva a copiarlo desde la cámara o desde una copia de seguridad.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@ Ejemplos:
         <translation>No hay suficiente memoria para este archivo RAW. Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
     </message>
     <message>
-        <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
+        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
         <translation>No se puede revelar el archivo RAW: %1. Vuelva a copiarlo o conviértalo a DNG o TIFF.</translation>
     </message>
     <message>
@@ -734,13 +734,6 @@ Ejemplos:
     <message>
         <source>Settings files (*.xml)</source>
         <translation>Archivos de ajustes (*.xml)</translation>
-    </message>
-</context>
-<context>
-    <name>XmpCarrier</name>
-    <message>
-        <source>the result can&apos;t be replaced</source>
-        <translation>no se puede reemplazar el resultado</translation>
     </message>
 </context>
 <context>

@@ -244,7 +244,7 @@ Exemples&#xa0;:
         <translation>Impossible d&apos;ouvrir le fichier. Vérifiez qu&apos;il existe et que vous avez le droit de le lire.</translation>
     </message>
     <message>
-        <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
+        <source>The file is cut short or damaged. Copy it again from the camera or a backup.</source>
         <translation>Le fichier est tronqué ou endommagé. Copiez-le de nouveau depuis l&apos;appareil photo ou une sauvegarde.</translation>
     </message>
     <message>
@@ -252,11 +252,11 @@ Exemples&#xa0;:
         <translation>La mémoire est insuffisante pour cette photo. Fermez d&apos;autres programmes ou traitez les photos une par une (--jobs 1).</translation>
     </message>
     <message>
-        <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
+        <source>It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of its format, or convert it.</source>
         <translation>Ce n&apos;est pas une image d&apos;un format connu, ou son format n&apos;est pas celui qu&apos;annonce l&apos;extension. Les formats lus sont JPEG, PNG, TIFF, HDR, EXR, PSD et RAW&#xa0;; donnez au fichier l&apos;extension qui lui correspond ou convertissez-le.</translation>
     </message>
     <message>
-        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
         <translation>C&apos;est une vidéo. Le voile ne peut être retiré que de photos&#xa0;; enregistrez-en une image en JPEG, PNG ou TIFF.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Exemples&#xa0;:
         <translation>Ce type de pixels ne peut pas être lu. Enregistrez la photo en RVB 8 ou 16 bits et réessayez.</translation>
     </message>
     <message>
-        <source>An empty name stands for no photograph.</source>
+        <source>An empty name cannot be that of a photograph.</source>
         <translation>Un nom vide ne désigne aucune photo.</translation>
     </message>
     <message>
@@ -280,7 +280,7 @@ Exemples&#xa0;:
         <translation>C&apos;est un dossier. Indiquez les photos qu&apos;il contient, par exemple «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>This is no regular file. Copy the photograph into one.</source>
+        <source>This is not a regular file. Copy the photograph into one.</source>
         <translation>Ce n&apos;est pas un fichier ordinaire. Copiez la photo dans un fichier ordinaire.</translation>
     </message>
     <message>
@@ -288,7 +288,7 @@ Exemples&#xa0;:
         <translation>Impossible de lire le fichier. Accordez-vous le droit de le lire.</translation>
     </message>
     <message>
-        <source>The file is empty. Copy it anew from the camera or a backup.</source>
+        <source>The file is empty. Copy it again from the camera or a backup.</source>
         <translation>Le fichier est vide. Copiez-le de nouveau depuis l&apos;appareil photo ou une sauvegarde.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@ Exemples&#xa0;:
         <translation>La mémoire est insuffisante pour ce fichier RAW. Fermez d&apos;autres programmes ou traitez les photos une par une (--jobs 1).</translation>
     </message>
     <message>
-        <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
+        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
         <translation>Impossible de développer le fichier RAW&#xa0;: %1. Copiez-le de nouveau ou convertissez-le en DNG ou en TIFF.</translation>
     </message>
     <message>
@@ -734,13 +734,6 @@ Exemples&#xa0;:
     <message>
         <source>Settings files (*.xml)</source>
         <translation>Fichiers de réglages (*.xml)</translation>
-    </message>
-</context>
-<context>
-    <name>XmpCarrier</name>
-    <message>
-        <source>the result can&apos;t be replaced</source>
-        <translation>le résultat ne peut pas être remplacé</translation>
     </message>
 </context>
 <context>

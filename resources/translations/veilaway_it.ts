@@ -244,7 +244,7 @@ Esempi:
         <translation>Impossibile aprire il file. Verificare che esista e di avere il permesso di leggerlo.</translation>
     </message>
     <message>
-        <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
+        <source>The file is cut short or damaged. Copy it again from the camera or a backup.</source>
         <translation>Il file è incompleto o danneggiato. Copiarlo di nuovo dalla fotocamera o da un backup.</translation>
     </message>
     <message>
@@ -252,11 +252,11 @@ Esempi:
         <translation>Memoria insufficiente per questa foto. Chiudere altri programmi o elaborare una foto alla volta (--jobs 1).</translation>
     </message>
     <message>
-        <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
+        <source>It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of its format, or convert it.</source>
         <translation>Non è un&apos;immagine in un formato noto, oppure il formato non è quello indicato dall&apos;estensione. Si possono leggere JPEG, PNG, TIFF, HDR, EXR, PSD e RAW; dare al file l&apos;estensione corretta o convertirlo.</translation>
     </message>
     <message>
-        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
         <translation>È un video. La foschia si può togliere solo dalle foto; salvarne un fotogramma in JPEG, PNG o TIFF.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Esempi:
         <translation>Questo tipo di pixel non può essere letto. Salvare la foto in RGB a 8 o 16 bit e riprovare.</translation>
     </message>
     <message>
-        <source>An empty name stands for no photograph.</source>
+        <source>An empty name cannot be that of a photograph.</source>
         <translation>Un nome vuoto non indica alcuna foto.</translation>
     </message>
     <message>
@@ -280,7 +280,7 @@ Esempi:
         <translation>Questa è una cartella. Indicare le foto che contiene, per esempio &quot;%1&quot;.</translation>
     </message>
     <message>
-        <source>This is no regular file. Copy the photograph into one.</source>
+        <source>This is not a regular file. Copy the photograph into one.</source>
         <translation>Questo non è un file normale. Copiare la foto in un file normale.</translation>
     </message>
     <message>
@@ -288,7 +288,7 @@ Esempi:
         <translation>Impossibile leggere il file. Attribuirsi il permesso di leggerlo.</translation>
     </message>
     <message>
-        <source>The file is empty. Copy it anew from the camera or a backup.</source>
+        <source>The file is empty. Copy it again from the camera or a backup.</source>
         <translation>Il file è vuoto. Copiarlo di nuovo dalla fotocamera o da un backup.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@ Esempi:
         <translation>Memoria insufficiente per questo file RAW. Chiudere altri programmi o elaborare una foto alla volta (--jobs 1).</translation>
     </message>
     <message>
-        <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
+        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
         <translation>Impossibile sviluppare il file RAW: %1. Copiarlo di nuovo o convertirlo in DNG o TIFF.</translation>
     </message>
     <message>
@@ -734,13 +734,6 @@ Esempi:
     <message>
         <source>Settings files (*.xml)</source>
         <translation>File di impostazioni (*.xml)</translation>
-    </message>
-</context>
-<context>
-    <name>XmpCarrier</name>
-    <message>
-        <source>the result can&apos;t be replaced</source>
-        <translation>il risultato non può essere sostituito</translation>
     </message>
 </context>
 <context>

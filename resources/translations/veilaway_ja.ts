@@ -244,7 +244,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>ファイルを開けません。ファイルがあるか、読み取りが許可されているかを確認してください。</translation>
     </message>
     <message>
-        <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
+        <source>The file is cut short or damaged. Copy it again from the camera or a backup.</source>
         <translation>ファイルが途中で切れているか、壊れています。カメラまたはバックアップからコピーし直してください。</translation>
     </message>
     <message>
@@ -252,11 +252,11 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>この写真を処理するにはメモリが足りません。ほかのプログラムを終了するか、写真を 1 枚ずつ処理してください (--jobs 1)。</translation>
     </message>
     <message>
-        <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
+        <source>It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of its format, or convert it.</source>
         <translation>対応する形式の画像ではないか、拡張子が実際の形式と異なります。読み込めるのは JPEG、PNG、TIFF、HDR、EXR、PSD とカメラの RAW です。拡張子を実際の形式に合わせるか、画像を変換してください。</translation>
     </message>
     <message>
-        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
         <translation>これは動画です。ヘイズを除去できるのは写真だけです。動画から切り出した画像を JPEG、PNG または TIFF で保存してください。</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>このピクセル形式は読み込めません。8 または 16 ビットの RGB で保存し直してから、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>An empty name stands for no photograph.</source>
+        <source>An empty name cannot be that of a photograph.</source>
         <translation>空の名前は写真の指定になりません。</translation>
     </message>
     <message>
@@ -280,7 +280,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>これはフォルダーです。中の写真を、たとえば「%1」のように指定してください。</translation>
     </message>
     <message>
-        <source>This is no regular file. Copy the photograph into one.</source>
+        <source>This is not a regular file. Copy the photograph into one.</source>
         <translation>通常のファイルではありません。写真を通常のファイルにコピーしてください。</translation>
     </message>
     <message>
@@ -288,7 +288,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>ファイルを読み取れません。読み取りの許可を設定してください。</translation>
     </message>
     <message>
-        <source>The file is empty. Copy it anew from the camera or a backup.</source>
+        <source>The file is empty. Copy it again from the camera or a backup.</source>
         <translation>ファイルが空です。カメラまたはバックアップからコピーし直してください。</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
         <translation>このカメラ RAW ファイルを処理するにはメモリが足りません。ほかのプログラムを終了するか、写真を 1 枚ずつ処理してください (--jobs 1)。</translation>
     </message>
     <message>
-        <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
+        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
         <translation>カメラ RAW ファイルを現像できません: %1。コピーし直すか、DNG または TIFF に変換してください。</translation>
     </message>
     <message>
@@ -725,13 +725,6 @@ Ctrl-C ではシグナルで終了し (シェルでは 130)、書きかけの結
     <message>
         <source>Settings files (*.xml)</source>
         <translation>設定ファイル (*.xml)</translation>
-    </message>
-</context>
-<context>
-    <name>XmpCarrier</name>
-    <message>
-        <source>the result can&apos;t be replaced</source>
-        <translation>結果のファイルを置き換えられません</translation>
     </message>
 </context>
 <context>

@@ -244,7 +244,7 @@ Przykłady:
         <translation>Nie można otworzyć pliku. Należy sprawdzić, czy istnieje i czy można go odczytać.</translation>
     </message>
     <message>
-        <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
+        <source>The file is cut short or damaged. Copy it again from the camera or a backup.</source>
         <translation>Plik jest niepełny lub uszkodzony. Należy skopiować go ponownie z aparatu lub z kopii zapasowej.</translation>
     </message>
     <message>
@@ -252,11 +252,11 @@ Przykłady:
         <translation>Za mało pamięci na to zdjęcie. Należy zamknąć inne programy lub przetwarzać zdjęcia pojedynczo (--jobs 1).</translation>
     </message>
     <message>
-        <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
+        <source>It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of its format, or convert it.</source>
         <translation>To nie jest obraz w znanym formacie albo ma inny format, niż wskazuje rozszerzenie. Można odczytać JPEG, PNG, TIFF, HDR, EXR, PSD i pliki RAW z aparatu; należy nadać plikowi właściwe rozszerzenie lub go przekonwertować.</translation>
     </message>
     <message>
-        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
         <translation>To jest film. Zamglenie można usuwać tylko ze zdjęć; należy zapisać klatkę filmu jako JPEG, PNG lub TIFF.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Przykłady:
         <translation>Nie można odczytać tego rodzaju pikseli. Należy zapisać zdjęcie jako RGB 8- lub 16-bitowe i spróbować ponownie.</translation>
     </message>
     <message>
-        <source>An empty name stands for no photograph.</source>
+        <source>An empty name cannot be that of a photograph.</source>
         <translation>Pusta nazwa nie oznacza żadnego zdjęcia.</translation>
     </message>
     <message>
@@ -280,7 +280,7 @@ Przykłady:
         <translation>To jest folder. Należy podać zdjęcia, które zawiera, na przykład „%1”.</translation>
     </message>
     <message>
-        <source>This is no regular file. Copy the photograph into one.</source>
+        <source>This is not a regular file. Copy the photograph into one.</source>
         <translation>To nie jest zwykły plik. Należy skopiować zdjęcie do zwykłego pliku.</translation>
     </message>
     <message>
@@ -288,7 +288,7 @@ Przykłady:
         <translation>Nie można odczytać pliku. Należy nadać sobie prawo do jego odczytu.</translation>
     </message>
     <message>
-        <source>The file is empty. Copy it anew from the camera or a backup.</source>
+        <source>The file is empty. Copy it again from the camera or a backup.</source>
         <translation>Plik jest pusty. Należy skopiować go ponownie z aparatu lub z kopii zapasowej.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@ Przykłady:
         <translation>Za mało pamięci na ten plik RAW. Należy zamknąć inne programy lub przetwarzać zdjęcia pojedynczo (--jobs 1).</translation>
     </message>
     <message>
-        <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
+        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
         <translation>Nie można wywołać pliku RAW: %1. Należy skopiować go ponownie lub przekonwertować do DNG albo TIFF.</translation>
     </message>
     <message>
@@ -743,13 +743,6 @@ Przykłady:
     <message>
         <source>Settings files (*.xml)</source>
         <translation>Pliki ustawień (*.xml)</translation>
-    </message>
-</context>
-<context>
-    <name>XmpCarrier</name>
-    <message>
-        <source>the result can&apos;t be replaced</source>
-        <translation>nie można zastąpić wyniku</translation>
     </message>
 </context>
 <context>

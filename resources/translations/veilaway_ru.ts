@@ -244,7 +244,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Не удаётся открыть файл. Проверьте, существует ли он и разрешено ли вам его читать.</translation>
     </message>
     <message>
-        <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
+        <source>The file is cut short or damaged. Copy it again from the camera or a backup.</source>
         <translation>Файл обрывается или повреждён. Скопируйте его заново с камеры или из резервной копии.</translation>
     </message>
     <message>
@@ -252,11 +252,11 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Для этой фотографии недостаточно памяти. Закройте другие программы или обрабатывайте фотографии по одной (--jobs 1).</translation>
     </message>
     <message>
-        <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
+        <source>It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of its format, or convert it.</source>
         <translation>Это не изображение известного формата, или его формат не соответствует расширению. Читаются JPEG, PNG, TIFF, HDR, EXR, PSD и RAW-файлы камер; дайте файлу расширение, соответствующее его формату, или преобразуйте его.</translation>
     </message>
     <message>
-        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
         <translation>Это видео. Дымку можно убрать только с фотографий; сохраните кадр видео в JPEG, PNG или TIFF.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Этот вид пикселей не поддерживается. Сохраните фотографию в RGB с 8 или 16 битами и повторите попытку.</translation>
     </message>
     <message>
-        <source>An empty name stands for no photograph.</source>
+        <source>An empty name cannot be that of a photograph.</source>
         <translation>Пустое имя не обозначает фотографию.</translation>
     </message>
     <message>
@@ -280,7 +280,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Это папка. Укажите фотографии в ней, например «%1».</translation>
     </message>
     <message>
-        <source>This is no regular file. Copy the photograph into one.</source>
+        <source>This is not a regular file. Copy the photograph into one.</source>
         <translation>Это не обычный файл. Скопируйте фотографию в обычный файл.</translation>
     </message>
     <message>
@@ -288,7 +288,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Файл нельзя прочитать. Разрешите себе его чтение.</translation>
     </message>
     <message>
-        <source>The file is empty. Copy it anew from the camera or a backup.</source>
+        <source>The file is empty. Copy it again from the camera or a backup.</source>
         <translation>Файл пуст. Скопируйте его заново с камеры или из резервной копии.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@ Ctrl-C завершает работу сигналом (130 в оболочке
         <translation>Для этого RAW-файла недостаточно памяти. Закройте другие программы или обрабатывайте фотографии по одной (--jobs 1).</translation>
     </message>
     <message>
-        <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
+        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
         <translation>RAW-файл не удаётся проявить: %1. Скопируйте его заново или преобразуйте в DNG или TIFF.</translation>
     </message>
     <message>
@@ -743,13 +743,6 @@ Ctrl-C завершает работу сигналом (130 в оболочке
     <message>
         <source>Settings files (*.xml)</source>
         <translation>Файлы настроек (*.xml)</translation>
-    </message>
-</context>
-<context>
-    <name>XmpCarrier</name>
-    <message>
-        <source>the result can&apos;t be replaced</source>
-        <translation>результат не удаётся заменить</translation>
     </message>
 </context>
 <context>

@@ -244,7 +244,7 @@ Examples:
         <translation>无法打开文件。请检查文件是否存在，以及您是否有权读取。</translation>
     </message>
     <message>
-        <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
+        <source>The file is cut short or damaged. Copy it again from the camera or a backup.</source>
         <translation>文件不完整或已损坏。请从相机或备份中重新复制。</translation>
     </message>
     <message>
@@ -252,11 +252,11 @@ Examples:
         <translation>内存不足，无法处理此照片。请关闭其他程序，或一次只处理一张照片（--jobs 1）。</translation>
     </message>
     <message>
-        <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
+        <source>It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of its format, or convert it.</source>
         <translation>这不是已知格式的图像，或者其实际格式与扩展名不符。可以读取 JPEG、PNG、TIFF、HDR、EXR、PSD 和相机 RAW；请将扩展名改为与实际格式一致，或转换该文件。</translation>
     </message>
     <message>
-        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
         <translation>这是视频。只能从照片中去除薄雾；请将其中的一帧画面保存为 JPEG、PNG 或 TIFF。</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Examples:
         <translation>无法读取这种像素格式。请另存为 8 位或 16 位 RGB，然后重试。</translation>
     </message>
     <message>
-        <source>An empty name stands for no photograph.</source>
+        <source>An empty name cannot be that of a photograph.</source>
         <translation>空名称不代表任何照片。</translation>
     </message>
     <message>
@@ -280,7 +280,7 @@ Examples:
         <translation>这是一个文件夹。请指定其中的照片，例如“%1”。</translation>
     </message>
     <message>
-        <source>This is no regular file. Copy the photograph into one.</source>
+        <source>This is not a regular file. Copy the photograph into one.</source>
         <translation>这不是普通文件。请将照片复制为普通文件。</translation>
     </message>
     <message>
@@ -288,7 +288,7 @@ Examples:
         <translation>无法读取文件。请为自己授予读取权限。</translation>
     </message>
     <message>
-        <source>The file is empty. Copy it anew from the camera or a backup.</source>
+        <source>The file is empty. Copy it again from the camera or a backup.</source>
         <translation>文件是空的。请从相机或备份中重新复制。</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@ Examples:
         <translation>内存不足，无法处理此相机 RAW 文件。请关闭其他程序，或一次只处理一张照片（--jobs 1）。</translation>
     </message>
     <message>
-        <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
+        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
         <translation>无法解码此相机 RAW 文件：%1。请重新复制，或转换为 DNG 或 TIFF。</translation>
     </message>
     <message>
@@ -725,13 +725,6 @@ Examples:
     <message>
         <source>Settings files (*.xml)</source>
         <translation>设置文件 (*.xml)</translation>
-    </message>
-</context>
-<context>
-    <name>XmpCarrier</name>
-    <message>
-        <source>the result can&apos;t be replaced</source>
-        <translation>无法替换结果文件</translation>
     </message>
 </context>
 <context>

@@ -244,7 +244,7 @@ Examples:
         <translation>無法開啟檔案。請檢查檔案是否存在，以及您是否有權讀取。</translation>
     </message>
     <message>
-        <source>The file is cut short or damaged. Copy it anew from the camera or a backup.</source>
+        <source>The file is cut short or damaged. Copy it again from the camera or a backup.</source>
         <translation>檔案不完整或已損毀。請從相機或備份重新複製。</translation>
     </message>
     <message>
@@ -252,11 +252,11 @@ Examples:
         <translation>記憶體不足，無法處理此照片。請關閉其他程式，或一次只處理一張照片（--jobs 1）。</translation>
     </message>
     <message>
-        <source>It is no picture of a known format, or another one than its suffix says. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of what it is, or convert it.</source>
+        <source>It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of its format, or convert it.</source>
         <translation>這不是已知格式的影像，或其實際格式與副檔名不符。可以讀取 JPEG、PNG、TIFF、HDR、EXR、PSD 和相機 RAW；請將副檔名改為與實際格式一致，或轉換該檔案。</translation>
     </message>
     <message>
-        <source>It is a video. Haze can be taken from photographs only; save a picture of it as JPEG, PNG or TIFF.</source>
+        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
         <translation>這是影片。只能從照片中去除薄霧；請將其中的一格畫面儲存為 JPEG、PNG 或 TIFF。</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@ Examples:
         <translation>無法讀取這種像素格式。請另存為 8 位元或 16 位元 RGB，然後再試一次。</translation>
     </message>
     <message>
-        <source>An empty name stands for no photograph.</source>
+        <source>An empty name cannot be that of a photograph.</source>
         <translation>空白名稱不代表任何照片。</translation>
     </message>
     <message>
@@ -280,7 +280,7 @@ Examples:
         <translation>這是一個資料夾。請指定其中的照片，例如「%1」。</translation>
     </message>
     <message>
-        <source>This is no regular file. Copy the photograph into one.</source>
+        <source>This is not a regular file. Copy the photograph into one.</source>
         <translation>這不是一般檔案。請將照片複製為一般檔案。</translation>
     </message>
     <message>
@@ -288,7 +288,7 @@ Examples:
         <translation>無法讀取檔案。請為自己授予讀取權限。</translation>
     </message>
     <message>
-        <source>The file is empty. Copy it anew from the camera or a backup.</source>
+        <source>The file is empty. Copy it again from the camera or a backup.</source>
         <translation>檔案是空的。請從相機或備份重新複製。</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@ Examples:
         <translation>記憶體不足，無法處理此相機 RAW 檔案。請關閉其他程式，或一次只處理一張照片（--jobs 1）。</translation>
     </message>
     <message>
-        <source>The camera raw file can&apos;t be developed: %1. Copy it anew, or convert it to DNG or TIFF.</source>
+        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
         <translation>無法解碼此相機 RAW 檔案：%1。請重新複製，或轉換為 DNG 或 TIFF。</translation>
     </message>
     <message>
@@ -725,13 +725,6 @@ Examples:
     <message>
         <source>Settings files (*.xml)</source>
         <translation>設定檔 (*.xml)</translation>
-    </message>
-</context>
-<context>
-    <name>XmpCarrier</name>
-    <message>
-        <source>the result can&apos;t be replaced</source>
-        <translation>無法取代結果檔案</translation>
     </message>
 </context>
 <context>

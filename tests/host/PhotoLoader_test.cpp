@@ -2,16 +2,18 @@
 
 #include <QFile>
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
+#include <unistd.h>
 
 #include "PhotoLoader.h"
 #include "TestFolder.h"
 #include "VException.h"
-#include "XmpCarrier.h"
+#include "carryXmp.h"
 #include "gfl.h"
 
 namespace {
 
-/// A head, and zeros behind it.
+/// A head, followed by zeros.
 QByteArray head(std::initializer_list<std::pair<int, QByteArray>> parts, int size = 2000)
 {
     QByteArray bytes(size, '\0');
@@ -20,7 +22,7 @@ QByteArray head(std::initializer_list<std::pair<int, QByteArray>> parts, int siz
     return bytes;
 }
 
-/// A box of the ISO media format of this brand; what follows is of a type that its readers go into.
+/// A box of the ISO media format with this brand, followed by one of a type that readers go into.
 QByteArray isoMedia(const char *brand)
 {
     return head({{0, QByteArray("\0\0\0\x18"
@@ -30,7 +32,7 @@ QByteArray isoMedia(const char *brand)
                  {24, QByteArray("\0\0\7\0moov", 8)}});
 }
 
-std::string saidBy(const std::function<void()> &act)
+std::string messageOf(const std::function<void()> &act)
 {
     try {
         act();
@@ -38,6 +40,25 @@ std::string saidBy(const std::function<void()> &act)
         return failure.message.toStdString();
     }
     return "nothing";
+}
+
+/// How often `act` opens the file.
+int opensOf(const QString &path, const std::function<void()> &act)
+{
+    const int watch = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    // Reads come between two openings, so that the system does not report both as one.
+    inotify_add_watch(watch, QFile::encodeName(path).constData(), IN_OPEN | IN_ACCESS);
+    act();
+    alignas(inotify_event) char events[4096];
+    int opens = 0;
+    for (ssize_t got; (got = read(watch, events, sizeof events)) > 0;)
+        for (ssize_t at = 0; at < got;) {
+            const auto *event = reinterpret_cast<const inotify_event *>(events + at);
+            opens += (event->mask & IN_OPEN) != 0;
+            at += ssize_t(sizeof *event + event->len);
+        }
+    close(watch);
+    return opens;
 }
 
 class PhotoLoaderTest : public testing::Test
@@ -51,14 +72,14 @@ protected:
 
 } // namespace
 
-TEST_F(PhotoLoaderTest, NoLibrarySeesWhatIsNoPhotographWhateverItsSuffix)
+TEST_F(PhotoLoaderTest, NoLibrarySeesWhatIsNotAPhotographWhateverItsSuffix)
 {
-    const char *const video = "It is a video.", *const unknown = "It is no picture of a known format";
+    const char *const video = "It is a video.", *const unknown = "It is not a picture in a known format";
     const struct
     {
         const char *what;
         QByteArray bytes;
-        const char *said;
+        const char *message;
     } files[] = {
         {"mp4", isoMedia("isom"), video},
         {"mov", isoMedia("qt  "), video},
@@ -97,8 +118,8 @@ TEST_F(PhotoLoaderTest, NoLibrarySeesWhatIsNoPhotographWhateverItsSuffix)
             SCOPED_TRACE(std::string(file.what) + " as " + name.toStdString());
             const QString path = folder.path(name);
             folder.write(name, file.bytes);
-            EXPECT_EQ(saidBy([&] { PhotoLoader::describe(path); }).rfind(file.said, 0), 0u);
-            EXPECT_EQ(saidBy([&] { PhotoLoader::decode(path); }).rfind(file.said, 0), 0u);
+            EXPECT_EQ(messageOf([&] { PhotoLoader::describe(path); }).rfind(file.message, 0), 0u);
+            EXPECT_EQ(messageOf([&] { PhotoLoader::decode(path); }).rfind(file.message, 0), 0u);
             GflBitmap *bitmap = nullptr;
             EXPECT_EQ(gflLoadBitmapUTF8(path.toUtf8(), &bitmap, nullptr, nullptr), GFL_ERROR_UNKNOWN_FORMAT);
             EXPECT_EQ(carryXmp(path, folder.path("result.jpg")), QString());
@@ -107,14 +128,14 @@ TEST_F(PhotoLoaderTest, NoLibrarySeesWhatIsNoPhotographWhateverItsSuffix)
     EXPECT_EQ(folder.content("result.jpg"), result);
 }
 
-TEST_F(PhotoLoaderTest, ASuffixOfCameraRawMustBeTrueAndAShapeOfOneIsEnough)
+TEST_F(PhotoLoaderTest, ASuffixOfCameraRawMustBeTrueAndItsShapeIsEnough)
 {
-    const char *const unknown = "It is no picture of a known format", *const tried = "The camera raw file can't be developed";
+    const char *const unknown = "It is not a picture in a known format", *const tried = "The camera raw file can't be developed";
     const struct
     {
         const char *name;
         QByteArray bytes;
-        const char *said;
+        const char *message;
     } files[] = {
         {"a.nef", head({{0, "\xFF\xD8\xFF\xE1"}}), unknown},
         {"a.cr2", head({{0, "\x89PNG\r\n\x1A\n"}}), unknown},
@@ -131,11 +152,11 @@ TEST_F(PhotoLoaderTest, ASuffixOfCameraRawMustBeTrueAndAShapeOfOneIsEnough)
     };
     for (const auto &file : files) {
         folder.write(file.name, file.bytes);
-        EXPECT_EQ(saidBy([&] { PhotoLoader::describe(folder.path(file.name)); }).rfind(file.said, 0), 0u) << file.name;
+        EXPECT_EQ(messageOf([&] { PhotoLoader::describe(folder.path(file.name)); }).rfind(file.message, 0), 0u) << file.name;
     }
 }
 
-TEST_F(PhotoLoaderTest, ASizeThatNoFileOfItsLengthCouldHoldIsDamage)
+TEST_F(PhotoLoaderTest, ASizeThatAFileOfItsLengthCannotHoldIsDamage)
 {
     folder.photograph("a.png");
     QByteArray png = folder.content("a.png");
@@ -143,6 +164,59 @@ TEST_F(PhotoLoaderTest, ASizeThatNoFileOfItsLengthCouldHoldIsDamage)
     folder.write("a.png", png);
     folder.write("a.hdr", "#?RADIANCE\nFORMAT=32-bit_rle_rgbe\n\n-Y 4000000 +X 20000\n");
     for (const char *name : {"a.png", "a.hdr"})
-        EXPECT_EQ(saidBy([&] { PhotoLoader::describe(folder.path(name)); }).rfind("The file is cut short or damaged", 0), 0u)
+        EXPECT_EQ(messageOf([&] { PhotoLoader::describe(folder.path(name)); }).rfind("The file is cut short or damaged", 0), 0u)
             << name;
+}
+
+TEST_F(PhotoLoaderTest, AFileIsOpenedOnceForItsHeadAndOnceForItsPixels)
+{
+    const struct
+    {
+        const char *name;
+        unsigned short type; // 0: camera raw
+        int bits;
+        PhotoKind kind;
+        int bytesPerPixel;
+        bool metadata;
+    } files[] = {
+        {"a.jpg", VImage::Rgb, 8, PhotoKind::Jpeg, 3, true},
+        {"cut.jpg", VImage::Rgb, 8, PhotoKind::Jpeg, 6, false},
+        {"a.png", VImage::Rgba, 16, PhotoKind::Png, 8, true},
+        {"a.tif", VImage::Grey, 16, PhotoKind::Tiff, 2, true},
+        {"a.hdr", VImage::Rgb, 32, PhotoKind::Radiance, 12, true},
+        {"a.exr", VImage::Rgba, 32, PhotoKind::OpenExr, 16, true},
+        {"a.psd", VImage::Rgb, 8, PhotoKind::Photoshop, 3, true},
+        {"a.dng", 0, 16, PhotoKind::Tiff, 6, true},
+        {"raw", 0, 16, PhotoKind::Tiff, 6, true},
+    };
+    for (const auto &file : files) {
+        SCOPED_TRACE(file.name);
+        const QString path = folder.path(file.name);
+        if (file.type == 0)
+            folder.raw(file.name, 62, 34);
+        else
+            folder.photograph(file.name, 62, 34, file.type, file.bits);
+        if (!file.metadata) { // cut within its end mark
+            const QByteArray whole = folder.content(file.name);
+            folder.write(file.name, whole.left(whole.size() - 1));
+        }
+        PhotoHead head;
+        EXPECT_EQ(opensOf(path, [&] { head = PhotoLoader::describe(path); }), 1);
+        EXPECT_EQ(head.kind, file.kind);
+        EXPECT_EQ(head.raw, file.type == 0);
+        EXPECT_EQ(head.width, 62);
+        EXPECT_EQ(head.height, 34);
+        EXPECT_EQ(head.orientation, file.type == 0 ? 6 : 1);
+        EXPECT_EQ(head.bytesPerPixel, file.bytesPerPixel);
+        EXPECT_TRUE(head.pixels);
+        EXPECT_EQ(head.metadata, file.metadata);
+        std::unique_ptr<DecodedPhoto> photo;
+        std::string message;
+        EXPECT_EQ(opensOf(path, [&] { message = messageOf([&] { photo = PhotoLoader::decode(path); }); }), 1);
+        if (photo) {
+            EXPECT_EQ(photo->image().Width(), 62);
+            EXPECT_EQ(photo->image().Bitmap()->bytesPerPixel, file.bytesPerPixel);
+        }
+        EXPECT_EQ(message.rfind(file.metadata ? "nothing" : "The file is cut short", 0), 0u) << message;
+    }
 }

@@ -55,7 +55,7 @@ TEST(Photograph, ScaledImagesAreTurnedAsAViewerShowsThem)
     gflLibraryExit();
 }
 
-TEST(Photograph, DecodesAtAcquireAndLetsGoAtRelease)
+TEST(Photograph, DecodesWhenAcquiredAndFreesWhenReleased)
 {
     gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr);
     TestFolder folder;
@@ -70,7 +70,7 @@ TEST(Photograph, DecodesAtAcquireAndLetsGoAtRelease)
     std::vector<Photograph::Use> uses;
     photograph.watch([&](Photograph::Use use) { uses.push_back(use); });
     VImage *full = photograph.acquireFull(1);
-    EXPECT_EQ(full, photograph.acquireFull(1)); // one decoding for two who use it at once
+    EXPECT_EQ(full, photograph.acquireFull(1)); // decoded once for two uses at the same time
     QFile::remove(folder.path("a.png"));
     EXPECT_EQ(photograph.acquireScaled(32, 24, 1)->Width(), 32); // from the image that is there
     photograph.releaseScaled(32, 24, 1);
@@ -88,7 +88,7 @@ TEST(Photograph, DecodesAtAcquireAndLetsGoAtRelease)
     EXPECT_NO_THROW(photograph.acquireFull(1));
     photograph.dropFull();
 
-    // Decoded ahead, it is not decoded once more, and goes with the first use as ever.
+    // Decoded ahead, it is not decoded again, and the first use frees it as usual.
     Photograph ahead(folder.path("a.png"));
     EXPECT_EQ(ahead.automaticStrength(), std::nullopt);
     ahead.decodeAhead();

@@ -21,7 +21,7 @@ ScaledImages::Image copy()
     return std::make_shared<VImage>(64, 16, VImage::Grey, 8);
 }
 
-/// Whether the copy has to be made; it isn't then.
+/// Whether the copy would have to be made; it is not made here.
 bool isGone(ScaledImages &images, int number)
 {
     try {
@@ -34,12 +34,12 @@ bool isGone(ScaledImages &images, int number)
 
 } // namespace
 
-TEST(ScaledImages, WhatWasNotAskedForLongestGoesFirstAndLittleWishesPushNothingOut)
+TEST(ScaledImages, TheLeastRecentlyUsedGoesFirstAndIfRoomDisplacesNothing)
 {
     ScaledImages images(3 * kBytes);
     for (int number : {1, 2, 3})
         images.obtain(key(number), copy);
-    EXPECT_FALSE(isGone(images, 1)); // and is the latest now
+    EXPECT_FALSE(isGone(images, 1)); // and is the most recent now
     images.obtain(key(4), copy, ScaledImages::Keep::IfRoom);
     EXPECT_TRUE(isGone(images, 4));
     const ScaledImages::Image inUse = images.obtain(key(2), copy);

@@ -34,7 +34,7 @@ void draw(const Picture &picture, VImage &image)
 
 } // namespace
 
-TEST(AutomaticStrength, IsTheStrongestThatLeavesThePictureBrightEnough)
+TEST(AutomaticStrength, IsTheHighestThatKeepsThePictureBrightEnough)
 {
     // All are the size of their own copy of 100,000 pixels, so that nothing is scaled.
     const struct
@@ -46,7 +46,7 @@ TEST(AutomaticStrength, IsTheStrongestThatLeavesThePictureBrightEnough)
         {{0, 166, 150, 316}, 80},       // 1.002
         {{0, 126, 190, 316}, 50},       // 0.203
         {{0, 97, 219, 316, false}, 64}, // 4 (1 - 219 / 316 * 0.4598 / 0.38) = 0.646
-        {{100, 99, 117, 316}, 57},      // 4 (1 - 117 / 216 * 0.6 / 0.38) = 0.579; black that is not seen doesn't count
+        {{100, 99, 117, 316}, 57},      // 4 (1 - 117 / 216 * 0.6 / 0.38) = 0.579; transparent black doesn't count
         {{0, 11900, 13100, 4}, 69},     // 0.691; the width times 100,000 is beyond 31 bits
     };
     for (const auto &[picture, strength] : cases) {
@@ -70,7 +70,7 @@ TEST(AutomaticStrength, IsTheSameForAllFormsAndSizesOfAPicture)
         }
 }
 
-TEST(AutomaticStrength, IsNothingWhereTheEngineLeavesThePictureAsItIsAndInRangeElsewhere)
+TEST(AutomaticStrength, IsNothingWhereTheEngineChangesNothingAndInRangeElsewhere)
 {
     constexpr float kNothing = std::numeric_limits<float>::quiet_NaN(), kInfinite = std::numeric_limits<float>::infinity();
     const struct

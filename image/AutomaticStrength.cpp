@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The engine's copy of about 100,000 pixels, but without the limit of its 32-bit product. Empty for an image without an area,
+/// The engine's copy of about 100,000 pixels, but without the wrapping of its 32-bit product. Empty for an image without an area,
 /// and for one so narrow that its copy would have none.
 void reduce(const VImage &photograph, VImage &low)
 {
@@ -25,7 +25,7 @@ void reduce(const VImage &photograph, VImage &low)
     toWorkingForm(small, low);
 }
 
-/// Mean luminance of what a viewer sees; pixels count by their alpha. Not a number if all are transparent.
+/// Mean luminance of what a viewer sees: pixels are weighted by their alpha. Not a number if all are transparent.
 double meanLuminance(const VImage &picture)
 {
     double sum = 0, weights = 0;

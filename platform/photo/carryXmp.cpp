@@ -1,22 +1,22 @@
-#include "XmpCarrier.h"
+#include "carryXmp.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <optional>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
 
 #include "ByteReader.h"
+#include "RegularFile.h"
 #include "photoMetadata.h"
 
 namespace {
 
-/// The XMP of a JPEG or PNG file as it stands in it, an extended one in several segments included, and the place where such a
-/// file takes it. Between two files of one of these formats it is moved as it is: the metadata library would write the EXIF of a
-/// PNG anew.
+/// The XMP of a JPEG or PNG file, byte for byte and including extended XMP in several segments, and the place for XMP in such a
+/// file. Between two files of the same of these formats it is copied verbatim: the metadata library would rewrite the EXIF of a
+/// PNG.
 struct XmpPieces
 {
     QByteArray bytes;
@@ -50,7 +50,7 @@ std::optional<XmpPieces> piecesOfJpeg(const QByteArray &file)
             if (leading)
                 pieces.place = qint64(reader.position());
         }
-    } catch (const EndOfBytes &) { // what came before counts
+    } catch (const EndOfBytes &) { // what came before is kept
     }
     return pieces;
 }
@@ -76,7 +76,7 @@ std::optional<XmpPieces> piecesOfPng(const QByteArray &file)
     return pieces;
 }
 
-/// The content of a file without a copy; null if it can't be had.
+/// The content of a file, mapped instead of copied; null on a failure.
 QByteArray mapped(QFile &file)
 {
     if (!file.open(QIODevice::ReadOnly) || file.size() > INT_MAX)
@@ -88,11 +88,12 @@ QByteArray mapped(QFile &file)
 std::string packetOf(const QString &path)
 {
     try {
-        const auto image = openMetadata(QFile::encodeName(path).toStdString());
+        const RegularFile file(QFile::encodeName(path).toStdString());
+        const auto image = openMetadata(file);
         if (!image)
             return {}; // a format without XMP
         image->readMetadata();
-        // As it stands in the file, where the library keeps that (it does not for TIFF), or else in the library's own words.
+        // Verbatim where the library keeps the file's own packet (for TIFF it does not), or else as the library writes it.
         image->writeXmpFromPacket(true);
         if (std::string packet = image->xmpPacket(); !packet.empty())
             return packet;
@@ -103,7 +104,7 @@ std::string packetOf(const QString &path)
     }
 }
 
-/// False if the format can't hold any.
+/// False if the format can't hold XMP.
 bool setPacket(const QString &path, const std::string &packet)
 {
     const auto image = openMetadata(QFile::encodeName(path).toStdString());
@@ -123,7 +124,7 @@ QString copyTo(QIODevice &target, QIODevice &source)
         if (got < 0)
             return source.errorString();
         const qint64 written = target.write(block.constData(), got);
-        if (written != got) // what went in in part is no error to Qt
+        if (written != got) // Qt does not count a partial write as an error
             return written < 0 ? target.errorString() : qt_error_string(ENOSPC);
     }
     return QString();
@@ -165,7 +166,7 @@ QString carryXmp(const QString &source, const QString &result)
     }
     copy.setPermissions(to.permissions());
     if (std::rename(QFile::encodeName(copy.fileName()).constData(), QFile::encodeName(result).constData()) != 0)
-        return QCoreApplication::translate("XmpCarrier", "the result can't be replaced");
+        return qt_error_string(errno);
     copy.setAutoRemove(false);
     return QString();
 }
