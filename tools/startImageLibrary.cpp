@@ -41,8 +41,7 @@ void startImageLibrary(VImageContext *context)
     } else {
         startTools(nullptr);
         imageSettings = new VImageSettings;
-        gflLibraryInitEx(gflAllocCallback, gflReallocCallback, gflFreeCallback,
-                               nullptr);
+        gflLibraryInitEx(gflAllocCallback, gflReallocCallback, gflFreeCallback, nullptr);
         gflEnableLZW(1);
         imageContext.cacheRegistry = makeRegistry();
         started = true;

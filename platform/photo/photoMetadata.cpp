@@ -88,13 +88,17 @@ public:
     }
     Exiv2::byte *mmap(bool) override
     {
-        if (!mapped && file.size() > 0) {
+        if (!mapped && copy.empty() && file.size() > 0) {
             void *const address = ::mmap(nullptr, size(), PROT_READ, MAP_SHARED, file.descriptor(), 0);
-            if (address == MAP_FAILED)
-                throw Exiv2::Error(Exiv2::ErrorCode::kerCallFailed, name, std::strerror(errno), "mmap");
-            mapped = static_cast<Exiv2::byte *>(address);
+            if (address != MAP_FAILED) {
+                mapped = static_cast<Exiv2::byte *>(address);
+            } else { // not every file system maps files; an error of the library's would pass for a file without metadata
+                copy.resize(size());
+                if (file.readAt(0, copy.data(), copy.size()) < copy.size())
+                    throw Exiv2::Error(Exiv2::ErrorCode::kerInputDataReadFailed);
+            }
         }
-        return mapped;
+        return mapped ? mapped : copy.data();
     }
     int munmap() override { return unmap(); }
 
@@ -107,6 +111,7 @@ public:
 private:
     int unmap() noexcept
     {
+        copy.clear();
         Exiv2::byte *const address = std::exchange(mapped, nullptr);
         return address ? ::munmap(address, size()) : 0;
     }
@@ -117,6 +122,7 @@ private:
     bool opened = false;
     bool atEnd = false;
     Exiv2::byte *mapped = nullptr;
+    std::vector<Exiv2::byte> copy; ///< Of the whole file, where it can't be mapped.
 };
 
 std::unique_ptr<Exiv2::Image> imageOf(PhotoKind kind, std::unique_ptr<Io> io)
