@@ -1,15 +1,13 @@
 #include <functional>
 
 #include <QFile>
-#include <gtest/gtest.h>
 #include <sys/inotify.h>
 #include <unistd.h>
 
 #include "PhotoLoader.h"
-#include "TestFolder.h"
+#include "PhotoTest.h"
 #include "VException.h"
 #include "carryXmp.h"
-#include "gfl.h"
 
 namespace {
 
@@ -61,14 +59,7 @@ int opensOf(const QString &path, const std::function<void()> &act)
     return opens;
 }
 
-class PhotoLoaderTest : public testing::Test
-{
-protected:
-    static void SetUpTestSuite() { gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr); }
-    static void TearDownTestSuite() { gflLibraryExit(); }
-
-    TestFolder folder;
-};
+using PhotoLoaderTest = PhotoTest;
 
 } // namespace
 

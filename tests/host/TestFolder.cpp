@@ -3,14 +3,22 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <vector>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QtEndian>
 
 #include "PhotoLoader.h"
+
+std::vector<QJsonObject> Said::objects() const
+{
+    std::vector<QJsonObject> all;
+    for (const QString &line : out.split('\n', Qt::SkipEmptyParts))
+        all.push_back(QJsonDocument::fromJson(line.toUtf8()).object());
+    return all;
+}
 
 QStringList TestFolder::files() const
 {

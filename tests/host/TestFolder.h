@@ -2,8 +2,10 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -17,6 +19,9 @@ struct Said
     int code;
     QString out;
     QString err;
+
+    /// The lines of the standard output of --json.
+    std::vector<QJsonObject> objects() const;
 };
 
 /// A temporary folder with photographs made in code, in which the program is run as a user would, without a locale or stored

@@ -101,6 +101,11 @@ protected:
     {
         return eventually([&] { return window->currentId() == page && window->currentPage()->isComplete(); });
     }
+    bool goesTo(QWizard::WizardButton button, int page)
+    {
+        go(button);
+        return reached(page);
+    }
 
     /// Clicks what opens a file dialog, pastes into it and presses Return.
     void clickAndPaste(const char *button, const QString &text)
@@ -220,8 +225,7 @@ TEST_F(Wizard, FromChoosingTwoPhotographsToTwoResults)
         ASSERT_TRUE(eventually([&] { return find<QLabel>("state")->text() == whole; }));
         keepPicture("1_photographs");
 
-        go(QWizard::NextButton);
-        ASSERT_TRUE(reached(WizardWindow::Strength));
+        ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Strength));
         EXPECT_EQ(find<QComboBox>("comboBoxImageDef")->count(), 2);
         EXPECT_EQ(strengthOf("tower.png"), WantedStrength::kUsual);
         typeStrength("tower.png", "30");
@@ -244,10 +248,8 @@ TEST_F(Wizard, FromChoosingTwoPhotographsToTwoResults)
         QTest::keyRelease(panel, Qt::Key_Alt);
         EXPECT_TRUE(preview() == split);
 
-        go(QWizard::BackButton);
-        ASSERT_TRUE(reached(WizardWindow::Photographs));
-        go(QWizard::NextButton);
-        ASSERT_TRUE(reached(WizardWindow::Strength));
+        ASSERT_TRUE(goesTo(QWizard::BackButton, WizardWindow::Photographs));
+        ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Strength));
         EXPECT_EQ(strengthOf("tower.png"), 30);
         EXPECT_EQ(strengthOf("valley.jpg"), 85);
 
@@ -259,8 +261,7 @@ TEST_F(Wizard, FromChoosingTwoPhotographsToTwoResults)
         const QString done = QCoreApplication::translate("RunPage", "Done");
         EXPECT_EQ(states(), (QStringList{done, done}));
 
-        go(QWizard::NextButton);
-        ASSERT_TRUE(reached(WizardWindow::Results));
+        ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Results));
         EXPECT_EQ(find<QListWidget>("results")->count(), 2);
         EXPECT_EQ(find<QLabel>("outcome")->text(), folder.path("valley" + tag + ".jpg"));
         auto *view = find<BeforeAfterView>("beforeAfter");
@@ -298,8 +299,7 @@ TEST_F(Wizard, ASessionGoesOnWithAFurtherPhotograph)
         ASSERT_TRUE(reached(WizardWindow::Photographs));
         EXPECT_EQ(find<QListWidget>("photographs")->count(), 1);
         EXPECT_TRUE(find<QLabel>("leftOut")->text().contains(result));
-        go(QWizard::NextButton);
-        ASSERT_TRUE(reached(WizardWindow::Strength));
+        ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Strength));
         EXPECT_EQ(strengthOf("valley.jpg"), 20);
         typeStrength("valley.jpg", "25");
         go(QWizard::BackButton);
@@ -312,8 +312,7 @@ TEST_F(Wizard, ASessionGoesOnWithAFurtherPhotograph)
         EXPECT_EQ(find<QLabel>("leftOut")->text().count('\n'), 2) << find<QLabel>("leftOut")->text();
         ASSERT_TRUE(reached(WizardWindow::Photographs));
         keepPicture("1_left_out");
-        go(QWizard::NextButton);
-        ASSERT_TRUE(reached(WizardWindow::Strength));
+        ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Strength));
         EXPECT_EQ(strengthOf("valley.jpg"), 25);
         EXPECT_EQ(strengthOf("tower.png"), WantedStrength::kUsual);
         typeStrength("tower.png", "55");
@@ -327,8 +326,7 @@ TEST_F(Wizard, ASessionGoesOnWithAFurtherPhotograph)
         ASSERT_TRUE(reached(WizardWindow::Work));
         EXPECT_EQ(states(),
                   (QStringList{QCoreApplication::translate("RunPage", "Kept"), QCoreApplication::translate("RunPage", "Done")}));
-        go(QWizard::NextButton);
-        ASSERT_TRUE(reached(WizardWindow::Results));
+        ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Results));
 
         click("startOver");
         EXPECT_EQ(window->currentId(), WizardWindow::Photographs);
@@ -344,8 +342,7 @@ TEST_F(Wizard, ASessionGoesOnWithAFurtherPhotograph)
     // The strength applied to all is now the stored default.
     use({folder.path("valley.jpg")}, [&] {
         ASSERT_TRUE(reached(WizardWindow::Photographs));
-        go(QWizard::NextButton);
-        ASSERT_TRUE(reached(WizardWindow::Strength));
+        ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Strength));
         EXPECT_EQ(strengthOf("valley.jpg"), 55);
         QTest::keyClick(window, Qt::Key_Escape);
         EXPECT_TRUE(window->isVisible());
@@ -379,8 +376,7 @@ TEST_F(Wizard, WithAutoAsTheDefaultEachPhotographStartsAtItsOwnStrength)
             ASSERT_TRUE(reached(WizardWindow::Photographs));
             EXPECT_EQ(find<QLabel>("state")->text(),
                       QCoreApplication::translate("PhotoPage", "%n photograph(s)", nullptr, 3)); // all are read
-            go(QWizard::NextButton);
-            ASSERT_TRUE(reached(WizardWindow::Strength));
+            ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Strength));
             EXPECT_EQ(strengthOf("bright.jpg"), 80);
             EXPECT_EQ(strengthOf("dark.png"), 50);
             EXPECT_EQ(strengthOf("grey.png"), 20);
@@ -402,15 +398,12 @@ TEST_F(Wizard, AMissingAndAnUnchangedPhotographAreShownWithTheReason)
     use({folder.path("gone.png"), folder.path("nan.tif"), folder.path("valley.jpg")}, [&] {
         ASSERT_TRUE(reached(WizardWindow::Photographs));
         QFile::remove(folder.path("gone.png"));
-        go(QWizard::NextButton);
-        ASSERT_TRUE(reached(WizardWindow::Strength));
-        go(QWizard::CommitButton);
-        ASSERT_TRUE(reached(WizardWindow::Work));
+        ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Strength));
+        ASSERT_TRUE(goesTo(QWizard::CommitButton, WizardWindow::Work));
         EXPECT_EQ(states(), (QStringList{QCoreApplication::translate("RunPage", "Failed"),
                                          QCoreApplication::translate("RunPage", "Unchanged"),
                                          QCoreApplication::translate("RunPage", "Done")}));
-        go(QWizard::NextButton);
-        ASSERT_TRUE(reached(WizardWindow::Results));
+        ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Results));
         EXPECT_EQ(window->currentPage()->subTitle(),
                   QCoreApplication::translate("ResultPage", "%1 of %2 photographs are done.").arg(1).arg(3));
         EXPECT_NE(find<QLabel>("outcome")->text(), "");
@@ -447,8 +440,7 @@ TEST_F(Wizard, TheListNamesThePhotographShownWhenAnotherCannotBeRead)
                 }
             });
             reader.start(20);
-            go(QWizard::NextButton);
-            ASSERT_TRUE(reached(WizardWindow::Strength));
+            ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Strength));
             EXPECT_EQ(find<QComboBox>("comboBoxImageDef")->currentText(), stays);
             typeStrength(stays, "40");
             if (!firstGoes)
@@ -457,8 +449,7 @@ TEST_F(Wizard, TheListNamesThePhotographShownWhenAnotherCannotBeRead)
             EXPECT_TRUE(shown.startsWith(goes + ": ")) << shown;
             EXPECT_EQ(find<QComboBox>("comboBoxImageDef")->currentText(), stays);
             click("pushButtonApplyAll");
-            go(QWizard::CommitButton);
-            ASSERT_TRUE(reached(WizardWindow::Work));
+            ASSERT_TRUE(goesTo(QWizard::CommitButton, WizardWindow::Work));
             const QString used = find<QTableWidget>("work")->item(names.indexOf(stays), 1)->text();
             EXPECT_TRUE(used.startsWith("40")) << used;
         });
@@ -476,8 +467,7 @@ TEST_F(Wizard, ClosingStopsTheWorkBetweenPhotographs)
     use(arguments, [&] {}); // while they are being read
     use(arguments, [&] {
         ASSERT_TRUE(reached(WizardWindow::Photographs));
-        go(QWizard::NextButton);
-        ASSERT_TRUE(reached(WizardWindow::Strength));
+        ASSERT_TRUE(goesTo(QWizard::NextButton, WizardWindow::Strength));
         go(QWizard::CommitButton);
         bool stillThere = false;
         whenWorkShows([&] {

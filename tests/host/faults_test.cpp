@@ -20,15 +20,13 @@
 #include <QRegularExpression>
 #include <exiv2/exiv2.hpp>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "BatchPlan.h"
 #include "BatchRunner.h"
 #include "HostApplication.h"
 #include "PhotoLoader.h"
+#include "PhotoTest.h"
 #include "PluginFile.h"
-#include "TestFolder.h"
-#include "gfl.h"
 
 namespace {
 
@@ -202,12 +200,9 @@ TEST_F(BatchFaults, AnotherProgramIsDoneFirst)
 
 namespace {
 
-class ProgramFaults : public testing::Test
+class ProgramFaults : public PhotoTest
 {
 protected:
-    static void SetUpTestSuite() { gflLibraryInitEx(nullptr, nullptr, nullptr, nullptr); }
-    static void TearDownTestSuite() { gflLibraryExit(); }
-
     /// A photograph with an XMP packet, which the program copies once the result exists.
     void photographWithXmp(const QString &name, int width, int height)
     {
@@ -233,8 +228,6 @@ protected:
             return {-1, QString(), QString()};
         return folder.shell(unshare + " /bin/sh -c '" + script + "'");
     }
-
-    TestFolder folder;
 };
 
 #define SKIP_WITHOUT_MOUNTS(said)                                                                                                \
@@ -467,8 +460,8 @@ TEST_F(ProgramFaults, NamesOfAnyLetters)
     const QStringList options{"--strength", "0", "--json", "--settings", "s.xml"};
     const auto resultsIn = [](const Said &said) {
         QStringList named;
-        for (const QString &line : said.out.split('\n', Qt::SkipEmptyParts))
-            named << QJsonDocument::fromJson(line.toUtf8()).object()["result"].toString();
+        for (const QJsonObject &object : said.objects())
+            named << object["result"].toString();
         return named;
     };
     const Said first = folder.run(options + QStringList{"--"} + photographs);

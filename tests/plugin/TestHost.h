@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cmath>
-#include <functional>
 #include <map>
 #include <memory>
 
@@ -18,7 +17,7 @@
 #include "VIApplication.h"
 #include "VImage.h"
 
-/// One photograph of the test's host. Its pixels come from `sample`; every call that acquires or releases an image is recorded in
+/// One photograph of the test's host. Every call that acquires or releases an image is recorded in
 /// `calls`.
 class TestImage : public ImageDef
 {
@@ -28,9 +27,9 @@ public:
     QString displayName() override { return name; }
     int height() override { return fullHeight; }
     int width() override { return fullWidth; }
-    int channelCount() override { return type == VImage::Grey ? 1 : type == VImage::Rgb ? 3 : 4; }
+    int channelCount() override { return type == VImage::Grey ? 1 : 3; }
     int bitsPerChannel() override { return bits; }
-    bool needsTiffOutput() override { return tiffOutput; }
+    bool needsTiffOutput() override { return false; }
     VImage *acquireScaled(int scaledWidth, int scaledHeight, int flag) override
     {
         calls += QStringLiteral("acquireScaled %1 %2 %3").arg(scaledWidth).arg(scaledHeight).arg(flag);
@@ -52,20 +51,20 @@ public:
         image.reset();
     }
 
-    /// The sample, nominally 0..1, of a channel at x and y in 0..1. The default is a landscape whose lower half is near and dark
-    /// and whose upper half fades into bright haze.
-    std::function<float(float, float, int)> sample = [](float x, float y, int channel) {
-        const float texture = 0.5f + 0.4f * std::sin(40.0f * x) * std::sin(30.0f * y + float(channel));
-        return channel == 3 ? 1.0f : texture * y + 0.85f * (1.0f - y);
-    };
     int fullWidth = 64;
     int fullHeight = 48;
     unsigned short type = VImage::Rgb;
     int bits = 8;
-    bool tiffOutput = false;
     bool givesEmptyImage = false;
 
 private:
+    /// The sample, nominally 0..1, of a channel at x and y in 0..1: a landscape whose lower half is near and dark and whose upper
+    /// half fades into bright haze.
+    static float sample(float x, float y, int channel)
+    {
+        const float texture = 0.5f + 0.4f * std::sin(40.0f * x) * std::sin(30.0f * y + float(channel));
+        return texture * y + 0.85f * (1.0f - y);
+    }
     VImage *draw(int width, int height)
     {
         image = std::make_unique<VImage>();
@@ -79,10 +78,8 @@ private:
                     sample(float(i / channelCount()) / float(width), float(y) / float(height), i % channelCount());
                 if (bits == 8)
                     row[i] = static_cast<unsigned char>(value * 255.0f + 0.5f);
-                else if (bits == 16)
-                    reinterpret_cast<unsigned short *>(row)[i] = static_cast<unsigned short>(value * 65535.0f + 0.5f);
                 else
-                    reinterpret_cast<float *>(row)[i] = value;
+                    reinterpret_cast<unsigned short *>(row)[i] = static_cast<unsigned short>(value * 65535.0f + 0.5f);
             }
         }
         return image.get();

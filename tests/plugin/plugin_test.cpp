@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QPluginLoader>
 #include <QPointer>
@@ -77,28 +76,6 @@ protected:
         process->destroySettings(settings);
         return strength;
     }
-    /// Writes the file of a photograph, from which only the metadata is read.
-    void writeSource(const QString &path)
-    {
-        QImage image(8, 8, QImage::Format_RGB32);
-        image.fill(Qt::gray);
-        image.save(path, path.endsWith(".JPG") ? "JPG" : "PNG");
-    }
-    /// Runs one image and returns the path of the result.
-    QString run(const QString &path, int strength)
-    {
-        writeSource(path);
-        VIPluginOne2One *const process = newProcess();
-        const VISettingsHandle settings = process->createSettings(element(QString::number(strength)));
-        QString output;
-        try {
-            process->run(path, settings, &output);
-        } catch (const VException &failure) {
-            ADD_FAILURE() << qPrintable(failure.message) << ' ' << qPrintable(failure.location);
-        }
-        process->destroySettings(settings);
-        return output;
-    }
 
     TestHost &host = TestHost::self();
     QObject *library = nullptr;
@@ -128,38 +105,20 @@ TEST_F(Plugin, ExportsTwoFunctionsAndNamesNoFolderOfTheBuild)
 #endif
 }
 
-TEST_F(Plugin, Metadata)
+TEST_F(Plugin, WhatAHostKnowsItBy)
 {
     const QJsonObject data = plugin().metaData();
     EXPECT_EQ(data.value("IID").toString(), "com.ombre.haze");
-    EXPECT_EQ(data.value("className").toString(), "Library");
-    EXPECT_EQ(data.value("version").toInt() >> 8, QT_VERSION >> 8);
-    EXPECT_EQ(data.value("debug"), QJsonValue(false));
-    EXPECT_TRUE(data.value("MetaData").toObject().isEmpty());
-}
-
-TEST_F(Plugin, IdentitiesOfLibraryAndProcess)
-{
+    EXPECT_EQ(data.value("debug"), QJsonValue(false)); // in every build
     VIPluginOne2One *const process = newProcess();
     auto *const about = qobject_cast<VIAbout *>(library);
     ASSERT_NE(about, nullptr);
-
     EXPECT_EQ(library->objectName(), "Nimbra");
-    EXPECT_EQ(about->name(), "Nimbra");
-    EXPECT_EQ(about->description(), "Comment");
-    EXPECT_EQ(about->guid(), "8E04C3B7-2AF1-4D96-A37C-F1B86C05D24E");
     EXPECT_EQ(object->objectName(), "NimbraOne2One");
-    EXPECT_EQ(process->name(), "Veilaway");
-    EXPECT_TRUE(process->description().startsWith("Haze is an atmospheric phenomenon"));
-    EXPECT_TRUE(process->description().contains("white layer.This plugin"));
     EXPECT_EQ(process->guid(), kProcessGuid);
     EXPECT_EQ(process->author(), about->author());
-    EXPECT_FALSE(about->author().isEmpty());
-    for (VIAbout *one : {about, static_cast<VIAbout *>(process)}) {
-        EXPECT_EQ(one->company(), "Ombre");
+    for (VIAbout *one : {about, static_cast<VIAbout *>(process)})
         EXPECT_EQ(one->version(), "3.0.0.400");
-        EXPECT_TRUE(one->icon().pixmap(64).isNull());
-    }
     EXPECT_EQ(process->beforeAfterIcon().availableSizes(), QList<QSize>{QSize(256, 128)});
 }
 
@@ -176,10 +135,7 @@ TEST_F(Plugin, CastsByName)
     EXPECT_EQ(object->qt_metacast("QObject"), object.data());
     EXPECT_EQ(object->qt_metacast("Veilaway"), nullptr);
 
-    const QMetaObject *const meta = object->metaObject();
-    EXPECT_EQ(meta->constructorCount(), 2);
-    EXPECT_EQ(meta->methodCount(), QObject::staticMetaObject.methodCount());
-    std::unique_ptr<QObject> made(meta->newInstance());
+    std::unique_ptr<QObject> made(object->metaObject()->newInstance());
     ASSERT_NE(made, nullptr);
     EXPECT_EQ(made->parent(), nullptr);
 }
@@ -295,36 +251,6 @@ TEST_F(Plugin, EachImageOfThePageHasItsOwnSettings)
     process->setImages({});
 }
 
-TEST_F(Plugin, NamesOfResults)
-{
-    const QLocale german(QLocale::German, QLocale::Germany);
-    const QLocale english(QLocale::English, QLocale::UnitedStates);
-    const struct
-    {
-        const char *source;
-        QLocale locale;
-        bool tiff;
-        const char *result;
-    } rows[] = {
-        {"IMG.PNG", english, false, "IMG_dehazed.png"},      {"a.b.png", english, false, "a.b_dehazed.png"},
-        {"a.other", english, true, "a_dehazed.tiff"},        {"bare", english, true, "bare_dehazed.tiff"},
-        {"photo.JPG", german, false, "photo_entnebelt.jpg"},
-    };
-    for (const auto &row : rows) {
-        delete plugin().instance();
-        host.language = row.locale;
-        library = plugin().instance();
-        interface = qobject_cast<VIPluginLibrary *>(library);
-        const QString path = folder.filePath(row.source);
-        host.image(path).tiffOutput = row.tiff;
-        const QString output = run(path, 0);
-        EXPECT_EQ(output, folder.filePath(row.result));
-        EXPECT_TRUE(QFile::exists(output)) << qPrintable(output);
-    }
-    delete plugin().instance();
-    host.language = english;
-}
-
 TEST_F(Plugin, FailuresReachASeparatelyBuiltHostAsValues)
 {
     const QString bare = folder.filePath("bare");
@@ -361,113 +287,32 @@ TEST_F(Plugin, FailuresReachASeparatelyBuiltHostAsValues)
     }
 }
 
-/// Mean grey value of the upper, hazy third.
-double hazyMean(const QImage &image)
+TEST_F(Plugin, EveryCatalogueLoadsAndHasTheTag)
 {
-    double sum = 0.0;
-    for (int y = 0; y < image.height() / 3; ++y)
-        for (int x = 0; x < image.width(); ++x)
-            sum += qGray(image.pixel(x, y));
-    return sum / (image.height() / 3) / image.width();
-}
-
-TEST_F(Plugin, EveryFormIsDehazedAndKeepsItsChannelsAndDepth)
-{
-    const struct
-    {
-        const char *name;
-        unsigned short type;
-        int bits;
-        QImage::Format format;
-    } rows[] = {
-        {"grey8.png", VImage::Grey, 8, QImage::Format_Grayscale8}, {"grey16.png", VImage::Grey, 16, QImage::Format_Grayscale16},
-        {"rgb8.png", VImage::Rgb, 8, QImage::Format_RGB32},        {"rgb16.png", VImage::Rgb, 16, QImage::Format_RGBX64},
-        {"rgba8.png", VImage::Rgba, 8, QImage::Format_ARGB32},     {"rgba16.png", VImage::Rgba, 16, QImage::Format_RGBA64},
-    };
-    for (const auto &row : rows) {
-        TestImage &photograph = host.image(folder.filePath(row.name));
-        photograph.type = row.type;
-        photograph.bits = row.bits;
-        const QImage untouched(run(folder.filePath(row.name), 0));
-        const QImage result(run(folder.filePath(row.name), 90));
-        EXPECT_EQ(result.size(), QSize(64, 48)) << row.name;
-        EXPECT_EQ(result.format(), row.format) << row.name;
-        EXPECT_GT(hazyMean(untouched), 100.0) << row.name;
-        EXPECT_LT(hazyMean(result), hazyMean(untouched) - 10.0) << row.name;
-    }
-}
-
-TEST_F(Plugin, AnImageThatTheEngineGivesUpOnIsWrittenUnchanged)
-{
-    const QString path = folder.filePath("void.png");
-    host.image(path).type = VImage::Rgba;
-    host.image(path).sample = [](float, float, int channel) { return channel == 3 ? 0.5f : 0.0f; }; // no airlight
-    const QImage result(run(path, 80));
-    ASSERT_EQ(result.size(), QSize(64, 48));
-    EXPECT_EQ(result.pixel(10, 10), qRgba(0, 0, 0, 128));
-}
-
-TEST_F(Plugin, CataloguesHoldTheTexts)
-{
-    const struct
-    {
-        const char *source;
-        const char *context;
-    } texts[] = {
-        {"_dehazed", "NimbraOne2One"},
-        {"Comment", "Library"},
-        {"Preview is uptodate", "UIHazePreview"},
-        {"Haze correction", "UIHazePreviewClass"},
-        {"Power", "UIHazePreviewClass"},
-        {"Split preview", "UIHazePreviewClass"},
-        {"Next", "UIImageDefListWizard"},
-        {"Prev", "UIImageDefListWizard"},
-        {"Apply to all images", "UIImageDefListWizardClass"},
-        {"WizardPage", "UIImageDefListWizardClass"},
-    };
-    struct Catalogue
-    {
-        const char *language;
-        QStringList translations; ///< Of the texts above; empty for a text that stays in English.
-    };
-    const Catalogue rows[] = {
-        {"fr",
-         {"_dehazed", "Commentaire", "L'aperçu est à jour", "Correction de voile blanc", "Puissance", "Aperçu avant/après",
-          "Suivant", "Précédent", "Appliquer à toutes les images", "Page de l'assitant"}},
-        {"de",
-         {"_entnebelt", "Kommentar", "Die Vorschau ist aktuell", "Dunstkorrektur", "Stärke", "Geteilte Vorschau", "Nächstes",
-          "Vorheriges", "Auf alle Bilder anwenden", "Assistentenseite"}},
-        {"es",
-         {"_sinbruma", "Comentario", "La vista previa está actualizada", "Corrección de bruma", "Potencia", "Vista antes/después",
-          "Siguiente", "Anterior", "Aplicar a todas las imágenes", "Página del asistente"}},
-        {"it",
-         {"_senza foschia", "Commento", "L'anteprima è aggiornata", "Correzione Foschia", "Potenza", "Anteprima divisa",
-          "Successivo", "Precedente", "Applica a tutte le immagini", "PaginaDelWizard"}},
-        {"pl",
-         {"_dehazed", "Komentarz", "Podgląd jest aktualny", "Korekta mgły", "Poziom", "Zamień podgląd", "Następny", "Poprzedni",
-          "Zastosuj do wszystkich zdjęć", "Kreator"}},
-        {"ja",
-         {"_除去薄霧", "コメント", "ヘイズ補正", "ヘイズ補正", "電源", "分割プレビュー", "次の", "前の", "すべての画像に適用",
-          "WizardPage"}},
-        {"zh_CN",
-         {"_离开薄雾", "意见", "预览最新", "校正模糊", "电力", "离开预览 ", "下一个 ", "上一个 ", "应用到所有图片",
-          "WizardPage"}},
-        {"zh_TW",
-         {"_去除糢糊", "意見", "預覽最新", "校正朦朧", "電力", " 離開預覽", "下一個", "上一個", "應用到所有文件", "WizardPage"}},
-        {"re",
-         {"_удалена атмосферная дымка", "Комментарий", "Предварительный просмотр обновлен", "Коррекция дымки", "Интенсивность",
-          "Разделить предварительный просмотр", "Вперед", "Назад", "Применить ко всем изображениям", ""}},
-        {"en", {"", "", "", "", "", "", "", "", "", ""}},
+    const char *const rows[][2] = {
+        {"fr", "_dehazed"},
+        {"de", "_entnebelt"},
+        {"es", "_sinbruma"},
+        {"it", "_senza foschia"},
+        {"pl", "_dehazed"},
+        {"ja", "_除去薄霧"},
+        {"zh_CN", "_离开薄雾"},
+        {"zh_TW", "_去除糢糊"},
+        {"re", "_удалена атмосферная дымка"},
+        {"en", ""},
     };
     const QByteArray description = newProcess()->description().toUtf8();
-    for (const Catalogue &row : rows) {
+    for (const auto &[language, tag] : rows) {
         QTranslator catalogue;
-        const bool loaded = catalogue.load(QStringLiteral("Nimbra_%1.qm").arg(row.language), QStringLiteral(":/Translation"));
-        EXPECT_TRUE(loaded) << row.language;
-        for (int i = 0; i < row.translations.size(); ++i)
-            EXPECT_EQ(catalogue.translate(texts[i].context, texts[i].source), row.translations[i])
-                << row.language << ' ' << texts[i].source;
-        EXPECT_EQ(catalogue.translate("NimbraOne2One", description).isEmpty(), qstrcmp(row.language, "en") == 0) << row.language;
+        EXPECT_TRUE(catalogue.load(QStringLiteral("Nimbra_%1.qm").arg(language), QStringLiteral(":/Translation"))) << language;
+        EXPECT_EQ(catalogue.translate("NimbraOne2One", "_dehazed"), tag);
+        for (const auto &[context, text] : {std::pair("NimbraOne2One", description.constData()),
+                                            {"Library", "Comment"},
+                                            {"UIHazePreview", "Preview is uptodate"},
+                                            {"UIHazePreviewClass", "Power"},
+                                            {"UIImageDefListWizard", "Next"},
+                                            {"UIImageDefListWizardClass", "Apply to all images"}})
+            EXPECT_EQ(catalogue.translate(context, text).isEmpty(), !*tag) << language << ' ' << text;
     }
     EXPECT_FALSE(QFile::exists(QStringLiteral(":/Translation/Nimbra_ru.qm")));
 }

@@ -1,5 +1,3 @@
-#include <limits>
-
 #include "HandOverLocker.h"
 #include "PreviewTest.h"
 #include "RemoveHaze.h"
@@ -31,14 +29,6 @@ protected:
     ComputePreview worker{&process, nullptr};
     HazeState record = {};
 };
-
-TEST_F(Worker, AtStrength0TheWorkIsTheSource)
-{
-    const auto image = landscape(40, 30);
-    run(*image);
-    EXPECT_EQ(screenImage(worker.work), screenImage(*image));
-    EXPECT_EQ(record.transmission, nullptr);
-}
 
 TEST_F(Worker, TheMapOfTheFirstRunServesTheSecond)
 {
@@ -73,16 +63,6 @@ TEST_F(Worker, AStrengthThatChangesDuringTheRunIsKept)
     ASSERT_TRUE(worker.wait(kLimitMs));
     EXPECT_EQ(worker.workSettings.strength, 50);
     EXPECT_EQ(record.strength, 70);
-}
-
-TEST_F(Worker, AnImageThatCannotBeEstimatedIsUnchanged)
-{
-    const auto image = landscape(40, 30);
-    *reinterpret_cast<float *>(image->PixelAddress(20, 15)) = std::numeric_limits<float>::quiet_NaN();
-    record.strength = 50;
-    run(*image);
-    EXPECT_EQ(screenImage(worker.work), screenImage(*image));
-    EXPECT_EQ(record.transmission, nullptr);
 }
 
 TEST_F(Worker, AnExceptionEndsTheRunQuietly)

@@ -2,7 +2,6 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
-#include <QToolButton>
 
 #include "PreviewTest.h"
 #include "RemoveHaze.h"
@@ -50,18 +49,12 @@ protected:
     QSpinBox *strength = nullptr;
 };
 
-TEST_F(Page, LooksAsItsFormSays)
+TEST_F(Page, WithoutImagesNothingHappens)
 {
     open();
-    EXPECT_EQ(page->title(), "Veilaway");
-    EXPECT_EQ(page->subTitle(), process->description());
-    EXPECT_EQ(page->windowTitle(), "Haze correction");
-    EXPECT_EQ(page->objectName(), "UIImageDefListWizardClass");
-    EXPECT_EQ(page->findChild<QToolButton *>("QToolButton_Prev")->toolTip(), "Prev");
-    EXPECT_EQ(page->findChild<QToolButton *>("QToolButton_Next")->toolTip(), "Next");
     EXPECT_TRUE(page->isComplete());
     for (const char *button : {"QToolButton_Prev", "QToolButton_Next", "pushButtonApplyAll"})
-        click(button); // without images nothing happens
+        click(button);
     page->on_comboBoxImageDef_currentIndexChanged(5);
     EXPECT_FALSE(panel->thread.isRunning());
 }
@@ -119,6 +112,8 @@ TEST_F(Page, LeavingAnImageDuringARun)
     const QString wide = "/p/wide.png", tall = "/p/tall.png";
     host.image(wide).fullWidth = 90;
     host.image(tall).fullHeight = 100;
+    host.image(tall).type = VImage::Grey;
+    host.image(tall).bits = 16;
     open();
     process->setImages({wide, tall});
     choose(wide);
@@ -130,6 +125,8 @@ TEST_F(Page, LeavingAnImageDuringARun)
     EXPECT_FALSE(page->isComplete());
     ASSERT_TRUE(watch->finish());
     EXPECT_EQ(panel->afterImage, expected(tall, 40));
+    EXPECT_NE(panel->afterImage, panel->beforeImage);
+    EXPECT_EQ(qAlpha(panel->beforeImage.pixel(5, 5)), 255);
     choose(wide);
     EXPECT_EQ(strength->value(), 70);
     ASSERT_TRUE(watch->finish());
@@ -162,18 +159,6 @@ TEST_F(Page, AStoredStrengthBeyondTheControlsRangeIsClamped)
     process->setImages({"/p/a.png"});
     EXPECT_EQ(strength->value(), 100);
     EXPECT_EQ(storedFor("/p/a.png"), 100);
-}
-
-TEST_F(Page, SixteenBitGreyIsDehazed)
-{
-    host.image("/p/grey.png").type = VImage::Grey;
-    host.image("/p/grey.png").bits = 16;
-    host.stored[process->guid() + "/hazeRemove"] = 80;
-    open();
-    process->setImages({"/p/grey.png"});
-    ASSERT_TRUE(watch->finish());
-    EXPECT_EQ(qAlpha(panel->beforeImage.pixel(5, 5)), 255);
-    EXPECT_NE(panel->afterImage, panel->beforeImage);
 }
 
 TEST_F(Page, ANewListOrTheEndOfTheProcessWaitsForTheRun)
