@@ -104,9 +104,6 @@ TEST(VImage_Resample, NamedFacts)
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     const Form grey8{VImage::Grey, 8}, grey16{VImage::Grey, 16}, grey32{VImage::Grey, 32};
     const Fact facts[] = {
-        {"centres_aligned_border_replicated", grey32, {4, 1}, {0, 1}, 1, {0, 0.25, 0.75, 1}},
-        {"area_of_whole_pixels", grey32, {2, 1}, {0, 1, 4, 8}, 1, {0.5, 6}},
-        {"area_of_parts", grey32, {2, 1}, {0, 3, 9}, 1, {1, 7}},
         {"linear_if_one_side_grows", grey32, {1, 2}, {0, 2, 8}, 1, {2, 2}}, // area averaging would give the mean
         {"ties_to_even", grey8, {2, 1}, {0, 1, 1, 2}, 1, {0, 2}},
         {"mean_of_two_rows", grey16, {1, 1}, {65535, 65535, 65535, 65534}, 2, {65535}},

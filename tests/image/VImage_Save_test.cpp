@@ -1,7 +1,5 @@
 #include "VImage.h"
 
-#include <cstring>
-
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -9,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "PlainImage.h"
+#include "addMetadata.h"
 #include "gfl.h"
 #include "messageOf.h"
 
@@ -69,24 +68,10 @@ TEST_F(VImage_Save, FormatsAndQualities)
 TEST_F(VImage_Save, CopiesColourProfileIptcAndExifThatTheSourceHas)
 {
     for (const char *format : {"jpg", "png", "tif", "psd"})
-        for (const int kinds : {0, 1, 2, 4, 7}) { // EXIF, IPTC, profile
+        for (const int kinds : {0, kExif, kIptc, kProfile, kExif | kIptc | kProfile}) {
             const QString source = path("source.tif"), target = path("out.x");
             image.Save(source, "tif", -1, "");
-            {
-                const auto file = Exiv2::ImageFactory::open(QFile::encodeName(source).toStdString());
-                file->readMetadata();
-                if (kinds & 1)
-                    file->exifData()["Exif.Photo.LensModel"] = "Acme 50 mm";
-                if (kinds & 2)
-                    file->iptcData()["Iptc.Application2.Headline"] = "Fog";
-                Exiv2::DataBuf profile(132);
-                std::memset(profile.pData_, 0, 132);
-                profile.pData_[3] = 132; // the size of the profile
-                std::memcpy(profile.pData_ + 12, "mntrRGB XYZ ", 12);
-                if (kinds & 4)
-                    file->setIccProfile(profile);
-                file->writeMetadata();
-            }
+            addMetadata(source, kinds);
             VImage fresh;
             fresh.Assign(image);
             fresh.Save(target, format, -1, source);
@@ -95,13 +80,14 @@ TEST_F(VImage_Save, CopiesColourProfileIptcAndExifThatTheSourceHas)
             params.flags |= GFL_LOAD_METADATA;
             GflBitmap *read = nullptr;
             ASSERT_EQ(gflLoadBitmapUTF8(target.toUtf8().constData(), &read, &params, nullptr), GFL_NO_ERROR);
-            EXPECT_EQ(gflBitmapHasICCProfile(read), (kinds & 4) != 0) << format << kinds;
-            EXPECT_EQ(gflBitmapHasIPTC(read), (kinds & 2) != 0) << format << kinds;
+            EXPECT_EQ(gflBitmapHasICCProfile(read), (kinds & kProfile) != 0) << format << kinds;
+            EXPECT_EQ(gflBitmapHasIPTC(read), (kinds & kIptc) != 0) << format << kinds;
             gflFreeBitmap(read);
             const auto file = Exiv2::ImageFactory::open(QFile::encodeName(target).toStdString());
             file->readMetadata();
             const auto lens = file->exifData().findKey(Exiv2::ExifKey("Exif.Photo.LensModel"));
-            EXPECT_EQ(lens == file->exifData().end() ? "" : lens->toString(), (kinds & 1) ? "Acme 50 mm" : "") << format << kinds;
+            EXPECT_EQ(lens == file->exifData().end() ? "" : lens->toString(), (kinds & kExif) ? "Acme 50 mm" : "")
+                << format << kinds;
         }
 }
 

@@ -12,7 +12,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <exiv2/exiv2.hpp>
 #include <gmock/gmock.h>
 
 #include "FailingAllocations.h"
@@ -20,6 +19,7 @@
 #include "HazeState.h"
 #include "RemoveHaze.h"
 #include "VException.h"
+#include "addMetadata.h"
 #include "gfl.h"
 #include "gflCallbacks.h"
 #include "threadCount.h"
@@ -203,21 +203,6 @@ TEST_F(Allocation, TheWholeEngineLeavesImageAndStateAsTheyWere)
     EXPECT_EQ(endOf(run, 0), End::Done);
     EXPECT_EQ(firstDifference(picture.samples.data(), result.data(), result.size()), "");
     startAnew();
-}
-
-/// An image with as much of colour profile, EXIF and IPTC as its format can hold.
-void addMetadata(const QString &path)
-{
-    const auto image = Exiv2::ImageFactory::open(QFile::encodeName(path).toStdString());
-    image->readMetadata();
-    image->exifData()["Exif.Photo.LensModel"] = "Acme 50 mm";
-    image->iptcData()["Iptc.Application2.Headline"] = "Fog";
-    Exiv2::DataBuf profile(132);
-    std::memset(profile.pData_, 0, 132);
-    profile.pData_[3] = 132; // the size of the profile
-    std::memcpy(profile.pData_ + 12, "mntrRGB XYZ ", 12);
-    image->setIccProfile(profile);
-    image->writeMetadata();
 }
 
 TEST_F(Allocation, AFileIsReadAndWrittenCompletelyOrNotAtAll)

@@ -89,11 +89,6 @@ struct Case
     std::uint32_t error;
 };
 
-std::ostream &operator<<(std::ostream &stream, const Case &value)
-{
-    return stream << value.name;
-}
-
 using Topology = VCpuTopology;
 
 const Case kCases[] = {
@@ -178,23 +173,19 @@ const Case kCases[] = {
      2, 3, 0},
 };
 
-class CountTopology : public testing::TestWithParam<Case>
+TEST(CountTopology, ReportsTheCountsOrAnError)
 {
-};
-
-TEST_P(CountTopology, ReportsTheCountsOrAnError)
-{
-    Topology topology;
-    countTopology(GetParam().records, topology);
-    EXPECT_EQ(topology.coreCount, GetParam().cores);
-    EXPECT_EQ(topology.threadCount, GetParam().threads);
-    EXPECT_EQ(topology.error, GetParam().error) << std::hex << topology.error;
-    EXPECT_EQ(topology.osProcessorCount, GetParam().records.processorCount);
-    EXPECT_TRUE(topology.enumerated);
+    for (const Case &machine : kCases) {
+        SCOPED_TRACE(machine.name);
+        Topology topology;
+        countTopology(machine.records, topology);
+        EXPECT_EQ(topology.coreCount, machine.cores);
+        EXPECT_EQ(topology.threadCount, machine.threads);
+        EXPECT_EQ(topology.error, machine.error) << std::hex << topology.error;
+        EXPECT_EQ(topology.osProcessorCount, machine.records.processorCount);
+        EXPECT_TRUE(topology.enumerated);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Machines, CountTopology, testing::ValuesIn(kCases),
-                         [](const testing::TestParamInfo<Case> &info) { return info.param.name; });
 
 TEST(CountTopologyTables, HoldThreadsOfCoresAndCaches)
 {

@@ -4,7 +4,6 @@
 
 #include "CameraProperties.h"
 #include "LensIDProperties.h"
-#include "startLibraries.h"
 
 namespace {
 
@@ -90,17 +89,6 @@ TEST(LensIDProperties, FindsByNumbers)
         LensIDProperties::read("1 2 3;A;first;0 \r\n1 2 3;A;second;1\r\n# 1 1 1;A;C;0\n1 2;A;B;3\nx;A;B;0\n1 2;A;0\n");
     ASSERT_EQ(read.size(), 2);
     EXPECT_EQ(LensIDProperties::find(read, "A", "1 2 3")->name, "first");
-}
-
-TEST(Properties, TheFilesKeepTheirForm)
-{
-    startTools(nullptr); // refers to the resources, so that the linker keeps them
-    stopTools();
-    for (const char *name : {"cameras.txt", "lensid.txt"}) {
-        const QByteArray text = dataFile(name);
-        EXPECT_EQ(text.count("\r\n"), text.count('\n')) << name;
-        EXPECT_TRUE(text.endsWith('\n'));
-    }
 }
 
 } // namespace

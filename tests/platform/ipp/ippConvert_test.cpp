@@ -40,18 +40,6 @@ TEST(ippiScale, FloatsToIntegersAtEveryRoundingPoint)
     }
 }
 
-TEST(ippiScale, SixteenToEightBitsAtEveryValue)
-{
-    std::vector<std::uint16_t> samples(65536);
-    std::iota(samples.begin(), samples.end(), std::uint16_t(0));
-    std::vector<std::uint8_t> result(65536);
-    ASSERT_EQ(ippStsNoErr, ippiScale(samples.data(), 131072, 16, result.data(), 65536, 8, 1, {65536, 1}));
-    int wrong = 0;
-    for (std::size_t i = 0; i < samples.size(); ++i)
-        wrong += result[i] != std::lround(double(i) / 257.0);
-    EXPECT_EQ(0, wrong);
-}
-
 TEST(ippiCopy, TouchesNoPixelOutsideTheRectangle)
 {
     // 3 x 1 pixels in rows of 5: copying four samples at once must stop before the last pixel.
@@ -66,33 +54,6 @@ TEST(ippiCopy, TouchesNoPixelOutsideTheRectangle)
     EXPECT_THAT(wide, ElementsAre(3, 3, 3, 9, 3, 3, 3, 9, 3, 3, 3, 9, 1, 1, 1, 1, 1, 1, 1, 1));
     ASSERT_EQ(ippStsNoErr, ippiCopy(narrow + 14, 1, 1, wide, 20, 4, 8, {1, 1})); // alpha stays
     EXPECT_THAT(std::vector<int>(wide, wide + 5), ElementsAre(3, 3, 3, 9, 3));
-}
-
-TEST(ippiRGBToGray, Weights)
-{
-    const float colours[] = {1, 0, 0, 0, 1, 0, 0, 0, 1, 1, 1, 1};
-    float grey[4];
-    ASSERT_EQ(ippStsNoErr, ippiRGBToGray(colours, 48, 3, grey, 16, 32, {4, 1}));
-    EXPECT_THAT(grey, ElementsAre(0.299f, 0.587f, 0.114f, 0.299f + 0.587f + 0.114f));
-    int wrong = 0;
-    for (unsigned value = 0; value < 65536; ++value) { // a grey pixel keeps its value
-        const std::uint16_t pixel[4] = {std::uint16_t(value), std::uint16_t(value), std::uint16_t(value), 0};
-        std::uint16_t result = 0;
-        (void)ippiRGBToGray(pixel, 8, 4, &result, 2, 16, {1, 1});
-        wrong += result != value;
-    }
-    EXPECT_EQ(0, wrong);
-}
-
-TEST(ippiSwapChannels, ExchangesAndRepeats)
-{
-    std::uint8_t pixels[] = {1, 2, 3, 4, 5, 6, 7, 8, 0, 0, 0, 0, 9, 10, 11, 12, 13, 14, 15, 16, 0, 0, 0, 0};
-    const int order[4] = {2, 1, 0, 3};
-    ASSERT_EQ(ippStsNoErr, ippiSwapChannels(pixels, 12, {2, 2}, order));
-    EXPECT_THAT(pixels, ElementsAre(3, 2, 1, 4, 7, 6, 5, 8, 0, 0, 0, 0, 11, 10, 9, 12, 15, 14, 13, 16, 0, 0, 0, 0));
-    const int repeat[4] = {0, 0, 0, 3};
-    ASSERT_EQ(ippStsNoErr, ippiSwapChannels(pixels, 12, {1, 1}, repeat));
-    EXPECT_THAT(std::vector<int>(pixels, pixels + 5), ElementsAre(3, 3, 3, 4, 7));
 }
 
 TEST(ippi, RejectionsLeaveTheTargetUnchanged)

@@ -173,36 +173,27 @@ TEST(Pardiso, RejectsInvalidInput)
     const struct
     {
         const char *name;
-        void (*bend)(Calls &calls);
+        std::int32_t order;
+        std::vector<std::int32_t> rowStarts, columns;
+        std::int32_t singlePrecision, zeroBased;
     } faults[] = {
-        {"no_rows", [](Calls &calls) { calls.matrix.order = 0; }},
-        {"zero_based",
-         [](Calls &calls) {
-             calls.matrix.rowStarts = {0, 2, 3};
-         }},
-        {"falling_row_starts",
-         [](Calls &calls) {
-             calls.matrix.rowStarts = {1, 4, 3};
-         }},
-        {"falling_columns",
-         [](Calls &calls) {
-             calls.matrix.columns = {2, 1, 2};
-         }},
-        {"column_out_of_range",
-         [](Calls &calls) {
-             calls.matrix.columns = {1, 3, 2};
-         }},
-        {"lower_triangle",
-         [](Calls &calls) {
-             calls.matrix.columns = {1, 2, 1};
-         }},
-        {"double_precision", [](Calls &calls) { calls.iparm[PardisoSinglePrecision] = 0; }},
-        {"zero_based_setting", [](Calls &calls) { calls.iparm[PardisoZeroBased] = 1; }},
+        {"no_rows", 0, {1, 3, 4}, {1, 2, 2}, 1, 0},
+        {"zero_based", 2, {0, 2, 3}, {1, 2, 2}, 1, 0},
+        {"falling_row_starts", 2, {1, 4, 3}, {1, 2, 2}, 1, 0},
+        {"falling_columns", 2, {1, 3, 4}, {2, 1, 2}, 1, 0},
+        {"column_out_of_range", 2, {1, 3, 4}, {1, 3, 2}, 1, 0},
+        {"lower_triangle", 2, {1, 3, 4}, {1, 2, 1}, 1, 0},
+        {"double_precision", 2, {1, 3, 4}, {1, 2, 2}, 0, 0},
+        {"zero_based_setting", 2, {1, 3, 4}, {1, 2, 2}, 1, 1},
     };
     for (const auto &fault : faults) {
         SCOPED_TRACE(fault.name);
         Calls calls(good);
-        fault.bend(calls);
+        calls.matrix.order = fault.order;
+        calls.matrix.rowStarts = fault.rowStarts;
+        calls.matrix.columns = fault.columns;
+        calls.iparm[PardisoSinglePrecision] = fault.singlePrecision;
+        calls.iparm[PardisoZeroBased] = fault.zeroBased;
         EXPECT_EQ(calls.phase(11), PardisoBadInput);
         EXPECT_TRUE(calls.released());
     }
