@@ -495,6 +495,8 @@ void writeExr(const WriteRequest &request)
         else
             for (int y = 0; y < bitmap.height; ++y)
                 frameAt(rows.row(y), y, 1);
+    } catch (const Iex::ErrnoExc &) { // also from the stream in memory that the library writes the header to first
+        throw Failure{stream.failed() ? GFL_ERROR_FILE_WRITE : GFL_ERROR_NO_MEMORY};
     } catch (const Iex::BaseExc &) {
         throw Failure{GFL_ERROR_FILE_WRITE};
     }

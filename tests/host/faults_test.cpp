@@ -315,7 +315,7 @@ TEST_F(ProgramFaults, KilledAtAnyMoment)
     const QByteArray settings = folder.content("s.xml");
 
     constexpr int kSteps = 8;
-    int killed = 0;
+    int killed = 0, leftBehind = 0;
     for (int step = 0; step < 2 * kSteps; ++step) {
         SCOPED_TRACE(step);
         const bool older = step % 2 == 1;
@@ -350,11 +350,17 @@ TEST_F(ProgramFaults, KilledAtAnyMoment)
                 << results[i] << ' ' << result.size();
         }
         EXPECT_TRUE(folder.content("s.xml").isEmpty() || folder.content("s.xml") == settings);
-        for (const QString &name : folder.files())
-            EXPECT_TRUE(name.startsWith("s.xml") || std::count(sources.begin(), sources.end(), name) ||
-                        std::count(results.begin(), results.end(), name))
-                << name;
+        for (const QString &name : folder.files()) {
+            // A file that replaces another one has a name of its own for a moment.
+            if (older && name.startsWith(".gfl-"))
+                leftBehind += QFile::remove(folder.path(name));
+            else
+                EXPECT_TRUE(name.startsWith("s.xml") || std::count(sources.begin(), sources.end(), name) ||
+                            std::count(results.begin(), results.end(), name))
+                    << name;
+        }
     }
+    EXPECT_LE(leftBehind, 2);
     EXPECT_GE(killed, kSteps) << "the runs ended too soon for the test to tell";
     EXPECT_EQ(folder.run(run).code, 0);
     for (std::size_t i = 0; i < 3; ++i)
