@@ -205,6 +205,9 @@ public:
     PlaneRows(const InputFile &file, const Layout &shape, int plane) : tiff(file), layout(shape), sample(std::uint16_t(plane))
     {
         readLayout(tiff.get()); // for the colour mode that it sets
+        std::uint16_t compression = COMPRESSION_NONE;
+        TIFFGetField(tiff.get(), TIFFTAG_COMPRESSION, &compression);
+        deflated = compression == COMPRESSION_ADOBE_DEFLATE || compression == COMPRESSION_DEFLATE;
         const std::uint64_t samples = layout.planar ? 1 : unsigned(layout.samples);
         rowBytes = (std::uint64_t(layout.width) * samples * unsigned(layout.bits) + 7) / 8;
         const std::uint64_t limit = largestPiece(file.size());
@@ -230,6 +233,9 @@ public:
     void read(std::uint32_t y, void *target)
     {
         if (!layout.tiled) {
+            // A strip of one row whose deflated data are longer than the row is reported as read, with nothing written.
+            if (deflated)
+                std::memset(target, 0, std::size_t(rowBytes));
             if (TIFFReadScanline(tiff.get(), target, y, sample) != 1)
                 throw Failure{GFL_ERROR_FILE_READ};
             return;
@@ -261,6 +267,7 @@ private:
     OpenTiff tiff;
     const Layout &layout;
     std::uint16_t sample;
+    bool deflated = false;
     std::uint64_t rowBytes = 0;
     std::uint32_t tileWidth = 0;
     std::uint32_t tileHeight = 0;
