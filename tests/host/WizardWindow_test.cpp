@@ -180,10 +180,10 @@ protected:
     void keepPicture(const char *page)
     {
         const QString name = QStringLiteral("%1/%2_%3x_%4.png")
-                                 .arg(QStringLiteral(WINDOW_PICTURES), host->locale().name().left(2))
+                                 .arg(QStringLiteral(WIZARD_PICTURES), host->locale().name().left(2))
                                  .arg(window->devicePixelRatioF())
                                  .arg(page);
-        EXPECT_TRUE(QDir().mkpath(QStringLiteral(WINDOW_PICTURES)));
+        EXPECT_TRUE(QDir().mkpath(QStringLiteral(WIZARD_PICTURES)));
         EXPECT_TRUE(window->grab().save(name));
     }
 
