@@ -71,10 +71,11 @@ endfunction()
 set(nimbra_test_environment QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=allocator_may_return_null=1
     "LSAN_OPTIONS=use_tls=0:print_suppressions=0:suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp")
 
-# nimbra_test(<name> SOURCES <file>... LINK <target>... [LABELS <label>...] [ENVIRONMENT <VAR=value>...])
-# One GoogleTest program, mirrored in tests/<room>/. The label "threads" makes ThreadSanitizer run it too.
+# nimbra_test(<name> SOURCES <file>... LINK <target>... [LABELS <label>...] [ENVIRONMENT <VAR=value>...] [KERNELS])
+# One GoogleTest program, mirrored in tests/<room>/. The label "threads" makes ThreadSanitizer run it too. KERNELS: without
+# sanitizers it also runs once for each instruction set that hot loops are compiled for; those that the machine lacks are skipped.
 function(nimbra_test name)
-    cmake_parse_arguments(TEST "" "" "SOURCES;LINK;LABELS;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(TEST "KERNELS" "" "SOURCES;LINK;LABELS;ENVIRONMENT" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE nimbra_options ${TEST_LINK} GTest::gmock_main)
     add_test(NAME ${name} COMMAND ${name})
@@ -82,6 +83,13 @@ function(nimbra_test name)
     if(NIMBRA_SANITIZE STREQUAL "thread")
         set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT
             "TSAN_OPTIONS=ignore_noninstrumented_modules=1:allocator_may_return_null=1" "OMP_TOOL_LIBRARIES=/usr/lib/llvm-14/lib/libarcher.so")
+    endif()
+    if(TEST_KERNELS AND NOT NIMBRA_SANITIZE AND CMAKE_SYSTEM_PROCESSOR STREQUAL x86_64)
+        foreach(set IN ITEMS plain avx2 avx512f)
+            add_test(NAME ${name}_${set} COMMAND ${name})
+            set_tests_properties(${name}_${set} PROPERTIES LABELS kernels TIMEOUT 600 SKIP_REGULAR_EXPRESSION "this processor has no"
+                ENVIRONMENT "${nimbra_test_environment};${TEST_ENVIRONMENT};NIMBRA_INSTRUCTION_SET=${set}")
+        endforeach()
     endif()
 endfunction()
 
