@@ -169,7 +169,8 @@ int gflSaveBitmapUTF8(const char *fileName, const GflBitmap *bitmap, const GflSa
             (params->flags & GFL_SAVE_ICC_PROFILE) != 0 && gfl::profileFits(metadata.icc, bitmap->componentsPerPixel);
         gfl::OutputFile file(fileName);
         gfl::kFormats[params->formatIndex].write({file, *bitmap, params->quality, params->compression, gfl::lzwEnabled,
-                                                  profile ? metadata.icc : kNone.icc, metadata.iptc.block, metadata.exif.block});
+                                                  profile ? metadata.icc : kNone.icc, metadata.iptc.block, metadata.exif.block,
+                                                  metadata.packing});
         file.commit();
     });
 }
