@@ -43,7 +43,11 @@ int formatOf(const InputFile &file)
     const std::string suffix = suffixOf(file.name());
     if (!suffixFits(*kind, suffix))
         throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
-    return isRawSuffix(suffix) || isRawOnly(*kind) ? kRawFormat : int(*kind);
+    if (isRawSuffix(suffix) || isRawOnly(*kind))
+        return kRawFormat;
+    if (std::size_t(*kind) >= std::size(kFormats))
+        throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
+    return int(*kind);
 }
 
 /// Runs `work` and returns the result code of what it throws.
