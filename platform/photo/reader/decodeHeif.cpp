@@ -180,6 +180,34 @@ void divideByAlpha(std::uint8_t *plane, int stride, int width, int height)
     }
 }
 
+/// Pixels of three equal samples become pixels of one.
+template<typename Sample>
+void keepFirstOfThree(std::uint8_t *plane, int stride, int width, int height)
+{
+    for (int y = 0; y < height; ++y) {
+        auto *const row = reinterpret_cast<Sample *>(plane + std::size_t(y) * std::size_t(stride));
+        for (int x = 0; x < width; ++x)
+            row[x] = row[3 * x];
+    }
+}
+
+heif_chroma rgbChroma(bool deep, bool alpha)
+{
+    constexpr bool kLittle = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__;
+    if (!deep)
+        return alpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB;
+    if (alpha)
+        return kLittle ? heif_chroma_interleaved_RRGGBBAA_LE : heif_chroma_interleaved_RRGGBBAA_BE;
+    return kLittle ? heif_chroma_interleaved_RRGGBB_LE : heif_chroma_interleaved_RRGGBB_BE;
+}
+
+PhotoProblem decode(const heif_image_handle *image, heif_colorspace space, heif_chroma chroma, heif_image *&decoded)
+{
+    const Options options(heif_decoding_options_alloc());
+    options->strict_decoding = 1; // else a damaged file is filled up
+    return problemOf(heif_decode_image(image, &decoded, space, chroma, options.get()));
+}
+
 } // namespace
 
 PhotoProblem decodeHeif(const RegularFile &file, Wanted wanted, std::uint64_t mostBytes, DecodedPicture &picture)
@@ -209,26 +237,25 @@ PhotoProblem decodeHeif(const RegularFile &file, Wanted wanted, std::uint64_t mo
     if (wanted != Wanted::Pixels)
         return {};
 
-    constexpr bool kLittle = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__;
-    const heif_chroma chroma = grey      ? heif_chroma_monochrome
-                               : !deep   ? alpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB
-                               : alpha   ? kLittle ? heif_chroma_interleaved_RRGGBBAA_LE : heif_chroma_interleaved_RRGGBBAA_BE
-                               : kLittle ? heif_chroma_interleaved_RRGGBB_LE
-                                         : heif_chroma_interleaved_RRGGBB_BE;
-    const Options options(heif_decoding_options_alloc());
-    options->strict_decoding = 1; // else a damaged file is filled up
     heif_image *decoded = nullptr;
-    if (PhotoProblem problem = problemOf(
-            heif_decode_image(primary, &decoded, grey ? heif_colorspace_monochrome : heif_colorspace_RGB, chroma, options.get())))
+    PhotoProblem problem = grey ? decode(primary, heif_colorspace_monochrome, heif_chroma_monochrome, decoded)
+                                : decode(primary, heif_colorspace_RGB, rgbChroma(deep, alpha), decoded);
+    // Some versions of the library put tiles together in colour only.
+    const bool tiles = grey && problem.cause == Cause::PixelForm;
+    if (tiles)
+        problem = decode(primary, heif_colorspace_RGB, rgbChroma(deep, alpha), decoded);
+    if (problem)
         return problem;
     const std::shared_ptr<const heif_image> memory(decoded, heif_image_release);
-    const heif_channel channel = grey ? heif_channel_Y : heif_channel_interleaved;
+    const heif_channel channel = grey && !tiles ? heif_channel_Y : heif_channel_interleaved;
     int stride = 0;
     std::uint8_t *const plane = heif_image_get_plane(decoded, channel, &stride);
     const int bits = heif_image_get_bits_per_pixel_range(decoded, channel);
     if (!plane || bits < 8 || bits > 16 || (bits > 8) != deep || heif_image_get_width(decoded, channel) != picture.width ||
         heif_image_get_height(decoded, channel) != picture.height)
         return {Cause::PixelForm, {}};
+    if (tiles)
+        (deep ? keepFirstOfThree<std::uint16_t> : keepFirstOfThree<std::uint8_t>)(plane, stride, picture.width, picture.height);
     if (deep && bits < 16)
         widen(plane, stride, picture.width * picture.components, picture.height, bits);
     if (alpha && heif_image_handle_is_premultiplied_alpha(primary))

@@ -57,10 +57,10 @@ public:
             JxlDecoderSetDecompressBoxes(decoder.get(), JXL_TRUE) != JXL_DEC_SUCCESS ||
             JxlDecoderSetInput(decoder.get(), bytes.data(), bytes.size()) != JXL_DEC_SUCCESS)
             return {Cause::NoMemory, {}};
-        JxlDecoderCloseInput(decoder.get());
         for (;;) {
             const JxlDecoderStatus status = JxlDecoderProcessInput(decoder.get());
-            if (status == JXL_DEC_SUCCESS)
+            // The library is not informed that there is no more input: it would write to the standard error of the program.
+            if (status == JXL_DEC_SUCCESS || status == JXL_DEC_NEED_MORE_INPUT)
                 break;
             if (PhotoProblem problem = answer(status))
                 return problem;
@@ -91,7 +91,7 @@ private:
         case JXL_DEC_FULL_IMAGE:
             whole = true;
             return {};
-        default: // an error, or the file ends
+        default:
             return {Cause::Damaged, {}};
         }
     }
