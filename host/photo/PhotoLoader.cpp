@@ -100,9 +100,9 @@ QStringList PhotoLoader::rawSuffixes()
     return asStrings(::rawSuffixes());
 }
 
-QStringList PhotoLoader::furtherSuffixes()
+QStringList PhotoLoader::readableSuffixes()
 {
-    QStringList suffixes;
+    QStringList suffixes = pictureSuffixes() + rawSuffixes();
     for (const FurtherFormat &format : furtherFormats())
         if (!format.library.empty())
             suffixes << asStrings(format.suffixes);

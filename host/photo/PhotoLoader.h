@@ -44,11 +44,10 @@ public:
     /// A file for a process to take the metadata from, of a photograph that PhotoHead::needsStandIn; see makeStandIn.
     static QByteArray standIn(const QString &path);
 
-    /// The suffixes that can be written, those of camera raw, and those of other formats that this installation can read, for
-    /// texts and file dialogs.
+    /// The suffixes that can be written, those of camera raw, and all that can be read here, for texts and file dialogs.
     static QStringList pictureSuffixes();
     static QStringList rawSuffixes();
-    static QStringList furtherSuffixes();
+    static QStringList readableSuffixes();
     /// The names of all formats that this installation can read, but for camera raw.
     static QStringList formatNames();
 };
