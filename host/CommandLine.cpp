@@ -42,9 +42,14 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     const QString command = named ? line.photographs.value(0) : QString();
     if (command == "wizard")
         line.command = Command::Wizard;
-    if (command == "wizard" || command == "run")
+    if (command == "window")
+        line.command = Command::Window;
+    if (command == "wizard" || command == "window" || command == "run")
         line.photographs.removeFirst();
     line.settingsFile = parser.value(settings);
+    if (line.command == Command::Window && line.settingsFile.isEmpty() && line.photographs.size() == 1 &&
+        line.photographs[0].endsWith(".xml", Qt::CaseInsensitive))
+        line.settingsFile = line.photographs.takeFirst();
     line.language = parser.value(language);
     line.pluginFile = parser.value(plugin);
     line.overwrite = parser.isSet(overwrite);
@@ -81,10 +86,10 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         line.command = Command::SetDefault;
         return line;
     }
-    if (line.command == Command::Wizard) {
+    if (line.command == Command::Wizard || line.command == Command::Window) {
         for (const QCommandLineOption &option : {strength, overwrite, quiet, json})
             if (parser.isSet(option))
-                return fail(tr("--%1 can't be used with the wizard, which asks in its window.").arg(option.names().constFirst()));
+                return fail(tr("--%1 can't be used with %2, which asks for it on the screen.").arg(option.names().constFirst(), command));
     } else if (line.photographs.isEmpty() && line.settingsFile.isEmpty())
         return fail(tr("Name the photographs to remove haze from."));
     return line;
@@ -96,13 +101,17 @@ QString CommandLine::help()
               "Usage:\n"
               "  veilaway [run] PHOTO... [options]\n"
               "  veilaway [run] --settings FILE [options]\n"
+              "  veilaway window [PHOTO... | SETTINGS.xml] [options]\n"
               "  veilaway wizard [PHOTO...] [options]\n"
               "  veilaway --set-default N|auto|none\n"
               "  veilaway --help | --version\n\n"
               "Each result is written beside its photograph, under the photograph's name with a tag: hills.jpg becomes "
               "hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with "
               "--language de, for instance.\n\n"
-              "The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, "
+              "The window is a workspace for a series: judge each photograph at 100 %, compare before and after, set strengths, "
+              "and save the results. It keeps your work as you go, and takes --language, --jobs, --share-services and "
+              "--plugin.\n\n"
+              "The wizard leads through four pages: choose photographs, set the strength of each with a live preview, remove the haze, "
               "and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and "
               "--plugin.\n\n"
               "Options:\n"

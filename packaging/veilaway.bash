@@ -18,10 +18,10 @@ _veilaway()
 {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} i
     COMPREPLY=()
-    local wizard=0 names=0
+    local window=0 names=0
     for ((i = 1; i < COMP_CWORD; ++i)); do
         [[ ${COMP_WORDS[i]} == -- ]] && names=1
-        [[ ${COMP_WORDS[i]} == wizard && $names == 0 ]] && wizard=1
+        [[ ${COMP_WORDS[i]} == wi@(ndow|zard) && $names == 0 ]] && window=1
     done
 
     if [[ $names == 0 ]]; then
@@ -53,13 +53,13 @@ _veilaway()
         esac
         if [[ $word == -* ]]; then
             local options='--settings --language --jobs --share-services --plugin'
-            [[ $wizard == 1 ]] || options+=' --strength --set-default --overwrite --quiet --json --help --version'
+            [[ $window == 1 ]] || options+=' --strength --set-default --overwrite --quiet --json --help --version'
             mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
             return
         fi
     fi
     if [[ $COMP_CWORD == 1 ]]; then
-        mapfile -t COMPREPLY < <(compgen -W 'run wizard' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'run window wizard' -- "$word")
     fi
     _veilaway_files jpg jpeg png tif tiff hdr hdri exr psd \
         3fr arw cr2 crw dcr dng erf fff iiq k25 kdc mef mos mrw nef nrw orf pef ptx raf raw rw2 rwl sr2 srf srw

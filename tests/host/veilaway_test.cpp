@@ -82,7 +82,8 @@ TEST_F(Veilaway, WrongCommandLinesExitWith2AndSayWhatIsWrong)
         {{"a.png", "--jobs", "0"}, "--jobs must be"},
         {{"a.png", "--language", "xx"}, "zh_TW"},
         {{"a.png", "--nonsense"}, "nonsense"},
-        {{"--quiet", "wizard"}, "--quiet can't be used with the wizard"},
+        {{"--quiet", "wizard"}, "--quiet can't be used with wizard"},
+        {{"window", "--strength", "5"}, "--strength can't be used with window"},
         {{"--settings", "none.xml"}, "none.xml"},
         {{"a.png", "--strength", "9", "--settings", "broken.xml"}, "broken.xml"},
         {{"a.png", "--settings", "twice.xml"}, "twice"},
@@ -114,6 +115,7 @@ TEST_F(Veilaway, TheWizardNamesTheRemedyWhereNoWindowCanBeShown)
         const char *said;
     } cases[] = {
         {{"wizard"}, "DISPLAY=", 1, kNone},
+        {{"window"}, "DISPLAY=", 1, kNone},
         {{"wizard"}, "DISPLAY=:97531", 1, kNone},
         {{"wizard"}, "QT_QPA_PLATFORM=nonsense", 1, kNone},
         {{"wizard"}, "QT_QPA_PLATFORM=linuxfb:fb=none", 1, "The window can't be shown: linuxfb"},
@@ -121,6 +123,7 @@ TEST_F(Veilaway, TheWizardNamesTheRemedyWhereNoWindowCanBeShown)
         {{"--language", "de", "wizard", "--", "-a.png"}, "DISPLAY=", 1, "Das Fenster kann nicht"},
         {{"--", "wizard"}, "DISPLAY=", 1, "wizard: There is no such file"},
         {{"wizard", "--settings", "broken.xml"}, "QT_QPA_PLATFORM=offscreen", 2, "broken.xml"},
+        {{"window", "broken.xml"}, "QT_QPA_PLATFORM=offscreen", 2, "broken.xml"},
         {{"wizard", "--settings", "broken.xml"}, "QT_QPA_PLATFORM=nonsense;minimal", 2, "broken.xml"},
     };
     for (const auto &[arguments, environment, code, said] : cases) {
