@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QWidget>
+
+#include "Histogram.h"
+
+/// The result's histogram with the source's as a dashed line, and the shares of black and white pixels under it.
+class HistogramView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit HistogramView(QWidget *parent = nullptr);
+
+    /// The last histogram stays until the next one is there.
+    void setHistogram(const Histogram &histogram);
+    void clear();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <memory>
+
+#include <QBasicTimer>
+#include <QImage>
+#include <QWidget>
+
+#include "PictureRequest.h"
+#include "PictureZoom.h"
+
+class PictureRenderer;
+
+/// The photograph on neutral grey: before and after on both sides of a line that can be dragged, side by side, or after alone.
+///
+/// The view asks for what is visible by wanted() and shows whatever arrives by showPicture(). The last picture stays until
+/// the next one is there; while one zooms or pans, the last ones are scaled and moved until then. Of a new photograph the
+/// thumbnail is shown, enlarged, until its pixels are there.
+///
+/// Keys that are held act wherever the focus is in the view's window, except where they mean something already (fields for text
+/// take letters, and buttons take Space): Space shows before, M or Alt the haze map. They are let go with the key, and whenever
+/// the focus moves or the window is no longer the active one.
+///
+/// Interface thread only.
+class PictureView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum Mode { Split, SideBySide, AfterOnly };
+    Q_ENUM(Mode)
+    /// Which picture is asked for. Each has a queue of its own, so that a strength that is being dragged never delays the picture
+    /// before.
+    enum Side { Before, After };
+    Q_ENUM(Side)
+    /// What is shown for as long as a key or button is held.
+    enum Peek { NoPeek, PeekBefore, PeekMap };
+    Q_ENUM(Peek)
+
+    explicit PictureView(QWidget *parent = nullptr);
+    ~PictureView() override;
+
+    /// Connects wanted() and showPicture() with two renderers, which must outlive the view.
+    void setRenderers(PictureRenderer *before, PictureRenderer *after);
+
+    /// Another photograph, whose pixels are not there yet. `thumbnail` (upright, of any size, may be null) is shown enlarged.
+    /// `pixels` is the upright size of the photograph, or empty if it is not known yet; the thumbnail's shape is used then.
+    void showThumbnail(const QString &path, const QImage &thumbnail, QSize pixels);
+    /// Pixels of the photograph that is shown, or of another one. Null empties the view.
+    void showPhoto(std::shared_ptr<const OpenPhoto> photo);
+    /// The haze map of the photograph is there: the sign that it is being estimated goes.
+    void showMapReady(const QString &path);
+    /// The photograph can't be shown: the reason stands in its place.
+    void showFailure(const QString &path, const QString &reason);
+    QString path() const { return shownPath; }
+
+    void setStrength(int percent);
+    int strength() const { return percent; }
+    void setMode(Mode mode);
+    Mode mode() const { return comparison; }
+    void setClipping(bool on);
+    bool clipping() const { return clippingShown; }
+    void setScreenColours(std::shared_ptr<ScreenColours> colours);
+
+    /// For buttons; keys do this by themselves.
+    void setPeek(Peek peek);
+    Peek peek() const { return peeked; }
+
+    /// Device pixels per pixel of the photograph; 1 is 100 %.
+    double scale() const { return zoom.scale(); }
+    bool fits() const { return zoom.fits(); }
+    /// 0 to 1 of the visible width of the photograph.
+    double splitPosition() const { return split; }
+    void setSplitPosition(double position);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+public Q_SLOTS:
+    void zoomToFit();
+    /// 1 is 100 %; the point under the pointer stays if the pointer is over the view, else the middle.
+    void zoomTo(double scale);
+    /// Between 100 % and fit, as Z and a double click do.
+    void toggleFullSize();
+    void zoomIn();
+    void zoomOut();
+    /// Takes a picture that wanted() asked for. Pictures of another photograph are dropped.
+    void showPicture(PictureView::Side side, const QImage &picture, const PictureRequest &request);
+
+Q_SIGNALS:
+    void wanted(PictureView::Side side, const PictureRequest &request);
+    void zoomChanged(double scale, bool fits);
+    void peekChanged(PictureView::Peek peek);
+};
