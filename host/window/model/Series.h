@@ -1,17 +1,18 @@
 #pragma once
 
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <vector>
 
 #include <QAbstractListModel>
-#include <QDateTime>
+#include <QElapsedTimer>
 #include <QHash>
 #include <QImage>
-#include <QSet>
+#include <QPointer>
 #include <QSize>
 #include <QStringList>
-#include <QTimer>
+#include <QThreadPool>
 #include <QUndoStack>
 #include <QVector>
 
@@ -83,16 +84,18 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// What add() has left out.
+    /// What became of one add().
     struct Added
     {
         int photographs = 0;
-        int results = 0;          ///< Files that are results of other photographs.
+        int results = 0;          ///< Files left out because they are results of other photographs.
         QStringList emptyFolders; ///< Folders without photographs, as given.
     };
-    /// Appends photographs, those of a folder by name; each once. Left out are results of photographs that are given or listed.
-    /// They start at the default strength.
-    Added add(const QStringList &paths);
+    /// Appends photographs, those of a folder by name; each once. Left out are results of photographs that are given or listed,
+    /// and listed results of these. They start at the default strength. Returns at once: the photographs follow in batches, and
+    /// then `added`.
+    void add(const QStringList &paths);
+    bool isAdding() const { return !pending.isEmpty(); }
     /// Appends photographs as a session has kept them. Missing results are forgotten.
     void restore(const std::vector<Record> &records);
     /// Empties the series and its undo stack; this can't be undone.
@@ -133,15 +136,17 @@ public:
     /// How the names of results are made, for ResultNameRole and for adding to a queue.
     void setSaveOptions(const SaveQueue::Options &options);
     const SaveQueue::Options &saveOptions() const { return options; }
-    /// Follows the states of this queue, which must outlive the series or be destroyed after its last signal.
-    void follow(SaveQueue &queue);
-    /// Adds these rows to the queue that is followed.
+    /// From now on photographs are saved by this queue.
+    void follow(SaveQueue &next);
     void save(const QList<int> &rows);
+    /// Saves all but those that can't be read.
     void saveAll();
-    /// For a photograph that failed: reads it again, or saves it again if it was being saved.
+    /// Saves what an earlier session has left unfinished.
+    void saveUnfinished();
+    /// For a photograph that failed: reads it again, or saves it again if it can be read.
     void retry(int row);
 
-    /// Photographs whose present strength has no result, though the user has changed it.
+    /// Photographs whose strength the user has changed since they were listed or saved.
     int unsavedCount() const;
     /// Photographs whose picture has not been read yet.
     int unreadCount() const;
@@ -149,14 +154,61 @@ public:
 Q_SIGNALS:
     /// Something that a session keeps has changed.
     void changed();
+    void added(const Series::Added &what);
 
 private:
     struct Photo;
+    using Photos = std::vector<std::shared_ptr<Photo>>;
     class StrengthCommand;
     class RemoveCommand;
+    enum class Merging { None, Drag, Nudge };
+
+    /// What a background thread has found out about a photograph.
+    struct News
+    {
+        QString path;
+        Facts facts;
+        std::optional<int> automatic;
+        QImage thumbnail;
+        QString failure;
+    };
+
+    std::shared_ptr<Photo> photo(const QString &path) const; ///< Also one that can come back by undo; null if there is none.
+    static std::optional<int> percentOf(const Photo &photo);
+    static State stateOf(const Photo &photo);
+    SaveQueue::Order orderOf(const Photo &photo) const;
+    void push(const QList<int> &rows, const std::vector<WantedStrength> &strengths, Merging merging, const QString &text);
+    void insert(int row, const Photos &photos);
+    void take(int first, int count);
+    void renumber(int from);
+    void show(const Photos &photos);
+    void show(const std::shared_ptr<Photo> &photo);
+
+    void beginAdding();
+    void append(const QStringList &paths);
+    void post(News news);
+    void takeNews();
+    void onWaits(const QString &path);
+    void onBegins(const QString &path);
+    void onEnded(const QString &path, const BatchOutcome &outcome, const QString &result);
 
     HostApplication &application;
     const QString group;
     SaveQueue::Options options;
+    QPointer<SaveQueue> queue;
+
+    Photos photos;
+    QHash<QString, int> rows;                   ///< By path.
+    QHash<QString, std::weak_ptr<Photo>> known; ///< By path, with those that can come back by undo.
     QUndoStack undo;
+    int dragDepth = 0;
+    int dragSerial = 0;
+    QElapsedTimer clock;
+
+    QList<QStringList> pending; ///< What add() was given; the first one is in progress.
+    int generation = 0;         ///< Of the series; clear() begins a new one, so that photographs on their way are dropped.
+    std::mutex newsMutex;
+    std::vector<News> news; ///< Under the mutex.
+    QThreadPool adder;
+    PhotoReader reader; ///< Ends first: its threads post news.
 };
