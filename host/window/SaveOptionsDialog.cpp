@@ -27,8 +27,9 @@ constexpr int kLongestTag = 100; ///< Leaves room for the photograph's own name.
 } // namespace
 
 SaveOptionsDialog::SaveOptionsDialog(const SaveQueue::Options &options, const QString &example, QWidget *parent)
-    : QDialog(parent), exampleName(example), existing(new QButtonGroup(this)), inFolder(new QCheckBox(tr("In this &folder:"), this)),
-      folder(new QLineEdit(this)), browse(new QPushButton(tr("&Choose..."), this)), tag(new QLineEdit(this)),
+    : QDialog(parent), exampleName(example), existing(new QButtonGroup(this)),
+      inFolder(new QCheckBox(tr("In this &folder:"), this)), folder(new QLineEdit(this)),
+      browse(new QPushButton(tr("&Choose..."), this)), tag(new QLineEdit(this)),
       ownQuality(new QCheckBox(tr("JPEG &quality:"), this)), quality(new QSpinBox(this)), outlook(new QLabel(this))
 {
     setWindowTitle(tr("Save options"));
@@ -45,7 +46,8 @@ SaveOptionsDialog::SaveOptionsDialog(const SaveQueue::Options &options, const QS
     tag->setObjectName(QStringLiteral("tag"));
     tag->setText(options.tag);
     tag->setMaxLength(kLongestTag);
-    tag->setPlaceholderText(QFileInfo(BatchPlan::resultName(QStringLiteral("/x.jpg"), /*needsTiff=*/false)).completeBaseName().mid(1));
+    tag->setPlaceholderText(
+        QFileInfo(BatchPlan::resultName(QStringLiteral("/x.jpg"), /*needsTiff=*/false)).completeBaseName().mid(1));
     auto *tagLabel = new QLabel(tr("&Tag behind the name:"), this);
     tagLabel->setBuddy(tag);
     ownQuality->setObjectName(QStringLiteral("ownQuality"));
@@ -145,7 +147,8 @@ void SaveOptionsDialog::check()
     accepting->setEnabled(wrong.isEmpty());
     const QFileInfo photograph(exampleName);
     const QString used = tag->text().isEmpty() ? tag->placeholderText() : tag->text();
-    outlook->setText(wrong.isEmpty() ? tr("%1 becomes %2.").arg(photograph.fileName(), photograph.completeBaseName() + used + '.' +
-                                                                                          photograph.suffix().toLower())
+    outlook->setText(wrong.isEmpty() ? tr("%1 becomes %2.")
+                                           .arg(photograph.fileName(),
+                                                photograph.completeBaseName() + used + '.' + photograph.suffix().toLower())
                                      : wrong);
 }

@@ -16,14 +16,12 @@ struct Row
     const char *tip;  ///< What it does, for the tool tip.
     Reach reach = Reach::Window;
     bool checkable = false;
-    const char *group = nullptr; ///< Begins a group with this title.
 };
 
 // Actions without a key have a mnemonic.
 constexpr Row kRows[] = {
     {Id::Add, QT_TRANSLATE_NOOP("WindowActions", "Add photographs..."), "Ctrl+O",
-     QT_TRANSLATE_NOOP("WindowActions", "Add photographs to the series"), Reach::Window, /*checkable=*/false,
-     QT_TRANSLATE_NOOP("WindowActions", "Series")},
+     QT_TRANSLATE_NOOP("WindowActions", "Add photographs to the series")},
     {Id::AddFolder, QT_TRANSLATE_NOOP("WindowActions", "Add a folder..."), "Ctrl+Shift+O",
      QT_TRANSLATE_NOOP("WindowActions", "Add the photographs of a folder to the series")},
     {Id::NewSession, QT_TRANSLATE_NOOP("WindowActions", "Start over"), "Ctrl+N",
@@ -43,8 +41,7 @@ constexpr Row kRows[] = {
     {Id::Remove, QT_TRANSLATE_NOOP("WindowActions", "Remove from the series"), "Del",
      QT_TRANSLATE_NOOP("WindowActions", "Remove the selected photographs from the series; the files stay"), Reach::Pictures},
     {Id::Stronger, QT_TRANSLATE_NOOP("WindowActions", "Stronger"), "Up",
-     QT_TRANSLATE_NOOP("WindowActions", "Raise the strength by 1 per cent"), Reach::Pictures, /*checkable=*/false,
-     QT_TRANSLATE_NOOP("WindowActions", "Strength")},
+     QT_TRANSLATE_NOOP("WindowActions", "Raise the strength by 1 per cent"), Reach::Pictures},
     {Id::Weaker, QT_TRANSLATE_NOOP("WindowActions", "Weaker"), "Down",
      QT_TRANSLATE_NOOP("WindowActions", "Lower the strength by 1 per cent"), Reach::Pictures},
     {Id::MuchStronger, QT_TRANSLATE_NOOP("WindowActions", "Stronger by 10"), "Shift+Up",
@@ -66,7 +63,7 @@ constexpr Row kRows[] = {
      QT_TRANSLATE_NOOP("WindowActions", "Start new photographs at this strength from now on")},
     {Id::Split, QT_TRANSLATE_NOOP("WindowActions", "Split"), "S",
      QT_TRANSLATE_NOOP("WindowActions", "Before and after in one picture, with a line to drag"), Reach::Window,
-     /*checkable=*/true, QT_TRANSLATE_NOOP("WindowActions", "View")},
+     /*checkable=*/true},
     {Id::SideBySide, QT_TRANSLATE_NOOP("WindowActions", "Side by side"), "D",
      QT_TRANSLATE_NOOP("WindowActions", "Before and after side by side"), Reach::Window, /*checkable=*/true},
     {Id::Result, QT_TRANSLATE_NOOP("WindowActions", "Result"), "W", QT_TRANSLATE_NOOP("WindowActions", "Only the result"),
@@ -89,8 +86,7 @@ constexpr Row kRows[] = {
      QT_TRANSLATE_NOOP("WindowActions", "Zoom in")},
     {Id::ZoomOut, QT_TRANSLATE_NOOP("WindowActions", "Zoom out"), "Ctrl+-; -", QT_TRANSLATE_NOOP("WindowActions", "Zoom out")},
     {Id::SaveThis, QT_TRANSLATE_NOOP("WindowActions", "Save this one"), "Ctrl+Return; Ctrl+Enter",
-     QT_TRANSLATE_NOOP("WindowActions", "Save the result of this photograph"), Reach::Window, /*checkable=*/false,
-     QT_TRANSLATE_NOOP("WindowActions", "Saving")},
+     QT_TRANSLATE_NOOP("WindowActions", "Save the result of this photograph")},
     {Id::SaveAll, QT_TRANSLATE_NOOP("WindowActions", "Save all"), "Ctrl+Shift+Return; Ctrl+Shift+Enter",
      QT_TRANSLATE_NOOP("WindowActions", "Save the results of the whole series")},
     {Id::Options, QT_TRANSLATE_NOOP("WindowActions", "Save op&tions..."), "",
@@ -103,8 +99,7 @@ constexpr Row kRows[] = {
     {Id::Retry, QT_TRANSLATE_NOOP("WindowActions", "Try a&gain"), "",
      QT_TRANSLATE_NOOP("WindowActions", "Save those again that failed")},
     {Id::FullScreen, QT_TRANSLATE_NOOP("WindowActions", "Full screen"), "F11",
-     QT_TRANSLATE_NOOP("WindowActions", "Use the whole screen, or go back to the window"), Reach::Window, /*checkable=*/true,
-     QT_TRANSLATE_NOOP("WindowActions", "Window")},
+     QT_TRANSLATE_NOOP("WindowActions", "Use the whole screen, or go back to the window"), Reach::Window, /*checkable=*/true},
     {Id::Keys, QT_TRANSLATE_NOOP("WindowActions", "Keys"), "F1", QT_TRANSLATE_NOOP("WindowActions", "Show all keys")},
     {Id::Quit, QT_TRANSLATE_NOOP("WindowActions", "Quit"), "Ctrl+Q", QT_TRANSLATE_NOOP("WindowActions", "Close the window")},
 };
@@ -140,13 +135,10 @@ void WindowActions::listenOn(QWidget *widget) const
             widget->addAction(actions.at(row.id));
 }
 
-QList<WindowActions::Group> WindowActions::groups() const
+QList<QAction *> WindowActions::all() const
 {
-    QList<Group> all;
-    for (const Row &row : kRows) {
-        if (row.group)
-            all << Group{tr(row.group), {}};
-        all.last().actions << actions.at(row.id);
-    }
-    return all;
+    QList<QAction *> inOrder;
+    for (const Row &row : kRows)
+        inOrder << actions.at(row.id);
+    return inOrder;
 }

@@ -72,13 +72,8 @@ public:
     /// The keys of Reach::Pictures work in this widget too.
     void listenOn(QWidget *widget) const;
 
-    struct Group
-    {
-        QString title;
-        QList<QAction *> actions;
-    };
-    /// All actions, in the order of the table.
-    QList<Group> groups() const;
+    /// In the order of the table.
+    QList<QAction *> all() const;
 
 private:
     std::map<Id, QAction *> actions;
