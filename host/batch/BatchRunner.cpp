@@ -128,7 +128,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         outcome.message = tr("Stopped; no result was written.");
         return outcome;
     };
-    if (stopping)
+    if (stopping || !watcher.mayBegin(index) || stopping)
         return stopped();
     if (!item.skipped.isEmpty()) {
         outcome.status = BatchOutcome::Status::Skipped;

@@ -22,13 +22,16 @@ class BatchRunner
 public:
     enum class Stage { Reading, Dehazing, Saving };
 
-    /// Receives the progress, on the threads of the batch but never on two at once.
+    /// Receives the progress, on the threads of the batch but, except for mayBegin, never on two at once.
     class Observer
     {
     public:
         virtual ~Observer() = default;
         virtual void stageBegins(int item, Stage stage) = 0;
         virtual void finished(int item, const BatchOutcome &outcome) = 0;
+        /// Asked before an item is begun, on several threads at once; may block, which holds the batch up. Without permission the
+        /// item counts as stopped.
+        virtual bool mayBegin(int /*item*/) { return true; }
     };
 
     BatchRunner(HostApplication &host, VIPluginOne2One &process, Observer &observer);
