@@ -78,13 +78,15 @@ void ProgressView::finished(int index, const BatchOutcome &outcome)
     const bool notBegun = outcome.reason == BatchOutcome::Reason::NotBegun;
     const bool stopped = outcome.status == BatchOutcome::Status::Stopped;
     inProgress.erase(index);
-    strengths[std::size_t(index)] = outcome.strength;
+    outcomes[std::size_t(index)] = outcome;
     ++finishedCount;
     doneCount += written && !unchanged;
     unchangedCount += unchanged;
+    const bool skipped = outcome.status == BatchOutcome::Status::Skipped;
+    skippedCount += skipped;
     notBegunCount += notBegun;
     eraseBars();
-    if (!outcome.message.isEmpty() && !notBegun)
+    if (!outcome.message.isEmpty() && !notBegun && (!skipped || notes))
         complain(item.given + ": " + outcome.message);
     if (unchanged && notes)
         complain(item.given + ": " + outcome.unchanged);
@@ -100,7 +102,7 @@ void ProgressView::finished(int index, const BatchOutcome &outcome)
             say(tr("%1: %2 (%3)").arg(harmless(item.given), harmless(item.result), took) + '\n');
         break;
     case Style::Json: {
-        const char *status = unchanged ? "unchanged" : written ? "done" : stopped ? "stopped" : "failed";
+        const char *status = unchanged ? "unchanged" : written ? "done" : skipped ? "skipped" : stopped ? "stopped" : "failed";
         QJsonObject object{{"photo", item.given},
                            {"result", written ? QJsonValue(item.result) : QJsonValue()},
                            {"status", status},
@@ -126,7 +128,7 @@ void ProgressView::summarize()
         complain(tr("%n photograph(s) not started.", nullptr, notBegunCount));
     if (style == Style::Quiet || style == Style::Json || (items.size() == 1 && allDone()))
         return;
-    const int failed = int(items.size()) - doneCount - unchangedCount;
+    const int failed = int(items.size()) - doneCount - unchangedCount - skippedCount;
     const QString text = failed == 0 ? tr("%n photograph(s) done.", nullptr, doneCount)
                                      : tr("%1 of %2 photographs done, %3 not.").arg(doneCount).arg(items.size()).arg(failed);
     write(stderr, text + (unchangedCount > 0 ? ' ' + tr("%n came back unchanged.", nullptr, unchangedCount) : QString()) + '\n');

@@ -15,7 +15,7 @@ public:
     enum class Style { Bars, Lines, Json, Quiet };
 
     ProgressView(Style look, bool withNotes, const std::vector<BatchItem> &batch)
-        : style(look), notes(withNotes), items(batch), strengths(batch.size())
+        : style(look), notes(withNotes), items(batch), outcomes(batch.size())
     {
     }
 
@@ -25,10 +25,11 @@ public:
     /// photograph that has its result, and in the styles Quiet and Json.
     void summarize();
 
-    /// True if each photograph has a result, even an unchanged one.
-    bool allDone() const { return doneCount + unchangedCount == int(items.size()); }
-    /// The strength in a finished item's BatchOutcome.
-    std::optional<int> strength(std::size_t item) const { return strengths[item]; }
+    /// True if each photograph has a result, even an unchanged one or an earlier one that was to be kept.
+    bool allDone() const { return doneCount + unchangedCount + skippedCount == int(items.size()); }
+    /// What is in a finished item's BatchOutcome.
+    std::optional<int> strength(std::size_t item) const { return outcomes[item].strength; }
+    bool hasResult(std::size_t item) const { return outcomes[item].hasResult(); }
 
     /// Writes a line to standard error, prefixed with the program's name.
     static void complain(const QString &text);
@@ -44,11 +45,12 @@ private:
     const Style style;
     const bool notes;
     const std::vector<BatchItem> &items;
-    std::vector<std::optional<int>> strengths;
+    std::vector<BatchOutcome> outcomes;
     std::map<int, BatchRunner::Stage> inProgress;
     int barsDrawn = 0;
     int doneCount = 0;
     int unchangedCount = 0;
+    int skippedCount = 0;
     int finishedCount = 0;
     int notBegunCount = 0;
 };

@@ -134,7 +134,7 @@ int RunCommand::run()
 
     BatchPlan::Options options;
     options.strength = line.strength;
-    options.overwrite = line.overwrite;
+    options.existing = line.overwrite ? Existing::Replace : Existing::Refuse;
     options.processName = process.name();
     options.settings = settings.get();
     const auto lacksStrength = [&](const QString &photograph) {
@@ -170,11 +170,16 @@ int RunCommand::run()
         for (const QString &path : recorded)
             if (results.contains(path))
                 settings->remove(path);
-        for (std::size_t i = 0; i < items.size(); ++i)
-            if (const BatchItem &item = items[i]; item.recordable && !item.automatic)
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            const BatchItem &item = items[i];
+            const auto strength = view.strength(i);
+            if (item.recordable && !item.automatic)
                 settings->setElement(item.path, item.settings);
-            else if (const auto chosen = view.strength(i); item.recordable && chosen)
-                settings->setElement(item.path, SettingsFile::withStrength(process.name(), *chosen, /*automatic=*/true));
+            else if (item.recordable && strength)
+                settings->setElement(item.path, SettingsFile::withStrength(process.name(), *strength, /*automatic=*/true));
+            if (view.hasResult(i))
+                settings->setResult(item.path, item.result, *strength, SettingsFile::isAutomatic(settings->element(item.path)));
+        }
         try {
             settings->save();
         } catch (const VException &failure) {

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include <QApplication>
+#include <QHashFunctions>
 #include <QIcon>
 #include <QLocale>
 #include <QTextCodec>
@@ -78,6 +79,8 @@ int runProgram(int argc, char **argv)
 {
     // File names are UTF-8 even where the environment sets no locale; otherwise Qt would turn their letters into "?".
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    // The attributes in a settings file are written in the same order every time.
+    qSetGlobalQHashSeed(0);
     // A closed pipe or a limit on the size of files is a failed write and must not end the program.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);

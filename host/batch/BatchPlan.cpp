@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -41,11 +42,48 @@ QString pathOf(const QString &given)
 /// The text that the process appends to a photograph's name.
 constexpr char kTagContext[] = "NimbraOne2One", kTag[] = "_dehazed";
 
-QString nameWith(const QString &tag, const QString &photograph, bool needsTiff)
+/// The name of a result, without its folder.
+QString fileNameWith(const QString &tag, const QString &photograph, bool needsTiff)
 {
     const QFileInfo info(photograph);
-    const QString suffix = needsTiff ? QStringLiteral("tiff") : info.suffix().toLower();
-    return info.absolutePath() + QDir::separator() + info.completeBaseName() + tag + '.' + suffix;
+    return info.completeBaseName() + tag + '.' + (needsTiff ? QStringLiteral("tiff") : info.suffix().toLower());
+}
+
+QString nameWith(const QString &tag, const QString &photograph, bool needsTiff)
+{
+    return QFileInfo(photograph).absolutePath() + QDir::separator() + fileNameWith(tag, photograph, needsTiff);
+}
+
+QString ownTag()
+{
+    return QCoreApplication::translate(kTagContext, kTag);
+}
+
+bool isThere(const QString &file)
+{
+    const QFileInfo info(file);
+    return info.exists() || info.isSymLink();
+}
+
+/// The folder itself, or the nearest one above it that exists.
+QString existingFolder(QString folder)
+{
+    while (!isThere(folder) && !QFileInfo(folder).isRoot())
+        folder = QFileInfo(folder).absolutePath();
+    return folder;
+}
+
+/// True if the result is not older than its photograph, and the settings file, if there is one, says that it was made at the
+/// strength that is wanted now.
+bool isCurrent(const BatchItem &item, const BatchPlan::Options &options)
+{
+    const QFileInfo result(item.result);
+    if (!result.isFile() || result.lastModified() < QFileInfo(item.path).lastModified())
+        return false;
+    if (!options.settings)
+        return true;
+    const QDomElement made = options.settings->resultElement(item.path, item.result);
+    return item.automatic ? SettingsFile::isAutomatic(made) : SettingsFile::strengthOf(made) == item.strength;
 }
 
 /// The longest name that file systems take, less what the codec layer adds for its temporary file.
@@ -55,10 +93,11 @@ constexpr int kLongestName = 255 - 16;
 
 QString BatchPlan::resultName(const QString &photograph, bool needsTiff)
 {
-    return nameWith(QCoreApplication::translate(kTagContext, kTag), photograph, needsTiff);
+    return nameWith(ownTag(), photograph, needsTiff);
 }
 
-QSet<QString> BatchPlan::resultsAmong(const QStringList &files, const QStringList &photographs, HostApplication &host)
+QSet<QString> BatchPlan::resultsAmong(const QStringList &files, const QStringList &photographs, HostApplication &host,
+                                      const Options &options)
 {
     QSet<QString> tags;
     for (const QString &language : HostApplication::languages()) {
@@ -71,8 +110,15 @@ QSet<QString> BatchPlan::resultsAmong(const QStringList &files, const QStringLis
     for (const QString &photograph : photographs) {
         const QString path = pathOf(photograph);
         const bool tiff = host.imageDef(path)->needsTiffOutput();
+        QSet<QString> own;
         for (const QString &tag : qAsConst(tags))
-            places << placeOf(nameWith(tag, path, tiff));
+            own << placeOf(nameWith(tag, path, tiff));
+        own << placeOf(resultOf(path, photograph, options, tiff));
+        if (options.settings)
+            for (const QString &result : options.settings->results(path))
+                own << placeOf(result);
+        own.remove(placeOf(path)); // with an empty tag
+        places += own;
     }
     QSet<QString> results;
     for (const QString &file : files)
@@ -84,6 +130,25 @@ QSet<QString> BatchPlan::resultsAmong(const QStringList &files, const QStringLis
 QString BatchPlan::existsText(const QString &result)
 {
     return tr("Its result \"%1\" already exists. Add --overwrite to replace it.").arg(result);
+}
+
+QString BatchPlan::skippedText(const QString &result)
+{
+    return tr("Skipped: its result \"%1\" already exists.").arg(result);
+}
+
+QString BatchPlan::resultOf(const QString &path, const QString &given, const Options &options, bool needsTiff)
+{
+    const QString own = resultName(path, needsTiff);
+    if (options.outputIsFile)
+        return pathOf(options.output);
+    if (options.output.isEmpty() && !options.tag)
+        return own;
+    const QString folder = options.output.isEmpty() ? QFileInfo(path).absolutePath()
+                                                    : QDir::cleanPath(pathOf(options.output) + '/' + options.below.value(given));
+    const QString result =
+        (folder == "/" ? QString() : folder) + '/' + fileNameWith(options.tag.value_or(ownTag()), path, needsTiff);
+    return placeOf(result) == placeOf(own) ? own : result;
 }
 
 std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostApplication &host, const Options &options)
@@ -111,11 +176,13 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         if (!inputs.emplace(placeOf(item.path), items.size()).second)
             continue;
         item.recordable = true;
-        item.replaces = options.overwrite;
+        item.existing = options.existing;
+        item.keepTime = options.keepTime;
         const bool tiff = host.imageDef(item.path)->needsTiffOutput();
-        item.result = resultName(item.path, tiff);
+        item.result = resultOf(item.path, photograph, options, tiff);
         const QString suffix = QFileInfo(item.path).suffix();
-        if (tiff && !PhotoLoader::rawSuffixes().contains(suffix.toLower()))
+        item.apart = item.result != resultName(item.path, tiff);
+        if (tiff && !options.outputIsFile && !PhotoLoader::rawSuffixes().contains(suffix.toLower()))
             item.note = suffix.isEmpty() ? tr("It has no suffix, so the result is a TIFF.")
                                          : tr("\"%1\" is not a format that can be written, so the result is a TIFF.").arg(suffix);
         if (!item.automatic)
@@ -133,29 +200,53 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         BatchItem &item = items[index];
         if (!item.refusal.isEmpty())
             continue;
-        const QFileInfo result(item.result);
+        if (item.existing == Existing::Number) {
+            const QFileInfo wanted(item.result);
+            for (int number = 2; isThere(item.result) || results.count(placeOf(item.result)); ++number) {
+                item.result = QStringLiteral("%1/%2-%3.%4")
+                                  .arg(wanted.absolutePath(), wanted.completeBaseName())
+                                  .arg(number)
+                                  .arg(wanted.suffix());
+                item.apart = true;
+            }
+        }
         const QString place = placeOf(item.result);
         const auto id = idOf(item.result);
         const auto source = id ? sources.find(*id) : sources.end();
         const auto [first, fresh] = results.emplace(place, index);
         if (source != sources.end()) {
-            item.refusal = tr("Its result \"%1\" is the same file as the photograph \"%2\". Move one of the two away.")
+            item.refusal = tr("Its result \"%1\" is the same file as the photograph \"%2\". Move one of the two away, or choose "
+                              "another folder with --output.")
                                .arg(item.result, items[source->second].given);
         } else if (!fresh) {
             item.refusal = tr("Its result \"%1\" would also be the result of \"%2\". Rename one of the two photographs.")
                                .arg(item.result, items[first->second].given);
-        } else if (result.isDir()) {
-            item.refusal = tr("Its result can't be written: \"%1\" is a folder. Move the folder away.").arg(item.result);
-        } else if (!options.overwrite && (result.exists() || result.isSymLink())) {
-            item.refusal = existsText(item.result);
-            item.reason = BatchOutcome::Reason::ResultExists;
-        } else if (!QFileInfo(result.absolutePath()).isWritable()) {
-            item.refusal =
-                tr("Its result can't be written: the folder \"%1\" is read-only. Copy the photograph to another folder.")
-                    .arg(result.absolutePath());
-        } else if (QFile::encodeName(result.fileName()).size() > kLongestName) {
-            item.refusal = tr("The name of its result would be too long. Give the photograph a shorter name.");
+        } else {
+            checkResult(item, options);
         }
     }
     return items;
+}
+
+void BatchPlan::checkResult(BatchItem &item, const Options &options)
+{
+    const QFileInfo result(item.result);
+    const QString folder = existingFolder(result.absolutePath());
+    if (result.isDir()) {
+        item.refusal = tr("Its result can't be written: \"%1\" is a folder. Move the folder away.").arg(item.result);
+    } else if (isThere(item.result) && item.existing == Existing::Refuse) {
+        item.refusal = existsText(item.result);
+        item.reason = BatchOutcome::Reason::ResultExists;
+    } else if (isThere(item.result) && item.existing == Existing::Skip) {
+        item.skipped = skippedText(item.result);
+    } else if (item.existing == Existing::Update && isCurrent(item, options)) {
+        item.skipped = tr("Skipped: its result \"%1\" is newer than the photograph.").arg(item.result);
+    } else if (!QFileInfo(folder).isDir()) {
+        item.refusal = tr("Its result can't be written: \"%1\" is not a folder. Choose another one with --output.").arg(folder);
+    } else if (!QFileInfo(folder).isWritable()) {
+        item.refusal =
+            tr("Its result can't be written: the folder \"%1\" is read-only. Choose another one with --output.").arg(folder);
+    } else if (QFile::encodeName(result.fileName()).size() > kLongestName) {
+        item.refusal = tr("The name of its result would be too long. Give the photograph a shorter name.");
+    }
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QSet>
 #include <QStringList>
 
@@ -11,9 +12,10 @@
 #include "SettingsFile.h"
 #include "WantedStrength.h"
 
-/// Decides what is to be done with each photograph before any work begins: its strength, the name of its result, and whether it
-/// is refused (see BatchItem::refusal). Refused are files that can't be photographs, results that exist already, results that
-/// are the same file as one of the photographs, and two photographs with the same result. A photograph named twice is done once.
+/// Decides what is to be done with each photograph before any work begins: its strength, the path of its result, and whether it
+/// is refused or skipped (see BatchItem). Refused are files that can't be photographs, results that exist already unless the
+/// options say otherwise, results that are the same file as one of the photographs, and two photographs with the same result. A
+/// photograph named twice is done once.
 class BatchPlan
 {
     Q_DECLARE_TR_FUNCTIONS(BatchPlan)
@@ -23,20 +25,35 @@ public:
     {
         std::optional<WantedStrength> strength; ///< For all; without it, the one in the settings, then `defaultStrength`.
         WantedStrength defaultStrength;
-        bool overwrite = false;
+        Existing existing = Existing::Refuse;
         QString processName;
         const SettingsFile *settings = nullptr; ///< May be null; only read.
+        QString output;                         ///< The folder of all results, or the only result; empty: beside the photographs.
+        bool outputIsFile = false;
+        std::optional<QString> tag;    ///< Instead of the process's own; may be empty.
+        QHash<QString, QString> below; ///< By photograph: where below the folder `output` its result goes, as a relative path.
+        bool keepTime = false;         ///< See BatchItem.
     };
 
     /// `photographs` are texts as argumentText makes them.
     static std::vector<BatchItem> make(const QStringList &photographs, HostApplication &host, const Options &options);
 
-    /// Those of `files` with the name and folder of a result of one of `photographs`, in any language, whether they exist or
-    /// not. Folders are never among them.
-    static QSet<QString> resultsAmong(const QStringList &files, const QStringList &photographs, HostApplication &host);
+    /// Those of `files` that are results of one of `photographs`, whether they exist or not: by name and folder, beside the
+    /// photograph in any language or where these options put it, or because the settings say so. Folders are never among them.
+    static QSet<QString> resultsAmong(const QStringList &files, const QStringList &photographs, HostApplication &host,
+                                      const Options &options);
+    static QSet<QString> resultsAmong(const QStringList &files, const QStringList &photographs, HostApplication &host)
+    {
+        return resultsAmong(files, photographs, host, Options());
+    }
 
     /// The absolute path that the process will give to the result, in the language of the installed catalogue.
     static QString resultName(const QString &photograph, bool needsTiff);
-    /// The message for a photograph whose result exists already.
+    /// The messages for a photograph whose result exists already.
     static QString existsText(const QString &result);
+    static QString skippedText(const QString &result);
+
+private:
+    static QString resultOf(const QString &path, const QString &given, const Options &options, bool needsTiff);
+    static void checkResult(BatchItem &item, const Options &options);
 };

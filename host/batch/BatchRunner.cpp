@@ -9,6 +9,7 @@
 #include <optional>
 #include <thread>
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -16,7 +17,7 @@
 #include <QThread>
 
 #include "BatchPlan.h"
-#include "TransposedRun.h"
+#include "PrivateRun.h"
 #include "VException.h"
 #include "WantedStrength.h"
 #include "carryXmp.h"
@@ -55,6 +56,20 @@ bool exists(const QString &file)
     return QFileInfo::exists(file) || QFileInfo(file).isSymLink();
 }
 
+/// The folders that the results need and that don't exist yet, each before those inside it.
+QStringList missingFolders(const std::vector<BatchItem> &items)
+{
+    QStringList missing;
+    for (const BatchItem &item : items) {
+        QStringList chain;
+        for (QString folder = QFileInfo(item.result).absolutePath();
+             item.apart && !missing.contains(folder) && !QFileInfo::exists(folder); folder = QFileInfo(folder).absolutePath())
+            chain.prepend(folder);
+        missing += chain;
+    }
+    return missing;
+}
+
 constexpr QChar kIdeographicStop(0x3002); ///< The full stop of Chinese and Japanese.
 
 /// Several at a time keep the cores busy while one of them decodes or encodes; more than this only cost memory.
@@ -71,6 +86,8 @@ void BatchRunner::run(const std::vector<BatchItem> &items, int jobs)
 {
     next = 0;
     running = 0;
+    PrivateRun::removeAbandoned(items);
+    const QStringList created = missingFolders(items);
     memoryLeft = jobs > 0 ? std::numeric_limits<qint64>::max() : qint64(GetAvailableMemory() / 4 * 3);
     if (jobs <= 0)
         jobs = std::min(QThread::idealThreadCount(), kMostJobs);
@@ -83,6 +100,8 @@ void BatchRunner::run(const std::vector<BatchItem> &items, int jobs)
     work(items);
     for (std::thread &member : team)
         member.join();
+    for (int i = created.size(); i-- > 0;)
+        QDir().rmdir(created[i]); // only if it is empty
 }
 
 void BatchRunner::work(const std::vector<BatchItem> &items)
@@ -111,6 +130,11 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     };
     if (stopping)
         return stopped();
+    if (!item.skipped.isEmpty()) {
+        outcome.status = BatchOutcome::Status::Skipped;
+        outcome.message = item.skipped;
+        return outcome;
+    }
     if (!item.refusal.isEmpty()) {
         outcome.message = item.refusal;
         outcome.reason = item.reason;
@@ -121,10 +145,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     try {
         attempt(item, index, stage, outcome);
         outcome.status = outcome.unchanged.isEmpty() ? BatchOutcome::Status::Done : BatchOutcome::Status::Unchanged;
-        outcome.message = carryXmp(item.path, item.result);
-        if (!outcome.message.isEmpty())
-            outcome.message =
-                tr("The result was written, but the photograph's XMP could not be copied into it: %1.").arg(outcome.message);
+        complete(item, outcome);
         return outcome;
     } catch (const VException &failure) {
         outcome.message = failure.message.isEmpty() ? tr("The plug-in failed at %1").arg(failure.location) : failure.message;
@@ -139,8 +160,13 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         QFile::remove(item.result);
     if (stopping)
         return stopped();
-    if (outcome.reason == BatchOutcome::Reason::ResultExists)
+    if (outcome.reason == BatchOutcome::Reason::ResultExists) {
+        if (item.existing == Existing::Skip) {
+            outcome.status = BatchOutcome::Status::Skipped;
+            outcome.message = BatchPlan::skippedText(item.result);
+        }
         return outcome;
+    }
     // The plug-in reads the photograph once more when it saves; a message that names it means that this failed.
     if (stage == Stage::Saving && outcome.message.contains('"' + item.path + '"')) {
         outcome.message =
@@ -159,6 +185,21 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     return outcome;
 }
 
+void BatchRunner::complete(const BatchItem &item, BatchOutcome &outcome)
+{
+    QStringList lacks;
+    if (!outcome.message.isEmpty())
+        lacks << tr("The result was written, but the photograph's XMP could not be copied into it: %1.").arg(outcome.message);
+    if (item.keepTime) {
+        QFile result(item.result);
+        if (!result.open(QIODevice::ReadWrite) ||
+            !result.setFileTime(QFileInfo(item.path).lastModified(), QFileDevice::FileModificationTime))
+            lacks << tr("The result was written, but could not be given the photograph's time of modification: %1.")
+                         .arg(result.errorString());
+    }
+    outcome.message = lacks.join(' ');
+}
+
 void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage> &stage, BatchOutcome &outcome)
 {
     Photograph &original = *application.photograph(item.path);
@@ -169,10 +210,10 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
     if (wide && facts.height >= limit)
         throw VException(Photograph::tooLarge(limit), V_LOCATION);
 
-    std::optional<TransposedRun> turned;
-    if (wide)
-        turned.emplace(application, item.path);
-    Photograph &photograph = turned ? turned->photograph() : original;
+    std::optional<PrivateRun> apart;
+    if (wide || item.apart)
+        apart.emplace(application, item, /*rowsForColumns=*/wide);
+    Photograph &photograph = apart ? apart->photograph() : original;
 
     const qint64 bytes = memoryFor(photograph.facts(), untouched);
     reserve(bytes);
@@ -185,14 +226,18 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
     };
     const std::unique_ptr<void, decltype(finish)> end(this, finish);
 
+    const auto resultExists = [&] {
+        outcome.reason = BatchOutcome::Reason::ResultExists;
+        throw VException(BatchPlan::existsText(item.result), V_LOCATION);
+    };
     photograph.refuseFrom(limit);
     photograph.watch([&](Photograph::Use use) {
         if (stopping)
             endRun();
-        if (use == Photograph::Use::Released && !item.replaces && exists(item.result)) {
-            outcome.reason = BatchOutcome::Reason::ResultExists;
-            throw VException(BatchPlan::existsText(item.result), V_LOCATION);
-        }
+        if (use == Photograph::Use::Read && apart)
+            apart->checkDepth();
+        if (use == Photograph::Use::Released && !item.replaces() && exists(item.result))
+            resultExists();
         stage = use == Photograph::Use::Reading ? Stage::Reading : use == Photograph::Use::Read ? Stage::Dehazing : Stage::Saving;
         const std::lock_guard lock(reportMutex);
         watcher.stageBegins(index, *stage);
@@ -206,15 +251,20 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
         settings = one2one.createSettings(item.automatic ? SettingsFile::withStrength(one2one.name(), *outcome.strength)
                                                          : item.settings);
     }
-    if (turned) {
-        turned->run(one2one, settings, item.result);
-    } else {
-        QString written;
-        one2one.run(item.path, settings, &written);
-        if (written != item.result || QFileInfo(written).size() == 0)
-            throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, item.result), V_LOCATION);
+    if (apart) {
+        apart->run(one2one, settings);
+        outcome.unchanged = whyUnchanged(one2one, settings);
+        outcome.message = apart->carryXmp();
+        if (!apart->publish())
+            resultExists();
+        return;
     }
+    QString written;
+    one2one.run(item.path, settings, &written);
+    if (written != item.result || QFileInfo(written).size() == 0)
+        throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, item.result), V_LOCATION);
     outcome.unchanged = whyUnchanged(one2one, settings);
+    outcome.message = carryXmp(item.path, item.result);
 }
 
 void BatchRunner::reserve(qint64 bytes)

@@ -13,7 +13,8 @@
 
 /// Runs a process over many photographs, several at a time, so that one is read or saved while the engine works on another. It
 /// continues after a failure. A photograph that fails or is stopped leaves no new result, and an older result is not touched. A
-/// photograph that needs more memory than is free while no other is in progress is refused.
+/// photograph that needs more memory than is free while no other is in progress is refused. Folders for the results are created
+/// when they are needed, and removed again if they remain empty.
 class BatchRunner
 {
     Q_DECLARE_TR_FUNCTIONS(BatchRunner)
@@ -33,7 +34,8 @@ public:
     BatchRunner(HostApplication &host, VIPluginOne2One &process, Observer &observer);
 
     /// Works on all items, beginning them in their order, and returns when each has had its outcome. Works on `jobs` photographs
-    /// at a time; 0 means as many as keep all cores busy and fit into the free memory.
+    /// at a time; 0 means as many as keep all cores busy and fit into the free memory. Before, removes what killed batches left
+    /// behind in the folders of the results.
     void run(const std::vector<BatchItem> &items, int jobs);
 
     /// Begins no further photograph, and ends those in progress without a result, except where the result is being written
@@ -50,8 +52,10 @@ private:
     void work(const std::vector<BatchItem> &items);
     BatchOutcome process(const BatchItem &item, int index);
     /// Writes the result or throws. Notes the stage it is in, and in `outcome` the reason of a failure, why a result is
-    /// unchanged, and the strength of an automatic item as soon as it is known.
+    /// unchanged, the strength of an automatic item as soon as it is known, and as message why its XMP is missing.
     void attempt(const BatchItem &item, int index, std::optional<Stage> &stage, BatchOutcome &outcome);
+    /// The last steps for a written result.
+    void complete(const BatchItem &item, BatchOutcome &outcome);
     void reserve(qint64 bytes);
     void giveBack(qint64 bytes);
 

@@ -19,6 +19,7 @@ namespace {
 constexpr int kDepth = 100; ///< Of nested elements; the format has three.
 const QString kRoot = QStringLiteral("veilaway");
 const QString kEntry = QStringLiteral("photo");
+const QString kResult = QStringLiteral("result");
 const QString kPath = QStringLiteral("path");
 const QString kStrength = pluginIdentity::strengthKey();
 const QString kWanted = QStringLiteral("strength"); // the program's, beside the process's
@@ -143,6 +144,11 @@ void SettingsFile::save()
             unfit = path;
             fit.documentElement().removeChild(entry);
         }
+        for (QDomElement result = entry.firstChildElement(kResult), after; !result.isNull(); result = after) {
+            after = result.nextSiblingElement(kResult);
+            if (!fitsXml(result.attribute(kPath)))
+                entry.removeChild(result);
+        }
     }
     QSaveFile output(file);
     const QByteArray text = written(fit);
@@ -163,6 +169,11 @@ void SettingsFile::save()
 QString SettingsFile::absolute(const QDomElement &entry) const
 {
     return QDir::cleanPath(QFileInfo(file).absoluteDir().absoluteFilePath(entry.attribute(kPath)));
+}
+
+QString SettingsFile::relative(const QString &path) const
+{
+    return QFileInfo(file).absoluteDir().relativeFilePath(QDir::cleanPath(path));
 }
 
 QStringList SettingsFile::photographs() const
@@ -193,7 +204,7 @@ void SettingsFile::setElement(const QString &photograph, const QDomElement &elem
     QDomElement entry = entryOf(photograph);
     if (entry.isNull()) {
         entry = document.createElement(kEntry);
-        entry.setAttribute(kPath, QFileInfo(file).absoluteDir().relativeFilePath(QDir::cleanPath(photograph)));
+        entry.setAttribute(kPath, relative(photograph));
         document.documentElement().appendChild(entry);
     } else if (const QDomElement known = entry.firstChildElement(tag);
                known.attribute(kStrength) == element.attribute(kStrength) && isAutomatic(known) == isAutomatic(element)) {
@@ -210,6 +221,42 @@ void SettingsFile::setElement(const QString &photograph, const QDomElement &elem
         entry.appendChild(own);
     else
         entry.replaceChild(own, old);
+    changed = true;
+}
+
+QDomElement SettingsFile::resultElement(const QString &photograph, const QString &result) const
+{
+    const QString wanted = QDir::cleanPath(result);
+    QDomElement element = entryOf(photograph).firstChildElement(kResult);
+    while (!element.isNull() && absolute(element) != wanted)
+        element = element.nextSiblingElement(kResult);
+    return element;
+}
+
+QStringList SettingsFile::results(const QString &photograph) const
+{
+    QStringList paths;
+    for (QDomElement element = entryOf(photograph).firstChildElement(kResult); !element.isNull();
+         element = element.nextSiblingElement(kResult))
+        paths << absolute(element);
+    return paths;
+}
+
+void SettingsFile::setResult(const QString &photograph, const QString &result, int strength, bool automatic)
+{
+    QDomElement entry = entryOf(photograph), element = resultElement(photograph, result);
+    if (entry.isNull() || (strengthOf(element) == strength && isAutomatic(element) == automatic))
+        return;
+    if (element.isNull()) {
+        element = document.createElement(kResult);
+        element.setAttribute(kPath, relative(result));
+        entry.appendChild(element);
+    }
+    element.setAttribute(kStrength, strength);
+    if (automatic)
+        element.setAttribute(kWanted, QString::fromLatin1(WantedStrength::kAutomatic));
+    else
+        element.removeAttribute(kWanted);
     changed = true;
 }
 

@@ -8,11 +8,14 @@
 #include <QString>
 #include <QStringList>
 
-/// The settings of a batch, with one element of the process per photograph:
+/// The settings of a batch, with one element of the process per photograph, and one for each result that was made of it:
 ///
 ///     <veilaway>
 ///         <photo path="IMG_1.jpg"><Veilaway hazeRemove="40"/></photo>
-///         <photo path="IMG_2.jpg"><Veilaway hazeRemove="64" strength="auto"/></photo>
+///         <photo path="IMG_2.jpg">
+///             <Veilaway hazeRemove="64" strength="auto"/>
+///             <result path="IMG_2_dehazed.jpg" hazeRemove="64" strength="auto"/>
+///         </photo>
 ///     </veilaway>
 ///
 /// A relative path is relative to the file's folder. Anything else in the file is kept. Failures are VExceptions whose message
@@ -41,6 +44,13 @@ public:
     /// Copies the element's attributes; the element's document may be gone. If strength and mark are the same, nothing changes.
     void setElement(const QString &photograph, const QDomElement &element);
 
+    /// The element of this result (absolute path) with the strength that it was made at; null if it is not known.
+    QDomElement resultElement(const QString &photograph, const QString &result) const;
+    /// The absolute paths of all known results of this photograph.
+    QStringList results(const QString &photograph) const;
+    /// Records a result and its strength, if the photograph is in the file.
+    void setResult(const QString &photograph, const QString &result, int strength, bool automatic);
+
     /// Removes the entry of this photograph (absolute path).
     void remove(const QString &photograph);
 
@@ -54,6 +64,7 @@ public:
 private:
     QDomElement entryOf(const QString &photograph) const;
     QString absolute(const QDomElement &entry) const;
+    QString relative(const QString &path) const;
 
     const QString file; ///< Absolute.
     const QString tag;

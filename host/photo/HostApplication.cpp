@@ -157,11 +157,11 @@ Photograph *HostApplication::photograph(const QString &path)
     return entry.get();
 }
 
-Photograph *HostApplication::addTransposed(const QString &path)
+Photograph *HostApplication::addInGuise(const QString &path, const Photograph::Guise &guise)
 {
     const std::lock_guard lock(photographMutex);
     auto &entry = photographs[QFileInfo(path).absoluteFilePath()];
-    entry = std::make_unique<Photograph>(path, nullptr, /*rowsForColumns=*/true);
+    entry = std::make_unique<Photograph>(path, nullptr, guise);
     return entry.get();
 }
 

@@ -20,7 +20,7 @@
 /// The program as its plug-ins see it: settings, language, catalogues, photographs and lent services.
 ///
 /// Settings live in the user's Ombre/veilaway.ini (XDG_CONFIG_HOME, or ~/.config), one section per group. value, setValue,
-/// locale, imageDef, photograph, addTransposed and forget may be called on any thread, the rest on the main one.
+/// locale, imageDef, photograph, addInGuise and forget may be called on any thread, the rest on the main one.
 class HostApplication : public VIApplication
 {
 public:
@@ -63,8 +63,8 @@ public:
 
     /// The photograph behind imageDef.
     Photograph *photograph(const QString &path);
-    /// From now on the photograph at this path, which must not have been requested before, is shown with rows for columns.
-    Photograph *addTransposed(const QString &path);
+    /// From now on the photograph at this path, which must not have been requested before, is seen in this guise.
+    Photograph *addInGuise(const QString &path, const Photograph::Guise &guise);
     /// Destroys the photograph of this path, which no one uses any longer.
     void forget(const QString &path);
 

@@ -92,7 +92,7 @@ int Photograph::bitsPerChannel()
 
 bool Photograph::needsTiffOutput()
 {
-    return !PhotoLoader::canWrite(QFileInfo(file).suffix().toLower());
+    return tiffOutput || !PhotoLoader::canWrite(QFileInfo(file).suffix().toLower());
 }
 
 ScaledImages::Image Photograph::makeScaled(int width, int height)

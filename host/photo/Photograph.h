@@ -29,10 +29,17 @@ public:
     /// The EXIF orientation that exchanges rows and columns and does nothing else; it is its own inverse.
     static constexpr int kRowsForColumns = 5;
 
-    /// `keptCopies`, which may be null, must outlive the photograph and keeps its scaled images beyond their release. With
-    /// `rowsForColumns` everything is as if rows and columns were exchanged in the file: facts, sizes, images and orientation.
-    explicit Photograph(const QString &path, ScaledImages *keptCopies = nullptr, bool rowsForColumns = false)
-        : file(path), copies(keptCopies), transposed(rowsForColumns)
+    /// How a plug-in sees the file.
+    struct Guise
+    {
+        bool rowsForColumns = false; ///< As if rows and columns were exchanged in it: facts, sizes, images and orientation.
+        bool tiffOutput = false;     ///< needsTiffOutput whatever its suffix.
+    };
+
+    /// `keptCopies`, which may be null, must outlive the photograph and keeps its scaled images beyond their release.
+    explicit Photograph(const QString &path, ScaledImages *keptCopies = nullptr) : Photograph(path, keptCopies, Guise()) {}
+    Photograph(const QString &path, ScaledImages *keptCopies, const Guise &guise)
+        : file(path), copies(keptCopies), transposed(guise.rowsForColumns), tiffOutput(guise.tiffOutput)
     {
     }
 
@@ -88,6 +95,7 @@ private:
     const QString file;
     ScaledImages *const copies;
     const bool transposed;
+    const bool tiffOutput;
     Watcher watcher;
     int refusedWidth = 0;
 

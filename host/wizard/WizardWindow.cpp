@@ -196,7 +196,7 @@ void WizardWindow::prepareWork()
     options.processName = one2one.name();
     options.settings = session.get();
     auto keeping = BatchPlan::make(onPage, application, options);
-    options.overwrite = true;
+    options.existing = Existing::Replace;
     runPage->begin(std::move(keeping), BatchPlan::make(onPage, application, options), batchJobs);
 }
 

@@ -27,6 +27,7 @@
 #include "PhotoLoader.h"
 #include "PhotoTest.h"
 #include "PluginFile.h"
+#include "PrivateFolder.h"
 
 namespace {
 
@@ -55,10 +56,27 @@ protected:
     void finished(int, const BatchOutcome &outcome) override { last = outcome; }
 
     TestFolder folder;
+    BatchOutcome last;
 
     std::vector<BatchItem> plan(const QStringList &paths, bool overwrite)
     {
-        return BatchPlan::make(paths, host, {WantedStrength(), WantedStrength(), overwrite, "Veilaway", nullptr});
+        BatchPlan::Options options;
+        options.existing = overwrite ? Existing::Replace : Existing::Refuse;
+        return plan(paths, options);
+    }
+    std::vector<BatchItem> plan(const QStringList &paths, BatchPlan::Options options)
+    {
+        options.processName = "Veilaway";
+        return BatchPlan::make(paths, host, options);
+    }
+    /// The outcome of one photograph; `act` happens when it is to be saved.
+    BatchOutcome outcomeOf(
+        const std::vector<BatchItem> &items, const std::function<void()> &act = [] {})
+    {
+        when = Stage::Saving;
+        happens = act;
+        BatchRunner(host, plugin.process(), *this).run(items, 1);
+        return last;
     }
 
 private:
@@ -69,7 +87,6 @@ private:
     PluginFile plugin{QString()};
     Stage when = Stage::Reading;
     std::function<void()> happens;
-    BatchOutcome last;
 };
 
 /// While it exists, no file may grow beyond this size: to a program, a full disk.
@@ -198,6 +215,60 @@ TEST_F(BatchFaults, AnotherProgramIsDoneFirst)
     EXPECT_GT(folder.content("photo_dehazed.png").size(), 100);
 }
 
+TEST_F(BatchFaults, AResultElsewhereIsWholeOrAbsent)
+{
+    folder.photograph("photo.png");
+    ASSERT_EQ(int(outcomeOf(plan({folder.path("photo.png")}, false)).status), int(BatchOutcome::Status::Done));
+    const QByteArray whole = folder.content("photo_dehazed.png");
+    const auto other = [this] { folder.write("out/sub/photo-x.png", "the other's"); };
+    const auto seen = [this] {
+        const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+        return QDir(folder.path("out/sub")).entryList(all);
+    };
+    const auto nothing = [&] { EXPECT_TRUE(seen().size() == 1 && seen()[0].startsWith(".veilaway-run-")) << seen().join(' '); };
+    using Status = BatchOutcome::Status;
+    const struct
+    {
+        const char *name;
+        Existing existing;
+        std::function<void()> act;
+        Status status;
+        QByteArray left; // null: no folder either
+    } rows[] = {
+        {"the folder is made", Existing::Refuse, nothing, Status::Done, whole},
+        {"made only when needed", Existing::Refuse, [] { throw VException("full", V_LOCATION); }, Status::Failed, {}},
+        {"another is first", Existing::Refuse, other, Status::Failed, "the other's"},
+        {"another is first, to be skipped", Existing::Skip, other, Status::Skipped, "the other's"},
+        {"another is first, to be replaced", Existing::Replace, other, Status::Done, whole},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        QDir(folder.path("out")).removeRecursively();
+        BatchPlan::Options options;
+        options.output = folder.path("out");
+        options.below[folder.path("photo.png")] = "sub";
+        options.tag = "-x";
+        options.existing = row.existing;
+        EXPECT_EQ(int(outcomeOf(plan({folder.path("photo.png")}, options), row.act).status), int(row.status)) << last.message;
+        EXPECT_EQ(folder.content("out/sub/photo-x.png"), row.left);
+        EXPECT_EQ(seen(), row.left.isNull() ? QStringList() : QStringList("photo-x.png"));
+        EXPECT_EQ(QFile::exists(folder.path("out")), !row.left.isNull());
+    }
+    // A killed run's folder has a lock that no one holds, or none yet; a living run's is left alone.
+    const PrivateFolder living(folder.path("out/sub"));
+    for (const char *abandoned : {"out/sub/.veilaway-run-abandoned", "out/sub/.veilaway-run-empty"})
+        QDir().mkpath(folder.path(abandoned));
+    folder.write("out/sub/.veilaway-run-abandoned/lock", "");
+    folder.write("out/sub/.veilaway-run-abandoned/photo_dehazed.png", "half");
+    BatchPlan::Options options;
+    options.output = folder.path("out/sub");
+    options.tag = "-x";
+    options.existing = Existing::Number;
+    EXPECT_EQ(int(outcomeOf(plan({folder.path("photo.png")}, options)).status), int(Status::Done)) << last.message;
+    EXPECT_THAT(seen(), testing::UnorderedElementsAre(QFileInfo(living.path()).fileName(), "photo-x.png", "photo-x-2.png"));
+    EXPECT_EQ(folder.content("out/sub/photo-x-2.png"), whole);
+}
+
 namespace {
 
 class ProgramFaults : public PhotoTest
@@ -286,8 +357,7 @@ TEST_F(ProgramFaults, WriteProtection)
                                       "\"$V\" a.png --strength 0 --settings ro/s.xml; echo =$?");
     SKIP_WITHOUT_MOUNTS(said);
     EXPECT_EQ(said.out, "=1\n=2\n") << said.err;
-    EXPECT_TRUE(
-        said.err.contains(QRegularExpression("ro/a.png: [^\n]*ro\" is read-only. Copy the photograph to another folder.\n")))
+    EXPECT_TRUE(said.err.contains(QRegularExpression("ro/a.png: [^\n]*ro\" is read-only. Choose another one with --output.\n")))
         << said.err;
     EXPECT_TRUE(said.err.contains(QRegularExpression("b.jpg: [^\n]*b_dehazed.jpg\"\\. Make room[^\n]*can write to it.\n")))
         << said.err;

@@ -1,0 +1,99 @@
+#include "PrivateFolder.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <utility>
+
+#include <QDir>
+#include <QFile>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+const QString kPrefix = QStringLiteral(".veilaway-run-");
+const QString kLockName = QStringLiteral("lock");
+
+int openLock(const QString &folder, int flags)
+{
+    return ::open(QFile::encodeName(folder + '/' + kLockName).constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | flags, 0600);
+}
+
+/// True if the descriptor is still that of the lock in this folder.
+bool isLockOf(const QString &folder, int lock)
+{
+    struct stat opened, named;
+    return ::fstat(lock, &opened) == 0 && ::lstat(QFile::encodeName(folder + '/' + kLockName).constData(), &named) == 0 &&
+           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+}
+
+/// The lock goes last, so that a folder that is half removed is still recognised.
+void removeWhole(const QString &folder)
+{
+    for (const QString &name : QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
+        if (name != kLockName)
+            QFile::remove(folder + '/' + name);
+    QFile::remove(folder + '/' + kLockName);
+    ::rmdir(QFile::encodeName(folder).constData());
+}
+
+} // namespace
+
+PrivateFolder::PrivateFolder(const QString &parent)
+{
+    // Between its creation and its lock, another process may take the folder for an abandoned one and remove it.
+    constexpr int kAttempts = 10;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        QByteArray name = QFile::encodeName(parent + '/' + kPrefix + "XXXXXX");
+        if (!::mkdtemp(name.data())) {
+            reason = qt_error_string(errno);
+            return;
+        }
+        folder = QFile::decodeName(name);
+        if (takeLock())
+            return;
+        reason = qt_error_string(errno);
+        removeWhole(std::exchange(folder, QString()));
+    }
+}
+
+bool PrivateFolder::takeLock()
+{
+    lock = openLock(folder, O_CREAT | O_EXCL);
+    if (lock < 0)
+        return false;
+    const bool refused = ::flock(lock, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    if (!refused && isLockOf(folder, lock))
+        return true;
+    ::close(std::exchange(lock, -1));
+    return false;
+}
+
+PrivateFolder::~PrivateFolder()
+{
+    if (!folder.isEmpty())
+        removeWhole(folder);
+    if (lock >= 0)
+        ::close(lock);
+}
+
+void PrivateFolder::removeAbandoned(const QString &parent)
+{
+    const QStringList names = QDir(parent).entryList({kPrefix + '*'}, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
+    for (const QString &name : names) {
+        const QString abandoned = parent + '/' + name;
+        struct stat status;
+        if (::lstat(QFile::encodeName(abandoned).constData(), &status) != 0 || status.st_uid != ::geteuid())
+            continue;
+        const int found = openLock(abandoned, 0);
+        if (found < 0 && errno == ENOENT)
+            ::rmdir(QFile::encodeName(abandoned).constData()); // killed before it made the lock
+        if (found < 0)
+            continue;
+        if (::flock(found, LOCK_EX | LOCK_NB) == 0 && isLockOf(abandoned, found))
+            removeWhole(abandoned);
+        ::close(found);
+    }
+}
