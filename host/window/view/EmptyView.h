@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QStringList>
+#include <QList>
+#include <QString>
 #include <QWidget>
 
 class QLabel;
@@ -12,13 +13,25 @@ class EmptyView : public QWidget
     Q_OBJECT
 
 public:
+    /// An earlier session that can be opened again.
+    struct Recent
+    {
+        QString id;   ///< For sessionWanted().
+        QString text; ///< One line; its middle is left out if it is long.
+        QString tip;  ///< May be empty.
+    };
+
     explicit EmptyView(QWidget *parent = nullptr);
 
-    /// Paths of session files, the latest first.
-    void setRecentSessions(const QStringList &paths);
+    /// The latest first.
+    void setRecentSessions(const QList<Recent> &sessions);
 
 Q_SIGNALS:
     void addWanted();
     void addFolderWanted();
-    void sessionWanted(const QString &path);
+    void sessionWanted(const QString &id);
+
+private:
+    QLabel *recentTitle;
+    QVBoxLayout *recent;
 };

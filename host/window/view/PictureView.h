@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QBasicTimer>
@@ -91,4 +92,79 @@ Q_SIGNALS:
     void wanted(PictureView::Side side, const PictureRequest &request);
     void zoomChanged(double scale, bool fits);
     void peekChanged(PictureView::Peek peek);
+
+protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    enum Kind { BeforePicture, AfterPicture, MapPicture };
+
+    /// Pictures of one kind, as they arrived: the last one, and the last one of the whole photograph, for what the last one
+    /// doesn't cover.
+    struct Arrived
+    {
+        QImage picture, whole;
+        PictureRequest request, wholeRequest;
+    };
+
+    void clearPictures(const QString &path);
+    void layOut();
+    void changeZoom(const std::function<void()> &change);
+    void ask();
+    void askSoon();
+    void hold(Peek peek, int key);
+    void letGo() { hold(NoPeek, 0); }
+    bool holdsBy(const QKeyEvent &event, const QWidget &receiver) const;
+    void describe();
+    void updateCursor(QPointF position);
+    void updateAnimation();
+
+    QRect pane(int index) const;
+    int paneCount() const { return comparison == SideBySide ? 2 : 1; }
+    QPointF inPane(QPointF position) const;
+    QPointF pointerInPane() const;
+    int lineAt() const;
+    bool isOnLine(QPointF position) const;
+
+    void paintPane(QPainter &painter, const QRect &pane, Kind kind, const QRect &part) const;
+    void paintArrived(QPainter &painter, const QImage &picture, const PictureRequest &request) const;
+    void paintThumbnail(QPainter &painter) const;
+    void paintLine(QPainter &painter) const;
+    void paintChip(QPainter &painter, const QRect &within, Qt::Alignment corner, const QString &text, bool turning = false) const;
+
+    QString shownPath, failure;
+    QImage thumb;
+    std::shared_ptr<const OpenPhoto> photo;
+    std::shared_ptr<ScreenColours> screenColours;
+    PictureZoom zoom;
+    bool sizeKnown = false, mapThere = false;
+    Arrived arrived[3];      ///< By Kind.
+    PictureRequest asked[2]; ///< By Side.
+
+    Mode comparison = Split;
+    int percent = 0;
+    bool clippingShown = false;
+    Peek set = NoPeek, held = NoPeek, peeked = NoPeek;
+    int heldKey = 0;
+    double split = 0.5;
+
+    enum { NoDrag, LineDrag, PanDrag } drag = NoDrag;
+    QPointF dragFrom; ///< Device pixels.
+    int wheelDelta = 0;
+    bool keyboardFocus = false;
+    QBasicTimer asking, animation;
+    int turn = 0; ///< Degrees.
 };
