@@ -12,16 +12,14 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include "BatchPlan.h"
 
 namespace {
 
-using Existing = SaveQueue::Existing;
+using Policy = SaveQueue::Policy;
 
-constexpr int kUsualQuality = 95;
 constexpr int kLongestTag = 100; ///< Leaves room for the photograph's own name.
 
 } // namespace
@@ -29,8 +27,7 @@ constexpr int kLongestTag = 100; ///< Leaves room for the photograph's own name.
 SaveOptionsDialog::SaveOptionsDialog(const SaveQueue::Options &options, const QString &example, QWidget *parent)
     : QDialog(parent), exampleName(example), existing(new QButtonGroup(this)),
       inFolder(new QCheckBox(tr("In this &folder:"), this)), folder(new QLineEdit(this)),
-      browse(new QPushButton(tr("&Choose..."), this)), tag(new QLineEdit(this)),
-      ownQuality(new QCheckBox(tr("JPEG &quality:"), this)), quality(new QSpinBox(this)), outlook(new QLabel(this))
+      browse(new QPushButton(tr("&Choose..."), this)), tag(new QLineEdit(this)), outlook(new QLabel(this))
 {
     setWindowTitle(tr("Save options"));
 
@@ -44,39 +41,30 @@ SaveOptionsDialog::SaveOptionsDialog(const SaveQueue::Options &options, const QS
     folder->setAccessibleName(tr("Folder of the results"));
     browse->setAutoDefault(false);
     tag->setObjectName(QStringLiteral("tag"));
-    tag->setText(options.tag);
+    tag->setText(options.tag.value_or(QString()));
     tag->setMaxLength(kLongestTag);
     tag->setPlaceholderText(
         QFileInfo(BatchPlan::resultName(QStringLiteral("/x.jpg"), /*needsTiff=*/false)).completeBaseName().mid(1));
     auto *tagLabel = new QLabel(tr("&Tag behind the name:"), this);
     tagLabel->setBuddy(tag);
-    ownQuality->setObjectName(QStringLiteral("ownQuality"));
-    ownQuality->setChecked(options.quality.has_value());
-    ownQuality->setToolTip(tr("Otherwise each JPEG keeps the quality of its photograph"));
-    quality->setObjectName(QStringLiteral("quality"));
-    quality->setRange(1, 100);
-    quality->setValue(options.quality.value_or(kUsualQuality));
-    quality->setAccessibleName(tr("JPEG quality"));
     grid->addWidget(inFolder, 0, 0);
     grid->addWidget(folder, 0, 1);
     grid->addWidget(browse, 0, 2);
     grid->addWidget(tagLabel, 1, 0);
     grid->addWidget(tag, 1, 1);
-    grid->addWidget(ownQuality, 2, 0);
-    grid->addWidget(quality, 2, 1, Qt::AlignLeft);
     grid->setColumnStretch(1, 1);
 
     auto *others = new QGroupBox(tr("If a result exists already"), this);
     auto *choices = new QVBoxLayout(others);
     const struct
     {
-        Existing value;
+        Policy value;
         QString text;
     } kChoices[] = {
-        {Existing::ReplaceChanged, tr("&Replace it if its strength has changed")},
-        {Existing::ReplaceAll, tr("Replace it in &any case")},
-        {Existing::KeepBoth, tr("Keep &both: the new one gets a number")},
-        {Existing::Skip, tr("&Keep it and save nothing")},
+        {Policy::ReplaceChanged, tr("&Replace it if its strength has changed")},
+        {Policy::ReplaceAll, tr("Replace it in &any case")},
+        {Policy::KeepBoth, tr("Keep &both: the new one gets a number")},
+        {Policy::Skip, tr("&Keep it and save nothing")},
     };
     for (const auto &[value, text] : kChoices) {
         auto *choice = new QRadioButton(text, this);
@@ -107,20 +95,17 @@ SaveOptionsDialog::SaveOptionsDialog(const SaveQueue::Options &options, const QS
     connect(inFolder, &QCheckBox::toggled, this, &SaveOptionsDialog::check);
     connect(folder, &QLineEdit::textChanged, this, &SaveOptionsDialog::check);
     connect(tag, &QLineEdit::textChanged, this, &SaveOptionsDialog::check);
-    connect(ownQuality, &QCheckBox::toggled, quality, &QWidget::setEnabled);
-    quality->setEnabled(ownQuality->isChecked());
     check();
 }
 
 SaveQueue::Options SaveOptionsDialog::options() const
 {
     SaveQueue::Options chosen;
-    chosen.existing = Existing(existing->checkedId());
+    chosen.existing = Policy(existing->checkedId());
     if (inFolder->isChecked())
         chosen.folder = QDir::cleanPath(QDir::fromNativeSeparators(folder->text()));
-    chosen.tag = tag->text();
-    if (ownQuality->isChecked())
-        chosen.quality = quality->value();
+    if (!tag->text().isEmpty())
+        chosen.tag = tag->text();
     return chosen;
 }
 

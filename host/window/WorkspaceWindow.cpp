@@ -32,12 +32,14 @@
 
 #include "EmptyView.h"
 #include "FilmstripView.h"
+#include "Histogram.h"
 #include "HistogramView.h"
 #include "KeySheet.h"
 #include "PhotoLoader.h"
 #include "PictureView.h"
 #include "SaveBar.h"
 #include "SaveOptionsDialog.h"
+#include "ScreenColours.h"
 #include "StrengthPanel.h"
 #include "VException.h"
 #include "desktopNotice.h"
@@ -74,14 +76,14 @@ QString patterns()
 
 WorkspaceWindow::WorkspaceWindow(HostApplication &host, VIPluginOne2One &process, int jobs)
     : application(host), one2one(process), queue(host, process, jobs),
-      series(host, process.guid(), int(kThumbnailSide * devicePixelRatioF())), session(series, process.name()), store(host),
-      actions(this), bar(new MessageBar(this)), stack(new QStackedWidget(this)), empty(new EmptyView(this)),
-      picture(new PictureView(this)), strip(new FilmstripView(this)), histogram(new HistogramView(this)),
-      panel(new StrengthPanel(histogram, actions, this)), saveBar(new SaveBar(actions, this)), histogramTimer(new QTimer(this)),
-      stateTimer(new QTimer(this))
+      series(host, process.guid(), int(kThumbnailSide * devicePixelRatioF())), session(series, process.name()), actions(this),
+      bar(new MessageBar(this)), stack(new QStackedWidget(this)), empty(new EmptyView(this)), picture(new PictureView(this)),
+      strip(new FilmstripView(this)), histogram(new HistogramView(this)), panel(new StrengthPanel(histogram, actions, this)),
+      saveBar(new SaveBar(actions, this)), histogramTimer(new QTimer(this)), stateTimer(new QTimer(this))
 {
     setAcceptDrops(true);
     series.follow(queue);
+    picture->setScreenColours(std::make_shared<ScreenColours>(ScreenColours::profileOfScreen()));
     picture->setRenderers(&beforeRenderer, &afterRenderer);
     build();
     connectActions();

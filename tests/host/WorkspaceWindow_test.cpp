@@ -150,7 +150,8 @@ protected:
     /// The photographs are listed and read, and the one in view can be judged.
     bool listed(int count)
     {
-        return eventually([&] { return series()->rowCount() == count && series()->unreadCount() == 0 && picture()->isVisible(); });
+        return eventually(
+            [&] { return series()->rowCount() == count && series()->unreadCount() == 0 && picture()->isVisible(); });
     }
     QList<Series::State> states()
     {
@@ -288,8 +289,9 @@ TEST_F(Workspace, KeysMeanWhatTheFocusSays)
 
         // Return leaves the box, and does nothing more there or elsewhere.
         QTest::keyClick(box, Qt::Key_Return);
-        for (QWidget *focus : QList<QWidget *>{picture(), strip(), find<QSlider>("strengthSlider"), find<QAbstractButton>("saveAll"),
-                                               find<QAbstractButton>("saveThis"), find<QAbstractButton>("fullScreen")}) {
+        for (QWidget *focus :
+             QList<QWidget *>{picture(), strip(), find<QSlider>("strengthSlider"), find<QAbstractButton>("saveAll"),
+                              find<QAbstractButton>("saveThis"), find<QAbstractButton>("fullScreen")}) {
             focus->setFocus(Qt::TabFocusReason);
             ASSERT_TRUE(focus->hasFocus()) << focus->objectName();
             press(Qt::Key_Return);
@@ -311,7 +313,8 @@ TEST_F(Workspace, KeysMeanWhatTheFocusSays)
         }
 
         // What is held is let go, whatever happens meanwhile.
-        for (const auto &[key, peek] : {std::pair(Qt::Key_Space, PictureView::PeekBefore), std::pair(Qt::Key_M, PictureView::PeekMap)}) {
+        for (const auto &[key, peek] :
+             {std::pair(Qt::Key_Space, PictureView::PeekBefore), std::pair(Qt::Key_M, PictureView::PeekMap)}) {
             QTest::keyPress(strip(), key);
             EXPECT_EQ(picture()->peek(), peek);
             QTest::keyRelease(strip(), key);
@@ -413,19 +416,21 @@ TEST_F(Workspace, ResultsGoWhereTheOptionsSay)
             EXPECT_FALSE(ok->isEnabled());
             dialog->findChild<QLineEdit *>("tag")->setText("-clear");
             EXPECT_TRUE(ok->isEnabled());
-            EXPECT_TRUE(dialog->grab().save(QStringLiteral(WINDOW_PICTURES "/%1_options.png").arg(host->locale().name().left(2))));
+            EXPECT_TRUE(
+                dialog->grab().save(QStringLiteral(WINDOW_PICTURES "/%1_options.png").arg(host->locale().name().left(2))));
             QTest::mouseClick(ok, Qt::LeftButton);
         });
         EXPECT_TRUE(find<QLabel>("facts")->text().contains("a-clear.jpg"));
         const auto saveAndList = [&] {
             click("saveThis");
-            EXPECT_TRUE(eventually([&] { return series()->state(0) == Series::State::Saved && find<QAbstractButton>("stop")->isHidden(); }));
+            EXPECT_TRUE(eventually(
+                [&] { return series()->state(0) == Series::State::Saved && find<QAbstractButton>("stop")->isHidden(); }));
             return QDir(folder.path("out")).entryList(QDir::Files);
         };
         EXPECT_EQ(saveAndList(), QStringList{"a-clear.jpg"});
         choose([&](SaveOptionsDialog *dialog) {
-            EXPECT_EQ(dialog->options().tag, "-clear"); // remembered
-            dialog->findChildren<QRadioButton *>().at(int(SaveQueue::Existing::KeepBoth))->click();
+            EXPECT_EQ(dialog->options().tag, QStringLiteral("-clear")); // remembered
+            dialog->findChildren<QRadioButton *>().at(int(SaveQueue::Policy::KeepBoth))->click();
             QTest::keyClick(dialog, Qt::Key_Return);
         });
         EXPECT_EQ(saveAndList().size(), 2);
@@ -467,7 +472,7 @@ TEST_F(Workspace, ASessionIsSavedOpenedAndRunByTheCommandLine)
         EXPECT_EQ(series()->rowCount(), 0);
         keepPicture("7_recent");
     });
-    EXPECT_EQ(use({folder.path("missing.xml")}, [] {}), 0); // a new one
+    EXPECT_EQ(use({folder.path("new.xml")}, [] {}), 0); // a new one
 }
 
 TEST_F(Workspace, QuittingInTheMiddleOfSavesLeavesWholeResultsAndASessionThatGoesOn)
