@@ -33,6 +33,7 @@ public:
         std::optional<QString> tag;    ///< Instead of the process's own; may be empty.
         QHash<QString, QString> below; ///< By photograph: where below the folder `output` its result goes, as a relative path.
         bool keepTime = false;         ///< See BatchItem.
+        bool recursive = false;        ///< Folders have been searched with all that is in them.
     };
 
     /// `photographs` are texts as argumentText makes them.
@@ -57,5 +58,6 @@ public:
     static QString skippedText(const QString &result);
 
 private:
+    static QString folderText(const QString &folder, const Options &options);
     static void checkResult(BatchItem &item, const Options &options);
 };
