@@ -281,8 +281,8 @@ QString meansOf(const std::vector<Figures> &all)
         add(QStringLiteral("%1, the best for all by %2").arg(best).arg(QLatin1String(name)), fixed(best));
     }
     for (const auto &[name, measure] : kinds)
-        add(QStringLiteral("the best for each by %1").arg(QLatin1String(name)), mean([measure = measure](const Figures &one) {
-                const auto less = [=](const auto &a, const auto &b) { return a.second.*measure < b.second.*measure; };
+        add(QStringLiteral("the best for each by %1").arg(QLatin1String(name)), mean([by = measure](const Figures &one) {
+                const auto less = [=](const auto &a, const auto &b) { return a.second.*by < b.second.*by; };
                 return std::max_element(one.at.begin(), one.at.end(), less)->second;
             }));
     return text;

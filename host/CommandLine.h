@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "BatchItem.h"
 #include "WantedStrength.h"
 
 /// The parsed command line. Parsed before the application object exists, since that depends on it.
@@ -14,16 +15,24 @@ class CommandLine
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 
 public:
-    enum class Command { Run, Wizard, SetDefault, Help, Version };
+    enum class Command { Run, Wizard, SetDefault, Help, Version, Completion };
 
     Command command = Command::Run;
     QStringList photographs;
+    int literal = 0; ///< From this index on, `photographs` stood behind "--": they are never lists.
+    QString topic;   ///< For Help: a command, or empty. For Completion: the shell.
     std::optional<WantedStrength> strength;
     std::optional<WantedStrength> newDefault; ///< For SetDefault; nothing removes the stored one.
     QString settingsFile;
     QString language;
-    int jobs = 0; ///< 0: as many as fit.
-    bool overwrite = false;
+    int jobs = 0;   ///< 0: as many as fit.
+    QString output; ///< Empty: beside the photographs.
+    std::optional<QString> tag;
+    Existing existing = Existing::Refuse;
+    bool keepTime = false;
+    bool recursive = false;
+    bool nullSeparated = false;
+    bool dryRun = false;
     bool quiet = false;
     bool json = false;
     bool shareServices = false;
@@ -34,8 +43,6 @@ public:
 
     /// `arguments` start with the name of the program.
     static CommandLine parse(const QStringList &arguments);
-    /// Paragraphs without line breaks, see wrapped().
-    static QString help();
 };
 
 /// The exit status of the program.

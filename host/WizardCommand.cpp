@@ -19,7 +19,8 @@ int WizardCommand::run()
     std::unique_ptr<SettingsFile> settings;
     try {
         plugin = std::make_unique<PluginFile>(line.pluginFile);
-        for (const char *set : {"qtbase", "VImage", "VTools", "VUI"})
+        // The last one has better words for the plug-in's page in languages where its own mean something else.
+        for (const char *set : {"qtbase", "VImage", "VTools", "VUI", "page"})
             application.loadTranslator(QStringLiteral("%1_%2.qm").arg(QLatin1String(set), application.locale().name()));
         if (!line.settingsFile.isEmpty()) {
             settings = std::make_unique<SettingsFile>(line.settingsFile, plugin->process().name());

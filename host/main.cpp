@@ -13,6 +13,7 @@
 #include "CommandLine.h"
 #include "DisplayWatch.h"
 #include "HostApplication.h"
+#include "OptionTable.h"
 #include "PluginFile.h"
 #include "ProgressView.h"
 #include "RunCommand.h"
@@ -56,7 +57,10 @@ int answer(const CommandLine &line, HostApplication &application)
 {
     switch (line.command) {
     case CommandLine::Command::Help:
-        ProgressView::say(wrapped(CommandLine::help(), terminalWidth()));
+        ProgressView::say(OptionTable::help(line.topic, terminalWidth()));
+        return ExitAllDone;
+    case CommandLine::Command::Completion:
+        ProgressView::say(OptionTable::completion(line.topic));
         return ExitAllDone;
     case CommandLine::Command::Version:
         return showVersion(line);

@@ -7,8 +7,8 @@
 #include <limits>
 
 #include "HazeWeights.h"
+#include "InstructionSet.h"
 #include "imageRows.h"
-#include "ippVersions.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ int centreOf(int place, float scale)
 
 /// Four pixels in, one vector per component out.
 using FourFloats = float __attribute__((vector_size(16)));
-IPP_INLINE void transpose(const HazeJointRows::Neighbour *const pixels[4], FourFloats components[4])
+NIMBRA_INLINE void transpose(const HazeJointRows::Neighbour *const pixels[4], FourFloats components[4])
 {
     FourFloats pixel[4];
     for (int i = 0; i < 4; ++i)
@@ -44,7 +44,7 @@ IPP_INLINE void transpose(const HazeJointRows::Neighbour *const pixels[4], FourF
 }
 
 /// Index into the range weights for a difference; not-a-number and infinity count as the largest difference.
-IPP_INLINE std::uint32_t entryOf(float here, float there)
+NIMBRA_INLINE std::uint32_t entryOf(float here, float there)
 {
     constexpr auto kNone = float(kRangeEntries);
     const float magnitude = std::fabs((here - there) * 1000.0f);
@@ -79,7 +79,7 @@ struct Tables
 };
 
 /// Range weights of a tile for the neighbours at one offset.
-IPP_INLINE void lookUp(const Neighbours &neighbours, Tables tables, double *ranges, Scratch &scratch)
+NIMBRA_INLINE void lookUp(const Neighbours &neighbours, Tables tables, double *ranges, Scratch &scratch)
 {
     std::uint32_t reach[kTile / kBlock]; // kPairEntries if the pair table does not reach
     for (int block = 0; block < kTile / kBlock; ++block) {
@@ -100,13 +100,13 @@ IPP_INLINE void lookUp(const Neighbours &neighbours, Tables tables, double *rang
     for (int block = 0; block < kTile / kBlock; ++block) {
         const int first = block * kBlock;
         if (reach[block] < kPairEntries) {
-#pragma clang loop vectorize(disable) unroll_count(8)
+            NIMBRA_SCALAR_LOOP
             for (int x = first; x < first + kBlock; ++x) {
                 const std::uint32_t entries = scratch.pairBlue[x];
                 ranges[x] = pairWeights[entries & 0xffffu] * weights[entries >> kBlueShift];
             }
         } else {
-#pragma clang loop vectorize(disable) unroll_count(8)
+            NIMBRA_SCALAR_LOOP
             for (int x = first; x < first + kBlock; ++x) {
                 const std::uint32_t entries = scratch.redGreen[x];
                 ranges[x] = weights[entries & 0xffffu] * weights[entries >> 16] * weights[scratch.pairBlue[x] >> kBlueShift];
@@ -116,7 +116,7 @@ IPP_INLINE void lookUp(const Neighbours &neighbours, Tables tables, double *rang
 }
 
 /// Adds the neighbours in one coarse row to the sums of a tile, from left to right.
-IPP_INLINE void addNeighbours(const Neighbours *row, Tables tables, const double *spatial, Scratch &scratch)
+NIMBRA_INLINE void addNeighbours(const Neighbours *row, Tables tables, const double *spatial, Scratch &scratch)
 {
     for (int i = 0; i < kSide; ++i)
         lookUp(row[i], tables, scratch.ranges[i], scratch);
@@ -134,8 +134,8 @@ IPP_INLINE void addNeighbours(const Neighbours *row, Tables tables, const double
 }
 
 /// Writes one row of a tile; `rows` are the coarse rows that it needs, at most kSide, the first at row offset `firstOffset`.
-IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, const Neighbours *const *rows, int rowCount,
-                               int firstOffset, Tables tables, Scratch &scratch)
+NIMBRA_INLINE void writeTileRowBody(const float *pixel, float *map, int columns, const Neighbours *const *rows, int rowCount,
+                                    int firstOffset, Tables tables, Scratch &scratch)
 {
     for (int x = 0; x < columns; ++x) {
         for (int c = 0; c < 3; ++c)
@@ -151,6 +151,7 @@ IPP_VERSIONS void writeTileRow(const float *pixel, float *map, int columns, cons
         map[x] = pixel[x * kChannels + 3] == 0.0f || sumWeights == 0.0f ? 0.0f : mean;
     }
 }
+const auto writeTileRow = versionOf<writeTileRowBody>();
 
 } // namespace
 

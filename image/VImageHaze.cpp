@@ -11,10 +11,10 @@
 
 #include "HazeJointRows.h"
 #include "HazeMattingRows.h"
+#include "InstructionSet.h"
 #include "VSparseFactory.h"
 #include "imageRows.h"
 #include "ipp.h"
-#include "ippVersions.h"
 #include "kernel32.h"
 
 namespace {
@@ -125,7 +125,7 @@ const float *brightestPixel(const std::vector<Candidate> &candidates)
 
 /// A channel that is 0.0 in both window and airlight gives not-a-number and is ignored; if all three are, the pixel counts as
 /// clear. std::min and std::max return their first operand if the second is not a number or equal to it.
-IPP_VERSIONS void normaliseRow(const float *minima, float *darkMap, int width, const float *airlight)
+NIMBRA_INLINE void normaliseRowBody(const float *minima, float *darkMap, int width, const float *airlight)
 {
     const float airR = airlight[0];
     const float airG = airlight[1];
@@ -139,8 +139,9 @@ IPP_VERSIONS void normaliseRow(const float *minima, float *darkMap, int width, c
         darkMap[x] = std::min(lowest, highest); // they are the wrong way round only where all three are not a number
     }
 }
+const auto normaliseRow = versionOf<normaliseRowBody>();
 
-IPP_VERSIONS void recoverRow(float *pixel, const float *transmission, int width, const float *airlight, float strength)
+NIMBRA_INLINE void recoverRowBody(float *pixel, const float *transmission, int width, const float *airlight, float strength)
 {
     const float airR = airlight[0];
     const float airG = airlight[1];
@@ -161,6 +162,7 @@ IPP_VERSIONS void recoverRow(float *pixel, const float *transmission, int width,
         pixel[2] = keep ? b : newB > 0.0f ? newB : 0.0f;
     }
 }
+const auto recoverRow = versionOf<recoverRowBody>();
 
 constexpr double kLambda = 0.001;
 constexpr float kLambdaCell = 0.001f;

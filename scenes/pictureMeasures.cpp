@@ -77,8 +77,8 @@ double median(std::vector<float> &values)
 class Side
 {
 public:
-    Side(const std::vector<float> &truth, int width, int height, int reach)
-        : truth(truth), width(width), height(height), reach(reach)
+    Side(const std::vector<float> &trueValues, int columns, int rows, int longest)
+        : truth(trueValues), width(columns), height(rows), reach(longest)
     {
     }
     /// False if the line leaves the picture. It starts two pixels away, past the pixels that the edge crosses.

@@ -130,7 +130,7 @@ int run(Host &host, VIPluginOne2One *process)
     for (auto &[path, photograph] : host.photographs) {
         const VISettingsHandle settings = process->createSettings(photograph.settings);
         QString result;
-        if (attempt([&, &path = path] { process->run(path, settings, &result); }))
+        if (attempt([&, &file = path] { process->run(file, settings, &result); }))
             std::printf("%s\n", qPrintable(result));
         else
             ++failures;

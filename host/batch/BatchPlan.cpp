@@ -132,6 +132,14 @@ QString BatchPlan::existsText(const QString &result)
     return tr("Its result \"%1\" already exists. Add --overwrite to replace it.").arg(result);
 }
 
+QString BatchPlan::folderText(const QString &folder, const Options &options)
+{
+    if (!QFileInfo(folder).isReadable())
+        return tr("The folder can't be read. Give yourself the permission to read it.");
+    return options.recursive ? tr("There are no photographs in this folder or those inside it.")
+                             : tr("There are no photographs in this folder. Add --recursive for those in the folders inside it.");
+}
+
 QString BatchPlan::skippedText(const QString &result)
 {
     return tr("Skipped: its result \"%1\" already exists.").arg(result);
@@ -168,7 +176,8 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
             wanted = {*known, /*automatic=*/false};
         item.automatic = wanted.automatic;
         item.strength = wanted.percent;
-        item.refusal = PhotoLoader::complaint(item.given.isEmpty() ? item.given : item.path);
+        item.refusal = QFileInfo(item.path).isDir() ? folderText(item.path, options)
+                                                    : PhotoLoader::complaint(item.given.isEmpty() ? item.given : item.path);
         if (!item.refusal.isEmpty()) {
             items.push_back(std::move(item));
             continue;

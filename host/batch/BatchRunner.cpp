@@ -118,6 +118,52 @@ void BatchRunner::work(const std::vector<BatchItem> &items)
     }
 }
 
+namespace {
+
+/// The outcome of an item that is not begun, because of what the plan says.
+std::optional<BatchOutcome> plannedOutcome(const BatchItem &item)
+{
+    BatchOutcome outcome;
+    if (item.skipped.isEmpty() && item.refusal.isEmpty())
+        return std::nullopt;
+    outcome.status = item.skipped.isEmpty() ? BatchOutcome::Status::Failed : BatchOutcome::Status::Skipped;
+    outcome.message = item.skipped.isEmpty() ? item.refusal : item.skipped;
+    outcome.reason = item.reason;
+    return outcome;
+}
+
+bool isUntouched(const BatchItem &item)
+{
+    return !item.automatic && item.strength == 0;
+}
+
+/// True if the engine would return the photograph unchanged because of its width. Throws VException if it is too high as well.
+bool isWide(const PhotoHead &facts, bool untouched)
+{
+    const bool wide = !untouched && facts.width >= BatchRunner::kRefusedWidth;
+    if (wide && facts.height >= BatchRunner::kRefusedWidth)
+        throw VException(Photograph::tooLarge(BatchRunner::kRefusedWidth), V_LOCATION);
+    return wide;
+}
+
+} // namespace
+
+std::optional<BatchOutcome> BatchRunner::foresee(const BatchItem &item, Forecast &forecast)
+{
+    if (const auto planned = plannedOutcome(item))
+        return planned;
+    try {
+        forecast.head = application.photograph(item.path)->facts();
+        forecast.memoryBytes = memoryFor(forecast.head, isUntouched(item));
+        [[maybe_unused]] const bool wide = isWide(forecast.head, isUntouched(item));
+        return std::nullopt;
+    } catch (const VException &failure) {
+        BatchOutcome outcome;
+        outcome.message = failure.message;
+        return outcome;
+    }
+}
+
 BatchOutcome BatchRunner::process(const BatchItem &item, int index)
 {
     BatchOutcome outcome;
@@ -128,18 +174,10 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         outcome.message = tr("Stopped; no result was written.");
         return outcome;
     };
-    if (stopping)
+    if (stopping || !watcher.mayBegin(index) || stopping)
         return stopped();
-    if (!item.skipped.isEmpty()) {
-        outcome.status = BatchOutcome::Status::Skipped;
-        outcome.message = item.skipped;
-        return outcome;
-    }
-    if (!item.refusal.isEmpty()) {
-        outcome.message = item.refusal;
-        outcome.reason = item.reason;
-        return outcome;
-    }
+    if (const auto planned = plannedOutcome(item))
+        return *planned;
     const bool existedBefore = exists(item.result);
     bool outOfMemory = false;
     try {
@@ -204,11 +242,8 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
 {
     Photograph &original = *application.photograph(item.path);
     const PhotoHead facts = original.facts();
-    const bool untouched = !item.automatic && item.strength == 0;
+    const bool untouched = isUntouched(item), wide = isWide(facts, untouched);
     const int limit = untouched ? 0 : kRefusedWidth;
-    const bool wide = limit > 0 && facts.width >= limit;
-    if (wide && facts.height >= limit)
-        throw VException(Photograph::tooLarge(limit), V_LOCATION);
 
     std::optional<PrivateRun> apart;
     if (wide || item.apart)

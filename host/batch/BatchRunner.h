@@ -22,16 +22,30 @@ class BatchRunner
 public:
     enum class Stage { Reading, Dehazing, Saving };
 
-    /// Receives the progress, on the threads of the batch but never on two at once.
+    /// Receives the progress, on the threads of the batch but, except for mayBegin, never on two at once.
     class Observer
     {
     public:
         virtual ~Observer() = default;
         virtual void stageBegins(int item, Stage stage) = 0;
         virtual void finished(int item, const BatchOutcome &outcome) = 0;
+        /// Asked before an item is begun, on several threads at once; may block, which holds the batch up. Without permission the
+        /// item counts as stopped.
+        virtual bool mayBegin(int /*item*/) { return true; }
+    };
+
+    /// What a run would take.
+    struct Forecast
+    {
+        PhotoHead head;
+        qint64 memoryBytes = 0;
     };
 
     BatchRunner(HostApplication &host, VIPluginOne2One &process, Observer &observer);
+
+    /// What is known about an item before its run: nothing if there is nothing that speaks against it, otherwise the outcome that
+    /// it would have. Reads no more than the head of the photograph, and writes nothing.
+    std::optional<BatchOutcome> foresee(const BatchItem &item, Forecast &forecast);
 
     /// Works on all items, beginning them in their order, and returns when each has had its outcome. Works on `jobs` photographs
     /// at a time; 0 means as many as keep all cores busy and fit into the free memory. Before, removes what killed batches left

@@ -157,6 +157,30 @@ Photograph *HostApplication::photograph(const QString &path)
     return entry.get();
 }
 
+void HostApplication::setOrder(const QStringList &paths)
+{
+    std::vector<ForwardingImage> images(std::size_t(paths.size()));
+    std::map<QString, ForwardingImage *> found;
+    for (std::size_t index = 0; index < images.size(); ++index) {
+        images[index].target = photograph(paths[int(index)]);
+        found[images[index].target->path()] = &images[index];
+    }
+    const std::lock_guard lock(photographMutex);
+    inOrderBefore = std::move(inOrder); // a plug-in may look at its list once more before it takes the next one
+    inOrder = std::move(images);
+    places = std::move(found);
+}
+
+ImageDef *HostApplication::imageDef(const QString &path)
+{
+    {
+        const std::lock_guard lock(photographMutex);
+        if (const auto place = places.find(QFileInfo(path).absoluteFilePath()); place != places.end())
+            return place->second;
+    }
+    return photograph(path);
+}
+
 Photograph *HostApplication::addInGuise(const QString &path, const Photograph::Guise &guise)
 {
     const std::lock_guard lock(photographMutex);

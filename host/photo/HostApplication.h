@@ -12,6 +12,7 @@
 #include <QSettings>
 #include <QTranslator>
 
+#include "ForwardingImage.h"
 #include "Photograph.h"
 #include "ScaledImages.h"
 #include "VException.h"
@@ -63,6 +64,9 @@ public:
 
     /// The photograph behind imageDef.
     Photograph *photograph(const QString &path);
+    /// From now on imageDef returns images whose addresses ascend in this order, since a plug-in's page lists its images by
+    /// address. Those of one call are valid until the next call but one.
+    void setOrder(const QStringList &paths);
     /// From now on the photograph at this path, which must not have been requested before, is seen in this guise.
     Photograph *addInGuise(const QString &path, const Photograph::Guise &guise);
     /// Destroys the photograph of this path, which no one uses any longer.
@@ -72,7 +76,7 @@ public:
     void setValue(const QString &group, const QString &key, const QVariant &value) override;
     QLocale locale() override { return language; }
     void loadTranslator(const QString &fileName) override;
-    ImageDef *imageDef(const QString &path) override { return photograph(path); }
+    ImageDef *imageDef(const QString &path) override;
     VImageContext *imageLibraryContext() override;
     VUIContext *interfaceLibraryContext() override;
 
@@ -92,6 +96,9 @@ private:
     ScaledImages scaledImages;
     std::mutex photographMutex;
     std::map<QString, std::unique_ptr<Photograph>> photographs; ///< By absolute path.
+    std::vector<ForwardingImage> inOrder;
+    std::vector<ForwardingImage> inOrderBefore;
+    std::map<QString, ForwardingImage *> places; ///< Those of `inOrder`, by absolute path.
 };
 
 /// The application object itself: Base is QCoreApplication for the command line and QApplication for a window. Plug-ins ask it by

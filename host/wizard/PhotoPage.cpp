@@ -60,6 +60,7 @@ PhotoPage::PhotoPage(HostApplication &host, QWidget *parent)
     setAcceptDrops(true);
 
     list->setObjectName(QStringLiteral("photographs"));
+    list->setAccessibleName(tr("Photographs"));
     list->setViewMode(QListView::IconMode);
     list->setIconSize(kPicture);
     list->setGridSize(kPicture + QSize(20, 36));

@@ -13,29 +13,30 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include "BeforeAfterView.h"
-#include "PhotoReader.h"
-#include "VException.h"
-
 namespace {
 
-constexpr int kPictureSide = 1024;
+/// A result is there, whether this run wrote it or an earlier one.
+bool hasFile(const BatchOutcome &outcome)
+{
+    return outcome.hasResult() || outcome.reason == BatchOutcome::Reason::ResultExists;
+}
 
 } // namespace
 
-ResultPage::ResultPage(HostApplication &host, QWidget *parent)
-    : QWizardPage(parent), application(host), list(new QListWidget(this)), view(new BeforeAfterView(this)),
-      text(new QLabel(this)), folderButton(new QPushButton(tr("Open &folder"), this))
+ResultPage::ResultPage(QWidget *parent)
+    : QWizardPage(parent), list(new QListWidget(this)), text(new QLabel(this)),
+      openButton(new QPushButton(tr("Open &result"), this)), folderButton(new QPushButton(tr("Open &folder"), this))
 {
     setFinalPage(true);
     list->setObjectName(QStringLiteral("results"));
-    list->setMaximumWidth(260);
+    list->setAccessibleName(tr("Results"));
     list->setTextElideMode(Qt::ElideMiddle);
-    view->setObjectName(QStringLiteral("beforeAfter"));
     text->setObjectName(QStringLiteral("outcome"));
     text->setWordWrap(true);
     text->setTextFormat(Qt::PlainText);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    openButton->setObjectName(QStringLiteral("openResult"));
+    openButton->setToolTip(tr("Show the result in the program that opens such pictures"));
     folderButton->setObjectName(QStringLiteral("openFolder"));
     auto *saveButton = new QPushButton(tr("&Save session..."), this);
     saveButton->setObjectName(QStringLiteral("saveSession"));
@@ -49,28 +50,21 @@ ResultPage::ResultPage(HostApplication &host, QWidget *parent)
     buttons->addStretch();
     buttons->addWidget(saveButton);
     buttons->addWidget(folderButton);
-    auto *right = new QVBoxLayout;
-    right->addWidget(view, 1);
-    right->addWidget(text);
-    right->addLayout(buttons);
-    auto *columns = new QHBoxLayout(this);
-    columns->addWidget(list);
-    columns->addLayout(right, 1);
+    buttons->addWidget(openButton);
+    auto *rows = new QVBoxLayout(this);
+    rows->addWidget(list, 1);
+    rows->addWidget(text);
+    rows->addLayout(buttons);
 
-    for (QPushButton *button : {againButton, saveButton, folderButton})
+    for (QPushButton *button : {againButton, saveButton, folderButton, openButton})
         button->setAutoDefault(false); // Return belongs to the window's own buttons
 
-    pool.setMaxThreadCount(1);
     connect(list, &QListWidget::currentRowChanged, this, &ResultPage::showCurrent);
+    connect(list, &QListWidget::itemDoubleClicked, this, &ResultPage::openResult);
+    connect(openButton, &QPushButton::clicked, this, &ResultPage::openResult);
     connect(folderButton, &QPushButton::clicked, this, &ResultPage::openFolder);
     connect(saveButton, &QPushButton::clicked, this, &ResultPage::saveWanted);
     connect(againButton, &QPushButton::clicked, this, &ResultPage::startOverWanted);
-}
-
-ResultPage::~ResultPage()
-{
-    pool.clear();
-    pool.waitForDone();
 }
 
 void ResultPage::present(const std::vector<BatchItem> &items, const std::vector<BatchOutcome> &outcomes)
@@ -85,9 +79,8 @@ void ResultPage::present(const std::vector<BatchItem> &items, const std::vector<
                                                : tr("%1 of %2 photographs are done.").arg(done).arg(batch.size()));
     for (std::size_t index = 0; index < batch.size(); ++index) {
         const QStyle::StandardPixmap sign = results[index].status == BatchOutcome::Status::Done ? QStyle::SP_DialogApplyButton
-                                            : results[index].status == BatchOutcome::Status::Unchanged
-                                                ? QStyle::SP_MessageBoxInformation
-                                                : QStyle::SP_MessageBoxWarning;
+                                            : hasFile(results[index])                           ? QStyle::SP_MessageBoxInformation
+                                                                                                : QStyle::SP_MessageBoxWarning;
         list->addItem(new QListWidgetItem(style()->standardIcon(sign), QFileInfo(batch[index].path).fileName()));
     }
     list->setCurrentRow(0);
@@ -97,38 +90,20 @@ void ResultPage::showCurrent()
 {
     const int row = list->currentRow();
     folderButton->setEnabled(row >= 0);
-    view->compare(QImage(), QImage());
+    openButton->setEnabled(row >= 0 && hasFile(results[std::size_t(row)]));
     text->clear();
     if (row < 0)
         return;
-    const BatchItem &item = batch[std::size_t(row)];
     const BatchOutcome &outcome = results[std::size_t(row)];
-    const bool unchanged = outcome.status == BatchOutcome::Status::Unchanged;
-    const bool there = outcome.hasResult() || outcome.reason == BatchOutcome::Reason::ResultExists;
-    text->setText(unchanged                   ? outcome.unchanged
-                  : outcome.message.isEmpty() ? QDir::toNativeSeparators(item.result)
-                                              : outcome.message);
-    pool.clear();
-    pool.start([this, row, path = item.path, resultPath = there ? item.result : QString()] {
-        QImage before, after;
-        try {
-            before = PhotoReader::picture(*application.photograph(path), kPictureSide);
-            if (!resultPath.isEmpty()) {
-                Photograph result(resultPath); // not the application's, which may hold what the file was before
-                after = PhotoReader::picture(result, kPictureSide);
-            }
-        } catch (const VException &) {
-            // The text below the view has the outcome.
-        } catch (const std::exception &) {
-        }
-        QMetaObject::invokeMethod(
-            this,
-            [this, row, before, after] {
-                if (list->currentRow() == row)
-                    view->compare(before, after);
-            },
-            Qt::QueuedConnection);
-    });
+    text->setText(outcome.status == BatchOutcome::Status::Unchanged ? outcome.unchanged
+                  : outcome.message.isEmpty()                       ? QDir::toNativeSeparators(batch[std::size_t(row)].result)
+                                                                    : outcome.message);
+}
+
+void ResultPage::openResult()
+{
+    if (openButton->isEnabled())
+        QDesktopServices::openUrl(QUrl::fromLocalFile(batch[std::size_t(list->currentRow())].result));
 }
 
 void ResultPage::openFolder()

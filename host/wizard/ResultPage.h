@@ -2,25 +2,21 @@
 
 #include <vector>
 
-#include <QThreadPool>
 #include <QWizardPage>
 
-#include "BatchRunner.h"
+#include "BatchItem.h"
 
-class BeforeAfterView;
 class QLabel;
 class QListWidget;
 class QPushButton;
 
-/// The window's last page: the outcome of each photograph, with before and after side by side or the reason of a failure.
+/// The wizard's last page: the outcome of each photograph, with the name of its result or the reason of a failure.
 class ResultPage : public QWizardPage
 {
     Q_OBJECT
 
 public:
-    explicit ResultPage(HostApplication &host, QWidget *parent = nullptr);
-    /// Waits for the picture that is being read.
-    ~ResultPage() override;
+    explicit ResultPage(QWidget *parent = nullptr);
 
     void present(const std::vector<BatchItem> &items, const std::vector<BatchOutcome> &outcomes);
 
@@ -32,14 +28,13 @@ Q_SIGNALS:
 
 private:
     void showCurrent();
+    void openResult();
     void openFolder();
 
-    HostApplication &application;
     std::vector<BatchItem> batch;
     std::vector<BatchOutcome> results;
     QListWidget *list;
-    BeforeAfterView *view;
     QLabel *text;
+    QPushButton *openButton;
     QPushButton *folderButton;
-    QThreadPool pool;
 };

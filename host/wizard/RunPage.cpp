@@ -38,6 +38,7 @@ RunPage::RunPage(HostApplication &host, VIPluginOne2One &process, QWidget *paren
     question->hide();
 
     table->setObjectName(QStringLiteral("work"));
+    table->setAccessibleName(tr("Photographs"));
     table->setHorizontalHeaderLabels({tr("Photograph"), tr("Strength"), tr("Progress"), tr("State")});
     table->verticalHeader()->hide();
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -50,6 +51,7 @@ RunPage::RunPage(HostApplication &host, VIPluginOne2One &process, QWidget *paren
     table->horizontalHeader()->setSectionResizeMode(State, QHeaderView::ResizeToContents);
     table->horizontalHeader()->resizeSection(Progress, 160);
     overall->setObjectName(QStringLiteral("overall"));
+    overall->setAccessibleName(tr("Photographs that are done"));
     stopButton->setObjectName(QStringLiteral("stop"));
 
     auto *bottom = new QHBoxLayout;
@@ -106,12 +108,13 @@ void RunPage::fillTable()
         auto *photo = new QTableWidgetItem(QFileInfo(item.path).fileName());
         photo->setToolTip(item.path);
         table->setItem(row, Photo, photo);
-        auto *strength = new QTableWidgetItem(tr("%1 %").arg(item.strength));
+        auto *strength = new QTableWidgetItem(item.refusal.isEmpty() ? tr("%1 %").arg(item.strength) : QString());
         strength->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         table->setItem(row, Strength, strength);
         auto *cell = new QWidget;
         auto *bar = new QProgressBar(cell);
         bar->setTextVisible(false);
+        bar->setAccessibleName(photo->text());
         bar->setFixedHeight(kBarHeight);
         auto *place = new QHBoxLayout(cell);
         place->setContentsMargins(4, 0, 4, 0);

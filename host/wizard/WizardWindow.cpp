@@ -1,5 +1,6 @@
 #include "WizardWindow.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -18,9 +19,18 @@
 #include "VException.h"
 #include "pluginIdentity.h"
 
+namespace {
+
+bool isReturn(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+} // namespace
+
 WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std::unique_ptr<SettingsFile> settings, int jobs)
     : application(host), one2one(process), session(std::move(settings)), hasFile(session != nullptr), batchJobs(jobs),
-      photoPage(new PhotoPage(host)), runPage(new RunPage(host, process)), resultPage(new ResultPage(host))
+      photoPage(new PhotoPage(host)), runPage(new RunPage(host, process)), resultPage(new ResultPage)
 {
     if (!session)
         session = std::make_unique<SettingsFile>(QDir::current().filePath(QStringLiteral("veilaway.xml")), process.name());
@@ -30,15 +40,20 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
         photoPage->waitForAll();
     setWindowTitle(tr("veilaway"));
     setWizardStyle(QWizard::ClassicStyle);
-    setOptions(QWizard::NoBackButtonOnStartPage | QWizard::NoBackButtonOnLastPage | QWizard::NoCancelButtonOnLastPage);
+    setOptions(QWizard::NoBackButtonOnStartPage | QWizard::NoCancelButtonOnLastPage);
     // These two buttons of the plug-in's page have neither text nor icon.
     setStyleSheet(QStringLiteral("QToolButton#QToolButton_Prev { qproperty-arrowType: LeftArrow; }"
                                  "QToolButton#QToolButton_Next { qproperty-arrowType: RightArrow; }"));
     setPage(Photographs, photoPage);
     QWizardPage *const strengthPage = process.wizardPage();
-    strengthPage->setCommitPage(true); // there is no way back once the work has begun
-    strengthPage->setButtonText(QWizard::CommitButton, tr("&Remove haze"));
+    strengthPage->setButtonText(QWizard::NextButton, tr("&Remove haze"));
+    strengthPage->setSubTitle(tr("Set how much haze to remove from each photograph. Hold Alt to see where the haze is."));
     setPage(Strength, strengthPage);
+    panel = strengthPage->findChild<QWidget *>(QStringLiteral("UIHazePreviewClass"));
+    if (panel)
+        panel->installEventFilter(this);
+    button(FinishButton)->installEventFilter(this);
+    giveNames(*strengthPage);
     imageList = strengthPage->findChild<QComboBox *>(QStringLiteral("comboBoxImageDef"));
     if (imageList) // after the page's own slot: if that throws, this one is not reached
         connect(imageList, qOverload<int>(&QComboBox::currentIndexChanged), this, [this](int index) { shownImage = index; });
@@ -47,6 +62,9 @@ WizardWindow::WizardWindow(HostApplication &host, VIPluginOne2One &process, std:
     resize(960, 700);
 
     connect(this, &QWizard::currentIdChanged, this, &WizardWindow::fitSubTitle);
+    // After the wizard's own slots, which would allow to go back during the work.
+    connect(this, &QWizard::currentIdChanged, this, &WizardWindow::fitButtons);
+    connect(runPage, &QWizardPage::completeChanged, this, &WizardWindow::fitButtons);
     connect(photoPage, &PhotoPage::settingsWanted, this, &WizardWindow::openSession);
     connect(resultPage, &ResultPage::saveWanted, this, &WizardWindow::saveSessionAs);
     connect(resultPage, &ResultPage::startOverWanted, this, &WizardWindow::startOver);
@@ -61,6 +79,51 @@ void WizardWindow::fitSubTitle()
     for (QLabel *label : findChildren<QLabel *>())
         if (!text.isEmpty() && label->text() == text)
             label->setMinimumHeight(label->heightForWidth(label->width()));
+}
+
+void WizardWindow::fitButtons()
+{
+    if (currentId() != Work)
+        return;
+    button(BackButton)->setEnabled(!runPage->isRunning());
+    if (runPage->isComplete())
+        button(NextButton)->setFocus();
+}
+
+void WizardWindow::giveNames(QWizardPage &strengthPage)
+{
+    const auto name = [&](const char *object, const QString &text) {
+        if (auto *widget = strengthPage.findChild<QWidget *>(QLatin1String(object)))
+            widget->setAccessibleName(text);
+    };
+    name("comboBoxImageDef", tr("Photograph"));
+    name("spinBoxPourcent", tr("Strength in per cent"));
+    name("horizontalSlider", tr("Strength in per cent"));
+    name("frame", tr("Preview"));
+    name("QToolButton_Prev", tr("Previous photograph"));
+    name("QToolButton_Next", tr("Next photograph"));
+}
+
+bool WizardWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == panel && (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease)) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() == Qt::Key_Alt && !key->isAutoRepeat())
+            showsMap = event->type() == QEvent::KeyPress;
+    }
+    if (watched == button(FinishButton) && event->type() == QEvent::KeyPress && isReturn(*static_cast<QKeyEvent *>(event)))
+        return true;
+    return QWizard::eventFilter(watched, event);
+}
+
+void WizardWindow::changeEvent(QEvent *event)
+{
+    QWizard::changeEvent(event);
+    // The key is let go where this window doesn't see it, as after Alt+Tab.
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow() && showsMap) {
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
+        QApplication::sendEvent(panel, &release);
+    }
 }
 
 void WizardWindow::resizeEvent(QResizeEvent *event)
@@ -148,6 +211,7 @@ void WizardWindow::preparePluginPage()
         const auto strength = startOf(path);
         strengths << (strength ? QVariant(*strength) : QVariant());
     }
+    application.setOrder(paths);
     const HostApplication::Presets presets(application, one2one.guid(), pluginIdentity::strengthKey(), strengths);
     onPage = paths;
     try {
@@ -216,6 +280,8 @@ void WizardWindow::cleanupPage(int id)
     QWizard::cleanupPage(id);
     if (id == Strength)
         takeStrengths();
+    else if (id == Results) // back to where something can be changed; the work itself is done
+        QMetaObject::invokeMethod(this, &QWizard::back, Qt::QueuedConnection);
 }
 
 bool WizardWindow::validateCurrentPage()
@@ -242,7 +308,8 @@ void WizardWindow::startOver()
 
 void WizardWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() != Qt::Key_Escape) // too easily pressed to close the window
+    // Both are too easily pressed to end the program.
+    if (event->key() != Qt::Key_Escape && !(currentId() == Results && isReturn(*event)))
         QWizard::keyPressEvent(event);
 }
 

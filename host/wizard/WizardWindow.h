@@ -36,11 +36,15 @@ protected:
     void initializePage(int id) override;
     void cleanupPage(int id) override;
     bool validateCurrentPage() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void fitSubTitle();
+    void fitButtons();
+    void giveNames(QWizardPage &strengthPage);
     void openSession(const QString &file);
     void saveSessionAs();
     void startOver();
@@ -63,6 +67,8 @@ private:
     QStringList onPage;             ///< The photographs on the plug-in's page.
     QComboBox *imageList = nullptr; ///< The one on the plug-in's page; null if it has none.
     int shownImage = -1;            ///< The index in that list of the photograph shown below it.
+    QWidget *panel = nullptr;       ///< The preview on the plug-in's page; null if it has none.
+    bool showsMap = false;          ///< Alt is held over it.
     PhotoPage *photoPage;
     RunPage *runPage;
     ResultPage *resultPage;

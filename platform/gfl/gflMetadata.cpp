@@ -61,12 +61,12 @@ void dropFrom(Exiv2::ExifData &data, Drop drop)
         at = drop(*at) ? data.erase(at) : std::next(at);
 }
 
-double realValue(const Exiv2::ExifData &data, const char *key, long index = 0)
+double realValue(const Exiv2::ExifData &data, const char *key, int index = 0)
 {
     const auto at = data.findKey(Exiv2::ExifKey(key));
-    if (at == data.end() || at->count() <= index)
+    if (at == data.end() || int(at->count()) <= index)
         return 0;
-    const Exiv2::Rational value = at->toRational(index);
+    const Exiv2::Rational value = at->toRational(decltype(at->count())(index));
     const double real = value.second != 0 ? double(value.first) / double(value.second) : 0.0;
     return real > 0 ? real : 0.0;
 }
@@ -240,9 +240,13 @@ FileMetadata metadataFromFile(const RegularFile &file, bool raw)
         result.exif = encoded(data, image->byteOrder());
         if (raw && !image->iptcData().empty()) {
             const Exiv2::DataBuf iptc = Exiv2::IptcParser::encode(image->iptcData());
+#if EXIV2_TEST_VERSION(0, 28, 0)
+            result.iptc.assign(iptc.cbegin(), iptc.cend());
+#else
             result.iptc.assign(iptc.pData_, iptc.pData_ + iptc.size_);
+#endif
         }
-    } catch (const Exiv2::AnyError &) {
+    } catch (const Exiv2::Error &) {
         if (raw)
             throw Failure{GFL_ERROR_FILE_READ};
     }
@@ -261,7 +265,7 @@ Bytes shrinkExif(const Bytes &exif, std::size_t limit)
         const Bytes smaller = encoded(data, order); // leaves out large unknown tags by itself
         if (smaller.size() <= limit)
             return smaller;
-    } catch (const Exiv2::AnyError &) {
+    } catch (const Exiv2::Error &) {
     }
     return {};
 }
@@ -287,7 +291,7 @@ ExposureFacts exposureFacts(const Bytes &exif)
         facts.comments = textValue(data, "Exif.Image.ImageDescription");
         facts.make = textValue(data, "Exif.Image.Make");
         facts.model = textValue(data, "Exif.Image.Model");
-    } catch (const Exiv2::AnyError &) {
+    } catch (const Exiv2::Error &) {
     }
     return facts;
 }
@@ -318,7 +322,7 @@ Bytes exifFromFacts(const ExposureFacts &facts)
         if (!facts.model.empty())
             data["Exif.Image.Model"] = facts.model;
         return encoded(data, Exiv2::littleEndian);
-    } catch (const Exiv2::AnyError &) {
+    } catch (const Exiv2::Error &) {
         return {};
     }
 }
@@ -333,7 +337,7 @@ Bytes exifFromTexts(const std::vector<std::pair<std::uint16_t, std::string>> &te
         if (orientation > 0)
             data["Exif.Image.Orientation"] = std::uint16_t(orientation);
         return encoded(data, Exiv2::littleEndian);
-    } catch (const Exiv2::AnyError &) {
+    } catch (const Exiv2::Error &) {
         return {};
     }
 }

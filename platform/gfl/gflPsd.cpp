@@ -266,8 +266,8 @@ Bytes resourcesOf(const WriteRequest &request)
         appendPhotoshopResource(section, kResourceResolution, resolution);
     }
     if (bitmap.componentsPerPixel == 4) {
-        Bytes names(1, std::uint8_t(sizeof kAlphaName - 1));
-        names.insert(names.end(), kAlphaName, kAlphaName + sizeof kAlphaName - 1);
+        Bytes names(sizeof kAlphaName, std::uint8_t(sizeof kAlphaName - 1)); // the length of the name, and the name
+        std::copy_n(kAlphaName, sizeof kAlphaName - 1, names.begin() + 1);
         appendPhotoshopResource(section, kResourceAlphaNames, names);
     }
     if (!request.iptc.empty())

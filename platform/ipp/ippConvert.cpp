@@ -3,13 +3,13 @@
 #include <cstring>
 #include <type_traits>
 
+#include "InstructionSet.h"
 #include "convertSample.h"
-#include "ippVersions.h"
 
 namespace {
 
 template<typename From, typename To>
-IPP_INLINE void scaleRow(const void *source, void *target, std::size_t samples)
+NIMBRA_INLINE void scaleRow(const void *source, void *target, std::size_t samples)
 {
     const auto *__restrict from = static_cast<const From *>(source);
     auto *__restrict to = static_cast<To *>(target);
@@ -18,7 +18,7 @@ IPP_INLINE void scaleRow(const void *source, void *target, std::size_t samples)
 }
 
 template<typename From>
-IPP_INLINE void scaleRowTo(int targetBits, const void *source, void *target, std::size_t samples)
+NIMBRA_INLINE void scaleRowTo(int targetBits, const void *source, void *target, std::size_t samples)
 {
     switch (targetBits) {
     case 8:
@@ -30,7 +30,7 @@ IPP_INLINE void scaleRowTo(int targetBits, const void *source, void *target, std
     }
 }
 
-IPP_VERSIONS void scaleAnyRow(int sourceBits, int targetBits, const void *source, void *target, std::size_t samples)
+NIMBRA_INLINE void scaleAnyRowBody(int sourceBits, int targetBits, const void *source, void *target, std::size_t samples)
 {
     switch (sourceBits) {
     case 8:
@@ -41,10 +41,11 @@ IPP_VERSIONS void scaleAnyRow(int sourceBits, int targetBits, const void *source
         return scaleRowTo<float>(targetBits, source, target, samples);
     }
 }
+const auto scaleAnyRow = versionOf<scaleAnyRowBody>();
 
 /// Copies colours from 1, 3 or 4 channels to 3 or 4. `Opaque` sets a fourth channel to `alpha`; otherwise it is left unchanged.
 template<typename Sample, int From, int To, bool Opaque>
-IPP_INLINE void copyRow(const Sample *__restrict from, Sample *__restrict to, std::size_t pixels, Sample alpha)
+NIMBRA_INLINE void copyRow(const Sample *__restrict from, Sample *__restrict to, std::size_t pixels, Sample alpha)
 {
     std::size_t i = 0;
     // From 3 or 4 channels, all pixels but the last are copied as four samples at once: whatever the fourth sample overwrites is
@@ -65,8 +66,8 @@ IPP_INLINE void copyRow(const Sample *__restrict from, Sample *__restrict to, st
 }
 
 template<typename Sample>
-IPP_INLINE void copyRowOf(int sourceChannels, int targetChannels, const void *source, void *target, std::size_t pixels,
-                          const void *alpha)
+NIMBRA_INLINE void copyRowOf(int sourceChannels, int targetChannels, const void *source, void *target, std::size_t pixels,
+                             const void *alpha)
 {
     const auto *from = static_cast<const Sample *>(source);
     auto *to = static_cast<Sample *>(target);
@@ -80,8 +81,8 @@ IPP_INLINE void copyRowOf(int sourceChannels, int targetChannels, const void *so
     return alpha ? copyRow<Sample, 1, 4, true>(from, to, pixels, opaque) : copyRow<Sample, 1, 4, false>(from, to, pixels, opaque);
 }
 
-IPP_VERSIONS void copyAnyRow(int bits, int sourceChannels, int targetChannels, const void *source, void *target,
-                             std::size_t pixels, const void *alpha)
+NIMBRA_INLINE void copyAnyRowBody(int bits, int sourceChannels, int targetChannels, const void *source, void *target,
+                                  std::size_t pixels, const void *alpha)
 {
     switch (bits) {
     case 8:
@@ -92,9 +93,10 @@ IPP_VERSIONS void copyAnyRow(int bits, int sourceChannels, int targetChannels, c
         return copyRowOf<float>(sourceChannels, targetChannels, source, target, pixels, alpha);
     }
 }
+const auto copyAnyRow = versionOf<copyAnyRowBody>();
 
 template<typename Sample, int Channels>
-IPP_INLINE void greyRow(const void *source, void *target, std::size_t pixels)
+NIMBRA_INLINE void greyRow(const void *source, void *target, std::size_t pixels)
 {
     const auto *__restrict from = static_cast<const Sample *>(source);
     auto *__restrict to = static_cast<Sample *>(target);
@@ -108,14 +110,14 @@ IPP_INLINE void greyRow(const void *source, void *target, std::size_t pixels)
 }
 
 template<typename Sample>
-IPP_INLINE void greyRowOf(int channels, const void *source, void *target, std::size_t pixels)
+NIMBRA_INLINE void greyRowOf(int channels, const void *source, void *target, std::size_t pixels)
 {
     if (channels == 3)
         return greyRow<Sample, 3>(source, target, pixels);
     return greyRow<Sample, 4>(source, target, pixels);
 }
 
-IPP_VERSIONS void greyAnyRow(int bits, int channels, const void *source, void *target, std::size_t pixels)
+NIMBRA_INLINE void greyAnyRowBody(int bits, int channels, const void *source, void *target, std::size_t pixels)
 {
     switch (bits) {
     case 8:
@@ -126,8 +128,9 @@ IPP_VERSIONS void greyAnyRow(int bits, int channels, const void *source, void *t
         return greyRowOf<float>(channels, source, target, pixels);
     }
 }
+const auto greyAnyRow = versionOf<greyAnyRowBody>();
 
-IPP_VERSIONS void swapRow(void *raster, std::size_t pixels, const int order[4])
+NIMBRA_INLINE void swapRowBody(void *raster, std::size_t pixels, const int order[4])
 {
     const int shift0 = 8 * order[0], shift1 = 8 * order[1], shift2 = 8 * order[2], shift3 = 8 * order[3];
     auto *bytes = static_cast<unsigned char *>(raster);
@@ -139,6 +142,7 @@ IPP_VERSIONS void swapRow(void *raster, std::size_t pixels, const int order[4])
         std::memcpy(bytes, &pixel, sizeof(pixel));
     }
 }
+const auto swapRow = versionOf<swapRowBody>();
 
 bool isDepth(int bits)
 {

@@ -5,7 +5,7 @@
 #include <limits>
 #include <type_traits>
 
-#include "ippVersions.h"
+#include "InstructionSet.h"
 
 /// The minimum over a window in three comparisons per sample, whatever the window's size: positions are divided into blocks as
 /// long as the window, so that a window is the tail of one block and the head of the next. Source: M. van Herk, A fast algorithm
@@ -21,7 +21,7 @@ constexpr int kTilePixels = 128; ///< Columns are filtered in tiles, so that the
 constexpr int kTileSamples = kTilePixels * kChannels;
 constexpr std::int32_t kNone = std::numeric_limits<std::int32_t>::max(); ///< A sample outside the raster; above every value.
 
-IPP_INLINE std::int32_t rankOf(float value)
+NIMBRA_INLINE std::int32_t rankOf(float value)
 {
     std::int32_t bits;
     std::memcpy(&bits, &value, sizeof bits);
@@ -29,7 +29,7 @@ IPP_INLINE std::int32_t rankOf(float value)
     return magnitude > 0x7f800000 ? kNone : bits ^ ((bits >> 31) & 0x7fffffff);
 }
 
-IPP_INLINE float valueOf(std::int32_t rank)
+NIMBRA_INLINE float valueOf(std::int32_t rank)
 {
     const std::int32_t bits = rank ^ ((rank >> 31) & 0x7fffffff);
     float value;
@@ -38,15 +38,15 @@ IPP_INLINE float valueOf(std::int32_t rank)
 }
 
 template<typename T>
-IPP_INLINE T *rowOf(T *first, int stepBytes, int row)
+NIMBRA_INLINE T *rowOf(T *first, int stepBytes, int row)
 {
     using Byte = std::conditional_t<std::is_const_v<T>, const unsigned char, unsigned char>;
     return reinterpret_cast<T *>(reinterpret_cast<Byte *>(first) + std::ptrdiff_t(stepBytes) * row);
 }
 
 /// Column minima of one tile with `samples` samples per row. `scratch` has room for mask + 2 rows of kTileSamples.
-IPP_VERSIONS void filterColumns(const float *source, int sourceStep, float *target, int targetStep, int samples, int height,
-                                int mask, int anchor, std::int32_t *scratch)
+NIMBRA_INLINE void filterColumnsBody(const float *source, int sourceStep, float *target, int targetStep, int samples, int height,
+                                     int mask, int anchor, std::int32_t *scratch)
 {
     std::int32_t *const head = scratch;
     std::int32_t *const tails = scratch + kTileSamples;
@@ -80,8 +80,9 @@ IPP_VERSIONS void filterColumns(const float *source, int sourceStep, float *targ
         }
     }
 }
+const auto filterColumns = versionOf<filterColumnsBody>();
 
-IPP_INLINE void takeMinimum(std::int32_t *target, const std::int32_t *a, const std::int32_t *b)
+NIMBRA_INLINE void takeMinimum(std::int32_t *target, const std::int32_t *a, const std::int32_t *b)
 {
     for (int c = 0; c < kChannels; ++c)
         target[c] = std::min(a[c], b[c]);
@@ -89,7 +90,7 @@ IPP_INLINE void takeMinimum(std::int32_t *target, const std::int32_t *a, const s
 
 /// Row minima, in place. `scratch` has room for the padded row (whole blocks, and one more) and for the tails of one block with a
 /// sentinel.
-IPP_VERSIONS void filterRow(float *pixels, int width, int mask, int anchor, std::int32_t *scratch)
+NIMBRA_INLINE void filterRowBody(float *pixels, int width, int mask, int anchor, std::int32_t *scratch)
 {
     const int blocks = (width + mask - 1) / mask + 1;
     const std::ptrdiff_t padded = std::ptrdiff_t(blocks) * mask * kChannels;
@@ -119,6 +120,7 @@ IPP_VERSIONS void filterRow(float *pixels, int width, int mask, int anchor, std:
         }
     }
 }
+const auto filterRow = versionOf<filterRowBody>();
 
 } // namespace
 

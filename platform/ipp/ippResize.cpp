@@ -4,7 +4,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "ippVersions.h"
+#include "InstructionSet.h"
 
 namespace {
 
@@ -82,7 +82,7 @@ template<typename Sample>
 using SumOf = std::conditional_t<std::is_same_v<Sample, float>, float, double>;
 
 template<typename Sample>
-IPP_INLINE Sample toSample(SumOf<Sample> value)
+NIMBRA_INLINE Sample toSample(SumOf<Sample> value)
 {
     if constexpr (std::is_same_v<Sample, float>)
         return value;
@@ -105,8 +105,8 @@ struct IppiResizeSpec
 namespace {
 
 template<typename Sample>
-IPP_INLINE void sumRows(const unsigned char *source, std::ptrdiff_t step, const Taps &taps, const double *weights,
-                        double weightSum, std::size_t samples, SumOf<Sample> *sums)
+NIMBRA_INLINE void sumRows(const unsigned char *source, std::ptrdiff_t step, const Taps &taps, const double *weights,
+                           double weightSum, std::size_t samples, SumOf<Sample> *sums)
 {
     using Sum = SumOf<Sample>;
     const auto row = [&](int tap) { return reinterpret_cast<const Sample *>(source + step * (taps.first + tap)); };
@@ -160,7 +160,7 @@ IPP_INLINE void sumRows(const unsigned char *source, std::ptrdiff_t step, const 
 }
 
 template<typename Sample, int Channels>
-IPP_INLINE void sumColumns(const IppiResizeSpec &spec, const SumOf<Sample> *sums, Sample *target)
+NIMBRA_INLINE void sumColumns(const IppiResizeSpec &spec, const SumOf<Sample> *sums, Sample *target)
 {
     using Sum = SumOf<Sample>;
     const bool sumsAreMeans = std::is_same_v<Sample, float>;
@@ -181,8 +181,8 @@ IPP_INLINE void sumColumns(const IppiResizeSpec &spec, const SumOf<Sample> *sums
 }
 
 template<typename Sample, int Channels>
-IPP_INLINE void resizeRow(const IppiResizeSpec &spec, const unsigned char *source, std::ptrdiff_t step, void *target, int y,
-                          void *buffer)
+NIMBRA_INLINE void resizeRow(const IppiResizeSpec &spec, const unsigned char *source, std::ptrdiff_t step, void *target, int y,
+                             void *buffer)
 {
     auto *sums = static_cast<SumOf<Sample> *>(buffer);
     const Taps &taps = spec.taps[1][y];
@@ -192,8 +192,8 @@ IPP_INLINE void resizeRow(const IppiResizeSpec &spec, const unsigned char *sourc
 }
 
 template<typename Sample>
-IPP_INLINE void resizeRowOf(const IppiResizeSpec &spec, const unsigned char *source, std::ptrdiff_t step, void *target, int y,
-                            void *buffer)
+NIMBRA_INLINE void resizeRowOf(const IppiResizeSpec &spec, const unsigned char *source, std::ptrdiff_t step, void *target, int y,
+                               void *buffer)
 {
     switch (spec.form.components) {
     case 1:
@@ -205,8 +205,8 @@ IPP_INLINE void resizeRowOf(const IppiResizeSpec &spec, const unsigned char *sou
     }
 }
 
-IPP_VERSIONS void resizeAnyRow(const IppiResizeSpec &spec, const unsigned char *source, std::ptrdiff_t step, void *target, int y,
-                               void *buffer)
+NIMBRA_INLINE void resizeAnyRowBody(const IppiResizeSpec &spec, const unsigned char *source, std::ptrdiff_t step, void *target,
+                                    int y, void *buffer)
 {
     switch (spec.form.bits) {
     case 8:
@@ -217,6 +217,7 @@ IPP_VERSIONS void resizeAnyRow(const IppiResizeSpec &spec, const unsigned char *
         return resizeRowOf<float>(spec, source, step, target, y, buffer);
     }
 }
+const auto resizeAnyRow = versionOf<resizeAnyRowBody>();
 
 bool isEmpty(IppiSize size)
 {

@@ -3,12 +3,12 @@
 #include <cmath>
 #include <cstddef>
 
+#include "InstructionSet.h"
+
 namespace {
 
 // Generic vectors, which each version of a kernel maps to its instruction set.
 typedef float Lanes __attribute__((vector_size(kStrip * sizeof(float))));
-
-#define NIMBRA_INLINE __attribute__((always_inline)) inline
 
 NIMBRA_INLINE Lanes &lanes(float *at)
 {
@@ -169,8 +169,8 @@ NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips,
 
 NIMBRA_VERSION(Plain, 2, )
 #ifdef __x86_64__
-NIMBRA_VERSION(Avx2, 4, __attribute__((target("avx2,fma"))))
-NIMBRA_VERSION(Avx512, 8, __attribute__((target("avx512f"))))
+NIMBRA_VERSION(Avx2, 4, NIMBRA_AVX2)
+NIMBRA_VERSION(Avx512, 8, NIMBRA_AVX512)
 #endif
 
 } // namespace
@@ -178,10 +178,14 @@ NIMBRA_VERSION(Avx512, 8, __attribute__((target("avx512f"))))
 const FrontKernels &frontKernels()
 {
 #ifdef __x86_64__
-    if (__builtin_cpu_supports("avx512f"))
+    switch (instructionSet()) {
+    case InstructionSet::Avx512:
         return kAvx512;
-    if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma"))
+    case InstructionSet::Avx2:
         return kAvx2;
+    case InstructionSet::Plain:
+        break;
+    }
 #endif
     return kPlain;
 }

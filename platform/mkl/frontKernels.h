@@ -28,5 +28,5 @@ constexpr long contributionStart(long strip)
     return kStrip * kStrip * (strip * (strip + 1) / 2);
 }
 
-/// The version for this machine's instruction set.
+/// The version for instructionSet().
 const FrontKernels &frontKernels();

@@ -78,8 +78,9 @@ TEST(VImage, CreateFillsTheRecord)
         EXPECT_EQ(0, record.origin | record.xDpi | record.yDpi | record.xOffset | record.yOffset);
         EXPECT_FALSE(record.comment || record.metaData || record.name);
         EXPECT_EQ(shape.type == 0x0004, record.colorMap != nullptr);
-        if (record.colorMap)
+        if (record.colorMap) {
             EXPECT_THAT(std::vector<char>(1024), testing::ElementsAreArray(static_cast<char *>(record.colorMap), 1024));
+        }
         for (int i = 0; i < shape.height * shape.bytesPerLine; ++i)
             ASSERT_EQ(0, image.PixelAddress(0, 0)[i]);
     }

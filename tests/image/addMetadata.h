@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstring>
+#include <utility>
 
 #include <QFile>
 #include <QString>
@@ -18,11 +19,15 @@ inline void addMetadata(const QString &path, int kinds = kExif | kIptc | kProfil
         image->exifData()["Exif.Photo.LensModel"] = "Acme 50 mm";
     if (kinds & kIptc)
         image->iptcData()["Iptc.Application2.Headline"] = "Fog";
-    Exiv2::DataBuf profile(132);
-    std::memset(profile.pData_, 0, 132);
-    profile.pData_[3] = 132; // the size of the profile
-    std::memcpy(profile.pData_ + 12, "mntrRGB XYZ ", 12);
-    if (kinds & kProfile)
-        image->setIccProfile(profile);
+    unsigned char profile[132] = {0, 0, 0, sizeof profile};
+    std::memcpy(profile + 12, "mntrRGB XYZ ", 12);
+    Exiv2::DataBuf buffer(profile, sizeof profile);
+    if (kinds & kProfile) {
+#if EXIV2_TEST_VERSION(0, 28, 0)
+        image->setIccProfile(std::move(buffer));
+#else
+        image->setIccProfile(buffer);
+#endif
+    }
     image->writeMetadata();
 }

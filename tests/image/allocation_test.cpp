@@ -64,8 +64,9 @@ void sweep(const std::function<void()> &prepare, const std::function<void()> &wo
         SCOPED_TRACE(testing::Message() << "allocation " << number << " of " << needed);
         EXPECT_NE(end, End::Other);
         check(end);
-        if (needed < number)
+        if (needed < number) {
             EXPECT_EQ(end, End::Done);
+        }
     } while (needed >= number && !testing::Test::HasFailure());
     EXPECT_GT(number, 1) << "not one allocation was counted";
 }
@@ -111,11 +112,10 @@ TEST_F(Allocation, ConversionAndResamplingGiveAWholeImageOrNone)
         std::unique_ptr<VImage> made;
         sweep([&] { made = std::make_unique<VImage>(); }, [&] { row.make(*made); },
               [&](End end) {
-                  if (end == End::Done)
-                      for (int y = 0; y < expected.Height(); ++y)
-                          ASSERT_EQ(std::memcmp(made->PixelAddress(0, y), expected.PixelAddress(0, y),
-                                                std::size_t(expected.Width()) * expected.Bitmap()->bytesPerPixel),
-                                    0);
+                  for (int y = 0; end == End::Done && y < expected.Height(); ++y)
+                      ASSERT_EQ(std::memcmp(made->PixelAddress(0, y), expected.PixelAddress(0, y),
+                                            std::size_t(expected.Width()) * expected.Bitmap()->bytesPerPixel),
+                                0);
               });
         expectUntouched();
     }
@@ -167,8 +167,9 @@ TEST_F(Allocation, UpsamplingThroughThePyramid)
     std::unique_ptr<float[]> map;
     sweep([&] { map.reset(); }, [&] { map.reset(picture.image->HazeUpsample(lowMap.data(), &low)); },
           [&](End end) {
-              if (end == End::Done)
+              if (end == End::Done) {
                   EXPECT_EQ(firstDifference(map.get(), expected.get(), kPixels), "");
+              }
           });
     expectUntouched();
 }

@@ -16,7 +16,7 @@ TEST(Dehaze, GivesTheProgramWhatTheUserNamedAndNothingElse)
                                    "cd ../photos; touch mine.png -- -dash.png",
                                    {QStringLiteral("DEHAZE=") + DEHAZE});
     ASSERT_EQ(made.code, 0) << made.err;
-    const QString built = "install-dependencies\nbuild release veilaway Nimbra draw_scene\n";
+    const QString built = "install-dependencies --build\nbuild --program release veilaway Nimbra draw_scene\n";
     const struct
     {
         const char *arguments, *given; ///< `given` to the program; null where nothing may be called.

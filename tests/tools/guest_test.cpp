@@ -211,7 +211,7 @@ TEST_P(Guest, LeavesNothingBehind)
 }
 
 INSTANTIATE_TEST_SUITE_P(Services, Guest, testing::Bool(),
-                         [](const testing::TestParamInfo<bool> &info) { return info.param ? "lent" : "alone"; });
+                         [](const testing::TestParamInfo<bool> &row) { return row.param ? "lent" : "alone"; });
 
 TEST(GuestLoad, RegistersItsResourceSetsInOrder)
 {

@@ -79,10 +79,11 @@ TEST_F(Resources, EveryCatalogueHasEveryTextInEveryLanguage)
                 EXPECT_FALSE(text.isEmpty()) << qPrintable(file) << ": " << source;
                 for (const char *part : {"%1", "\n"})
                     EXPECT_EQ(text.count(part), QString(source).count(part)) << qPrintable(file) << ": " << source;
-                if (language == "en")
+                if (language == "en") {
                     EXPECT_EQ(text, source);
-                else if (qstrlen(source) > 5) // units and "Next" may be the same
+                } else if (qstrlen(source) > 5) { // units and "Next" may be the same
                     EXPECT_NE(text, source) << qPrintable(file);
+                }
             }
         }
     }

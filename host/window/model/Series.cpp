@@ -346,9 +346,8 @@ Series::Facts Series::facts(int row) const
 {
     const Photo &photo = *photos.at(std::size_t(row));
     Facts all = photo.facts;
-    const bool tiff = application.imageDef(photo.path)->needsTiffOutput();
-    all.resultName =
-        QFileInfo(stateOf(photo) == State::Saved ? photo.result : BatchPlan::resultName(photo.path, tiff)).fileName();
+    const bool saved = stateOf(photo) == State::Saved;
+    all.resultName = QFileInfo(saved ? photo.result : SaveQueue::resultName(photo.path, application, options)).fileName();
     return all;
 }
 
@@ -715,7 +714,8 @@ void Series::follow(SaveQueue &next)
 
 SaveQueue::Order Series::orderOf(const Photo &photo) const
 {
-    return {photo.path, photo.strength, photo.resultStrength};
+    const bool current = photo.resultStrength && percentOf(photo) == photo.resultStrength;
+    return {photo.path, photo.strength, current ? photo.result : QString()};
 }
 
 void Series::save(const QList<int> &given)
@@ -788,7 +788,7 @@ void Series::onEnded(const QString &path, const BatchOutcome &outcome, const QSt
         photo->resultStrength = outcome.strength;
         photo->result = result;
     }
-    const bool kept = outcome.reason == BatchOutcome::Reason::ResultExists;
+    const bool kept = outcome.status == BatchOutcome::Status::Skipped || outcome.reason == BatchOutcome::Reason::ResultExists;
     if (outcome.status != BatchOutcome::Status::Stopped) {
         photo->kept = kept;
         photo->failure = outcome.hasResult() || kept ? Photo::Failure::None : Photo::Failure::Saving;

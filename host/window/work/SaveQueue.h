@@ -9,7 +9,6 @@
 #include <QElapsedTimer>
 #include <QHash>
 #include <QObject>
-#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -26,9 +25,9 @@ class SaveQueue : public QObject, private BatchRunner::Observer
     Q_OBJECT
 
 public:
-    /// What is done with a photograph whose result exists already.
-    enum class Existing {
-        ReplaceChanged, ///< Kept if it was made at the same strength and is not older than the photograph, or else replaced.
+    /// What is done with a photograph whose result exists already. A result that is kept is not a failure.
+    enum class Policy {
+        ReplaceChanged, ///< Kept if it is Order::currentResult and not older than the photograph, or else replaced.
         ReplaceAll,
         KeepBoth, ///< The new result gets a number behind the tag.
         Skip
@@ -37,10 +36,9 @@ public:
     /// How results are written; each member as the option of the command line.
     struct Options
     {
-        Existing existing = Existing::ReplaceChanged;
+        Policy existing = Policy::ReplaceChanged;
         QString folder;             ///< Absolute; empty for the photograph's own.
-        QString tag;                ///< Empty for the plug-in's.
-        std::optional<int> quality; ///< Of a JPEG.
+        std::optional<QString> tag; ///< Instead of the plug-in's; may be empty.
 
         bool operator==(const Options &other) const;
     };
@@ -50,7 +48,7 @@ public:
     {
         QString path; ///< Absolute.
         WantedStrength strength;
-        std::optional<int> resultStrength; ///< The one that its present result was made at, if known.
+        QString currentResult; ///< Absolute; the result that was made at this strength, or empty.
     };
 
     struct Progress
@@ -65,7 +63,7 @@ public:
     {
         int saved = 0;     ///< Results written, also those that show the photograph unchanged.
         int unchanged = 0; ///< Those of them that do.
-        int kept = 0;      ///< Results that existed and were not to be replaced. No failures.
+        int kept = 0;      ///< Results that existed and were not to be replaced.
         int failed = 0;
         int stopped = 0;
         double seconds = 0;
@@ -76,19 +74,16 @@ public:
     /// Like quit().
     ~SaveQueue() override;
 
-    /// Adds photographs. One that is waiting gets the new order in its place; one that is in work is saved again. `series` are
-    /// all photographs that must keep their results: none of them is overwritten, and no other photograph gets a name that one
-    /// of them has.
-    void add(const QVector<Order> &orders, const Options &options, const QStringList &series);
-    /// Adds a photograph that failed, with its order.
-    void retry(const QString &path);
+    /// Adds photographs behind those that wait. One that waits already gets the new order; one that is in work is saved again.
+    /// `series` are all photographs whose results may not overwrite each other.
+    void add(const QVector<Order> &orders, const Options &next, const QStringList &series);
     /// Takes out a photograph that is waiting; one that is in work is saved.
     void drop(const QString &path);
 
     /// Begins no further photograph; those in work are saved.
-    void pause();
-    void resume();
-    bool isPaused() const { return paused; }
+    void pause() { setPaused(true); }
+    void resume() { setPaused(false); }
+    bool isPaused() const;
     /// Drops what is waiting and ends what is in work without a result, except where the result is being written already.
     /// Returns at once; `ended` follows.
     void stop();
@@ -96,12 +91,13 @@ public:
     /// outcome is reported for it. Nothing can be added afterwards.
     void quit();
 
-    bool isActive() const;
-    /// The photographs that are waiting or in work, in their order.
-    QVector<Order> unfinished() const;
+    /// Something waits or is in work.
+    bool isActive() const { return worker.joinable(); }
     Progress progress() const;
 
-    /// What the user reads in place of the command line's message for this outcome; empty if there is nothing to say.
+    /// The result's path with these options, unless a policy gives it a number.
+    static QString resultName(const QString &path, HostApplication &host, const Options &options);
+    /// What the window's user reads about this outcome; empty if there is nothing to say.
     static QString textOf(const BatchOutcome &outcome);
 
 Q_SIGNALS:
@@ -119,15 +115,56 @@ private:
     {
         Order order;
         Options options;
-        double pixels = 0;
+        double weight = 0; ///< In pixels; 0 if not known yet.
+        double share = 0;  ///< Of the work, done.
+        bool begun = false;
+        bool withdrawn = false; ///< It was taken out while it waited; its outcome is not reported.
+        bool ended = false;
+        QString result;
+    };
+    /// What the batch's threads report.
+    struct News
+    {
+        std::size_t job;
+        std::optional<BatchRunner::Stage> stage;
+        BatchOutcome outcome; ///< Without a stage.
     };
 
     void stageBegins(int item, BatchRunner::Stage stage) override;
     void finished(int item, const BatchOutcome &outcome) override;
+    bool mayBegin(int item) override;
+
+    void setPaused(bool next);
+    void timeWork(); ///< Call it where working begins or ends.
+    void beginRound();
+    std::vector<BatchItem> plan(const std::vector<Order> &orders, const Options &options, const QStringList &series);
+    void endRound();
+    void end(const Job &job, const BatchOutcome &outcome);
+    bool withdraw(const QString &path); ///< From the round, if it waits there.
+    bool isWaiting(const QString &path) const;
+    void post(News fresh);
+    void takeNews();
 
     HostApplication &application;
-    VIPluginOne2One &one2one;
     BatchRunner runner;
+    const QString processName;
     const int jobCount;
+
+    std::vector<Job> line;  ///< What waits for the next round.
+    QStringList everything; ///< The series.
+    Summary summary;
+    int endedCount = 0;
+    double endedWeight = 0;
+    double savedWeight = 0; ///< Without those that were not saved.
+    double doneSeconds = 0; ///< How long the queue has worked before the present stretch.
+    QElapsedTimer stretch;  ///< Valid while the queue works.
+    bool quitting = false;
+    std::thread worker;
+
+    mutable std::mutex mutex; ///< Guards what follows.
+    std::condition_variable woken;
+    std::vector<Job> round; ///< What the batch works on, in the order of its items.
+    std::vector<News> news;
     bool paused = false;
+    bool stopping = false;
 };

@@ -123,7 +123,7 @@ void readPictureHead(const Opened &opened, PhotoHead &head)
             head.height = std::max(int(image->pixelHeight()), 0);
             const Exiv2::ExifData &exif = image->exifData();
             const auto found = exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
-            const auto orientation = found != exif.end() && found->count() > 0 ? found->toLong() : 1;
+            const float orientation = found != exif.end() && found->count() > 0 ? found->toFloat() : 1.0f;
             head.orientation = orientation >= 1 && orientation <= 8 ? int(orientation) : 1;
         }
     } catch (const std::exception &) {

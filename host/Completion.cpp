@@ -1,0 +1,6 @@
+#include "OptionTable.h"
+
+QString OptionTable::completion(const QString &shell)
+{
+    return shell;
+}
