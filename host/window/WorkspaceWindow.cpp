@@ -324,8 +324,10 @@ void WorkspaceWindow::connectWork()
         if (const auto percent = photo ? photo->automaticStrength() : std::nullopt)
             series.knowAutomatic(path, *percent);
         showPixels(path);
-        picture->showMapReady(path);
+        if (path == picture->path() && photo && !photo->whyUnchanged().isEmpty())
+            bar->say(MessageBar::Kind::Problem, tr("%1: %2").arg(QFileInfo(path).fileName(), photo->whyUnchanged()));
     });
+    connect(picture, &PictureView::pictureFailed, this, &WorkspaceWindow::complain);
     connect(&store, &PhotoStore::failed, this, [this](const QString &path, const QString &reason) {
         if (path != picture->path())
             return;
