@@ -27,7 +27,8 @@ QStringList filesOf(const QStringList &paths, QStringList &empty)
     QStringList arguments, files;
     for (const QString &path : paths)
         arguments << argumentText(QFile::encodeName(QDir::cleanPath(QFileInfo(path).absoluteFilePath())));
-    for (const QString &name : PhotographList(arguments, {}).photographs())
+    const PhotographList list(arguments, {});
+    for (const QString &name : list.photographs())
         if (const QString path = QString::fromUtf8(argumentBytes(name)); QFileInfo(path).isDir())
             empty << path;
         else
