@@ -62,6 +62,9 @@ public:
     /// are handed to it transposed, and refused if their height is not below this limit either.
     static constexpr int kRefusedWidth = 21475;
 
+    /// The most memory, in bytes, that one photograph takes, with `facts` as the engine sees them; `untouched` at strength 0.
+    static qint64 memoryFor(const PhotoHead &facts, bool untouched);
+
 private:
     void work(const std::vector<BatchItem> &items);
     BatchOutcome process(const BatchItem &item, int index);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -25,14 +24,6 @@ class OpenPhoto
     Q_DECLARE_TR_FUNCTIONS(OpenPhoto)
 
 public:
-    /// Pixels and map at one of the sizes that are kept.
-    struct Level
-    {
-        VImage pixels;                        ///< In the form of the file: Grey, Rgb or Rgba with 8, 16 or 32 bits per sample.
-        std::shared_ptr<DecodedPhoto> source; ///< What `pixels` is a view of, or null.
-    };
-    using Map = std::vector<float>; ///< Of a level's size, row by row; 0 is no haze.
-
     /// Reads the file. Takes a tenth of a second for 24 megapixels; the map is not estimated. Throws VException and
     /// std::bad_alloc. Any thread.
     static std::shared_ptr<const OpenPhoto> read(const QString &path);
@@ -42,22 +33,22 @@ public:
     /// std::bad_alloc. Any thread.
     std::shared_ptr<const OpenPhoto> withMap() const;
 
-    /// The most bytes that reading this photograph and estimating its map take, and those that are kept afterwards.
+    /// The most bytes that each of these takes in addition to what is there before it, for a photograph with this head.
     struct Memory
     {
-        qint64 preparing = 0;
-        qint64 kept = 0;
+        qint64 reading = 0;
+        qint64 estimating = 0; ///< The map.
     };
     static Memory memoryFor(const PhotoHead &facts);
 
     const QString &path() const { return file; }
     /// Upright, in pixels.
     QSize size() const { return {width(), height()}; }
-    int width() const { return levels.front()->pixels.Width(); }
-    int height() const { return levels.front()->pixels.Height(); }
+    int width() const { return pixels(0).Width(); }
+    int height() const { return pixels(0).Height(); }
     /// Type and bits per sample of the file, as in VImage.
-    unsigned short type() const { return levels.front()->pixels.Type(); }
-    int bitsPerComponent() const { return levels.front()->pixels.BitsPerComponent(); }
+    unsigned short type() const { return pixels(0).Type(); }
+    int bitsPerComponent() const { return pixels(0).BitsPerComponent(); }
     /// The colour profile (ICC) that the file contains; empty if there is none, which means sRGB.
     const QByteArray &profile() const { return icc; }
     /// See AutomaticStrength. Nothing before the map is there.
@@ -74,9 +65,9 @@ public:
 
     /// Level 0 is the photograph itself; each next one is half as wide and high, rounded up, by area averaging.
     int levelCount() const { return int(levels.size()); }
-    const VImage &pixels(int level) const { return levels[std::size_t(level)]->pixels; }
-    /// Of the level's size; only if hasMap().
-    const Map &map(int level) const { return *maps[std::size_t(level)]; }
+    const VImage &pixels(int level) const { return levels[std::size_t(level)]->image; }
+    /// Of the level's size, one 32-bit float per pixel (Grey) and no gaps between rows; 0 is no haze. Only if hasMap().
+    const VImage &map(int level) const { return maps[std::size_t(level)]->image; }
 
     /// What a run at this strength would save, in the form of the file, of a rectangle inside a level. `strength` in per cent;
     /// without a map, as at 0. At level 0 it is bit for bit what a run saves. Throws VException and std::bad_alloc.
@@ -85,19 +76,25 @@ public:
     void recover(VImage &working, const float *mapValues, int strength) const;
 
     /// About half a million pixels at even distances, with the map's values for them, to count from.
-    const VImage &samples() const { return sampled->pixels; }
-    const Map &sampledMap() const { return *sampledMapValues; }
+    const VImage &samples() const { return sampledPixels->image; }
+    const VImage &sampledMap() const { return sampledValues->image; }
 
 private:
+    /// An image, and what it is a view of, if it is one.
+    struct Held
+    {
+        VImage image;
+        std::shared_ptr<void> memory;
+    };
+    using Image = std::shared_ptr<const Held>;
+
     OpenPhoto() = default;
 
     QString file;
     PhotoHead head;
     QByteArray icc;
-    std::vector<std::shared_ptr<const Level>> levels;
-    std::shared_ptr<const Level> sampled;
-    std::vector<std::shared_ptr<const Map>> maps;
-    std::shared_ptr<const Map> sampledMapValues;
+    std::vector<Image> levels, maps;
+    Image sampledPixels, sampledValues;
     std::array<float, 3> airlight{};
     QString unchanged;
     std::optional<int> automatic;
