@@ -3,11 +3,13 @@
 #include <algorithm>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include "BatchPlan.h"
 #include "DefaultStrength.h"
-#include "PhotoLoader.h"
+#include "PhotographList.h"
+#include "argumentText.h"
 
 namespace {
 
@@ -19,31 +21,18 @@ bool same(const WantedStrength &one, const WantedStrength &other)
     return one.automatic == other.automatic && (one.automatic || one.percent == other.percent);
 }
 
-QStringList patterns()
-{
-    QStringList all;
-    for (const QString &suffix : PhotoLoader::pictureSuffixes() + PhotoLoader::rawSuffixes())
-        all << "*." + suffix;
-    return all;
-}
-
 /// The photographs that these paths stand for, each once; folders without any go to `empty`.
 QStringList filesOf(const QStringList &paths, QStringList &empty)
 {
-    QStringList files;
-    for (const QString &given : paths) {
-        const QFileInfo info(given);
-        if (!info.isDir()) {
-            files << QDir::cleanPath(info.absoluteFilePath());
-            continue;
-        }
-        // Name filters ignore the case of letters.
-        const QFileInfoList inside = QDir(info.absoluteFilePath()).entryInfoList(patterns(), QDir::Files, QDir::Name);
-        if (inside.isEmpty())
-            empty << given;
-        for (const QFileInfo &file : inside)
-            files << QDir::cleanPath(file.absoluteFilePath());
-    }
+    QStringList arguments, files;
+    for (const QString &path : paths)
+        arguments << argumentText(QFile::encodeName(QDir::cleanPath(QFileInfo(path).absoluteFilePath())));
+    const PhotographList list(arguments, {});
+    for (const QString &name : list.photographs())
+        if (const QString path = QString::fromUtf8(argumentBytes(name)); QFileInfo(path).isDir())
+            empty << path;
+        else
+            files << path;
     files.removeDuplicates();
     return files;
 }
@@ -346,8 +335,11 @@ Series::Facts Series::facts(int row) const
 {
     const Photo &photo = *photos.at(std::size_t(row));
     Facts all = photo.facts;
+    const bool tiff = application.imageDef(photo.path)->needsTiffOutput();
     const bool saved = stateOf(photo) == State::Saved;
-    all.resultName = QFileInfo(saved ? photo.result : SaveQueue::resultName(photo.path, application, options)).fileName();
+    all.resultName =
+        QFileInfo(saved ? photo.result : BatchPlan::resultOf(photo.path, photo.path, SaveQueue::planOptions(options), tiff))
+            .fileName();
     return all;
 }
 
@@ -461,10 +453,10 @@ void Series::beginAdding()
     for (const auto &photo : photos)
         if (!photo->result.isEmpty())
             ours << photo->result;
-    adder.start([this, series, given = pending.first(), listed = paths(), ours] {
+    adder.start([this, series, given = pending.first(), listed = paths(), ours, rules = SaveQueue::planOptions(options)] {
         Added what;
         const QStringList files = filesOf(given, what.emptyFolders), all = listed + files;
-        QSet<QString> results = BatchPlan::resultsAmong(all, all, application);
+        QSet<QString> results = BatchPlan::resultsAmong(all, all, application, rules);
         results.unite(QSet<QString>(ours.begin(), ours.end()));
         QStringList fresh, listedResults;
         for (const QString &path : listed)

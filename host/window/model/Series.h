@@ -89,7 +89,7 @@ public:
     {
         int photographs = 0;
         int results = 0;          ///< Files left out because they are results of other photographs.
-        QStringList emptyFolders; ///< Folders without photographs, as given.
+        QStringList emptyFolders; ///< Folders without photographs, or that can't be read; absolute.
     };
     /// Appends photographs, those of a folder by name; each once. Left out are results of photographs that are given or listed,
     /// and listed results of these. They start at the default strength. Returns at once: the photographs follow in batches, and

@@ -13,6 +13,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include "BatchPlan.h"
 #include "BatchRunner.h"
 #include "HostApplication.h"
 #include "VIPluginOne2One.h"
@@ -95,8 +96,8 @@ public:
     bool isActive() const { return worker.joinable(); }
     Progress progress() const;
 
-    /// The result's path with these options, unless a policy gives it a number.
-    static QString resultName(const QString &path, HostApplication &host, const Options &options);
+    /// The same for the batch, for the names of results.
+    static BatchPlan::Options planOptions(const Options &options);
     /// What the window's user reads about this outcome; empty if there is nothing to say.
     static QString textOf(const BatchOutcome &outcome);
 
