@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPixmapCache>
 #include <QToolTip>
 

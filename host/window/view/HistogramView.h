@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QWidget>
 
 #include "Histogram.h"
@@ -21,4 +23,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString percent(double share) const;
+
+    std::optional<Histogram> shown;
 };

@@ -9,7 +9,6 @@
 #include <QComboBox>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyle>
 
 #include "OpenPhoto.h"
@@ -22,6 +21,7 @@ constexpr int kGap = 2;            ///< Between the two pictures side by side.
 constexpr int kGrip = 8;           ///< How far from the line it can be grasped.
 constexpr int kHandleRadius = 13;  ///< Of the knob on the line.
 constexpr int kChipMargin = 10;    ///< From the corner of the picture.
+constexpr int kPatienceMs = 250;   ///< A wait that is shorter has no sign.
 constexpr int kTurnMs = 40;        ///< Between two steps of the turning arc,
 constexpr int kTurnDegrees = 14;   ///< each of so much: a turn takes a second.
 constexpr double kLineStep = 0.02; ///< Of the picture, per key.
@@ -65,10 +65,13 @@ void PictureView::setRenderers(PictureRenderer *before, PictureRenderer *after)
 {
     connect(this, &PictureView::wanted, this,
             [before, after](Side side, const PictureRequest &request) { (side == Before ? before : after)->request(request); });
-    connect(before, &PictureRenderer::ready, this,
-            [this](const QImage &picture, const PictureRequest &request) { showPicture(Before, picture, request); });
-    connect(after, &PictureRenderer::ready, this,
-            [this](const QImage &picture, const PictureRequest &request) { showPicture(After, picture, request); });
+    for (const auto &[side, renderer] : {std::pair{Before, before}, std::pair{After, after}}) {
+        connect(
+            renderer, &PictureRenderer::ready, this,
+            [this, side = side](const QImage &picture, const PictureRequest &request) { showPicture(side, picture, request); });
+        connect(renderer, &PictureRenderer::failed, this,
+                [this](const PictureRequest &, const QString &reason) { Q_EMIT pictureFailed(reason); });
+    }
 }
 
 void PictureView::clearPictures(const QString &path)
@@ -77,7 +80,6 @@ void PictureView::clearPictures(const QString &path)
     failure.clear();
     thumb = QImage();
     photo.reset();
-    mapThere = false;
     for (Arrived &pictures : arrived)
         pictures = {};
     for (PictureRequest &request : asked)
@@ -96,7 +98,7 @@ void PictureView::showThumbnail(const QString &path, const QImage &thumbnail, QS
         if (sizeKnown)
             changeZoom([&] { zoom.setPhotograph(pixels); });
     }
-    updateAnimation();
+    updateWaiting();
     update();
 }
 
@@ -107,19 +109,9 @@ void PictureView::showPhoto(std::shared_ptr<const OpenPhoto> shown)
     photo = std::move(shown);
     failure.clear();
     sizeKnown = bool(photo);
-    mapThere = photo && photo->hasMap();
-    changeZoom([&] { zoom.setPhotograph(photo ? QSize(photo->width(), photo->height()) : QSize()); });
-    updateAnimation();
+    changeZoom([&] { zoom.setPhotograph(photo ? photo->size() : QSize()); });
+    updateWaiting();
     askSoon();
-    update();
-}
-
-void PictureView::showMapReady(const QString &path)
-{
-    if (path != shownPath)
-        return;
-    mapThere = true;
-    updateAnimation();
     update();
 }
 
@@ -127,7 +119,7 @@ void PictureView::showFailure(const QString &path, const QString &reason)
 {
     clearPictures(path);
     failure = reason;
-    updateAnimation();
+    updateWaiting();
     describe();
 }
 
@@ -304,7 +296,7 @@ void PictureView::ask()
 
 void PictureView::showPicture(Side side, const QImage &picture, const PictureRequest &request)
 {
-    if (!photo || request.photo != photo || picture.isNull())
+    if (!photo || !request.photo || request.photo->path() != shownPath || picture.isNull())
         return;
     const Kind kind = request.what == PictureRequest::HazeMap ? MapPicture : side == Before ? BeforePicture : AfterPicture;
     Arrived &pictures = arrived[kind];
@@ -316,17 +308,20 @@ void PictureView::showPicture(Side side, const QImage &picture, const PictureReq
         pictures.whole = picture;
         pictures.wholeRequest = request;
     }
-    updateAnimation();
+    updateWaiting();
     update();
 }
 
-void PictureView::updateAnimation()
+void PictureView::updateWaiting()
 {
-    const bool waits = !shownPath.isEmpty() && failure.isEmpty() && !mapThere;
-    if (!waits)
+    const bool waits = !shownPath.isEmpty() && failure.isEmpty() && !(photo && photo->isComplete());
+    if (!waits) {
+        waitShown = false;
         animation.stop();
-    else if (!animation.isActive() && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0)
-        animation.start(kTurnMs, this);
+        patience.stop();
+    } else if (!waitShown && !patience.isActive()) {
+        patience.start(kPatienceMs, this);
+    }
 }
 
 void PictureView::timerEvent(QTimerEvent *event)
@@ -335,6 +330,12 @@ void PictureView::timerEvent(QTimerEvent *event)
         asking.stop();
         layOut();
         ask();
+    } else if (event->timerId() == patience.timerId()) {
+        patience.stop();
+        waitShown = true;
+        if (style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0)
+            animation.start(kTurnMs, this);
+        update();
     } else if (event->timerId() == animation.timerId()) {
         turn = (turn + kTurnDegrees) % 360;
         update();
@@ -542,13 +543,12 @@ void PictureView::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const double ratio = devicePixelRatioF();
     painter.fillRect(rect(), kSurround);
-    const bool halved = comparison == Split && peeked == NoPeek;
     // Until the picture of the map is there, what is in view stays.
-    const bool mapShown = peeked == PeekMap && !arrived[MapPicture].picture.isNull();
+    const Peek shownPeek = peeked == PeekMap && arrived[MapPicture].picture.isNull() ? NoPeek : peeked;
+    const bool halved = comparison == Split && shownPeek == NoPeek;
     const auto kindOf = [&](int side) {
-        return mapShown ? MapPicture : peeked == PeekBefore || side == 0 ? BeforePicture : AfterPicture;
+        return shownPeek == PeekMap ? MapPicture : shownPeek == PeekBefore || side == 0 ? BeforePicture : AfterPicture;
     };
-    const bool alone = comparison == AfterOnly || (comparison == Split && peeked != NoPeek);
 
     // Pictures in device pixels, beginning at a whole one wherever the widget is in its window.
     painter.save();
@@ -562,10 +562,9 @@ void PictureView::paintEvent(QPaintEvent *)
         right.setLeft(lineAt());
         paintPane(painter, first, BeforePicture, left);
         paintPane(painter, first, AfterPicture, right);
-    } else if (alone) {
-        paintPane(painter, first, kindOf(1), first);
     } else {
-        paintPane(painter, first, kindOf(0), first);
+        if (comparison == SideBySide)
+            paintPane(painter, first, kindOf(0), first);
         paintPane(painter, second, kindOf(1), second);
     }
     painter.restore();
@@ -575,7 +574,7 @@ void PictureView::paintEvent(QPaintEvent *)
         painter.setPen(kOnSurround);
         painter.drawText(rect().adjusted(40, 40, -40, -40), Qt::AlignCenter | Qt::TextWordWrap, failure);
     } else if (!shownPath.isEmpty()) {
-        const QRect part = zoom.visible();
+        const QRect part = sizeKnown ? zoom.visible() : QRect(QPoint(), zoom.viewport());
         const auto within = [&](const QRect &shown) {
             return scaled(part.translated(shown.topLeft()) & shown, 1 / ratio).toRect();
         };
@@ -592,20 +591,19 @@ void PictureView::paintEvent(QPaintEvent *)
             paintChip(painter, within(first), Qt::AlignRight | Qt::AlignTop, after);
             painter.setClipping(false);
             paintLine(painter);
-        } else if (alone) {
-            paintChip(painter, within(first), Qt::AlignRight | Qt::AlignTop, nameOf(kindOf(1)));
         } else {
-            paintChip(painter, within(first), Qt::AlignLeft | Qt::AlignTop, nameOf(kindOf(0)));
+            if (comparison == SideBySide)
+                paintChip(painter, within(first), Qt::AlignLeft | Qt::AlignTop, nameOf(kindOf(0)));
             paintChip(painter, within(second), Qt::AlignRight | Qt::AlignTop, nameOf(kindOf(1)));
         }
-        if (!photo)
-            paintChip(painter, within(second), Qt::AlignRight | Qt::AlignBottom, tr("Reading the photograph"), /*turning=*/true);
-        else if (!mapThere)
-            paintChip(painter, within(second), Qt::AlignRight | Qt::AlignBottom, tr("Estimating the haze"), /*turning=*/true);
+        if (waitShown)
+            paintChip(painter, within(second), Qt::AlignRight | Qt::AlignBottom,
+                      photo ? tr("Estimating the haze") : tr("Reading the photograph"), /*turning=*/true);
     }
     if (keyboardFocus) {
         painter.setRenderHint(QPainter::Antialiasing, false);
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setBrush(Qt::NoBrush);
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 }

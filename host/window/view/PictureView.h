@@ -47,11 +47,10 @@ public:
     /// Another photograph, whose pixels are not there yet. `thumbnail` (upright, of any size, may be null) is shown enlarged.
     /// `pixels` is the upright size of the photograph, or empty if it is not known yet; the thumbnail's shape is used then.
     void showThumbnail(const QString &path, const QImage &thumbnail, QSize pixels);
-    /// Pixels of the photograph that is shown, or of another one. Null empties the view.
+    /// The photograph that is shown, as far as it is there, or another one. Until it is complete, a sign says that its haze is
+    /// being estimated. Null empties the view.
     void showPhoto(std::shared_ptr<const OpenPhoto> photo);
-    /// The haze map of the photograph is there: the sign that it is being estimated goes.
-    void showMapReady(const QString &path);
-    /// The photograph can't be shown: the reason stands in its place.
+    /// The photograph can't be shown: the reason is shown in its place.
     void showFailure(const QString &path, const QString &reason);
     QString path() const { return shownPath; }
 
@@ -92,6 +91,8 @@ Q_SIGNALS:
     void wanted(PictureView::Side side, const PictureRequest &request);
     void zoomChanged(double scale, bool fits);
     void peekChanged(PictureView::Peek peek);
+    /// One of the renderers could not make a picture; the last one stays.
+    void pictureFailed(const QString &reason);
 
 protected:
     bool event(QEvent *event) override;
@@ -130,7 +131,7 @@ private:
     bool holdsBy(const QKeyEvent &event, const QWidget &receiver) const;
     void describe();
     void updateCursor(QPointF position);
-    void updateAnimation();
+    void updateWaiting();
 
     QRect pane(int index) const;
     int paneCount() const { return comparison == SideBySide ? 2 : 1; }
@@ -150,7 +151,7 @@ private:
     std::shared_ptr<const OpenPhoto> photo;
     std::shared_ptr<ScreenColours> screenColours;
     PictureZoom zoom;
-    bool sizeKnown = false, mapThere = false;
+    bool sizeKnown = false;
     Arrived arrived[3];      ///< By Kind.
     PictureRequest asked[2]; ///< By Side.
 
@@ -165,6 +166,7 @@ private:
     QPointF dragFrom; ///< Device pixels.
     int wheelDelta = 0;
     bool keyboardFocus = false;
-    QBasicTimer asking, animation;
+    QBasicTimer asking, patience, animation;
+    bool waitShown = false;
     int turn = 0; ///< Degrees.
 };

@@ -30,8 +30,21 @@ void PictureZoom::setPhotograph(QSize pixels)
 {
     if (pixels == photo)
         return;
+    const QPointF middle = toPhotograph(QRectF(QPointF(), view).center());
+    const QPointF part(middle.x() / std::max(1, photo.width()), middle.y() / std::max(1, photo.height()));
+    const bool keepsScale = !fitted && !photo.isEmpty() && !pixels.isEmpty();
     photo = pixels;
-    fit();
+    if (keepsScale && factor >= fitScale())
+        showAt({part.x() * photo.width(), part.y() * photo.height()}, QRectF(QPointF(), view).center());
+    else
+        fit();
+}
+
+/// Puts this point of the photograph at this position in the viewport, as far as the edges allow.
+void PictureZoom::showAt(QPointF pixel, QPointF position)
+{
+    corner = (position - pixel * factor).toPoint();
+    keepInside();
 }
 
 void PictureZoom::setViewport(QSize devicePixels)
@@ -44,9 +57,7 @@ void PictureZoom::setViewport(QSize devicePixels)
         fit();
         return;
     }
-    const QPointF centre = QRectF(QPointF(), view).center();
-    corner = (centre - middle * factor).toPoint();
-    keepInside();
+    showAt(middle, QRectF(QPointF(), view).center());
 }
 
 void PictureZoom::fit()
@@ -61,8 +72,7 @@ void PictureZoom::setScale(double scale, QPointF anchor)
     const QPointF pixel = toPhotograph(anchor);
     factor = std::clamp(scale, fitScale(), kLargestScale);
     fitted = false;
-    corner = (anchor - pixel * factor).toPoint();
-    keepInside();
+    showAt(pixel, anchor);
 }
 
 void PictureZoom::stepScale(int steps, QPointF anchor)

@@ -14,9 +14,10 @@ class PictureZoom
 public:
     static constexpr double kLargestScale = 4;
 
-    /// A new photograph, or a viewport of another size. A photograph that fitted the viewport fits it again; otherwise the point
-    /// in the middle of the viewport stays there. Empty sizes are allowed; then nothing is visible.
+    /// Another photograph. If the last one fitted the viewport, so does this one; otherwise it is shown at the same scale, and
+    /// with the same part in the middle, so that a series can be compared. An empty size is allowed; then nothing is visible.
     void setPhotograph(QSize pixels);
+    /// What fitted the viewport fits it again; otherwise the point in the middle stays there. May be empty.
     void setViewport(QSize devicePixels);
 
     QSize photograph() const { return photo; }
@@ -45,6 +46,7 @@ public:
     QRectF toViewport(const QRectF &pixels) const;
 
 private:
+    void showAt(QPointF pixel, QPointF position);
     void keepInside();
 
     QSize photo, view;

@@ -10,3 +10,4 @@ inline const QColor kChip(24, 24, 24, 190);
 inline const QColor kOnChip(255, 255, 255);
 inline const QColor kLine(255, 255, 255);
 inline const QColor kLineEdge(0, 0, 0, 140);
+inline const QColor kPlotGround(24, 24, 24);
