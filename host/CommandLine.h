@@ -30,9 +30,11 @@ public:
     std::optional<QString> tag;
     Existing existing = Existing::Refuse;
     bool keepTime = false;
+    ResultPacking packing;
     bool recursive = false;
     bool nullSeparated = false;
     bool dryRun = false;
+    bool notify = false;
     bool quiet = false;
     bool json = false;
     bool shareServices = false;

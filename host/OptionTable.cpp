@@ -25,6 +25,11 @@ const std::vector<CommandOption> kOptions{
     {"tag", 0, "TEXT", nullptr, BitRun,
      TEXT("What is added to the names of results, in any language; with an empty text, results have the names of their "
           "photographs.")},
+    {"quality", 0, "N", "80 85 90 92 95 98 100", BitRun,
+     TEXT("Quality of JPEG results, from 1 to 100. Without this option, that of the photograph, but at least 92; other formats "
+          "give 92.")},
+    {"compression", 0, "KIND", "none deflate lzw", BitRun,
+     TEXT("Compression of TIFF results: none, deflate or lzw, all without loss. Without this option, that of the photograph.")},
     {"skip-existing", 0, nullptr, nullptr, BitRun, TEXT("Skip photographs whose result already exists.")},
     {"newer", 0, nullptr, nullptr, BitRun,
      TEXT("Skip photographs whose result is newer than they are and, as far as the settings file knows, was made at the same "
@@ -45,6 +50,7 @@ const std::vector<CommandOption> kOptions{
      TEXT("Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into "
           "memory.")},
     {"quiet", 'q', nullptr, nullptr, BitRun, TEXT("Report failures only.")},
+    {"notify", 0, nullptr, nullptr, BitRun, TEXT("Show a notification of the desktop at the end.")},
     {"json", 0, nullptr, nullptr, BitRun, TEXT("Write one line with a JSON object for each photograph.")},
     {"language", 0, "LANG", "de en es fr it ja pl ru zh_CN zh_TW", kAll,
      TEXT(

@@ -42,7 +42,7 @@
 #include "ScreenColours.h"
 #include "StrengthPanel.h"
 #include "VException.h"
-#include "desktopNotice.h"
+#include "notifyDesktop.h"
 
 namespace {
 
@@ -645,7 +645,7 @@ void WorkspaceWindow::onSaved(const SaveQueue::Summary &summary)
         bar->say(MessageBar::Kind::Problem, tr("%n photograph(s) could not be saved.", nullptr, summary.failed) + ' ' + reason,
                  tr("Try a&gain"), [this] { retryFailed(); });
     }
-    if (!isActiveWindow() && !desktopNotice(tr("Saving has ended"), SaveBar::textOf(summary)))
+    if (!isActiveWindow() && !notifyDesktop(tr("Saving has ended"), SaveBar::textOf(summary)))
         QApplication::alert(this);
 }
 
