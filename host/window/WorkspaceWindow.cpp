@@ -366,7 +366,7 @@ QList<int> WorkspaceWindow::allRows() const
 void WorkspaceWindow::selectRow(int row)
 {
     if (row >= 0 && row < series.rowCount())
-        strip->setCurrentIndex(series.index(row));
+        strip->selectionModel()->setCurrentIndex(series.index(row), QItemSelectionModel::ClearAndSelect);
 }
 
 void WorkspaceWindow::showPhotograph(int row)

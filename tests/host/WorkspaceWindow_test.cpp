@@ -66,6 +66,8 @@ void usePalette(bool dark)
     QPalette palette = QApplication::style()->standardPalette();
     if (dark) {
         palette = QPalette(QColor(53, 53, 53), QColor(38, 38, 38));
+        palette.setColor(QPalette::Base, QColor(28, 28, 28));
+        palette.setColor(QPalette::AlternateBase, QColor(48, 48, 48));
         palette.setColor(QPalette::Highlight, QColor(61, 125, 202));
     }
     QApplication::setPalette(palette);
@@ -127,6 +129,20 @@ protected:
     {
         QWidget *const focus = QApplication::focusWidget() ? QApplication::focusWidget() : window;
         QTest::keyClick(focus, Qt::Key(key), modifiers);
+        QCoreApplication::processEvents();
+    }
+    /// With the left button, along a line.
+    void drag(QWidget *widget, QPoint from, QPoint to)
+    {
+        QTest::mousePress(widget, Qt::LeftButton, {}, from);
+        constexpr int kSteps = 8;
+        for (int step = 1; step <= kSteps; ++step) {
+            const QPoint at = from + (to - from) * step / kSteps;
+            QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(widget, &move);
+            QCoreApplication::processEvents();
+        }
+        QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
     }
     void drop(const QStringList &paths)
     {
@@ -289,7 +305,7 @@ TEST_F(Workspace, KeysMeanWhatTheFocusSays)
         EXPECT_EQ(picture()->peek(), PictureView::NoPeek);
         QTest::keyClick(box, Qt::Key_Up);
         EXPECT_EQ(strength(), 5);
-        QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier); // all that was typed
+        press(Qt::Key_Z, Qt::ControlModifier); // all that was typed
         EXPECT_EQ(strength(), WantedStrength::kUsual);
 
         // Return leaves the box, and does nothing more there or elsewhere.
@@ -364,10 +380,7 @@ TEST_F(Workspace, OneDragOfTheSliderIsOneStep)
         ASSERT_TRUE(listed(1));
         auto *slider = find<QSlider>("strengthSlider");
         const int y = slider->height() / 2, from = slider->width() * WantedStrength::kUsual / 100;
-        QTest::mousePress(slider, Qt::LeftButton, {}, {from, y});
-        for (int x = from; x > slider->width() / 4; x -= 5)
-            QTest::mouseMove(slider, {x, y});
-        QTest::mouseRelease(slider, Qt::LeftButton, {}, {slider->width() / 4, y});
+        drag(slider, {from, y}, {slider->width() / 4, y});
         EXPECT_LT(series()->percent(0), 40);
         EXPECT_EQ(series()->undoStack().count(), 1);
         click("undo");
