@@ -47,6 +47,14 @@ double shareBefore(BatchRunner::Stage stage)
     return stage == BatchRunner::Stage::Reading ? 0 : stage == BatchRunner::Stage::Dehazing ? 1 / 6.0 : 5 / 6.0;
 }
 
+/// The name without its middle if it is longer than this, since numbers and suffixes at its end tell photographs apart.
+QString shortened(const QString &name, int length)
+{
+    constexpr int kEnd = 8, kLeast = 2 * kEnd;
+    length = std::max(length, kLeast);
+    return name.size() <= length ? name : name.left(length - kEnd - 3) + "..." + name.right(kEnd);
+}
+
 QString secondsText(double seconds)
 {
     return QString::number(seconds, 'f', 1);
@@ -241,16 +249,20 @@ QString ProgressView::total(int columns) const
     return '[' + QString(filled, '#') + QString(width - filled, '-') + "] " + text;
 }
 
-QString ProgressView::inWork() const
+QString ProgressView::inWork(int columns) const
 {
-    QStringList texts;
+    QStringList words, names;
+    int room = columns;
     for (const auto &[index, stage] : inProgress) {
-        const QString word = stage == BatchRunner::Stage::Reading    ? tr("reading")
-                             : stage == BatchRunner::Stage::Dehazing ? tr("removing haze")
-                                                                     : tr("saving");
-        texts << harmless(QFileInfo(items[std::size_t(index)].given).fileName()) + ": " + word;
+        words << (stage == BatchRunner::Stage::Reading    ? tr("reading %1")
+                  : stage == BatchRunner::Stage::Dehazing ? tr("removing haze: %1")
+                                                          : tr("saving %1"));
+        names << harmless(QFileInfo(items[std::size_t(index)].given).fileName());
+        room -= words.last().size();
     }
-    return texts.join(", ");
+    for (int i = 0; i < words.size(); ++i)
+        words[i] = words[i].arg(shortened(names[i], room / words.size()));
+    return words.join(", ");
 }
 
 void ProgressView::draw()
@@ -258,7 +270,7 @@ void ProgressView::draw()
     if (style != Style::Terminal || inProgress.empty())
         return;
     const int columns = terminalWidth() - 1; // a line that wraps could not be redrawn
-    QString text = fitted(inWork(), columns) + '\n';
+    QString text = fitted(inWork(columns), columns) + '\n';
     if (items.size() > 1)
         text = fitted(total(columns), columns) + '\n' + text;
     linesDrawn = text.count('\n');

@@ -48,7 +48,7 @@ private:
     void erase();
     void draw();
     QString total(int columns) const;
-    QString inWork() const;
+    QString inWork(int columns) const;
     void sayObject(int item, const BatchOutcome &outcome, const BatchRunner::Forecast *forecast) const;
 
     enum Count { Done, Unchanged, Skipped, Failed, NotBegun, Planned, Counts };

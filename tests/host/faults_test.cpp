@@ -354,9 +354,11 @@ TEST_F(ProgramFaults, WriteProtection)
     const Said said = inPrivateMounts("mkdir ro; cp a.png ro; mount --bind ro ro; mount -o remount,ro,bind ro; "
                                       "mount --bind b_dehazed.jpg b_dehazed.jpg; mount -o remount,ro,bind b_dehazed.jpg; "
                                       "\"$V\" ro/a.png b.jpg --strength 0 --overwrite; echo =$?; "
-                                      "\"$V\" a.png --strength 0 --settings ro/s.xml; echo =$?");
+                                      "\"$V\" a.png --strength 0 --settings ro/s.xml; echo =$?; "
+                                      "\"$V\" a.png -q -s 0 -o ro/new; echo =$?; \"$V\" ro/a.png -q -s 0 -o new; echo =$?");
     SKIP_WITHOUT_MOUNTS(said);
-    EXPECT_EQ(said.out, "=1\n=2\n") << said.err;
+    EXPECT_EQ(said.out, "=1\n=2\n=1\n=0\n") << said.err;
+    EXPECT_TRUE(isWhole("new/a_dehazed.png"));
     EXPECT_TRUE(said.err.contains(QRegularExpression("ro/a.png: [^\n]*ro\" is read-only. Choose another one with --output.\n")))
         << said.err;
     EXPECT_TRUE(said.err.contains(QRegularExpression("b.jpg: [^\n]*b_dehazed.jpg\"\\. Make room[^\n]*can write to it.\n")))

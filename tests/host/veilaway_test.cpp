@@ -149,14 +149,14 @@ TEST_F(Veilaway, HelpAndVersionAnswerOnStandardOutput)
     EXPECT_EQ(help.code, 0);
     for (const char *part : {"--strength N", "--json", "--share-services", "_entnebelt", "Examples:", "  2  "})
         EXPECT_TRUE(contains(help.out, part));
-    for (const auto &[language, heading] : {std::pair("de", "\nOptionen:\n"), std::pair("ja", "\nオプション:\n")}) {
-        const QString text = folder.run({"--help", "--language", language}).out;
-        EXPECT_TRUE(contains(text, heading));
+    for (const char *language : {"de", "ja"}) {
         int longest = 0;
-        for (const QString &line : text.split('\n'))
+        for (const QString &line : folder.run({"--help", "--language", language}).out.split('\n'))
             longest = std::max(longest, line.size() + line.count(QRegularExpression("[\u2e80-\uffff]"))); // two columns each
         EXPECT_TRUE(longest > 76 && longest <= 80) << language << ' ' << longest;
     }
+    EXPECT_TRUE(folder.run({"help", "wizard"}).out.contains("--settings") &&
+                !folder.run({"wizard", "--help"}).out.contains("--overwrite"));
     const Said version = folder.run({"--version"});
     EXPECT_EQ(version.code, 0) << version.err;
     EXPECT_TRUE(contains(version.out, "Nimbra 3.0.0.400, Ombre"));
@@ -745,15 +745,23 @@ TEST_F(Veilaway, ReportsThatStandardOutputCanNotBeWritten)
     EXPECT_NO_THROW(PhotoLoader::decode(folder.path("a_dehazed.png")));
 }
 
-TEST_F(Veilaway, ShowsABarForEachPhotographOnATerminal)
+TEST_F(Veilaway, ATerminalShowsTheTotalAndWhatIsInWorkWithinItsWidth)
 {
     if (!QFile::exists("/usr/bin/script"))
         GTEST_SKIP() << "no terminal to be had: script(1) is missing";
-    folder.photograph("a.png");
-    folder.photograph("b\x1b.png");
-    const Said answer = folder.shell("script -qec '\"$V\" --strength 50 *.png' /dev/null </dev/null");
-    EXPECT_EQ(answer.code, 0) << answer.out;
-    for (const char *part : {"removing haze  a.png", "[--------------------] reading", "[####################]", "a_dehazed.png",
-                             "2 photographs done.", "b?_dehazed.png"})
-        EXPECT_TRUE(contains(answer.out, part));
+    for (const char *name : {"a.png", "b\x1b.png", "a very long name that no narrow terminal holds.png"})
+        folder.photograph(name);
+    const QString run =
+        "script -qec 'stty cols 40; %1 \"$V\" --strength 50 --overwrite -j 2 *.png missing.png' /dev/null </dev/null";
+    const Said coloured = folder.shell(run.arg("TERM=xterm")), plain = folder.shell(run.arg("TERM=xterm NO_COLOR=1")),
+               dumb = folder.shell(run.arg("TERM=dumb"));
+    EXPECT_EQ(plain.code, 1) << plain.out;
+    for (const char *part : {"] 1 of 4\r\n", "removing haze: ", "reading a", "ds.png", "a.png -> a_dehazed.png (",
+                             "b?_dehazed.png", "3 photographs done. 1 failed.\r\n", "veilaway: missing.png: "})
+        EXPECT_TRUE(contains(plain.out, part));
+    EXPECT_TRUE(contains(coloured.out, "\x1b[31mveilaway:\x1b[0m missing.png: "));
+    EXPECT_FALSE(dumb.out.contains('\x1b')) << dumb.out;
+    for (const QString &line : plain.out.split("\r\n"))
+        if (line.contains("] ") || line.contains(QRegularExpression("reading|removing haze|saving")))
+            EXPECT_LT(QString(line).remove(QRegularExpression("\r|\x1b\\[[0-9]*[A-Z]")).size(), 40) << line;
 }
