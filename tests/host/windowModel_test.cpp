@@ -4,6 +4,7 @@
 #include <random>
 
 #include <QApplication>
+#include <QColorSpace>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -22,6 +23,7 @@
 #include "Session.h"
 #include "TestFolder.h"
 #include "VException.h"
+#include "profileName.h"
 
 namespace {
 
@@ -169,6 +171,34 @@ TEST_F(Window, TakesAThousandPhotographsInBatches)
     ASSERT_TRUE(eventually([&] { return series.rowCount() == 1000; }));
     EXPECT_GE(batches, 10);
     EXPECT_LE(longest, 100);
+}
+
+TEST_F(Window, ReadsWhatIsInViewFirst)
+{
+    QStringList names;
+    for (int i = 0; i < 20; ++i)
+        names << QStringLiteral("p%1.png").arg(i);
+    photographs(names, 300, 200);
+    QObject::connect(&series, &Series::rowsInserted, [&] { series.readFirst({18, 19}); });
+    std::map<int, int> turns; // by row: the event that its picture came with
+    int event = 0;
+    QObject::connect(&series, &Series::dataChanged, [&](const QModelIndex &first, const QModelIndex &last) {
+        ++event;
+        for (int row = first.row(); row <= last.row(); ++row)
+            if (!series.data(series.index(row), Series::ThumbnailRole).value<QImage>().isNull())
+                turns.emplace(row, event);
+    });
+    add(paths(names));
+    readAll();
+    ASSERT_EQ(turns.size(), 20u);
+    EXPECT_LE(std::max(turns[18], turns[19]), turns[17]);
+}
+
+TEST(ProfileName, IsTheProfilesOwn)
+{
+    EXPECT_EQ(profileName({}), "sRGB");
+    EXPECT_EQ(profileName("no profile"), "sRGB");
+    EXPECT_EQ(profileName(QColorSpace(QColorSpace::AdobeRgb).iccProfile()), "Adobe RGB");
 }
 
 TEST_F(Window, StartsAtTheStoredDefault)
