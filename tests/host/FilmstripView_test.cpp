@@ -12,6 +12,7 @@
 #include "FilmstripDelegate.h"
 #include "FilmstripView.h"
 #include "KeySheet.h"
+#include "photographText.h"
 
 namespace {
 
@@ -66,8 +67,7 @@ TEST(FilmstripView, EachStateIsSeenWithoutColours)
         for (int other = 0; other < row; ++other)
             EXPECT_TRUE(items[std::size_t(row)] != items[std::size_t(other)]) << row << " looks like " << other;
     }
-    EXPECT_TRUE(
-        FilmstripDelegate::describe(series.index(int(Series::State::Failed))).contains(QStringLiteral("The disk is full.")));
+    EXPECT_TRUE(photographText(series.index(int(Series::State::Failed))).contains(QStringLiteral("The disk is full.")));
 }
 
 TEST(FilmstripView, OfAThousandOnlyWhatIsVisibleIsDrawn)
