@@ -244,7 +244,7 @@ void PictureView::zoomOut()
 QRect PictureView::pane(int index) const
 {
     const double ratio = devicePixelRatioF();
-    const QSize whole(int(width() * ratio), int(height() * ratio));
+    const QSize whole(int(std::ceil(width() * ratio)), int(std::ceil(height() * ratio)));
     if (paneCount() == 1)
         return {QPoint(), whole};
     const int across = (whole.width() - int(kGap * ratio)) / 2;
