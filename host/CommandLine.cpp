@@ -116,6 +116,21 @@ CommandLine CommandLine::parse(const QStringList &given)
         if (!whole || line.jobs < 1 || line.jobs > kMostJobs)
             return fail(tr("--jobs must be a whole number from 1 to %1, not \"%2\".").arg(kMostJobs).arg(parser.value("jobs")));
     }
+    if (parser.isSet("quality")) {
+        const int quality = parser.value("quality").toInt(&whole);
+        if (!whole || quality < 1 || quality > 100)
+            return fail(tr("--quality must be a whole number from 1 to 100, not \"%1\".").arg(parser.value("quality")));
+        line.packing.jpegQuality = quality;
+    }
+    if (parser.isSet("compression")) {
+        const QString kind = parser.value("compression");
+        constexpr std::pair<const char *, int> kKinds[] = {{"none", 0}, {"lzw", 2}, {"deflate", 4}};
+        for (const auto &[name, number] : kKinds)
+            if (kind == name)
+                line.packing.tiffCompression = number;
+        if (!line.packing.tiffCompression)
+            return fail(tr("--compression must be none, deflate or lzw, not \"%1\".").arg(kind));
+    }
     if (parser.isSet("language") && !HostApplication::localeFor(line.language))
         return fail(tr("--language must be one of %1, not \"%2\".").arg(HostApplication::languages().join(", "), line.language));
     if (parser.isSet("settings") && (line.settingsFile.isEmpty() || !isUtf8(line.settingsFile)))

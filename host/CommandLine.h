@@ -30,6 +30,7 @@ public:
     std::optional<QString> tag;
     Existing existing = Existing::Refuse;
     bool keepTime = false;
+    ResultPacking packing;
     bool recursive = false;
     bool nullSeparated = false;
     bool dryRun = false;

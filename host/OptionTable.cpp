@@ -25,6 +25,11 @@ const std::vector<CommandOption> kOptions{
     {"tag", 0, "TEXT", nullptr, BitRun,
      TEXT("What is added to the names of results, in any language; with an empty text, results have the names of their "
           "photographs.")},
+    {"quality", 0, "N", "80 85 90 92 95 98 100", BitRun,
+     TEXT("Quality of JPEG results, from 1 to 100. Without this option, that of the photograph, but at least 92; other formats "
+          "give 92.")},
+    {"compression", 0, "KIND", "none deflate lzw", BitRun,
+     TEXT("Compression of TIFF results: none, deflate or lzw, all without loss. Without this option, that of the photograph.")},
     {"skip-existing", 0, nullptr, nullptr, BitRun, TEXT("Skip photographs whose result already exists.")},
     {"newer", 0, nullptr, nullptr, BitRun,
      TEXT("Skip photographs whose result is newer than they are and, as far as the settings file knows, was made at the same "

@@ -195,6 +195,7 @@ void RunCommand::makePlan()
     options.strength = line.strength;
     options.existing = line.existing;
     options.keepTime = line.keepTime;
+    options.packing = line.packing;
     options.recursive = line.recursive;
     options.processName = plugin->process().name();
     const auto lacksStrength = [&](const QString &photograph) {

@@ -21,6 +21,7 @@
 #include "VException.h"
 #include "WizardCommand.h"
 #include "argumentText.h"
+#include "readPhoto.h"
 #include "terminalText.h"
 
 namespace {
@@ -40,11 +41,28 @@ The program and the plug-in with their libraries are under the GNU General Publi
 in part on the work of the Independent JPEG Group.
 )";
 
+/// The formats that are read where their libraries are there.
+QString furtherFormatsText()
+{
+    QStringList readable, missing;
+    for (const FurtherFormat &format : furtherFormats())
+        if (const QString name = QString::fromStdString(format.name); format.library.empty())
+            missing << name;
+        else
+            readable << name + " (" + QString::fromStdString(format.library) + ')';
+    QString text;
+    if (!readable.isEmpty())
+        text += CommandLine::tr("Also read here: %1").arg(readable.join(", ")) + '\n';
+    if (!missing.isEmpty())
+        text += CommandLine::tr("Not read here, for want of a decoder: %1").arg(missing.join(", ")) + '\n';
+    return text;
+}
+
 int showVersion(const CommandLine &line)
 {
     ProgressView::say("veilaway " NIMBRA_VERSION "\n");
     try {
-        ProgressView::say(PluginFile(line.pluginFile).identity() + '\n' + kNotices);
+        ProgressView::say(PluginFile(line.pluginFile).identity() + '\n' + furtherFormatsText() + kNotices);
         return ExitAllDone;
     } catch (const VException &failure) {
         ProgressView::complain(failure.message);

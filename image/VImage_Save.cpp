@@ -61,8 +61,8 @@ void InitLoadParameters(GflLoadParams &params)
     params.flags |= GFL_LOAD_METADATA | GFL_LOAD_METADATA_ONLY;
 }
 
-/// Copies colour profile, IPTC and EXIF, as far as the source has them. False if there was no memory for one of them, which the
-/// layer itself does not report.
+/// Copies colour profile, IPTC and EXIF, as far as the source has them, and the source's packing as the default for the target's.
+/// False if there was no memory for one of the three, which the layer itself does not report.
 [[nodiscard]] bool copyMetadata(const GflBitmap *source, GflBitmap *target, GflSaveParams &params)
 {
     if (gflBitmapHasICCProfile(source)) {
@@ -82,6 +82,7 @@ void InitLoadParameters(GflLoadParams &params)
         if (!gflBitmapHasEXIF(target))
             return false;
     }
+    gflBitmapCopyPacking(source, target);
     return true;
 }
 

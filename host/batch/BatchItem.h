@@ -43,6 +43,16 @@ enum class Existing {
     Number   ///< Both are kept: the new result gets a number behind the tag.
 };
 
+/// How a result is packed, where that is not to be as in its photograph.
+struct ResultPacking
+{
+    std::optional<int> jpegQuality;     ///< 1 to 100.
+    std::optional<int> tiffCompression; ///< As GflSaveParams::compression.
+
+    /// True if nothing is chosen.
+    bool isUsual() const { return !jpegQuality && !tiffCompression; }
+};
+
 /// One photograph of a batch: what to do with it, or why it is refused.
 struct BatchItem
 {
@@ -51,6 +61,7 @@ struct BatchItem
     QString path;           ///< Absolute.
     QString result;         ///< Absolute; the file that will be written.
     bool apart = false;     ///< The process would write another file: see PrivateRun.
+    ResultPacking packing;  ///< Only what applies to the result's format.
     bool automatic = false; ///< The strength is chosen once the photograph is decoded; `settings` and `strength` are unused.
     QDomElement settings;   ///< Of the process.
     int strength = 0;       ///< In per cent, the one in `settings`.

@@ -12,6 +12,7 @@
 #include <sys/stat.h>
 
 #include "argumentText.h"
+#include "photoKind.h"
 
 namespace {
 
@@ -84,6 +85,23 @@ bool isCurrent(const BatchItem &item, const BatchPlan::Options &options)
         return true;
     const QDomElement made = options.settings->resultElement(item.path, item.result);
     return item.automatic ? SettingsFile::isAutomatic(made) : SettingsFile::strengthOf(made) == item.strength;
+}
+
+/// What of a packing applies to this result.
+ResultPacking packingFor(const QString &result, const ResultPacking &wanted)
+{
+    ResultPacking packing;
+    switch (pictureKindOfSuffix(QFileInfo(result).suffix().toLower().toStdString())) {
+    case PhotoKind::Jpeg:
+        packing.jpegQuality = wanted.jpegQuality;
+        break;
+    case PhotoKind::Tiff:
+        packing.tiffCompression = wanted.tiffCompression;
+        break;
+    default:
+        break;
+    }
+    return packing;
 }
 
 /// The longest name that file systems take, less what the codec layer adds for its temporary file.
@@ -190,7 +208,8 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         const bool tiff = host.imageDef(item.path)->needsTiffOutput();
         item.result = resultOf(item.path, photograph, options, tiff);
         const QString suffix = QFileInfo(item.path).suffix();
-        item.apart = item.result != resultName(item.path, tiff);
+        item.packing = packingFor(item.result, options.packing);
+        item.apart = item.result != resultName(item.path, tiff) || !item.packing.isUsual();
         if (tiff && !options.outputIsFile && !PhotoLoader::rawSuffixes().contains(suffix.toLower()))
             item.note = suffix.isEmpty() ? tr("It has no suffix, so the result is a TIFF.")
                                          : tr("\"%1\" is not a format that can be written, so the result is a TIFF.").arg(suffix);

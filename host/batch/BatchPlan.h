@@ -34,6 +34,7 @@ public:
         QHash<QString, QString> below; ///< By photograph: where below the folder `output` its result goes, as a relative path.
         bool keepTime = false;         ///< See BatchItem.
         bool recursive = false;        ///< Folders have been searched with all that is in them.
+        ResultPacking packing;         ///< For the results that it applies to.
     };
 
     /// `photographs` are texts as argumentText makes them.

@@ -207,6 +207,8 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
 void BatchRunner::complete(const BatchItem &item, BatchOutcome &outcome)
 {
     QStringList lacks;
+    if (application.photograph(item.path)->facts().furtherPictures)
+        lacks << tr("The file also holds a gain map or further pictures, which don't fit the result and are left out.");
     if (!outcome.message.isEmpty())
         lacks << tr("The result was written, but the photograph's XMP could not be copied into it: %1.").arg(outcome.message);
     if (item.keepTime) {
@@ -227,7 +229,7 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
     const int limit = untouched ? 0 : kRefusedWidth;
 
     std::optional<PrivateRun> apart;
-    if (wide || item.apart)
+    if (wide || item.apart || facts.needsStandIn)
         apart.emplace(application, item, /*rowsForColumns=*/wide);
     Photograph &photograph = apart ? apart->photograph() : original;
 

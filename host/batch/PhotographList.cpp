@@ -16,7 +16,7 @@ namespace {
 const QSet<QString> &suffixesOfPhotographs()
 {
     static const QSet<QString> suffixes = [] {
-        const QStringList all = PhotoLoader::pictureSuffixes() + PhotoLoader::rawSuffixes();
+        const QStringList all = PhotoLoader::readableSuffixes();
         return QSet<QString>(all.begin(), all.end());
     }();
     return suffixes;

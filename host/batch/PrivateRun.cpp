@@ -12,6 +12,7 @@
 #include "VException.h"
 #include "VTempManager.h"
 #include "carryXmp.h"
+#include "encodeResult.h"
 #include "gfl.h"
 #include "giveName.h"
 #include "throwGflError.h"
@@ -27,6 +28,9 @@ PhotoKind formatOf(const QString &path)
 {
     return pictureKindOfSuffix(suffixOfFile(path).toStdString());
 }
+
+/// Not the photograph's: it must not name a format, or else the content would have to be in it.
+constexpr char kStandInSuffix[] = "standin";
 
 /// A link stays a link, and the file that it points at is replaced.
 QString targetOf(const QString &result)
@@ -44,7 +48,8 @@ int depthOf(PhotoKind format)
 } // namespace
 
 PrivateRun::PrivateRun(HostApplication &host, const BatchItem &photograph, bool rowsForColumns)
-    : application(host), item(photograph), transposed(rowsForColumns), target(targetOf(photograph.result))
+    : application(host), item(photograph), transposed(rowsForColumns), target(targetOf(photograph.result)),
+      standIn(host.photograph(photograph.path)->facts().needsStandIn)
 {
     const QFileInfo older(target);
     if (older.exists() && (!older.isFile() || !older.isWritable()))
@@ -60,22 +65,36 @@ PrivateRun::PrivateRun(HostApplication &host, const BatchItem &photograph, bool 
     makeLink();
     const bool becomesTiff = application.photograph(item.path)->needsTiffOutput();
     const bool alike = formatOf(item.result) == (becomesTiff ? PhotoKind::Tiff : formatOf(item.path));
-    shown = application.addInGuise(link, {rowsForColumns, /*tiffOutput=*/!alike});
+    const bool encoded = item.packing.jpegQuality.has_value();
+    shown = application.addInGuise(link, {rowsForColumns, /*tiffOutput=*/!alike || encoded, /*original=*/item.path});
+}
+
+bool PrivateRun::place(const PrivateFolder &folder)
+{
+    if (folder.path().isEmpty())
+        return false;
+    // With the suffix, which says what the file is, and a name that leaves room for any tag.
+    const QString suffix = QFileInfo(item.path).suffix();
+    link = folder.filePath(suffix.isEmpty() ? QStringLiteral("photo") : QStringLiteral("photo.") + suffix);
+    return QFile::link(item.path, link);
 }
 
 void PrivateRun::makeLink()
 {
-    // With the suffix, which says what the file is, and a name that leaves room for any tag.
-    const QString suffix = QFileInfo(item.path).suffix();
-    const QString name = suffix.isEmpty() ? QStringLiteral("photo") : QStringLiteral("photo.") + suffix;
-    link = home->filePath(name);
-    if (QFile::link(item.path, link))
+    if (standIn) {
+        link = home->filePath(QStringLiteral("photo.") + kStandInSuffix);
+        QFile file(link);
+        const QByteArray bytes = PhotoLoader::standIn(item.path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
+            throw VException(tr("\"%1\" can't be written: %2.").arg(link, file.errorString()), V_LOCATION);
+        return;
+    }
+    if (place(*home))
         return;
     // The file system of a memory card may not support links.
     PrivateFolder::removeAbandoned(QDir::tempPath());
     elsewhere = std::make_unique<PrivateFolder>(QDir::tempPath());
-    link = elsewhere->filePath(name);
-    if (elsewhere->path().isEmpty() || !QFile::link(item.path, link))
+    if (!place(*elsewhere))
         throw VException(tr("A link to the photograph can't be created, neither in the folder of its result nor in \"%1\". Make "
                             "room there, and check that you can write there.")
                              .arg(QDir::tempPath()),
@@ -125,10 +144,11 @@ void PrivateRun::run(VIPluginOne2One &process, VISettingsHandle settings)
 void PrivateRun::finish()
 {
     const QString written = finished, suffix = suffixOfFile(item.result);
-    if (!transposed && formatOf(written) == formatOf(item.result))
+    const bool alike = formatOf(written) == formatOf(item.result);
+    if (!transposed && alike && item.packing.isUsual())
         return;
     finished = home->filePath(QStringLiteral("finished.") + suffix);
-    if (transposed && formatOf(written) == formatOf(item.result)) {
+    if (transposed && alike) {
         const int code = gflTransposeJpegUTF8(written.toUtf8().constData(), finished.toUtf8().constData());
         if (code == GFL_ERROR_FILE_CREATE || code == GFL_ERROR_FILE_WRITE) // its message is clearer than the code
             checkFileWritable(finished, QFileInfo(written).size(), V_LOCATION);
@@ -139,18 +159,18 @@ void PrivateRun::finish()
     }
     std::unique_ptr<DecodedPhoto> photo = PhotoLoader::decode(written);
     if (transposed) {
-        VImage upright;
-        photo->image().Turn(upright, Photograph::kRowsForColumns);
+        auto upright = std::make_unique<VImage>();
+        photo->image().Turn(*upright, Photograph::kRowsForColumns);
         photo.reset();
-        upright.Save(finished, suffix, /*quality=*/-1, item.path);
+        encodeResult(*upright, finished, item.packing, metadataSource());
     } else {
-        photo->image().Save(finished, suffix, /*quality=*/-1, item.path);
+        encodeResult(photo->image(), finished, item.packing, metadataSource());
     }
 }
 
 QString PrivateRun::carryXmp() const
 {
-    return withKnownPaths(::carryXmp(item.path, finished));
+    return withKnownPaths(::carryXmp(metadataSource(), finished));
 }
 
 bool PrivateRun::publish()

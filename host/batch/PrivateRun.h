@@ -18,7 +18,9 @@
 /// A photograph that is too wide for the process is seen with rows for columns. The result of a JPEG is turned back in its
 /// coefficients; all others in their pixels, and written with the photograph's own metadata, as a process writes them. Neither
 /// changes a value. If the result's suffix names another format than the process would write, the process writes a TIFF, from
-/// which the result is made in the same way.
+/// which the result is made in the same way; likewise if the packing of a JPEG is chosen.
+///
+/// A photograph that the codec layer doesn't read is seen through a stand-in for its metadata instead of a link; see makeStandIn.
 class PrivateRun
 {
     Q_DECLARE_TR_FUNCTIONS(PrivateRun)
@@ -50,7 +52,10 @@ public:
 
 private:
     void makeLink();
+    bool place(const PrivateFolder &folder);
     void finish();
+    /// The file that a process takes the metadata from.
+    const QString &metadataSource() const { return standIn ? link : item.path; }
     QString withKnownPaths(QString message) const;
 
     HostApplication &application;
@@ -59,7 +64,8 @@ private:
     const QString target;                     ///< The result, or the file that it links to.
     std::unique_ptr<PrivateFolder> home;      ///< Beside the target.
     std::unique_ptr<PrivateFolder> elsewhere; ///< For the link, where the target's file system has none.
-    QString link;
+    QString link;                             ///< To the photograph, or its stand-in.
+    const bool standIn;
     QString finished;            ///< The complete file, once there is one.
     Photograph *shown = nullptr; ///< Owned by the application.
 };

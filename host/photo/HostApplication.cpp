@@ -185,7 +185,7 @@ Photograph *HostApplication::addInGuise(const QString &path, const Photograph::G
 {
     const std::lock_guard lock(photographMutex);
     auto &entry = photographs[QFileInfo(path).absoluteFilePath()];
-    entry = std::make_unique<Photograph>(path, nullptr, guise);
+    entry = std::make_unique<Photograph>(guise.original.isEmpty() ? path : guise.original, nullptr, guise);
     return entry.get();
 }
 

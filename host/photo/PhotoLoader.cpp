@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "VException.h"
+#include "kernel32.h"
 #include "photoKind.h"
 
 namespace {
@@ -17,10 +18,17 @@ QString reasonFor(const PhotoProblem &problem)
     case Cause::Video:
         return PhotoLoader::tr(
             "It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.");
+    case Cause::Animation:
+        return PhotoLoader::tr(
+            "It is an animation. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.");
+    case Cause::NoDecoder:
+        return PhotoLoader::tr("This installation can't decode its format; veilaway --version says which formats it can. Convert "
+                               "the photograph to JPEG, PNG or TIFF.");
     case Cause::UnknownFormat:
         return PhotoLoader::tr(
-            "It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, "
-            "PSD and camera raw can be read; give the file the suffix of its format, or convert it.");
+                   "It is not a picture in a known format, or not in the one that its suffix names. %1 and camera raw can "
+                   "be read; give the file the suffix of its format, or convert it.")
+            .arg(PhotoLoader::formatNames().join(QStringLiteral(", ")));
     case Cause::Damaged:
         return PhotoLoader::tr("The file is cut short or damaged. Copy it again from the camera or a backup.");
     case Cause::NoMemory:
@@ -92,6 +100,31 @@ QStringList PhotoLoader::rawSuffixes()
     return asStrings(::rawSuffixes());
 }
 
+QStringList PhotoLoader::readableSuffixes()
+{
+    QStringList suffixes = pictureSuffixes() + rawSuffixes();
+    for (const FurtherFormat &format : furtherFormats())
+        if (!format.library.empty())
+            suffixes << asStrings(format.suffixes);
+    return suffixes;
+}
+
+QStringList PhotoLoader::formatNames()
+{
+    QStringList names{"JPEG", "PNG", "TIFF", "HDR", "EXR", "PSD"};
+    for (const FurtherFormat &format : furtherFormats())
+        if (!format.library.empty())
+            names << QString::fromStdString(format.name);
+    return names;
+}
+
+QByteArray PhotoLoader::standIn(const QString &path)
+{
+    std::vector<std::uint8_t> bytes;
+    check(makeStandIn(fileName(path), bytes));
+    return QByteArray(reinterpret_cast<const char *>(bytes.data()), int(bytes.size()));
+}
+
 bool PhotoLoader::canWrite(const QString &suffix)
 {
     return pictureSuffixes().contains(suffix);
@@ -111,7 +144,7 @@ std::unique_ptr<DecodedPhoto> PhotoLoader::decode(const QString &path)
 {
     auto photo = std::make_unique<DecodedPhoto>();
     PhotoPixels &read = photo->read;
-    check(readPixels(fileName(path), read));
+    check(readPixels(fileName(path), read, GetAvailableMemory()));
     const unsigned short type = read.components == 1 ? VImage::Grey : read.components == 3 ? VImage::Rgb : VImage::Rgba;
     photo->pixels.Create(read.width, read.height, type, read.bits, /*clear=*/false, read.data, read.strideBytes);
     return photo;

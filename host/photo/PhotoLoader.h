@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
@@ -40,7 +41,13 @@ public:
     /// True if a result can be written under this suffix (lower case, without the dot); all others become TIFF.
     static bool canWrite(const QString &suffix);
 
-    /// The suffixes that can be written and those of camera raw, for texts and file dialogs.
+    /// A file for a process to take the metadata from, of a photograph that PhotoHead::needsStandIn; see makeStandIn.
+    static QByteArray standIn(const QString &path);
+
+    /// The suffixes that can be written, those of camera raw, and all that can be read here, for texts and file dialogs.
     static QStringList pictureSuffixes();
     static QStringList rawSuffixes();
+    static QStringList readableSuffixes();
+    /// The names of all formats that this installation can read, but for camera raw.
+    static QStringList formatNames();
 };

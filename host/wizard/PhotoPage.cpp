@@ -43,7 +43,7 @@ QIcon centred(const QImage &picture, qreal ratio)
 QStringList patterns()
 {
     QStringList all;
-    for (const QString &suffix : PhotoLoader::pictureSuffixes() + PhotoLoader::rawSuffixes())
+    for (const QString &suffix : PhotoLoader::readableSuffixes())
         all << "*." + suffix << "*." + suffix.toUpper();
     return all;
 }

@@ -43,7 +43,11 @@ int formatOf(const InputFile &file)
     const std::string suffix = suffixOf(file.name());
     if (!suffixFits(*kind, suffix))
         throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
-    return isRawSuffix(suffix) || isRawOnly(*kind) ? kRawFormat : int(*kind);
+    if (isRawSuffix(suffix) || isRawOnly(*kind))
+        return kRawFormat;
+    if (std::size_t(*kind) >= std::size(kFormats))
+        throw Failure{GFL_ERROR_UNKNOWN_FORMAT};
+    return int(*kind);
 }
 
 /// Runs `work` and returns the result code of what it throws.
@@ -169,7 +173,8 @@ int gflSaveBitmapUTF8(const char *fileName, const GflBitmap *bitmap, const GflSa
             (params->flags & GFL_SAVE_ICC_PROFILE) != 0 && gfl::profileFits(metadata.icc, bitmap->componentsPerPixel);
         gfl::OutputFile file(fileName);
         gfl::kFormats[params->formatIndex].write({file, *bitmap, params->quality, params->compression, gfl::lzwEnabled,
-                                                  profile ? metadata.icc : kNone.icc, metadata.iptc.block, metadata.exif.block});
+                                                  profile ? metadata.icc : kNone.icc, metadata.iptc.block, metadata.exif.block,
+                                                  metadata.packing});
         file.commit();
     });
 }

@@ -35,12 +35,16 @@ constexpr std::int16_t GFL_DEFAULT = -1; ///< For `compression` and `quality`: t
 /// Each format uses one of the two fields; a negative value means its default.
 ///
 /// | format | field       | values                                                                    | default       |
-/// | jpeg   | quality     | 1..100 (others go to the nearest), always 4:4:4                           | 92            |
+/// | jpeg   | quality     | 1..100 (others go to the nearest)                                         | 92            |
 /// | png    | compression | 0 (stored) .. 9 (smallest; so are larger values)                          | 3             |
 /// | tiff   | compression | 0 none, 2 LZW (none unless enabled), 4 deflate; else BAD_PARAMETERS       | 0             |
 /// | hdri   | compression | 0 none, else run lengths                                                  | run lengths   |
 /// | psd    | compression | 0 none, else run lengths                                                  | run lengths   |
 /// | exr    | compression | OpenEXR's own numbers, 0 (none) .. 7 (B44A); else BAD_PARAMETERS          | 4 (PIZ)       |
+///
+/// A bitmap with a packing (see gflBitmapCopyPacking) has other defaults. A JPEG gets the packing's quantisation tables, each
+/// scaled down as a whole if it is coarser than that of quality 92, and its chroma subsampling, which also holds with a quality;
+/// otherwise it is 4:4:4. A TIFF gets the packing's compression.
 struct GflSaveParams
 {
     std::uint32_t flags;
@@ -128,3 +132,6 @@ void gflBitmapSetIPTC(GflBitmap *bitmap, const GflIptc *iptc);
 GflExif *gflBitmapGetEXIF2(const GflBitmap *bitmap);
 void gflBitmapSetEXIF2(GflBitmap *bitmap, const GflExif *exif);
 void gflFreeEXIF2(GflExif *exif);
+/// Makes the source's packing the default for the target's: the quantisation tables and chroma subsampling of a JPEG, the
+/// compression of a TIFF; see GflSaveParams. It is known if the source was loaded with metadata.
+void gflBitmapCopyPacking(const GflBitmap *source, GflBitmap *target);

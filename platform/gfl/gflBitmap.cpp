@@ -145,3 +145,9 @@ void gflFreeEXIF2(GflExif *exif)
 {
     delete exif;
 }
+
+void gflBitmapCopyPacking(const GflBitmap *source, GflBitmap *target)
+{
+    if (const gfl::Metadata *metadata = gfl::metadataOf(source); metadata && source != target)
+        gfl::changeMetadata(target, [&](gfl::Metadata &changed) { changed.packing = metadata->packing; });
+}

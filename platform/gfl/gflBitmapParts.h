@@ -1,8 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "gfl.h"
@@ -28,12 +30,29 @@ struct Failure
     GflCode code;
 };
 
+/// How a file packs its pixels: the default for files that are written with the metadata of that file.
+struct Packing
+{
+    struct Jpeg
+    {
+        /// Quantisation steps of brightness and of colour, row by row; a grey file has the first table only.
+        std::array<std::uint16_t, 64> brightness;
+        std::optional<std::array<std::uint16_t, 64>> colour;
+        /// Pixels per colour sample: 2 and 2 for 4:2:0, 2 and 1 for 4:2:2.
+        int across = 1;
+        int down = 1;
+    };
+    std::optional<Jpeg> jpeg;
+    int tiff = GFL_DEFAULT; ///< As GflSaveParams::compression.
+};
+
 /// What GflBitmap::metaData points at.
 struct Metadata
 {
     Bytes icc;
     GflIptc iptc;
     GflExif exif;
+    Packing packing;
 };
 
 /// The attached metadata, or null.

@@ -37,6 +37,7 @@ struct WriteRequest
     const Bytes &icc;
     const Bytes &iptc;
     const Bytes &exif;
+    const Packing &packing; ///< What the defaults of quality and compression are taken from.
 };
 
 void writeJpeg(const WriteRequest &request);

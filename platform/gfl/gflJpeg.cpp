@@ -2,6 +2,7 @@
 #include <csetjmp>
 #include <cstdio>
 #include <cstring>
+#include <numeric>
 
 #include <jpeglib.h>
 
@@ -198,6 +199,34 @@ void readPixels(Reader &reader, NewBitmap &bitmap, std::uint64_t fileBytes)
     }
 }
 
+/// The packing of a file whose header has been read; nothing where its tables are not those of brightness and colour.
+std::optional<Packing::Jpeg> packingOf(const jpeg_decompress_struct &info)
+{
+    const auto read = [&](const jpeg_component_info &component, std::array<std::uint16_t, 64> &steps) {
+        const JQUANT_TBL *table = component.quant_table ? component.quant_table : info.quant_tbl_ptrs[component.quant_tbl_no & 3];
+        if (table)
+            std::copy(std::begin(table->quantval), std::end(table->quantval), steps.begin());
+        return table && std::find(steps.begin(), steps.end(), 0) == steps.end();
+    };
+    Packing::Jpeg packing;
+    if ((info.jpeg_color_space != JCS_GRAYSCALE && info.jpeg_color_space != JCS_YCbCr) ||
+        !read(info.comp_info[0], packing.brightness))
+        return std::nullopt;
+    if (info.jpeg_color_space == JCS_GRAYSCALE)
+        return packing;
+    const jpeg_component_info &bright = info.comp_info[0], &colour = info.comp_info[1];
+    if (!read(colour, packing.colour.emplace()))
+        return std::nullopt;
+    const int across = bright.h_samp_factor / colour.h_samp_factor, down = bright.v_samp_factor / colour.v_samp_factor;
+    const bool whole =
+        across * colour.h_samp_factor == bright.h_samp_factor && down * colour.v_samp_factor == bright.v_samp_factor;
+    if (whole && across != 3 && down != 3 && across * down <= 8) { // what the library can write
+        packing.across = across;
+        packing.down = down;
+    }
+    return packing;
+}
+
 struct Target
 {
     jpeg_destination_mgr manager;
@@ -272,6 +301,23 @@ void writeSegments(Writer &writer, const WriteRequest &request)
     // A profile is split into at most 255 segments.
     if (!request.icc.empty() && request.icc.size() <= 255 * std::size_t(65519))
         guarded(writer.error, [&] { jpeg_write_icc_profile(&writer.info, request.icc.data(), unsigned(request.icc.size())); });
+}
+
+/// Replaces the tables of the default quality, which are set: each by its source's, scaled down if that is coarser as a whole.
+void setTables(jpeg_compress_struct &info, const Packing::Jpeg &packing)
+{
+    const auto set = [&](int index, const std::array<std::uint16_t, 64> &steps) {
+        const auto sum = [](const auto &values) { return std::accumulate(std::begin(values), std::end(values), 0u); };
+        const unsigned coarsest = sum(info.quant_tbl_ptrs[index]->quantval), total = sum(steps);
+        unsigned values[64];
+        std::transform(steps.begin(), steps.end(), values, [&](unsigned step) {
+            return total <= coarsest ? step : (step * coarsest + total / 2) / total; // 0 becomes 1 in the library
+        });
+        jpeg_add_quant_table(&info, index, values, /*scale_factor=*/100, /*force_baseline=*/TRUE);
+    };
+    set(0, packing.brightness);
+    if (packing.colour)
+        set(1, *packing.colour);
 }
 
 /// Copies the segments verbatim, except for the two that the library writes itself.
@@ -381,8 +427,10 @@ BitmapPointer readJpeg(const ReadRequest &request)
     const double unit = info.density_unit == 1 ? 1.0 : info.density_unit == 2 ? 2.54 : 0.0;
     bitmap.record().xDpi = dpiFrom(info.X_density * unit);
     bitmap.record().yDpi = dpiFrom(info.Y_density * unit);
-    if (request.metadata)
+    if (request.metadata) {
         readSegments(reader, attachMetadata(bitmap.record()));
+        attachMetadata(bitmap.record()).packing.jpeg = packingOf(info);
+    }
     if (!request.pixels && !hasEndMarker(request.file))
         throw Failure{GFL_ERROR_FILE_READ};
     if (request.pixels)
@@ -398,6 +446,8 @@ void writeJpeg(const WriteRequest &request)
     // Alpha is dropped, not composited: the colours are the photograph, whatever the transparency.
     const bool skipsAlpha = bitmap.componentsPerPixel == 4 && bitmap.bitsPerComponent == 8;
     const int components = bitmap.componentsPerPixel == 1 ? 1 : 3;
+    const auto &source = request.packing.jpeg;
+    const Packing::Jpeg *const packing = source && (components == 1 || source->colour) ? &*source : nullptr;
     SourceRows rows(bitmap, {skipsAlpha ? 4 : components, 8});
 
     Writer writer(request.file);
@@ -414,6 +464,12 @@ void writeJpeg(const WriteRequest &request)
         jpeg_set_quality(&info, request.quality < 0 ? kDefaultQuality : std::clamp(request.quality, 1, 100), TRUE);
         for (int c = 0; c < info.num_components; ++c) // 4:4:4
             info.comp_info[c].h_samp_factor = info.comp_info[c].v_samp_factor = 1;
+        if (packing && request.quality < 0)
+            setTables(info, *packing);
+        if (packing && components == 3) {
+            info.comp_info[0].h_samp_factor = packing->across;
+            info.comp_info[0].v_samp_factor = packing->down;
+        }
         if (bitmap.xDpi && bitmap.yDpi) {
             info.density_unit = 1;
             info.X_density = bitmap.xDpi;

@@ -695,6 +695,19 @@ bool holdsAllPieces(const InputFile &file, TIFF *tiff)
     return true;
 }
 
+/// The compression for a file that replaces one with this compression: what every program reads, and never a loss.
+int packingOf(std::uint16_t compression)
+{
+    switch (compression) {
+    case COMPRESSION_NONE:
+        return 0;
+    case COMPRESSION_LZW:
+        return 2;
+    default:
+        return 4;
+    }
+}
+
 } // namespace
 
 BitmapPointer readTiff(const ReadRequest &request)
@@ -713,8 +726,11 @@ BitmapPointer readTiff(const ReadRequest &request)
                                                                                                                           : 0.0;
     bitmap.record().xDpi = dpiFrom(double(field<float>(open.get(), TIFFTAG_XRESOLUTION, 0)) * perInch);
     bitmap.record().yDpi = dpiFrom(double(field<float>(open.get(), TIFFTAG_YRESOLUTION, 0)) * perInch);
-    if (request.metadata)
-        readMetadata(request.file, open.get(), attachMetadata(bitmap.record()));
+    if (request.metadata) {
+        Metadata &metadata = attachMetadata(bitmap.record());
+        metadata.packing.tiff = packingOf(compression);
+        readMetadata(request.file, open.get(), metadata);
+    }
     if (request.pixels) {
         if (layout.convertedHere)
             readConverting(request.file, layout, bitmap);
@@ -730,7 +746,7 @@ void writeTiff(const WriteRequest &request)
 {
     const GflBitmap &bitmap = request.bitmap;
     std::uint16_t compression = COMPRESSION_NONE;
-    switch (request.compression) {
+    switch (request.compression == GFL_DEFAULT ? request.packing.tiff : request.compression) {
     case GFL_DEFAULT:
     case 0:
         break;

@@ -3,6 +3,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include <QFile>
 #include <QFileInfo>
@@ -10,13 +13,15 @@
 
 #include "ByteReader.h"
 #include "RegularFile.h"
+#include "furtherPictures.h"
 #include "photoMetadata.h"
+#include "pngChunk.h"
 
 namespace {
 
-/// The XMP of a JPEG or PNG file, byte for byte and including extended XMP in several segments, and the place for XMP in such a
-/// file. Between two files of the same of these formats it is copied verbatim: the metadata library would rewrite the EXIF of a
-/// PNG.
+/// The XMP of a JPEG or PNG file, but for what withoutFurtherPictures leaves out byte for byte, and including extended XMP in
+/// several segments, and the place for XMP in such a file. Between two files of the same of these formats it is copied as it is:
+/// the metadata library would rewrite the EXIF of a PNG.
 struct XmpPieces
 {
     QByteArray bytes;
@@ -28,6 +33,26 @@ ByteReader readerOf(const QByteArray &file)
     return ByteReader(file.constData(), std::size_t(file.size()));
 }
 
+constexpr std::string_view kJpegXmpHead("http://ns.adobe.com/xap/1.0/\0", 29);
+
+/// A piece whose packet begins after `head` bytes, with the packet as withoutFurtherPictures makes it.
+QByteArray filtered(const QByteArray &piece, int head)
+{
+    const std::string packet = piece.mid(head).toStdString(), kept = withoutFurtherPictures(packet);
+    return kept == packet ? piece : piece.left(head) + QByteArray::fromStdString(kept);
+}
+
+/// A segment with its size put right; nothing if it has become longer than a segment may be.
+QByteArray jpegSegment(QByteArray segment)
+{
+    const int size = segment.size() - 2;
+    if (size > 0xFFFF)
+        return QByteArray();
+    segment[2] = char(size >> 8);
+    segment[3] = char(size & 0xFF);
+    return segment;
+}
+
 std::optional<XmpPieces> piecesOfJpeg(const QByteArray &file)
 {
     ByteReader reader = readerOf(file);
@@ -35,6 +60,8 @@ std::optional<XmpPieces> piecesOfJpeg(const QByteArray &file)
         return std::nullopt;
     reader.skip(2);
     XmpPieces pieces{QByteArray(), 2};
+    QByteArray extension;
+    bool extended = true;
     bool leading = true;
     try {
         for (qint64 start = 2; reader.u8() == 0xff; start = qint64(reader.position())) {
@@ -43,15 +70,22 @@ std::optional<XmpPieces> piecesOfJpeg(const QByteArray &file)
             if (marker == 0xda || size < 2)
                 break;
             ByteReader segment = reader.stretch(std::uint64_t(size) - 2);
-            if (marker == 0xe1 &&
-                (segment.startsWith("http://ns.adobe.com/xap/1.0/") || segment.startsWith("http://ns.adobe.com/xmp/extension/")))
-                pieces.bytes += file.mid(int(start), size + 2);
+            const QByteArray whole = file.mid(int(start), size + 2);
+            if (marker == 0xe1 && segment.startsWith(kJpegXmpHead)) {
+                const QByteArray kept = filtered(whole, 4 + int(kJpegXmpHead.size()));
+                pieces.bytes += kept == whole ? whole : jpegSegment(kept);
+                extended = kept == whole || kept.contains("HasExtendedXMP");
+            } else if (marker == 0xe1 && segment.startsWith("http://ns.adobe.com/xmp/extension/")) {
+                extension += whole;
+            }
             leading = leading && (marker == 0xe0 || (marker == 0xe1 && segment.startsWith("Exif")));
             if (leading)
                 pieces.place = qint64(reader.position());
         }
     } catch (const EndOfBytes &) { // what came before is kept
     }
+    if (extended)
+        pieces.bytes += extension;
     return pieces;
 }
 
@@ -68,8 +102,15 @@ std::optional<XmpPieces> piecesOfPng(const QByteArray &file)
             const auto start = int(reader.position());
             const std::uint32_t size = reader.u32();
             ByteReader chunk = reader.stretch(std::uint64_t(size) + 8); // type, content, check sum
-            if (chunk.startsWith("iTXtXML:com.adobe.xmp"))
-                pieces.bytes += file.mid(start, int(size) + 12);
+            if (!chunk.startsWith("iTXtXML:com.adobe.xmp"))
+                continue;
+            const QByteArray whole = file.mid(start, int(size) + 12), content = whole.mid(8, int(size)),
+                             kept = filtered(content, int(kPngXmpHead.size()));
+            std::vector<std::uint8_t> changed;
+            if (kept != content)
+                appendPngChunk(changed, "iTXt", {kept.begin(), kept.end()});
+            pieces.bytes +=
+                kept == content ? whole : QByteArray(reinterpret_cast<const char *>(changed.data()), int(changed.size()));
         }
     } catch (const EndOfBytes &) {
     }
@@ -142,7 +183,7 @@ QString carryXmp(const QString &source, const QString &result)
         place = piecesOfPng(whole);
     }
     const bool alike = pieces && place;
-    const std::string packet = alike ? std::string() : packetOf(source);
+    const std::string packet = alike ? std::string() : withoutFurtherPictures(packetOf(source));
     if (alike ? pieces->bytes.isEmpty() : packet.empty())
         return QString();
 

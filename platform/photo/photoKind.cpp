@@ -72,22 +72,39 @@ constexpr std::array<Mark, 3> kVideos[] = {
     {{{"pnot"sv, 4}}},
 };
 
-/// Types of the ISO media format that are not videos: pictures, camera raw, sound.
-constexpr std::string_view kStillBrands[] = {"heic", "heix", "heim", "heis", "mif1", "mif2",
-                                             "avif", "crx ", "jpx ", "jp2 ", "M4A ", "M4B "};
+/// Types of the ISO media format that are not videos: pictures in the library's container; other pictures, camera raw, sound.
+constexpr std::string_view kHeifBrands[] = {"heic", "heix", "heim", "heis", "mif1", "mif2", "avif"};
+constexpr std::string_view kOtherBrands[] = {"crx ", "jpx ", "jp2 ", "M4A ", "M4B "};
+
+/// A file is of the kind of a row if it has all its marks.
+struct FurtherPicture
+{
+    PhotoKind kind;
+    Mark marks[2];
+};
+constexpr FurtherPicture kFurtherPictures[] = {
+    {PhotoKind::Webp, {{"RIFF"sv}, {"WEBP"sv, 8}}},
+    {PhotoKind::JpegXl, {{"\xFF\x0A"sv}, {}}},
+    {PhotoKind::JpegXl, {{"\0\0\0\x0CJXL \r\n\x87\n"sv}, {}}},
+};
 
 bool isThere(std::string_view start, const Mark &mark)
 {
     return start.size() >= mark.at && start.substr(mark.at, mark.bytes.size()) == mark.bytes;
 }
 
-bool isVideo(std::string_view start)
+template<typename Marks>
+bool areThere(std::string_view start, const Marks &marks)
 {
-    if (isThere(start, {"ftyp"sv, 4}))
-        return std::find(std::begin(kStillBrands), std::end(kStillBrands), start.substr(8, 4)) == std::end(kStillBrands);
-    return std::any_of(std::begin(kVideos), std::end(kVideos), [&](const auto &marks) {
-        return std::all_of(marks.begin(), marks.end(), [&](const Mark &mark) { return isThere(start, mark); });
-    });
+    return std::all_of(std::begin(marks), std::end(marks), [&](const Mark &mark) { return isThere(start, mark); });
+}
+
+PhotoKind isoMediaKind(std::string_view start)
+{
+    const auto isAmong = [&](const auto &brands) {
+        return std::find(std::begin(brands), std::end(brands), start.substr(8, 4)) != std::end(brands);
+    };
+    return isAmong(kHeifBrands) ? PhotoKind::Heif : isAmong(kOtherBrands) ? PhotoKind::Other : PhotoKind::Video;
 }
 
 bool isAmong(std::string_view suffix, const std::string_view (&list)[3])
@@ -107,7 +124,14 @@ PhotoKind photoKind(std::string_view start)
         if (signature.start.substr(0, count) == start.substr(0, count))
             return signature.kind;
     }
-    return isVideo(start) ? PhotoKind::Video : PhotoKind::Other;
+    if (isThere(start, {"ftyp"sv, 4}))
+        return isoMediaKind(start);
+    for (const FurtherPicture &picture : kFurtherPictures)
+        if (areThere(start, picture.marks))
+            return picture.kind;
+    const bool video =
+        std::any_of(std::begin(kVideos), std::end(kVideos), [&](const auto &marks) { return areThere(start, marks); });
+    return video ? PhotoKind::Video : PhotoKind::Other;
 }
 
 std::optional<PhotoKind> photoKindOf(const ByteSource &file)

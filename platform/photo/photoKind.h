@@ -24,6 +24,10 @@ enum class PhotoKind {
     Orf,
     Raf,
     Rw2,
+    // Pictures that the codec layer doesn't read.
+    Heif, ///< HEIC, AVIF.
+    Webp,
+    JpegXl,
     // Refused. A video gets a message of its own.
     Video,
     Other,
@@ -44,8 +48,8 @@ std::string suffixOf(std::string_view path);
 PhotoKind pictureKindOfSuffix(std::string_view suffix);
 /// True for a suffix of camera raw.
 bool isRawSuffix(std::string_view suffix);
-/// True if a file of this kind may have this suffix: a suffix that names a format must be true, and under any other the content
-/// decides. False under every suffix for what is not a photograph.
+/// True if a file of this kind may have this suffix: a suffix that names a format of the codec layer must be true, and under any
+/// other the content decides. False under every suffix for what is not a photograph.
 bool suffixFits(PhotoKind kind, std::string_view suffix);
 /// True for kinds that are always camera raw.
 bool isRawOnly(PhotoKind kind);

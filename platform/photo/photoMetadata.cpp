@@ -155,6 +155,9 @@ std::unique_ptr<Exiv2::Image> imageOf(PhotoKind kind, std::unique_ptr<Io> io)
         return as(new Exiv2::Rw2Image(Owned{std::move(io)}));
     case PhotoKind::Radiance:
     case PhotoKind::OpenExr:
+    case PhotoKind::Heif:
+    case PhotoKind::Webp:
+    case PhotoKind::JpegXl:
     case PhotoKind::Video:
     case PhotoKind::Other:
         break;

@@ -180,18 +180,15 @@ void OpenPhoto::recover(int level, const QRect &part, int strength, VImage &resu
     VImage working;
     toWorkingForm(view, working);
     if (hasMap() && strength != 0) {
-        std::vector<float> values(std::size_t(part.width()) * std::size_t(part.height()));
-        for (int y = 0; y < part.height(); ++y)
-            std::copy_n(reinterpret_cast<const float *>(map(level).PixelAddress(part.x(), part.y() + y)), part.width(),
-                        values.data() + std::size_t(y) * std::size_t(part.width()));
-        recover(working, values.data(), strength);
+        VImage values(part.width(), part.height(), VImage::Grey, 32); // the engine wants no gaps between the rows
+        map(level).CopyRect(part.x(), part.y(), part.width(), part.height(), values, 0, 0);
+        recover(working, values, strength);
     }
     working.ConvertTo(result, whole.Type(), whole.BitsPerComponent());
 }
 
-void OpenPhoto::recover(VImage &working, const float *mapValues, int strength) const
+void OpenPhoto::recover(VImage &working, const VImage &values, int strength) const
 {
-    HazeState state{strength, {airlight[0], airlight[1], airlight[2]}, const_cast<float *>(mapValues)};
-    if (hasMap())
-        RemoveHaze(working, state); // with a map, it only reads it
+    HazeState state{strength, {airlight[0], airlight[1], airlight[2]}, reinterpret_cast<float *>(values.PixelAddress(0, 0))};
+    RemoveHaze(working, state); // it only reads a map that is there
 }

@@ -72,8 +72,8 @@ public:
     /// What a run at this strength would save, in the form of the file, of a rectangle inside a level. `strength` in per cent;
     /// without a map, as at 0. At level 0 it is bit for bit what a run saves. Throws VException and std::bad_alloc.
     void recover(int level, const QRect &part, int strength, VImage &result) const;
-    /// The same for pixels from elsewhere, in the engine's form, with the map's values for them; in place.
-    void recover(VImage &working, const float *mapValues, int strength) const;
+    /// The same for pixels from elsewhere, in the engine's form, with the map's values for them, in the form of map(); in place.
+    void recover(VImage &working, const VImage &values, int strength) const;
 
     /// About half a million pixels at even distances, with the map's values for them, to count from.
     const VImage &samples() const { return sampledPixels->image; }

@@ -26,15 +26,19 @@ public:
     /// The profile of the primary screen, as the desktop has set it; empty if it has set none.
     static QByteArray profileOfScreen();
 
+    /// Quick rounds to 8 bits before the conversion, which makes no difference for a photograph of 8 bits, and shifts others by a
+    /// few of 255 at most; Exact takes ten times as long for those.
+    enum class Quality { Quick, Exact };
+
     /// Converts `pixels`, in any of the nine forms and in the colours of `profile`, to a picture of the same size:
     /// Format_ARGB32, not premultiplied, opaque unless `pixels` has an alpha. Throws VException and std::bad_alloc.
-    void convert(const VImage &pixels, const QByteArray &profile, QImage &picture);
+    void convert(const VImage &pixels, const QByteArray &profile, Quality quality, QImage &picture);
 
 private:
     struct Conversion;
-    std::shared_ptr<const Conversion> conversionFrom(const QByteArray &profile, bool grey);
+    std::shared_ptr<const Conversion> conversionFrom(const QByteArray &profile);
 
     const QByteArray screen;
     std::mutex mutex;
-    std::map<std::pair<QByteArray, bool>, std::shared_ptr<const Conversion>> conversions; ///< Under the mutex.
+    std::map<QByteArray, std::shared_ptr<const Conversion>> conversions; ///< Under the mutex.
 };

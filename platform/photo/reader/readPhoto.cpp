@@ -6,8 +6,11 @@
 
 #include "RawPhoto.h"
 #include "RegularFile.h"
+#include "furtherPictures.h"
 #include "gfl.h"
+#include "onePixelPng.h"
 #include "photoMetadata.h"
+#include "pictureDecoder.h"
 
 namespace {
 
@@ -18,9 +21,6 @@ struct Release
     void operator()(GflBitmap *bitmap) const { gflFreeBitmap(bitmap); }
 };
 using Picture = std::unique_ptr<GflBitmap, Release>;
-
-/// The most tightly packed row is a fax row that repeats the one above: it takes one bit, and is never longer than this.
-constexpr std::int64_t kMostPixelsPerByte = 1 << 20;
 
 PhotoProblem problemOf(int code)
 {
@@ -61,6 +61,7 @@ struct Opened
     RegularFile file;
     PhotoKind kind = PhotoKind::Other;
     std::unique_ptr<RawPhoto> raw;
+    DecodePicture decode = nullptr; ///< For what the codec layer doesn't read.
 };
 
 /// Finds out what an open file is.
@@ -75,6 +76,10 @@ PhotoProblem identify(Opened &opened)
     const std::string suffix = suffixOf(opened.file.name());
     if (!suffixFits(*kind, suffix))
         return {Cause::UnknownFormat, {}};
+    if (*kind == PhotoKind::Heif || *kind == PhotoKind::Webp || *kind == PhotoKind::JpegXl) {
+        opened.decode = decoderFor(*kind);
+        return {opened.decode ? Cause::None : Cause::NoDecoder, {}};
+    }
     // The suffix decides, since most camera raw files are TIFF inside. Without one of a known format the content does.
     if (isRawSuffix(suffix) || isRawOnly(*kind)) {
         opened.raw = std::make_unique<RawPhoto>(opened.file);
@@ -129,6 +134,7 @@ void readPictureHead(const Opened &opened, PhotoHead &head)
     } catch (const std::exception &) {
         // What is missing, readPixels reports in better words.
     }
+    head.furtherPictures = holdsFurtherPictures(opened.file);
     const Picture picture = load(opened.file, GFL_LOAD_METADATA_ONLY).second;
     if (!picture)
         return;
@@ -140,6 +146,20 @@ void readPictureHead(const Opened &opened, PhotoHead &head)
     }
 }
 
+PhotoProblem readDecodedHead(const Opened &opened, PhotoHead &head)
+{
+    DecodedPicture picture;
+    if (PhotoProblem problem = opened.decode(opened.file, Wanted::Head, UINT64_MAX, picture))
+        return problem;
+    head.width = picture.width;
+    head.height = picture.height;
+    head.orientation = picture.upright ? 1 : orientationOf(picture.exif);
+    head.bytesPerPixel = picture.components * picture.bits / 8;
+    head.metadata = head.needsStandIn = true;
+    head.furtherPictures = picture.furtherPictures;
+    return {};
+}
+
 } // namespace
 
 PhotoProblem readHead(const std::string &path, PhotoHead &head)
@@ -149,9 +169,14 @@ PhotoProblem readHead(const std::string &path, PhotoHead &head)
         return problem;
     PhotoHead found;
     found.kind = opened.kind;
-    if (!opened.raw)
+    PhotoProblem problem;
+    if (opened.decode)
+        problem = readDecodedHead(opened, found);
+    else if (opened.raw)
+        problem = readRawHead(opened, found);
+    else
         readPictureHead(opened, found);
-    else if (PhotoProblem problem = readRawHead(opened, found))
+    if (problem)
         return problem;
     if (std::int64_t(found.width) * found.height / kMostPixelsPerByte > std::int64_t(opened.file.size()))
         return {Cause::Damaged, {}};
@@ -160,11 +185,18 @@ PhotoProblem readHead(const std::string &path, PhotoHead &head)
     return {};
 }
 
-PhotoProblem readPixels(const std::string &path, PhotoPixels &pixels)
+PhotoProblem readPixels(const std::string &path, PhotoPixels &pixels, std::uint64_t mostBytes)
 {
     Opened opened(path);
     if (PhotoProblem problem = identify(opened))
         return problem;
+    if (opened.decode) {
+        DecodedPicture picture;
+        if (PhotoProblem problem = opened.decode(opened.file, Wanted::Pixels, mostBytes, picture))
+            return problem;
+        pixels = picture.pixels;
+        return {};
+    }
     if (opened.raw) {
         RawPhoto::Developed picture = opened.raw->develop();
         if (!picture.samples)
@@ -191,4 +223,39 @@ PhotoProblem readPixels(const std::string &path, PhotoPixels &pixels)
               record.data,
               std::shared_ptr<GflBitmap>(std::move(picture))};
     return {};
+}
+
+PhotoProblem makeStandIn(const std::string &path, std::vector<std::uint8_t> &file)
+{
+    Opened opened(path);
+    if (PhotoProblem problem = identify(opened))
+        return problem;
+    if (!opened.decode)
+        return {Cause::UnknownFormat, {}};
+    DecodedPicture picture;
+    if (PhotoProblem problem = opened.decode(opened.file, Wanted::Metadata, UINT64_MAX, picture))
+        return problem;
+    if (picture.upright)
+        makeUpright(picture.exif);
+    file = onePixelPng(picture.icc, picture.exif, picture.xmp);
+    return {};
+}
+
+std::vector<FurtherFormat> furtherFormats()
+{
+    std::string heic, avif, webp, jpegXl;
+#ifdef NIMBRA_HEIF
+    heic = heifLibrary(/*av1=*/false);
+    avif = heifLibrary(/*av1=*/true);
+#endif
+#ifdef NIMBRA_WEBP
+    webp = webpLibrary();
+#endif
+#ifdef NIMBRA_JPEG_XL
+    jpegXl = jpegXlLibrary();
+#endif
+    return {{"HEIC", heic, {"heic", "heif", "hif"}},
+            {"AVIF", avif, {"avif"}},
+            {"WebP", webp, {"webp"}},
+            {"JPEG XL", jpegXl, {"jxl"}}};
 }

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "photoKind.h"
 
@@ -17,12 +19,14 @@ struct PhotoProblem
         None,
         NotOpened,     ///< Missing, not a regular file, or not readable.
         Video,         ///< Recognised as a video.
+        Animation,     ///< A picture that moves.
+        NoDecoder,     ///< A picture in a format that this build, or the library behind it, has no decoder for.
         UnknownFormat, ///< Not a photograph, or another kind than its suffix says.
         Damaged,       ///< Cut short, or the head claims what a file of this length can't hold.
-        NoMemory,
-        PixelForm,   ///< Its kind of pixels can't be read.
-        RawNoMemory, ///< Not enough memory to open or develop camera raw.
-        RawNotRead,  ///< Camera raw that can't be opened or developed; see `detail`.
+        NoMemory,      ///< Not enough, or the picture would need more than it may take.
+        PixelForm,     ///< Its kind of pixels can't be read.
+        RawNoMemory,   ///< Not enough memory to open or develop camera raw.
+        RawNotRead,    ///< Camera raw that can't be opened or developed; see `detail`.
     };
     Cause cause = Cause::None;
     std::string detail; ///< The raw library's own text, in English; empty for the other causes.
@@ -42,6 +46,10 @@ struct PhotoHead
     int bytesPerPixel = 6; ///< Of what readPixels returns: 6, as for 16-bit RGB, where the head doesn't say.
     bool pixels = false;   ///< There is a size, so that pixels may be had; whether they are whole, readPixels finds out.
     bool metadata = false; ///< The codec layer can read what a result takes over. Always true for camera raw.
+    /// The codec layer does not read the file: a process takes the metadata from makeStandIn's file.
+    bool needsStandIn = false;
+    /// The file holds a gain map or pictures besides the photograph itself, which a result leaves out.
+    bool furtherPictures = false;
 };
 
 /// Reads the head into `head`, and no pixels. Also a problem: camera raw whose metadata the codec layer would refuse at the save.
@@ -60,5 +68,20 @@ struct PhotoPixels
 };
 
 /// Reads the whole photograph. Pictures keep the depth and channels of their file; camera raw becomes 16-bit RGB or grey in sRGB,
-/// with the camera's white balance. `pixels` is unchanged where there is a problem.
-[[nodiscard]] PhotoProblem readPixels(const std::string &path, PhotoPixels &pixels);
+/// with the camera's white balance. `pixels` is unchanged where there is a problem. A decoder that takes the memory for a picture
+/// all at once refuses one that needs more than `mostBytes`, with NoMemory.
+[[nodiscard]] PhotoProblem readPixels(const std::string &path, PhotoPixels &pixels, std::uint64_t mostBytes = UINT64_MAX);
+
+/// Makes a PNG file of one pixel with colour profile, EXIF and XMP of a photograph that needsStandIn: what the codec layer and
+/// carryXmp take from it is what they would take from the photograph. Its EXIF says how the pixels of readPixels are to be
+/// turned.
+[[nodiscard]] PhotoProblem makeStandIn(const std::string &path, std::vector<std::uint8_t> &file);
+
+/// A format that is read by a library of its own.
+struct FurtherFormat
+{
+    std::string name;
+    std::string library; ///< With its version; empty if there is no decoder for the format.
+    std::vector<std::string_view> suffixes;
+};
+std::vector<FurtherFormat> furtherFormats();

@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <atomic>
 #include <csignal>
+#include <cstdio>
 #include <map>
+#include <numeric>
 #include <thread>
 
 #include <sys/resource.h>
@@ -9,6 +11,8 @@
 #include <unistd.h>
 
 #include <exiv2/exiv2.hpp>
+#include <jpeglib.h>
+#include <tiffio.h>
 
 #include "GflFixture.h"
 
@@ -114,6 +118,142 @@ TEST_F(GflTest, FloatsBeyondTheScaleAreKeptOrClamped)
     for (const int x : {2, 6, 7, 8})
         EXPECT_NEAR(fractionAt(*read, x, 0, 0) / values[x], 1.0, 0.5 / 128) << x;
     EXPECT_GT(fractionAt(*read, 4, 0, 0), 1e38);
+}
+
+TEST_F(GflTest, JpegIsWrittenWithTheTablesAndSubsamplingOfItsSourceAndNeverBelowQuality92)
+{
+    /// Sums of the tables for brightness and colour, and pixels per colour sample.
+    struct Form
+    {
+        int brightness = 0, colour = 0, across = 0, down = 0;
+    };
+    const auto formOf = [](const std::string &name) {
+        jpeg_decompress_struct info;
+        jpeg_error_mgr errors;
+        info.err = jpeg_std_error(&errors);
+        jpeg_create_decompress(&info);
+        const std::unique_ptr<FILE, int (*)(FILE *)> file(std::fopen(name.c_str(), "rb"), std::fclose);
+        jpeg_stdio_src(&info, file.get());
+        jpeg_read_header(&info, TRUE);
+        const auto sum = [&](int component) {
+            const UINT16 *steps = info.quant_tbl_ptrs[info.comp_info[component].quant_tbl_no]->quantval;
+            return std::accumulate(steps, steps + 64, 0);
+        };
+        const int last = info.num_components - 1;
+        const Form form{sum(0), sum(last), info.comp_info[0].h_samp_factor / info.comp_info[last].h_samp_factor,
+                        info.comp_info[0].v_samp_factor / info.comp_info[last].v_samp_factor};
+        jpeg_destroy_decompress(&info);
+        return form;
+    };
+    const auto writeSource = [](const std::string &name, int components, int quality, int across, int down, J_COLOR_SPACE space,
+                                bool progressive) {
+        jpeg_compress_struct info;
+        jpeg_error_mgr errors;
+        info.err = jpeg_std_error(&errors);
+        jpeg_create_compress(&info);
+        const std::unique_ptr<FILE, int (*)(FILE *)> file(std::fopen(name.c_str(), "wb"), std::fclose);
+        jpeg_stdio_dest(&info, file.get());
+        info.image_width = info.image_height = 40;
+        info.input_components = components;
+        info.in_color_space = components == 1 ? JCS_GRAYSCALE : components == 3 ? JCS_RGB : JCS_CMYK;
+        jpeg_set_defaults(&info);
+        jpeg_set_colorspace(&info, space);
+        jpeg_set_quality(&info, quality, TRUE);
+        info.comp_info[0].h_samp_factor = across;
+        info.comp_info[0].v_samp_factor = down;
+        if (progressive)
+            jpeg_simple_progression(&info);
+        jpeg_start_compress(&info, TRUE);
+        std::vector<JSAMPLE> row(160, 77);
+        while (info.next_scanline < info.image_height) {
+            JSAMPROW rows[] = {row.data()};
+            jpeg_write_scanlines(&info, rows, 1);
+        }
+        jpeg_finish_compress(&info);
+        jpeg_destroy_compress(&info);
+    };
+    const auto picture = [&](int components) { return makePicture(40, 40, components, 8); };
+    ASSERT_EQ(save(path("usual.jpg"), picture(3).get(), "jpeg"), GFL_NO_ERROR);
+    const Form usual = formOf(path("usual.jpg"));
+
+    const struct
+    {
+        const char *name;
+        int components, quality, across, down;
+        J_COLOR_SPACE space;
+        bool progressive;
+        int results; ///< Components of the result.
+        int finer;   ///< 1: tables as in the source; 0: as by default; -1: coarser than the default, so limited.
+        int resultAcross, resultDown;
+    } cases[] = {
+        {"fine 4:2:0", 3, 97, 2, 2, JCS_YCbCr, false, 3, 1, 2, 2},
+        {"progressive 4:2:2", 3, 95, 2, 1, JCS_YCbCr, true, 3, 1, 2, 1},
+        {"4:4:0", 3, 100, 1, 2, JCS_YCbCr, false, 3, 1, 1, 2},
+        {"4:1:1 with alpha in the result", 3, 95, 4, 1, JCS_YCbCr, false, 4, 1, 4, 1},
+        {"coarse", 3, 40, 2, 2, JCS_YCbCr, false, 3, -1, 2, 2},
+        {"broken scale", 3, 1, 2, 2, JCS_YCbCr, false, 3, -1, 2, 2},
+        {"a factor of three, which the encoder lacks", 3, 97, 3, 1, JCS_YCbCr, false, 3, 1, 1, 1},
+        {"grey", 1, 97, 1, 1, JCS_GRAYSCALE, false, 1, 1, 1, 1},
+        {"RGB has other tables", 3, 97, 1, 1, JCS_RGB, false, 3, 0, 1, 1},
+        {"CMYK has none for colour", 4, 97, 1, 1, JCS_CMYK, false, 3, 0, 1, 1},
+        {"grey source of a colour result", 1, 97, 1, 1, JCS_GRAYSCALE, false, 3, 0, 1, 1},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.name);
+        writeSource(path("s.jpg"), c.components, c.quality, c.across, c.down, c.space, c.progressive);
+        const Form source = formOf(path("s.jpg"));
+        Picture read;
+        ASSERT_EQ(load(path("s.jpg"), read, GFL_LOAD_METADATA_ONLY), GFL_NO_ERROR);
+        const Picture target = picture(c.results);
+        gflBitmapCopyPacking(read.get(), target.get());
+        ASSERT_EQ(save(path("r.jpg"), target.get(), "jpeg"), GFL_NO_ERROR);
+        const Form result = formOf(path("r.jpg"));
+        EXPECT_EQ(result.across, c.resultAcross);
+        EXPECT_EQ(result.down, c.resultDown);
+        const Form &expected = c.finer == 1 ? source : usual;
+        // Rounding each step of a coarse table to a whole number moves the sum by less than half a step for each of the 64.
+        EXPECT_NEAR(result.brightness, expected.brightness, c.finer < 0 ? 32 : 0);
+        if (c.results > 1) {
+            EXPECT_NEAR(result.colour, expected.colour, c.finer < 0 ? 32 : 0);
+        }
+        ASSERT_EQ(save(path("r.jpg"), target.get(), "jpeg", /*quality=*/60), GFL_NO_ERROR);
+        EXPECT_GT(formOf(path("r.jpg")).brightness, usual.brightness * 3);
+        EXPECT_EQ(formOf(path("r.jpg")).across, c.resultAcross);
+    }
+}
+
+TEST_F(GflTest, TiffIsCompressedLikeItsSourceAndInAFormThatEveryProgramReads)
+{
+    const Picture picture = makePicture(32, 32, 3, 8);
+    const auto compressionOf = [](const std::string &name) {
+        TIFF *const tiff = TIFFOpen(name.c_str(), "r");
+        std::uint16_t compression = 0;
+        TIFFGetField(tiff, TIFFTAG_COMPRESSION, &compression);
+        TIFFClose(tiff);
+        return int(compression);
+    };
+    const std::pair<int, int> cases[] = {{COMPRESSION_NONE, COMPRESSION_NONE},
+                                         {COMPRESSION_LZW, COMPRESSION_LZW},
+                                         {COMPRESSION_ADOBE_DEFLATE, COMPRESSION_ADOBE_DEFLATE},
+                                         {COMPRESSION_PACKBITS, COMPRESSION_ADOBE_DEFLATE}};
+    for (const auto &[before, after] : cases) {
+        TIFF *const tiff = TIFFOpen(path("s.tif").c_str(), "w");
+        const std::pair<std::uint32_t, int> fields[] = {{TIFFTAG_IMAGEWIDTH, 4},    {TIFFTAG_IMAGELENGTH, 1},
+                                                        {TIFFTAG_BITSPERSAMPLE, 8}, {TIFFTAG_SAMPLESPERPIXEL, 1},
+                                                        {TIFFTAG_PHOTOMETRIC, 1},   {TIFFTAG_COMPRESSION, before}};
+        for (const auto &[tag, value] : fields)
+            TIFFSetField(tiff, tag, value);
+        std::uint8_t row[] = {1, 2, 3, 4};
+        TIFFWriteScanline(tiff, row, 0);
+        TIFFClose(tiff);
+        Picture read;
+        ASSERT_EQ(load(path("s.tif"), read, GFL_LOAD_METADATA_ONLY), GFL_NO_ERROR);
+        gflBitmapCopyPacking(read.get(), picture.get());
+        ASSERT_EQ(save(path("r.tif"), picture.get(), "tiff"), GFL_NO_ERROR);
+        EXPECT_EQ(compressionOf(path("r.tif")), after) << before;
+        ASSERT_EQ(save(path("r.tif"), picture.get(), "tiff", -1, 0), GFL_NO_ERROR);
+        EXPECT_EQ(compressionOf(path("r.tif")), COMPRESSION_NONE) << before;
+    }
 }
 
 TEST_F(GflTest, JpegQualityAndDefaults)
