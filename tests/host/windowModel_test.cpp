@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include "DefaultStrength.h"
 #include "HostApplication.h"
@@ -619,16 +620,29 @@ TEST_F(Window, LosesNothingWhenItCloses)
         EXPECT_EQ(series.percent(0), 15);
         EXPECT_FALSE(session.isModified());
     }
-    // A session that can't be kept: its folder is a file.
-    folder.write("occupied", "");
+    // A session that can't be kept, as on a full disk.
     series.clear();
+    Session session(series, kProcess, folder.path("full"));
     add(paths({"a.png"}));
-    Session session(series, kProcess, folder.path("occupied"));
+    ASSERT_EQ(session.whatWouldBeLost(), "");
+    const QString kept = QDir(folder.path("full")).entryList({"*.json"}).value(0);
+    const QByteArray before = folder.content("full/" + kept);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit full{rlim_t(before.size() / 2), usual.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+    session.setCurrentPhoto(series.path(0));
     EXPECT_EQ(session.whatWouldBeLost(), "") << "there is nothing that the user has changed";
     series.setStrength({0}, fixed(16));
     QString problem;
     QObject::connect(&session, &Session::keepingFailed, [&](const QString &text) { problem = text; });
-    EXPECT_NE(session.whatWouldBeLost(), "");
+    EXPECT_TRUE(session.whatWouldBeLost().contains("full"));
+    EXPECT_EQ(folder.content("full/" + kept), before);
+    setrlimit(RLIMIT_FSIZE, &usual);
+    EXPECT_EQ(session.whatWouldBeLost(), "");
+    EXPECT_EQ(problem, "");
+    EXPECT_NE(folder.content("full/" + kept), before);
     folder.write("unreadable.xml", "<veilaway><photo/>");
     EXPECT_THROW(session.open(folder.path("unreadable.xml")), VException);
     EXPECT_THROW(session.open(folder.path("none.xml")), VException);

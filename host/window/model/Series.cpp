@@ -70,6 +70,7 @@ struct Series::Photo
     QString path;
     WantedStrength strength;
     WantedStrength start;
+    WantedStrength ordered; ///< When it was last given to the queue.
     std::optional<int> automatic;
     std::optional<int> resultStrength;
     QString result;
@@ -716,8 +717,11 @@ SaveQueue::Order Series::orderOf(const Photo &photo) const
 void Series::save(const QList<int> &given)
 {
     QVector<SaveQueue::Order> orders;
-    for (const int row : given)
-        orders << orderOf(*photos.at(std::size_t(row)));
+    for (const int row : given) {
+        Photo &photo = *photos.at(std::size_t(row));
+        photo.ordered = photo.strength;
+        orders << orderOf(photo);
+    }
     if (queue && !orders.isEmpty())
         queue->add(orders, options, paths());
 }
@@ -782,6 +786,8 @@ void Series::onEnded(const QString &path, const BatchOutcome &outcome, const QSt
     if (outcome.hasResult()) {
         photo->resultStrength = outcome.strength;
         photo->result = result;
+        if (photo->ordered.automatic && !photo->automatic)
+            photo->automatic = outcome.strength;
     }
     const bool kept = outcome.status == BatchOutcome::Status::Skipped || outcome.reason == BatchOutcome::Reason::ResultExists;
     if (outcome.status != BatchOutcome::Status::Stopped) {

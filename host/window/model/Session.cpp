@@ -352,7 +352,7 @@ void Session::open(const QString &given)
         throw VException(tr("There is no settings file \"%1\". Check its name and folder.").arg(path), V_LOCATION);
     file.load();
     for (const Recent &earlier : recent(kKeptSessions))
-        if (earlier.file == path && earlier.when > QFileInfo(path).lastModified() && read(earlier.id).modified) {
+        if (earlier.file == path && earlier.when >= QFileInfo(path).lastModified() && read(earlier.id).modified) {
             reopen(earlier.id);
             return;
         }
