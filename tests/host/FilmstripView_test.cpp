@@ -1,3 +1,4 @@
+#include <functional>
 #include <vector>
 
 #include <QAction>
@@ -11,7 +12,10 @@
 #include "EmptyView.h"
 #include "FilmstripDelegate.h"
 #include "FilmstripView.h"
+#include "HistogramView.h"
 #include "KeySheet.h"
+#include "PictureRequest.h"
+#include "photographText.h"
 
 namespace {
 
@@ -48,6 +52,15 @@ public:
     mutable int thumbnails = 0;
 };
 
+int marked(const QImage &picture, QRgb colour)
+{
+    int pixels = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            pixels += picture.pixel(x, y) == colour;
+    return pixels;
+}
+
 TEST(FilmstripView, EachStateIsSeenWithoutColours)
 {
     Photographs series(kStates);
@@ -66,8 +79,7 @@ TEST(FilmstripView, EachStateIsSeenWithoutColours)
         for (int other = 0; other < row; ++other)
             EXPECT_TRUE(items[std::size_t(row)] != items[std::size_t(other)]) << row << " looks like " << other;
     }
-    EXPECT_TRUE(
-        FilmstripDelegate::describe(series.index(int(Series::State::Failed))).contains(QStringLiteral("The disk is full.")));
+    EXPECT_TRUE(photographText(series.index(int(Series::State::Failed))).contains(QStringLiteral("The disk is full.")));
 }
 
 TEST(FilmstripView, OfAThousandOnlyWhatIsVisibleIsDrawn)
@@ -96,6 +108,35 @@ TEST(FilmstripView, OfAThousandOnlyWhatIsVisibleIsDrawn)
                       Qt::NoScrollPhase, false);
     QApplication::sendEvent(strip.viewport(), &wheel);
     EXPECT_LT(strip.horizontalScrollBar()->value(), scrolled);
+}
+
+TEST(HistogramView, ShowsTheResultOverTheSourceAndTheShares)
+{
+    Histogram histogram;
+    histogram.after[0][200] = 1000; // red
+    for (auto &bins : histogram.before)
+        bins[50] = 500;
+    histogram.after[2][255] = 1000000; // blue that has reached white doesn't flatten the rest
+    histogram.black = 0.017;
+    HistogramView view;
+    view.setLocale(QLocale::c());
+    view.resize(258, view.heightForWidth(258)); // a column for each value
+    view.setHistogram(histogram);
+    const double ratio = view.devicePixelRatioF();
+    const QImage seen = view.grab().toImage();
+    const auto reaches = [&](int value, const std::function<bool(QColor)> &is) {
+        for (int y = 0; y < int(90 * ratio); ++y)
+            if (is(seen.pixelColor(int((value + 1.5) * ratio), y)))
+                return y / ratio;
+        return 90.0;
+    };
+    EXPECT_LT(reaches(200, [](QColor colour) { return colour.red() > 2 * colour.green(); }), 25);
+    const double source = reaches(50, [](QColor colour) { return colour.red() > 100 && colour.red() == colour.blue(); });
+    EXPECT_GT(source, 40);
+    EXPECT_LT(source, 60);
+    EXPECT_TRUE(view.accessibleDescription().contains(QStringLiteral("1.7 %"))) << view.accessibleDescription().toStdString();
+    for (const QRgb mark : {PictureRequest::kBlackMark, PictureRequest::kWhiteMark})
+        EXPECT_GT(marked(seen, mark), 50);
 }
 
 TEST(KeySheet, ShowsTheActionsOwnKeysAndTexts)

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <vector>
@@ -219,7 +220,8 @@ TEST_F(View, ThePointerZoomsWhereItIsAndPansBothSides)
     const auto pixelUnder = [&] {
         const PictureRequest &request = requests.back().second;
         const double ratio = view.devicePixelRatioF();
-        const QSize whole = (QSizeF(view.size()) * ratio).toSize(), pane((whole.width() - int(2 * ratio)) / 2, whole.height());
+        const QSize whole(int(std::ceil(view.width() * ratio)), int(std::ceil(view.height() * ratio)));
+        const QSize pane((whole.width() - int(2 * ratio)) / 2, whole.height());
         const QPointF inPane = QPointF(pointer) * ratio - QPointF(whole.width() - pane.width(), 0);
         const QPoint topLeft((pane.width() - request.size.width()) / 2, (pane.height() - request.size.height()) / 2);
         return request.corner + (inPane - topLeft) / request.scale;
@@ -411,6 +413,47 @@ TEST_F(View, HeldKeysActWhereTheyMeanNothingElse)
     view.setPeek(PictureView::PeekMap);
     button.setFocus();
     EXPECT_EQ(view.peek(), PictureView::PeekMap);
+}
+
+TEST_F(View, ShowsTheRenderersOwnPixelsAndMarks)
+{
+    const QString path = folder.path("slope.png");
+    folder.photograph("slope.png", 500, 400);
+    QImage pixels(path);
+    for (int x = 0; x < 40; ++x)
+        for (int y = 0; y < 40; ++y) {
+            pixels.setPixel(x + 150, y + 200, qRgb(0, 0, 0));
+            pixels.setPixel(x + 200, y + 200, qRgb(255, 255, 255));
+        }
+    ASSERT_TRUE(pixels.save(path));
+    answers = false;
+    PictureRenderer before, after;
+    view.setRenderers(&before, &after);
+    int pictures = 0;
+    for (const PictureRenderer *renderer : {&before, &after})
+        QObject::connect(renderer, &PictureRenderer::ready, &window, [&] { ++pictures; });
+    view.setStrength(70);
+    view.setClipping(true);
+    view.setMode(PictureView::AfterOnly);
+    view.showPhoto(OpenPhoto::read(path)->withMap());
+    view.zoomTo(1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pictures >= 2; }, kLimitMs));
+    for (const auto &[peek, wanted] :
+         {std::pair{PictureView::NoPeek, PictureView::After}, std::pair{PictureView::PeekBefore, PictureView::Before}}) {
+        view.setPeek(peek);
+        settle();
+        const auto last =
+            std::find_if(requests.rbegin(), requests.rend(), [side = wanted](const auto &one) { return one.first == side; });
+        const QImage expected = PictureRenderer::picture(last->second).convertToFormat(QImage::Format_RGB32), seen = grab();
+        const QPoint corner((seen.width() - expected.width()) / 2, (seen.height() - expected.height()) / 2);
+        const QRect part(expected.width() / 8, expected.height() / 3, expected.width() / 2,
+                         expected.height() / 2); // without labels
+        EXPECT_TRUE(seen.copy(part.translated(corner)) == expected.copy(part));
+        if (peek == PictureView::PeekBefore) {
+            EXPECT_EQ(seen.pixel(corner + QPoint(170, 220) - (last->second.corner).toPoint()), PictureRequest::kBlackMark);
+            EXPECT_EQ(seen.pixel(corner + QPoint(220, 220) - (last->second.corner).toPoint()), PictureRequest::kWhiteMark);
+        }
+    }
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "DefaultStrength.h"
 #include "PhotographList.h"
 #include "argumentText.h"
+#include "photographText.h"
 
 namespace {
 
@@ -247,7 +248,9 @@ QVariant Series::data(const QModelIndex &index, int role) const
     case ThumbnailRole:
         return photo.thumbnail;
     case Qt::ToolTipRole:
-        return photo.reason.isEmpty() ? QDir::toNativeSeparators(photo.path) : photo.reason;
+        return photographText(index) + QLatin1Char('\n') + QDir::toNativeSeparators(photo.path);
+    case Qt::AccessibleTextRole:
+        return photographText(index);
     case PathRole:
         return photo.path;
     case StrengthRole: {

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kLargestText = 420; ///< Pixels, for a session.
+constexpr int kLargestText = 600; ///< Pixels, for a session.
 
 /// A photograph of hills, drawn in the colour of the text.
 class Sign : public QWidget

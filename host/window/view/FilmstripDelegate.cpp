@@ -1,11 +1,8 @@
 #include "FilmstripDelegate.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QHelpEvent>
 #include <QPainter>
 #include <QPixmapCache>
-#include <QToolTip>
 
 #include "pictureColours.h"
 
@@ -40,63 +37,25 @@ QSize FilmstripDelegate::sizeHint(const QStyleOptionViewItem &option, const QMod
     return {kThumbWidth + 2 * kPadding, kThumbHeight + 3 * kPadding + option.fontMetrics.height()};
 }
 
-QString FilmstripDelegate::textOf(Series::State state)
-{
-    switch (state) {
-    case Series::State::Untouched:
-        break;
-    case Series::State::Edited:
-        return tr("edited");
-    case Series::State::Waiting:
-        return tr("waiting to be saved");
-    case Series::State::InWork:
-        return tr("being saved");
-    case Series::State::Saved:
-        return tr("saved");
-    case Series::State::ChangedSince:
-        return tr("changed since it was saved");
-    case Series::State::Kept:
-        return tr("existing result kept");
-    case Series::State::Failed:
-        return tr("failed");
-    }
-    return {};
-}
-
-QString FilmstripDelegate::describe(const QModelIndex &index)
-{
-    QStringList lines{index.data(Series::NameRole).toString()};
-    if (const QVariant strength = index.data(Series::StrengthRole); strength.isValid())
-        lines << (index.data(Series::AutomaticRole).toBool() ? tr("Strength %1 %, automatic") : tr("Strength %1 %"))
-                     .arg(strength.toInt());
-    const QString state = textOf(Series::State(index.data(Series::StateRole).toInt())),
-                  reason = index.data(Series::ReasonRole).toString();
-    if (!state.isEmpty())
-        lines << state;
-    if (!reason.isEmpty())
-        lines << reason;
-    return lines.join(QLatin1Char('\n'));
-}
-
-bool FilmstripDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
-                                  const QModelIndex &index)
-{
-    if (event->type() != QEvent::ToolTip || !index.isValid())
-        return QStyledItemDelegate::helpEvent(event, view, option, index);
-    QToolTip::showText(event->globalPos(), describe(index), view, option.rect);
-    return true;
-}
-
 void FilmstripDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    const bool selected = option.state & QStyle::State_Selected;
-    const QPalette::ColorGroup group = option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
+    // The photograph in view is filled, others that are selected have a frame and their name filled.
+    const auto *view = qobject_cast<const QAbstractItemView *>(option.widget);
+    const bool current = view && view->currentIndex() == index, selected = option.state & QStyle::State_Selected;
     const QPalette &palette = option.palette;
-    if (selected)
-        painter->fillRect(option.rect, palette.brush(group, QPalette::Highlight));
+    const QPalette::ColorGroup group = option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
+    const QColor highlight = palette.color(group, QPalette::Highlight);
     const QRect room(option.rect.left() + kPadding, option.rect.top() + kPadding, kThumbWidth, kThumbHeight);
+    const QRect line(room.left(), room.bottom() + 1 + kPadding / 2, room.width(), option.fontMetrics.height());
+    if (current || selected) {
+        painter->setPen(QPen(highlight, 2));
+        painter->setBrush(current ? QBrush(highlight) : QBrush(Qt::NoBrush));
+        painter->drawRoundedRect(QRectF(option.rect).adjusted(2, 2, -2, -2), 3, 3);
+        if (selected)
+            painter->fillRect(line, highlight);
+    }
 
     QRect place = room;
     const auto thumbnail = index.data(Series::ThumbnailRole).value<QImage>();
@@ -140,17 +99,9 @@ void FilmstripDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     }
 
     painter->setFont(option.font);
-    painter->setPen(palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text));
-    const QRect line(room.left(), room.bottom() + 1 + kPadding / 2, room.width(), option.fontMetrics.height());
+    painter->setPen(palette.color(group, current || selected ? QPalette::HighlightedText : QPalette::Text));
     painter->drawText(line, Qt::AlignCenter,
                       option.fontMetrics.elidedText(index.data(Series::NameRole).toString(), Qt::ElideMiddle, line.width()));
-
-    if (option.state & QStyle::State_HasFocus) {
-        painter->setRenderHint(QPainter::Antialiasing, false);
-        painter->setPen(QPen(palette.color(group, selected ? QPalette::HighlightedText : QPalette::Highlight), 2));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
-    }
     painter->restore();
 }
 

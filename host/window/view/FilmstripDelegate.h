@@ -19,17 +19,9 @@ public:
     /// All items have the same size.
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-    /// The tool tip: name, strength, state, and the reason of a failure.
-    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
-                   const QModelIndex &index) override;
 
     /// One turn of the arc has 360 degrees.
     void setTurn(int degrees) { turn = degrees; }
-
-    /// A word or two for the user; empty for Untouched.
-    static QString textOf(Series::State state);
-    /// What the tool tip shows, a line for each fact.
-    static QString describe(const QModelIndex &index);
 
 private:
     void paintState(QPainter &painter, const QRectF &place, Series::State state) const;

@@ -1,5 +1,6 @@
 #include "FilmstripView.h"
 
+#include <QPainter>
 #include <QScrollBar>
 #include <QTimerEvent>
 #include <QWheelEvent>
@@ -55,6 +56,11 @@ bool FilmstripView::anyInWork() const
 void FilmstripView::paintEvent(QPaintEvent *event)
 {
     QListView::paintEvent(event);
+    if (keyboardFocus) {
+        QPainter painter(viewport());
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+    }
     if (!animation.isActive() && style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) > 0 && anyInWork())
         animation.start(kTurnMs, this);
 }
@@ -71,6 +77,20 @@ void FilmstripView::timerEvent(QTimerEvent *event)
         viewport()->update();
     else
         animation.stop();
+}
+
+void FilmstripView::focusInEvent(QFocusEvent *event)
+{
+    keyboardFocus = event->reason() != Qt::MouseFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
+    QListView::focusInEvent(event);
+    viewport()->update();
+}
+
+void FilmstripView::focusOutEvent(QFocusEvent *event)
+{
+    keyboardFocus = false;
+    QListView::focusOutEvent(event);
+    viewport()->update();
 }
 
 void FilmstripView::wheelEvent(QWheelEvent *event)

@@ -21,6 +21,8 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
@@ -29,4 +31,5 @@ private:
     FilmstripDelegate *painterOfItems;
     QBasicTimer animation;
     int turn = 0; ///< Degrees.
+    bool keyboardFocus = false;
 };

@@ -23,7 +23,9 @@ const QColor kSource(230, 230, 230);
 
 HistogramView::HistogramView(QWidget *parent) : QWidget(parent)
 {
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
     setAccessibleName(tr("Histogram"));
 }
 
@@ -47,14 +49,34 @@ QString HistogramView::percent(double share) const
     return locale().toString(share * 100, 'f', 1);
 }
 
+QStringList HistogramView::legend(double black, double white) const
+{
+    return {//: Share of the result's pixels that are black
+            tr("black %1 %").arg(percent(black)),
+            //: Share of the result's pixels that are white
+            tr("white %1 %").arg(percent(white))};
+}
+
+/// Whether both entries of the legend go into one line, whatever the shares are.
+bool HistogramView::isInOneLine(int across) const
+{
+    const QStringList longest = legend(1, 1);
+    return fontMetrics().horizontalAdvance(longest[0] + longest[1]) + 2 * fontMetrics().ascent() + 4 * kPadding <= across;
+}
+
+int HistogramView::heightForWidth(int across) const
+{
+    return kPlotHeight + kPadding + (isInOneLine(across) ? 1 : 2) * fontMetrics().height();
+}
+
 QSize HistogramView::sizeHint() const
 {
-    return {240, kPlotHeight + kPadding + fontMetrics().height()};
+    return {240, heightForWidth(240)};
 }
 
 QSize HistogramView::minimumSizeHint() const
 {
-    return {160, sizeHint().height()};
+    return {160, heightForWidth(160)};
 }
 
 void HistogramView::paintEvent(QPaintEvent *)
@@ -104,20 +126,20 @@ void HistogramView::paintEvent(QPaintEvent *)
 
     // The legend has the colours of the marks on the picture.
     painter.setRenderHint(QPainter::Antialiasing, false);
-    const int side = fontMetrics().ascent() - 1, top = kPlotHeight + kPadding;
+    const int side = fontMetrics().ascent() - 1;
+    int top = kPlotHeight + kPadding;
+    const QStringList texts = legend(shown->black, shown->white);
+    const bool oneLine = isInOneLine(width());
     int x = 0;
-    const std::pair<QColor, QString> entries[] = {
-        //: Share of the result's pixels that are black
-        {QColor(PictureRequest::kBlackMark), tr("black %1 %").arg(percent(shown->black))},
-        //: Share of the result's pixels that are white
-        {QColor(PictureRequest::kWhiteMark), tr("white %1 %").arg(percent(shown->white))},
-    };
-    for (const auto &[colour, text] : entries) {
+    for (int entry = 0; entry < 2; ++entry) {
         painter.setPen(palette().color(QPalette::WindowText));
-        painter.setBrush(colour);
+        painter.setBrush(QColor(entry == 0 ? PictureRequest::kBlackMark : PictureRequest::kWhiteMark));
         painter.drawRect(x, top + (fontMetrics().height() - side) / 2, side, side);
-        x += side + kPadding;
-        painter.drawText(x, top, width() - x, fontMetrics().height(), Qt::AlignLeft | Qt::AlignVCenter, text);
-        x += fontMetrics().horizontalAdvance(text) + 2 * kPadding;
+        painter.drawText(x + side + kPadding, top, width() - x - side - kPadding, fontMetrics().height(),
+                         Qt::AlignLeft | Qt::AlignVCenter, texts[entry]);
+        if (oneLine)
+            x += side + fontMetrics().horizontalAdvance(texts[entry]) + 3 * kPadding;
+        else
+            top += fontMetrics().height();
     }
 }

@@ -20,12 +20,16 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int across) const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
     QString percent(double share) const;
+    QStringList legend(double black, double white) const;
+    bool isInOneLine(int across) const;
 
     std::optional<Histogram> shown;
 };

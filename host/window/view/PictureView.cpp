@@ -244,7 +244,7 @@ void PictureView::zoomOut()
 QRect PictureView::pane(int index) const
 {
     const double ratio = devicePixelRatioF();
-    const QSize whole(int(width() * ratio), int(height() * ratio));
+    const QSize whole(int(std::ceil(width() * ratio)), int(std::ceil(height() * ratio)));
     if (paneCount() == 1)
         return {QPoint(), whole};
     const int across = (whole.width() - int(kGap * ratio)) / 2;
@@ -578,23 +578,27 @@ void PictureView::paintEvent(QPaintEvent *)
         const auto within = [&](const QRect &shown) {
             return scaled(part.translated(shown.topLeft()) & shown, 1 / ratio).toRect();
         };
-        // The strength of the picture that is shown, even if another one has been asked for.
         const Arrived &result = arrived[AfterPicture];
-        const QString before = tr("Before"), map = tr("Haze map");
-        const QString after = tr("After %1 %").arg(result.picture.isNull() ? percent : result.request.strength);
-        const auto nameOf = [&](Kind kind) { return kind == MapPicture ? map : kind == BeforePicture ? before : after; };
+        // What is there, and the strength that it has, even if another one has been asked for.
+        const auto name = [&](const QRect &shown, Qt::Alignment corner, Kind kind) {
+            if (!arrived[kind].picture.isNull())
+                paintChip(painter, within(shown), corner | Qt::AlignTop,
+                          kind == MapPicture      ? tr("Haze map")
+                          : kind == BeforePicture ? tr("Before")
+                                                  : tr("After %1 %").arg(result.request.strength));
+        };
         if (halved) {
             const int line = int(lineAt() / ratio);
             painter.setClipRect(QRect(0, 0, line, height()));
-            paintChip(painter, within(first), Qt::AlignLeft | Qt::AlignTop, before);
+            name(first, Qt::AlignLeft, BeforePicture);
             painter.setClipRect(QRect(line, 0, width() - line, height()));
-            paintChip(painter, within(first), Qt::AlignRight | Qt::AlignTop, after);
+            name(first, Qt::AlignRight, AfterPicture);
             painter.setClipping(false);
             paintLine(painter);
         } else {
             if (comparison == SideBySide)
-                paintChip(painter, within(first), Qt::AlignLeft | Qt::AlignTop, nameOf(kindOf(0)));
-            paintChip(painter, within(second), Qt::AlignRight | Qt::AlignTop, nameOf(kindOf(1)));
+                name(first, Qt::AlignLeft, kindOf(0));
+            name(second, Qt::AlignRight, kindOf(1));
         }
         if (waitShown)
             paintChip(painter, within(second), Qt::AlignRight | Qt::AlignBottom,
