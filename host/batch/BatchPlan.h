@@ -51,12 +51,14 @@ public:
 
     /// The absolute path that the process will give to the result, in the language of the installed catalogue.
     static QString resultName(const QString &photograph, bool needsTiff);
+    /// The absolute path of the result of the photograph at `path` (absolute), which was `given` as in Options::below, unless it
+    /// gets a number.
+    static QString resultOf(const QString &path, const QString &given, const Options &options, bool needsTiff);
     /// The messages for a photograph whose result exists already.
     static QString existsText(const QString &result);
     static QString skippedText(const QString &result);
 
 private:
     static QString folderText(const QString &folder, const Options &options);
-    static QString resultOf(const QString &path, const QString &given, const Options &options, bool needsTiff);
     static void checkResult(BatchItem &item, const Options &options);
 };

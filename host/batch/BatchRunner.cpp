@@ -32,25 +32,6 @@ namespace {
     throw VException(QStringLiteral("Stopped"), V_LOCATION);
 }
 
-/// The most memory that one photograph takes, with `facts` as the engine sees them.
-/// The source and the working image of 16 bytes per pixel exist throughout. Added to them is first the sparse system, whose size
-/// is the same for every photograph (measured: 150 MB), and at the end the haze map of 4 bytes per pixel, with the guide and the
-/// map of the level before: the copy of 100,000 pixels, doubled as long as it stays narrower. Transposing a picture takes two
-/// copies of it, or 12 bytes per pixel of coefficients, which is less than all that.
-qint64 memoryFor(const PhotoHead &facts, bool untouched)
-{
-    constexpr int kWorkingBytes = 16, kMapBytes = 4;
-    const qint64 pixels = qint64(facts.width) * facts.height;
-    const qint64 images = pixels * (facts.bytesPerPixel + kWorkingBytes);
-    if (untouched || pixels == 0)
-        return images;
-    qint64 level = std::max(1, int(std::sqrt(100000.0 * facts.width / facts.height)));
-    while (level * 2 < facts.width)
-        level *= 2;
-    const qint64 levelPixels = level * level * facts.height / facts.width;
-    return images + std::max(qint64(200) << 20, pixels * kMapBytes + levelPixels * (kWorkingBytes + kMapBytes));
-}
-
 bool exists(const QString &file)
 {
     return QFileInfo::exists(file) || QFileInfo(file).isSymLink();
@@ -174,7 +155,7 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         outcome.message = tr("Stopped; no result was written.");
         return outcome;
     };
-    if (stopping)
+    if (stopping || !watcher.mayBegin(index) || stopping)
         return stopped();
     if (const auto planned = plannedOutcome(item))
         return *planned;
@@ -302,6 +283,24 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
         throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, item.result), V_LOCATION);
     outcome.unchanged = whyUnchanged(one2one, settings);
     outcome.message = carryXmp(item.path, item.result);
+}
+
+qint64 BatchRunner::memoryFor(const PhotoHead &facts, bool untouched)
+{
+    // The source and the working image of 16 bytes per pixel exist throughout. Added to them is first the sparse system, whose size
+    // is the same for every photograph (measured: 150 MB), and at the end the haze map of 4 bytes per pixel, with the guide and the
+    // map of the level before: the copy of 100,000 pixels, doubled as long as it stays narrower. Transposing a picture takes two
+    // copies of it, or 12 bytes per pixel of coefficients, which is less than all that.
+    constexpr int kWorkingBytes = 16, kMapBytes = 4;
+    const qint64 pixels = qint64(facts.width) * facts.height;
+    const qint64 images = pixels * (facts.bytesPerPixel + kWorkingBytes);
+    if (untouched || pixels == 0)
+        return images;
+    qint64 level = std::max(1, int(std::sqrt(100000.0 * facts.width / facts.height)));
+    while (level * 2 < facts.width)
+        level *= 2;
+    const qint64 levelPixels = level * level * facts.height / facts.width;
+    return images + std::max(qint64(200) << 20, pixels * kMapBytes + levelPixels * (kWorkingBytes + kMapBytes));
 }
 
 void BatchRunner::reserve(qint64 bytes)

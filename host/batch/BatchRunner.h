@@ -22,13 +22,16 @@ class BatchRunner
 public:
     enum class Stage { Reading, Dehazing, Saving };
 
-    /// Receives the progress, on the threads of the batch but never on two at once.
+    /// Receives the progress, on the threads of the batch but, except for mayBegin, never on two at once.
     class Observer
     {
     public:
         virtual ~Observer() = default;
         virtual void stageBegins(int item, Stage stage) = 0;
         virtual void finished(int item, const BatchOutcome &outcome) = 0;
+        /// Asked before an item is begun, on several threads at once; may block, which holds the batch up. Without permission the
+        /// item counts as stopped.
+        virtual bool mayBegin(int /*item*/) { return true; }
     };
 
     /// What a run would take.
@@ -58,6 +61,9 @@ public:
     /// The engine returns photographs of this width and above unchanged, because the size of its analysis copy overflows. They
     /// are handed to it transposed, and refused if their height is not below this limit either.
     static constexpr int kRefusedWidth = 21475;
+
+    /// The most memory, in bytes, that one photograph takes, with `facts` as the engine sees them; `untouched` at strength 0.
+    static qint64 memoryFor(const PhotoHead &facts, bool untouched);
 
 private:
     void work(const std::vector<BatchItem> &items);

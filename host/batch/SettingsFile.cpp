@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QSet>
 #include <QTextStream>
 #include <QXmlStreamReader>
 
@@ -110,7 +109,7 @@ void SettingsFile::load()
         throw broken(tr("line %1, column %2: %3").arg(line).arg(column).arg(error));
     if (read.documentElement().tagName() != kRoot)
         throw broken(tr("its outermost element is not <%1>").arg(kRoot));
-    QSet<QString> seen;
+    QHash<QString, QDomElement> seen;
     for (QDomElement entry = read.documentElement().firstChildElement(kEntry); !entry.isNull();
          entry = entry.nextSiblingElement(kEntry)) {
         const QString where = tr("line %1").arg(entry.lineNumber());
@@ -120,7 +119,7 @@ void SettingsFile::load()
             throw broken(tr("%1: \"%2\" appears twice").arg(where, entry.attribute(kPath)));
         if (!strengthOf(entry.firstChildElement(tag)))
             throw broken(tr("%1: the photo needs <%2 %3=\"...\"/> with a whole number from 0 to 100").arg(where, tag, kStrength));
-        seen.insert(absolute(entry));
+        seen.insert(absolute(entry), entry);
     }
     // Qt reads some characters that it rejects once it has written them, as in a processing instruction.
     QXmlStreamReader saved(written(read));
@@ -129,6 +128,7 @@ void SettingsFile::load()
     if (saved.hasError())
         throw broken(saved.errorString());
     document = read;
+    entries = seen;
     changed = false;
 }
 
@@ -187,11 +187,7 @@ QStringList SettingsFile::photographs() const
 
 QDomElement SettingsFile::entryOf(const QString &photograph) const
 {
-    const QString wanted = QDir::cleanPath(photograph);
-    QDomElement entry = document.documentElement().firstChildElement(kEntry);
-    while (!entry.isNull() && absolute(entry) != wanted)
-        entry = entry.nextSiblingElement(kEntry);
-    return entry;
+    return entries.value(QDir::cleanPath(photograph));
 }
 
 QDomElement SettingsFile::element(const QString &photograph) const
@@ -206,6 +202,7 @@ void SettingsFile::setElement(const QString &photograph, const QDomElement &elem
         entry = document.createElement(kEntry);
         entry.setAttribute(kPath, relative(photograph));
         document.documentElement().appendChild(entry);
+        entries.insert(QDir::cleanPath(photograph), entry);
     } else if (const QDomElement known = entry.firstChildElement(tag);
                known.attribute(kStrength) == element.attribute(kStrength) && isAutomatic(known) == isAutomatic(element)) {
         return;
@@ -265,6 +262,7 @@ void SettingsFile::remove(const QString &photograph)
     const QDomElement entry = entryOf(photograph);
     if (!entry.isNull()) {
         document.documentElement().removeChild(entry);
+        entries.remove(QDir::cleanPath(photograph));
         changed = true;
     }
 }

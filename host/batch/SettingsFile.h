@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDomDocument>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -69,5 +70,6 @@ private:
     const QString file; ///< Absolute.
     const QString tag;
     QDomDocument document;
+    QHash<QString, QDomElement> entries; ///< Of the photographs, by absolute path.
     bool changed = false;
 };

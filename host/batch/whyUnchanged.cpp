@@ -12,10 +12,15 @@ QString whyUnchanged(VIPluginOne2One &process, VISettingsHandle settings)
 {
     if (process.guid() != pluginIdentity::processGuid() || process.version() != pluginIdentity::version())
         return QString();
-    if (settings->strength == 0 || settings->transmission)
+    return whyUnchanged(*settings);
+}
+
+QString whyUnchanged(const HazeState &state)
+{
+    if (state.strength == 0 || state.transmission)
         return QString();
     const auto isZero = [](float value) { return value == 0.0f; };
-    if (std::all_of(std::begin(settings->airlight), std::end(settings->airlight), isZero))
+    if (std::all_of(std::begin(state.airlight), std::end(state.airlight), isZero))
         return QCoreApplication::translate(
             "whyUnchanged",
             "It came back unchanged because no haze could be measured: one side is more than 100,000 times as long as the other, "

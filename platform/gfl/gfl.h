@@ -120,6 +120,8 @@ void gflFreeFileInformation(GflFileInformation *information);
 
 [[nodiscard]] bool gflBitmapHasICCProfile(const GflBitmap *bitmap);
 void gflBitmapCopyICCProfile(const GflBitmap *source, GflBitmap *target);
+/// The colour profile inside the bitmap and its length, or null. Valid as long as the bitmap's metadata.
+[[nodiscard]] const std::uint8_t *gflBitmapGetICCProfile(const GflBitmap *bitmap, std::size_t *bytes);
 [[nodiscard]] bool gflBitmapHasIPTC(const GflBitmap *bitmap);
 /// The IPTC block inside the bitmap, or null. Valid as long as the bitmap's metadata; the caller does not release it.
 GflIptc *gflBitmapGetIPTC(const GflBitmap *bitmap);

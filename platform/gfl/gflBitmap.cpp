@@ -92,6 +92,15 @@ void gflBitmapCopyICCProfile(const GflBitmap *source, GflBitmap *target)
         gfl::changeMetadata(target, [&](gfl::Metadata &metadata) { metadata.icc = gfl::metadataOf(source)->icc; });
 }
 
+const std::uint8_t *gflBitmapGetICCProfile(const GflBitmap *bitmap, std::size_t *bytes)
+{
+    if (!gflBitmapHasICCProfile(bitmap))
+        return nullptr;
+    const gfl::Bytes &icc = gfl::metadataOf(bitmap)->icc;
+    *bytes = icc.size();
+    return icc.data();
+}
+
 bool gflBitmapHasIPTC(const GflBitmap *bitmap)
 {
     const gfl::Metadata *metadata = gfl::metadataOf(bitmap);

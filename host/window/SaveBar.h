@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+
+#include "SaveQueue.h"
+
+class QLabel;
+class QProgressBar;
+class WindowActions;
+
+/// The saving as one total: how far it is, how long it will take, and buttons to pause, stop and try again. Hidden until
+/// something is saved; afterwards it shows the outcome.
+class SaveBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    SaveBar(const WindowActions &actions, QWidget *parent = nullptr);
+
+    void showProgress(const SaveQueue::Progress &progress, bool paused);
+    void showSummary(const SaveQueue::Summary &summary);
+    /// In one sentence, for the bar and the desktop's notification.
+    static QString textOf(const SaveQueue::Summary &summary);
+
+private:
+    QLabel *label;
+    QProgressBar *bar;
+};
