@@ -102,6 +102,7 @@ CommandLine CommandLine::parse(const QStringList &given)
     line.keepTime = parser.isSet("keep-time");
     line.recursive = parser.isSet("recursive");
     line.nullSeparated = parser.isSet("null");
+    line.notify = parser.isSet("notify");
     line.dryRun = parser.isSet("dry-run");
 
     bool whole = false;

@@ -34,6 +34,7 @@ public:
     bool recursive = false;
     bool nullSeparated = false;
     bool dryRun = false;
+    bool notify = false;
     bool quiet = false;
     bool json = false;
     bool shareServices = false;

@@ -50,6 +50,7 @@ const std::vector<CommandOption> kOptions{
      TEXT("Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into "
           "memory.")},
     {"quiet", 'q', nullptr, nullptr, BitRun, TEXT("Report failures only.")},
+    {"notify", 0, nullptr, nullptr, BitRun, TEXT("Show a notification of the desktop at the end.")},
     {"json", 0, nullptr, nullptr, BitRun, TEXT("Write one line with a JSON object for each photograph.")},
     {"language", 0, "LANG", "de en es fr it ja pl ru zh_CN zh_TW", kAll,
      TEXT(

@@ -48,6 +48,6 @@ public:
 
     /// The help about one command, or about all if `name` is empty, for a terminal of this width.
     static QString help(const QString &name, int columns);
-    /// The completion script for "bash", "zsh" or "fish"; empty for any other shell.
+    /// The completion script for "bash", "zsh" or "fish".
     static QString completion(const QString &shell);
 };
