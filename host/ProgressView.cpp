@@ -50,7 +50,7 @@ double shareBefore(BatchRunner::Stage stage)
 /// The name without its middle if it is longer than this, since numbers and suffixes at its end tell photographs apart.
 QString shortened(const QString &name, int length)
 {
-    constexpr int kEnd = 8, kLeast = 2 * kEnd;
+    constexpr int kEnd = 7, kLeast = 2 * kEnd;
     length = std::max(length, kLeast);
     return name.size() <= length ? name : name.left(length - kEnd - 3) + "..." + name.right(kEnd);
 }
@@ -257,18 +257,20 @@ QString ProgressView::total(int columns) const
 
 QString ProgressView::inWork(int columns) const
 {
-    QStringList words, names;
-    int room = columns;
-    for (const auto &[index, stage] : inProgress) {
-        words << (stage == BatchRunner::Stage::Reading    ? tr("reading %1")
-                  : stage == BatchRunner::Stage::Dehazing ? tr("removing haze: %1")
-                                                          : tr("saving %1"));
-        names << harmless(QFileInfo(items[std::size_t(index)].given).fileName());
-        room -= words.last().size();
+    using Stage = BatchRunner::Stage;
+    const int room = columns / std::max(int(inProgress.size()), 1) - 8; // less the words
+    QStringList texts;
+    for (const auto &[stage, text] :
+         {std::pair(Stage::Saving, tr("saving %1")), std::pair(Stage::Dehazing, tr("removing haze: %1")),
+          std::pair(Stage::Reading, tr("reading %1"))}) {
+        QStringList names;
+        for (const auto &[index, reached] : inProgress)
+            if (reached == stage)
+                names << shortened(harmless(QFileInfo(items[std::size_t(index)].given).fileName()), room);
+        if (!names.isEmpty())
+            texts << text.arg(names.join(", "));
     }
-    for (int i = 0; i < words.size(); ++i)
-        words[i] = words[i].arg(shortened(names[i], room / words.size()));
-    return words.join(", ");
+    return texts.join("; ");
 }
 
 void ProgressView::draw()

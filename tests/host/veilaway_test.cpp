@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QSet>
@@ -379,6 +381,42 @@ TEST_F(Veilaway, SaysTheSameToProgramsForAnyNumberOfJobsAndWithLentServices)
     const Said quiet = folder.run(QStringList{"--quiet", "--strength", "0", "--overwrite"} + photographs.mid(0, 2));
     EXPECT_EQ(quiet.code, 0);
     EXPECT_EQ(quiet.out + quiet.err, "");
+}
+
+TEST_F(Veilaway, TheJsonIsAsItsSchemaSays)
+{
+    QFile file(DOCS "/veilaway-json.schema.json");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object(), properties = schema["properties"].toObject();
+    const auto typeOf = [](const QJsonValue &value) -> QString {
+        return value.isBool()                                            ? "boolean"
+               : value.isNull()                                          ? "null"
+               : value.isString()                                        ? "string"
+               : value.isDouble() && value.toDouble() == value.toInt(-1) ? "integer"
+                                                                         : "number";
+    };
+    folder.photograph("a.png");
+    folder.photograph("nan.tif", 60, 40, VImage::Rgb, 32);
+    folder.spoil("nan.tif");
+    const QString run = "\"$V\" a.png nan.tif missing.png \"$(printf 'odd\\377.png')\" --json -s ";
+    QSet<QString> seen, statuses;
+    for (const char *options : {"60 -n", "60", "auto --skip-existing", "auto"})
+        for (const QJsonObject &object : folder.shell(run + options).objects()) {
+            for (const QJsonValue &required : schema["required"].toArray())
+                EXPECT_TRUE(object.contains(required.toString())) << required.toString();
+            for (auto member = object.begin(); member != object.end(); ++member) {
+                const QJsonObject property = properties[member.key()].toObject();
+                const QJsonArray types = property["type"].isArray() ? property["type"].toArray() : QJsonArray{property["type"]};
+                const QString type = typeOf(member.value());
+                EXPECT_TRUE(types.contains(type) || (type == "integer" && types.contains("number")))
+                    << member.key() << ' ' << type;
+                EXPECT_TRUE(!property.contains("enum") || property["enum"].toArray().contains(member.value())) << member.key();
+                seen.insert(member.key());
+            }
+            statuses.insert(object["status"].toString());
+        }
+    EXPECT_EQ(seen.size(), properties.size());
+    EXPECT_EQ(statuses, QSet<QString>({"planned", "done", "unchanged", "skipped", "failed"}));
 }
 
 TEST_F(Veilaway, ReportsAPhotographThatCameBackUnchanged)
