@@ -19,6 +19,7 @@
 
 #include "gflBitmapParts.h"
 #include "gflMetadata.h"
+#include "writePicture.h"
 
 // Small files for the fuzzers to start from: every format in every form that this program writes, with metadata, and forms that
 // only other programs write. usage: make_seeds FOLDER     makes one folder per target in it
@@ -440,6 +441,28 @@ std::string formatOf(const std::filesystem::path &file)
     return {};
 }
 
+/// Pictures in the formats that only the program reads.
+void writeFurther(const std::string &folder)
+{
+    for (const std::string &suffix : writableSuffixes())
+        for (int number = 0; number < 6; ++number) {
+            PictureForm form;
+            form.width = 16 + number;
+            form.height = 16;
+            form.components = number == 1 && suffix != "webp" ? 1 : number == 2 ? 4 : 3;
+            form.bits = number == 3 && suffix != "webp" ? 10 : 8;
+            form.orientation = suffix == "webp" ? 1 : 1 + number;
+            form.exif = exifBlock(1 + number, "seed");
+            form.xmp = number % 2 ? "<x:xmpmeta xmlns:x='adobe:ns:meta/'/>" : "";
+            form.secondPicture = number == 4;
+            form.animated = number == 5 && (suffix == "webp" || suffix == "jxl");
+            form.primaries = number % 2 ? 9 : 0;
+            form.transfer = 16 + number % 3;
+            const std::string target = suffix == "webp" || suffix == "jxl" ? suffix : "heif";
+            writePicture(folder + "/" + target + "/" + std::to_string(number) + "." + suffix, form);
+        }
+}
+
 void writeTexts(const std::string &folder)
 {
     const std::string settings = folder + "/settings/", tables = folder + "/tables/";
@@ -474,7 +497,8 @@ void writeTexts(const std::string &folder)
 int main(int argumentCount, char **arguments)
 try {
     const std::string folder = argumentCount == 2 ? arguments[1] : throw std::runtime_error("usage: make_seeds FOLDER");
-    for (const char *target : {"jpeg", "png", "tiff", "hdr", "exr", "psd", "raw", "describing", "settings", "tables", "engine"})
+    for (const char *target :
+         {"jpeg", "png", "tiff", "hdr", "exr", "psd", "raw", "heif", "webp", "jxl", "describing", "settings", "tables", "engine"})
         std::filesystem::create_directories(folder + "/" + target);
     const std::string pictures = folder + "/describing";
     writeOwn(pictures);
@@ -488,6 +512,7 @@ try {
         if (const std::string format = formatOf(entry.path()); !format.empty())
             std::filesystem::copy_file(entry.path(), folder + "/" + format + "/" + entry.path().filename().string(),
                                        std::filesystem::copy_options::overwrite_existing);
+    writeFurther(folder);
     writeTexts(folder);
 } catch (const std::exception &failure) {
     std::fprintf(stderr, "make_seeds: %s\n", failure.what());

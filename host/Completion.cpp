@@ -42,7 +42,7 @@ QString fileSuffix(const CommandOption &option)
 
 QStringList readSuffixes()
 {
-    return PhotoLoader::pictureSuffixes() + PhotoLoader::rawSuffixes();
+    return PhotoLoader::readableSuffixes();
 }
 
 QStringList forms(const CommandOption &option)

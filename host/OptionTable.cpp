@@ -181,14 +181,16 @@ QString OptionTable::help(const QString &name, int columns)
     if (bits & BitRun)
         text += row("--", tr("Everything that follows is a photograph, even if it begins with a dash."), columns);
     if (!chosen)
-        text += '\n' + tr("Formats:") + '\n' + "  " +
-                tr("Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A "
-                   "result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and "
-                   "XMP. EXIF orientation is kept, so that the result is shown the same way up.") +
-                "\n  " +
-                tr("Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. "
-                   "Photographs with any other suffix, or none, become a TIFF too.") +
-                "\n  " + tr("XMP sidecar files are not read and stay where they are.") + '\n';
+        text +=
+            '\n' + tr("Formats:") + '\n' + "  " +
+            tr("Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A "
+               "result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and "
+               "XMP. EXIF orientation is kept, so that the result is shown the same way up.") +
+            "\n  " +
+            tr("Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others), whose result is a 16-bit TIFF, and, where "
+               "--version names them, HEIC (heic, heif, hif), AVIF, WebP and JPEG XL (jxl), whose result is a TIFF of their "
+               "depth. Photographs with any other suffix, or none, become a TIFF too.") +
+            "\n  " + tr("XMP sidecar files are not read and stay where they are.") + '\n';
     if (bits & BitRun) {
         text += '\n' + tr("Exit status:") + '\n';
         text +=

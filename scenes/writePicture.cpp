@@ -332,7 +332,8 @@ std::vector<std::uint8_t> exifBlock(int orientation, const std::string &descript
     put(3, 2);
     put(1, 4);
     put(unsigned(orientation), 2);
-    put(0, 2 + 4);
+    put(0, 2);
+    put(0, 4);
     block.insert(block.end(), description.begin(), description.end());
     block.push_back(0);
     return block;
