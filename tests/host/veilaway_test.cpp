@@ -763,6 +763,7 @@ TEST_F(Veilaway, ATerminalShowsTheTotalAndWhatIsInWorkWithinItsWidth)
     EXPECT_TRUE(contains(coloured.out, "\x1b[31mveilaway:\x1b[0m missing.png: "));
     EXPECT_FALSE(dumb.out.contains('\x1b')) << dumb.out;
     for (const QString &line : plain.out.split("\r\n"))
-        if (line.contains("] ") || line.contains(QRegularExpression("reading|removing haze|saving")))
+        if (line.contains("] ") || line.contains(QRegularExpression("reading|removing haze|saving"))) {
             EXPECT_LT(QString(line).remove(QRegularExpression("\r|\x1b\\[[0-9]*[A-Z]")).size(), 40) << line;
+        }
 }
