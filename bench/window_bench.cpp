@@ -220,7 +220,12 @@ void workspace_drag(benchmark::State &state)
     }
     state.counters["pictures"] = benchmark::Counter(double(state.iterations()), benchmark::Counter::kIsRate);
 }
-BENCHMARK(workspace_drag)->ArgNames({"", "full"})->ArgsProduct({{1, 24}, {0, 1}})->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(workspace_drag)
+    ->ArgNames({"", "full"})
+    ->ArgsProduct({{1, 24}, {0, 1}})
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime()
+    ->UseRealTime();
 
 /// From the end of a drag to the picture from all pixels, the moment of rest included.
 void workspace_exact_picture(benchmark::State &state)
