@@ -277,11 +277,7 @@ void WorkspaceWindow::connectActions()
             series.setStrength({row}, {percent, /*automatic=*/false});
     });
     connect(panel, &StrengthPanel::done, this, [this] { picture->setFocus(); });
-    connect(picture, &PictureView::zoomChanged, this, [this](double scale, bool fits) {
-        actions[Id::Fit]->setChecked(fits);
-        actions[Id::Full]->setChecked(qFuzzyCompare(scale, 1.0));
-        zoomLabel->setText(tr("%1 %").arg(qRound(scale * 100)));
-    });
+    connect(picture, &PictureView::zoomChanged, this, &WorkspaceWindow::showZoom);
 }
 
 void WorkspaceWindow::connectWork()
@@ -408,7 +404,16 @@ void WorkspaceWindow::showPixels(const QString &path)
     if (currentRow() < 0 || path != series.path(currentRow()))
         return;
     picture->showPhoto(store.photo(path));
+    showZoom();
     histogramTimer->start();
+}
+
+void WorkspaceWindow::showZoom()
+{
+    const double scale = picture->scale();
+    actions[Id::Fit]->setChecked(picture->fits());
+    actions[Id::Full]->setChecked(qFuzzyCompare(scale, 1.0));
+    zoomLabel->setText(tr("%1 %").arg(qRound(scale * 100)));
 }
 
 void WorkspaceWindow::showStrength()
