@@ -657,11 +657,8 @@ void WorkspaceWindow::onSaved(const SaveQueue::Summary &summary)
 void WorkspaceWindow::showKeys()
 {
     std::vector<KeySheet::Row> rows = KeySheet::rowsOf(actions.all());
-    const auto add = [&](const char *keys, const QString &does) {
-        rows.push_back({QKeySequence(QLatin1String(keys)).toString(QKeySequence::NativeText), does});
-    };
-    add("Space", tr("Hold: before"));
-    add("M", tr("Hold: haze map; Alt does the same"));
+    const std::vector<KeySheet::Row> held = PictureView::keys();
+    rows.insert(rows.end(), held.begin(), held.end());
     KeySheet(rows, this).exec();
 }
 

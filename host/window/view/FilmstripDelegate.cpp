@@ -99,7 +99,7 @@ void FilmstripDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     }
 
     painter->setFont(option.font);
-    painter->setPen(palette.color(group, current || selected ? QPalette::HighlightedText : QPalette::Text));
+    painter->setPen(palette.color(group, current || selected ? QPalette::HighlightedText : QPalette::WindowText));
     painter->drawText(line, Qt::AlignCenter,
                       option.fontMetrics.elidedText(index.data(Series::NameRole).toString(), Qt::ElideMiddle, line.width()));
     painter->restore();

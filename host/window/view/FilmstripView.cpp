@@ -27,6 +27,7 @@ FilmstripView::FilmstripView(QWidget *parent) : QListView(parent), painterOfItem
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // the height is the same for one photograph and a thousand
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFrameShape(NoFrame);
+    viewport()->setBackgroundRole(QPalette::Window); // white beside a photograph would dazzle
 }
 
 QSize FilmstripView::sizeHint() const

@@ -116,12 +116,16 @@ void HistogramView::paintEvent(QPaintEvent *)
     }
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setBrush(Qt::NoBrush);
-    QPen dashed(kSource, 1.2);
-    dashed.setDashPattern({3, 2});
-    painter.setPen(dashed);
-    painter.drawPolyline(outline([&](std::size_t bin) {
+    const QPolygonF source = outline([&](std::size_t bin) {
         return (double(shown->before[0][bin]) + double(shown->before[1][bin]) + double(shown->before[2][bin])) / 3;
-    }));
+    });
+    QPen dashed(kSource, 1.3);
+    dashed.setDashPattern({3, 2.5});
+    // On a dark line, to be seen where the result is white.
+    for (const QPen &pen : {QPen(kPlotGround, 2.5), dashed}) {
+        painter.setPen(pen);
+        painter.drawPolyline(source);
+    }
     painter.setClipping(false);
 
     // The legend has the colours of the marks on the picture.

@@ -7,6 +7,7 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QKeySequence>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
@@ -392,6 +393,17 @@ bool PictureView::eventFilter(QObject *watched, QEvent *event)
     return !isAlt;
 }
 
+std::vector<KeySheet::Row> PictureView::keys()
+{
+    const auto named = [](const char *keys) {
+        return QKeySequence::listToString(QKeySequence::listFromString(QLatin1String(keys)), QKeySequence::NativeText);
+    };
+    return {{named("Space"), tr("Hold: the photograph before")},
+            {named("M"), tr("Hold: the haze map; Alt does the same")},
+            {named("Ctrl+Left; Ctrl+Right; Ctrl+Up; Ctrl+Down"), tr("Move over the photograph")},
+            {named("Ctrl+Shift+Left; Ctrl+Shift+Right"), tr("Move the line between before and after")}};
+}
+
 void PictureView::keyPressEvent(QKeyEvent *event)
 {
     const int x = (event->key() == Qt::Key_Right) - (event->key() == Qt::Key_Left);
@@ -525,7 +537,9 @@ void PictureView::mouseDoubleClickEvent(QMouseEvent *event)
 
 void PictureView::wheelEvent(QWheelEvent *event)
 {
-    const int delta = event->angleDelta().y();
+    // With Alt, which is held for the map, wheels turn sideways.
+    const int delta =
+        event->modifiers() & Qt::AltModifier ? event->angleDelta().x() + event->angleDelta().y() : event->angleDelta().y();
     if ((delta < 0) != (wheelDelta < 0))
         wheelDelta = 0;
     wheelDelta += delta;

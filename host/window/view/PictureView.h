@@ -2,11 +2,13 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include <QBasicTimer>
 #include <QImage>
 #include <QWidget>
 
+#include "KeySheet.h"
 #include "PictureRequest.h"
 #include "PictureZoom.h"
 
@@ -72,6 +74,9 @@ public:
     /// 0 to 1 of the visible width of the photograph.
     double splitPosition() const { return split; }
     void setSplitPosition(double position);
+
+    /// What its own keys do, for the sheet of keys.
+    static std::vector<KeySheet::Row> keys();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
