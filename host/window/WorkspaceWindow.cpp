@@ -43,6 +43,7 @@
 #include "StrengthPanel.h"
 #include "VException.h"
 #include "notifyDesktop.h"
+#include "profileName.h"
 
 namespace {
 
@@ -405,6 +406,7 @@ void WorkspaceWindow::showPixels(const QString &path)
         return;
     picture->showPhoto(store.photo(path));
     showZoom();
+    showFacts();
     histogramTimer->start();
 }
 
@@ -438,6 +440,8 @@ void WorkspaceWindow::showFacts()
         lines << tr("%1 x %2 px, %3 bits").arg(facts.size.width()).arg(facts.size.height()).arg(facts.bits);
         lines << tr("%1, %2").arg(facts.kind, QLocale().formattedDataSize(facts.bytes));
     }
+    if (const auto photo = store.photo(series.path(row)))
+        lines << profileName(photo->profile());
     if (!facts.resultName.isEmpty())
         lines << tr("Result: %1").arg(facts.resultName);
     panel->showFacts(series.data(series.index(row), Series::NameRole).toString(), lines);
@@ -657,8 +661,8 @@ void WorkspaceWindow::onSaved(const SaveQueue::Summary &summary)
 void WorkspaceWindow::showKeys()
 {
     std::vector<KeySheet::Row> rows = KeySheet::rowsOf(actions.all());
-    const std::vector<KeySheet::Row> held = PictureView::keys();
-    rows.insert(rows.end(), held.begin(), held.end());
+    for (const KeySheet::Row &row : PictureView::keys())
+        rows.push_back(row);
     KeySheet(rows, this).exec();
 }
 
