@@ -507,7 +507,8 @@ TEST_F(Workspace, ASessionIsSavedOpenedAndRunByTheCommandLine)
         EXPECT_EQ(series()->rowCount(), 0);
         keepPicture("7_recent");
     });
-    EXPECT_EQ(use({folder.path("missing.xml")}, [] {}), ExitUsage);
+    const CommandLine missing = CommandLine::parse({"veilaway", "window", folder.path("missing.xml")});
+    EXPECT_EQ(WindowCommand(missing, *host).run(), ExitUsage);
 }
 
 TEST_F(Workspace, QuittingInTheMiddleOfSavesLeavesWholeResultsAndASessionThatGoesOn)
