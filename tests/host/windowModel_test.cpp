@@ -372,27 +372,37 @@ TEST_F(Window, TreatsExistingResultsAsAsked)
     struct Case
     {
         Policy policy;
+        std::optional<int> quality;
         QStringList fresh; ///< Files that are new or have another content afterwards.
         int saved, kept;
         const char *states;
     };
     const Case cases[] = {
         {Policy::ReplaceChanged,
+         {},
          {"b_dehazed.png", "c_dehazed.png", "d_dehazed.png"},
          3,
          1,
          "a.png 50 saved, b.png 90 saved, c.png 70 saved, d.png 70 saved"},
+        {Policy::ReplaceChanged,
+         95,
+         {"a_dehazed.png", "b_dehazed.png", "c_dehazed.png", "d_dehazed.png"},
+         4,
+         0,
+         "a.png 50 saved, b.png 90 saved, c.png 70 saved, d.png 70 saved"},
         {Policy::ReplaceAll,
+         {},
          {"a_dehazed.png", "b_dehazed.png", "c_dehazed.png", "d_dehazed.png"},
          4,
          0,
          "a.png 50 saved, b.png 90 saved, c.png 70 saved, d.png 70 saved"},
         {Policy::KeepBoth,
+         {},
          {"a_dehazed-2.png", "b_dehazed-2.png", "c_dehazed-2.png", "d_dehazed.png"},
          4,
          0,
          "a.png 50 saved, b.png 90 saved, c.png 70 saved, d.png 70 saved"},
-        {Policy::Skip, {"d_dehazed.png"}, 1, 3, "a.png 50 saved, b.png 90 kept, c.png 70 kept, d.png 70 saved"},
+        {Policy::Skip, {}, {"d_dehazed.png"}, 1, 3, "a.png 50 saved, b.png 90 kept, c.png 70 kept, d.png 70 saved"},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(int(c.policy));
@@ -414,6 +424,7 @@ TEST_F(Window, TreatsExistingResultsAsAsked)
 
         SaveQueue::Options options;
         options.existing = c.policy;
+        options.quality = c.quality;
         series.setSaveOptions(options);
         series.saveAll();
         const auto summary = untilEnded(queue);
@@ -615,7 +626,7 @@ TEST_F(Window, ExchangesSettingsFilesWithTheCommandLine)
     readAll();
     const QByteArray number = "hazeRemove=\"" + QByteArray::number(series.percent(1).value()) + '"';
     ASSERT_TRUE(eventually([&] { return folder.content("s.xml").contains(number); }));
-    const Said said = folder.run({"--settings", "s.xml", "--newer", "--json"});
+    const Said said = folder.run({"--settings", "s.xml", "--newer", "--json", "--jobs", "1"});
     ASSERT_EQ(said.code, 0) << said.err;
     ASSERT_EQ(said.objects().size(), 2u);
     EXPECT_EQ(said.objects()[0]["strength"].toInt(), 60);
