@@ -128,6 +128,7 @@ void WorkspaceWindow::build()
     zoomLabel->setObjectName(QStringLiteral("zoom"));
     zoomLabel->setAccessibleName(tr("Zoom"));
     statusBar()->addWidget(hint, 1);
+    statusBar()->setMinimumHeight(saveBar->usualHeight() + 4);
     statusBar()->addPermanentWidget(saveBar);
     statusBar()->addPermanentWidget(zoomLabel);
 
@@ -369,7 +370,10 @@ void WorkspaceWindow::selectRow(int row)
 void WorkspaceWindow::showPhotograph(int row)
 {
     const bool any = row >= 0 && row < series.rowCount();
+    const bool begins = any && stack->currentWidget() == empty;
     stack->setCurrentWidget(any ? static_cast<QWidget *>(picture) : empty);
+    if (begins)
+        picture->setFocus();
     strip->setVisible(any);
     panel->setVisible(any);
     if (!any) {
@@ -638,7 +642,7 @@ void WorkspaceWindow::retryFailed()
     for (const int row : allRows())
         if (series.state(row) == Series::State::Failed)
             series.retry(row);
-    showState();
+    showPhotograph(currentRow());
 }
 
 void WorkspaceWindow::onSaved(const SaveQueue::Summary &summary)

@@ -62,10 +62,16 @@ bool eventually(const std::function<bool()> &holds)
     return !late;
 }
 
-void usePalette(bool dark)
+enum class Look { Light, Dark, HighContrast };
+
+void use(Look look)
 {
     QPalette palette = QApplication::style()->standardPalette();
-    if (dark) {
+    if (look == Look::HighContrast) {
+        palette = QPalette(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white, Qt::black, Qt::black);
+        palette.setColor(QPalette::Highlight, Qt::yellow);
+        palette.setColor(QPalette::HighlightedText, Qt::black);
+    } else if (look == Look::Dark) {
         palette = QPalette(QColor(53, 53, 53), QColor(38, 38, 38));
         palette.setColor(QPalette::Base, QColor(28, 28, 28));
         palette.setColor(QPalette::AlternateBase, QColor(48, 48, 48));
@@ -215,17 +221,17 @@ protected:
             return rest.elapsed() > kRestMs;
         });
     }
-    /// In light and dark.
     void keepPicture(const char *state)
     {
-        for (const bool dark : {false, true}) {
-            usePalette(dark);
+        const std::pair<Look, const char *> kLooks[] = {
+            {Look::Dark, "dark"}, {Look::HighContrast, "contrast"}, {Look::Light, "light"}};
+        for (const auto &[look, name] : kLooks) {
+            ::use(look);
             keepPictureOf(window, QStringLiteral("%1_%2x_%3_%4")
                                       .arg(host->locale().name().left(2))
                                       .arg(window->devicePixelRatioF())
-                                      .arg(state, dark ? "dark" : "light"));
+                                      .arg(state, name));
         }
-        usePalette(false);
     }
 
     TestFolder folder;
@@ -617,6 +623,6 @@ int main(int argc, char **argv)
     HostedApplication<QApplication> application(argc, argv, locale, /*lendServices=*/true);
     application.loadTranslator(QStringLiteral("veilaway_%1.qm").arg(locale.name()));
     host = &application;
-    usePalette(/*dark=*/false);
+    use(Look::Light);
     return RUN_ALL_TESTS();
 }
