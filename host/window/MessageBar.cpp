@@ -16,7 +16,8 @@ constexpr int kNoticeMs = 12000;
 } // namespace
 
 MessageBar::MessageBar(QWidget *parent)
-    : QFrame(parent), sign(new QLabel(this)), label(new QLabel(this)), remedyButton(new QPushButton(this)), timer(new QTimer(this))
+    : QFrame(parent), sign(new QLabel(this)), label(new QLabel(this)), remedyButton(new QPushButton(this)),
+      timer(new QTimer(this))
 {
     setObjectName(QStringLiteral("messageBar"));
     setFrameShape(QFrame::StyledPanel);

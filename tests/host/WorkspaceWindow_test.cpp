@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QDropEvent>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLabel>
@@ -61,10 +62,16 @@ bool eventually(const std::function<bool()> &holds)
     return !late;
 }
 
-void usePalette(bool dark)
+enum class Look { Light, Dark, HighContrast };
+
+void use(Look look)
 {
     QPalette palette = QApplication::style()->standardPalette();
-    if (dark) {
+    if (look == Look::HighContrast) {
+        palette = QPalette(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white, Qt::black, Qt::black);
+        palette.setColor(QPalette::Highlight, Qt::yellow);
+        palette.setColor(QPalette::HighlightedText, Qt::black);
+    } else if (look == Look::Dark) {
         palette = QPalette(QColor(53, 53, 53), QColor(38, 38, 38));
         palette.setColor(QPalette::Base, QColor(28, 28, 28));
         palette.setColor(QPalette::AlternateBase, QColor(48, 48, 48));
@@ -127,6 +134,7 @@ protected:
     }
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
+        QCoreApplication::processEvents();
         QWidget *const focus = QApplication::focusWidget() ? QApplication::focusWidget() : window;
         QTest::keyClick(focus, Qt::Key(key), modifiers);
         QCoreApplication::processEvents();
@@ -199,17 +207,31 @@ protected:
         QTest::keyClick(box, Qt::Key_Return);
     }
 
-    /// In light and dark.
+    /// The view shows the photograph, and nothing more comes.
+    bool settled()
+    {
+        constexpr int kRestMs = 400; // longer than the view waits before it says what it waits for
+        QImage last;
+        QElapsedTimer rest;
+        return eventually([&] {
+            const QImage now = picture()->grab().toImage();
+            if (now != last || now.pixel(now.width() / 4, now.height() / 2) == now.pixel(4, 4))
+                rest.start();
+            last = now;
+            return rest.elapsed() > kRestMs;
+        });
+    }
     void keepPicture(const char *state)
     {
-        for (const bool dark : {false, true}) {
-            usePalette(dark);
+        const std::pair<Look, const char *> kLooks[] = {
+            {Look::Dark, "dark"}, {Look::HighContrast, "contrast"}, {Look::Light, "light"}};
+        for (const auto &[look, name] : kLooks) {
+            ::use(look);
             keepPictureOf(window, QStringLiteral("%1_%2x_%3_%4")
                                       .arg(host->locale().name().left(2))
                                       .arg(window->devicePixelRatioF())
-                                      .arg(state, dark ? "dark" : "light"));
+                                      .arg(state, name));
         }
-        usePalette(false);
     }
 
     TestFolder folder;
@@ -233,6 +255,7 @@ TEST_F(Workspace, FromADroppedFolderToResults)
         EXPECT_TRUE(find<QLabel>("message")->text().contains('1')); // result left out
         EXPECT_EQ(picture()->path(), folder.path("trip/1_valley.jpg"));
         ASSERT_TRUE(eventually([&] { return find<QLabel>("facts")->text().contains("750"); }));
+        EXPECT_TRUE(settled());
         keepPicture("2_opened");
 
         typeStrength("85");
@@ -258,6 +281,7 @@ TEST_F(Workspace, FromADroppedFolderToResults)
         EXPECT_DOUBLE_EQ(picture()->scale(), 1);
         press(Qt::Key_C);
         EXPECT_TRUE(picture()->clipping());
+        EXPECT_TRUE(settled());
         keepPicture("3_side_by_side");
         press(Qt::Key_C);
         press(Qt::Key_F);
@@ -489,7 +513,8 @@ TEST_F(Workspace, ASessionIsSavedOpenedAndRunByTheCommandLine)
         EXPECT_EQ(series()->rowCount(), 0);
         keepPicture("7_recent");
     });
-    EXPECT_EQ(use({folder.path("new.xml")}, [] {}), 0); // a new one
+    const CommandLine missing = CommandLine::parse({"veilaway", "window", folder.path("missing.xml")});
+    EXPECT_EQ(WindowCommand(missing, *host).run(), ExitUsage);
 }
 
 TEST_F(Workspace, QuittingInTheMiddleOfSavesLeavesWholeResultsAndASessionThatGoesOn)
@@ -598,6 +623,6 @@ int main(int argc, char **argv)
     HostedApplication<QApplication> application(argc, argv, locale, /*lendServices=*/true);
     application.loadTranslator(QStringLiteral("veilaway_%1.qm").arg(locale.name()));
     host = &application;
-    usePalette(/*dark=*/false);
+    use(Look::Light);
     return RUN_ALL_TESTS();
 }
