@@ -8,10 +8,6 @@
         <translation>Usuwanie zamglenia</translation>
     </message>
     <message>
-        <source>Power</source>
-        <translation>Siła</translation>
-    </message>
-    <message>
         <source>Split preview</source>
         <translation>Podziel podgląd</translation>
     </message>
