@@ -34,7 +34,7 @@ public:
     {
         bool rowsForColumns = false; ///< As if rows and columns were exchanged in it: facts, sizes, images and orientation.
         bool tiffOutput = false;     ///< needsTiffOutput whatever its suffix.
-        QString original;            ///< The file that is read instead, if not empty.
+        QString original = {};       ///< The file that is read instead, if not empty.
     };
 
     /// `keptCopies`, which may be null, must outlive the photograph and keeps its scaled images beyond their release.

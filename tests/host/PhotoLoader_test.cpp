@@ -84,10 +84,7 @@ TEST_F(PhotoLoaderTest, NoLibrarySeesWhatIsNotAPhotographWhateverItsSuffix)
         {"mpg", head({{0, QByteArray("\0\0\1\xBA\x44", 5)}}), video},
         {"flv", head({{0, "FLV\1\5"}}), video},
         {"ogv", head({{0, "OggS"}, {28, "\x80theora"}}), video},
-        {"heic", isoMedia("heic"), unknown},
-        {"avif", isoMedia("avif"), unknown},
         {"cr3", isoMedia("crx "), unknown},
-        {"webp", head({{0, "RIFF"}, {8, "WEBPVP8X"}}), unknown},
         {"wav", head({{0, "RIFF"}, {8, "WAVEfmt "}}), unknown},
         {"exv", head({{0, "\xFF\x01"}, {2, "Exiv2"}}), unknown},
         {"gif", head({{0, "GIF89a"}}), unknown},
@@ -117,6 +114,36 @@ TEST_F(PhotoLoaderTest, NoLibrarySeesWhatIsNotAPhotographWhateverItsSuffix)
             QFile::remove(path);
         }
     EXPECT_EQ(folder.content("result.jpg"), result);
+}
+
+TEST_F(PhotoLoaderTest, FurtherFormatsAreReadByTheirLibrariesUnlessTheSuffixNamesAnotherFormatAndNeverByTheCodecLayer)
+{
+    const char *const cut = "The file is cut short", *const without = "This installation can't decode",
+                      *const unknown = "It is not a picture in a known format";
+    const struct
+    {
+        const char *suffix;
+        QByteArray bytes;
+        const char *message;
+    } files[] = {
+        {"heic", isoMedia("heic"), without}, // nothing that it is compatible with
+        {"avif", isoMedia("avif"), without},     {"webp", head({{0, "RIFF"}, {8, "WEBPVP8X"}}), cut},
+        {"jxl", QByteArray("\xFF\x0A", 2), cut}, {"jxl", head({{0, QByteArray("\0\0\0\x0CJXL \r\n\x87\n", 12)}}), cut},
+    };
+    for (const auto &file : files)
+        for (const QString name : {"a", "a.heic", "a.mp4", "a.jpg", "a.PNG", "a.tif", "a.psd", "a.cr2", "a.RAF"}) {
+            SCOPED_TRACE(std::string(file.suffix) + " as " + name.toStdString());
+            const QString path = folder.path(name);
+            folder.write(name, file.bytes);
+            const bool open = name == "a" || name == "a.heic" || name == "a.mp4",
+                       built = PhotoLoader::readableSuffixes().contains(file.suffix);
+            const char *const message = !open ? unknown : built ? file.message : without;
+            EXPECT_EQ(messageOf([&] { PhotoLoader::describe(path); }).rfind(message, 0), 0u);
+            EXPECT_EQ(messageOf([&] { PhotoLoader::decode(path); }).rfind(message, 0), 0u);
+            GflBitmap *bitmap = nullptr;
+            EXPECT_EQ(gflLoadBitmapUTF8(path.toUtf8(), &bitmap, nullptr, nullptr), GFL_ERROR_UNKNOWN_FORMAT);
+            QFile::remove(path);
+        }
 }
 
 TEST_F(PhotoLoaderTest, ASuffixOfCameraRawMustBeTrueAndItsShapeIsEnough)

@@ -38,7 +38,7 @@ TEST_F(PhotographTest, ScaledImagesAreTurnedAsAViewerShowsThem)
             file->writeMetadata();
         }
         for (const bool transposed : {false, true}) {
-            Photograph photograph(folder.path("a.tif"), nullptr, {transposed, /*tiffOutput=*/false});
+            Photograph photograph(folder.path("a.tif"), nullptr, {transposed, /*tiffOutput=*/false, /*original=*/{}});
             const bool tall = (orientation >= 5) != transposed;
             EXPECT_EQ(photograph.width(), tall ? 2 : 3);
             EXPECT_EQ(photograph.height(), tall ? 3 : 2);

@@ -29,6 +29,7 @@ PhotoProblem problemOf(const heif_error &error)
     case heif_error_Memory_allocation_error:
         return {Cause::NoMemory, {}};
     case heif_error_Unsupported_filetype:
+        return {Cause::NoDecoder, {}};
     case heif_error_Unsupported_feature:
         return {error.subcode == heif_suberror_Unsupported_codec ? Cause::NoDecoder : Cause::PixelForm, {}};
     default:
