@@ -1,17 +1,26 @@
+#include <algorithm>
+#include <fstream>
 #include <functional>
+#include <string>
 
 #include <QApplication>
+#include <QColorSpace>
 #include <QEventLoop>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
+#include "Histogram.h"
 #include "HostApplication.h"
+#include "PhotoStore.h"
+#include "PictureRenderer.h"
 #include "PluginFile.h"
+#include "ScreenColours.h"
 #include "WizardWindow.h"
 #include "drawScene.h"
 
-// How long a photographer waits for the window. It is painted as on a screen; QT_QPA_PLATFORM=offscreen needs none.
+// How long a photographer waits for a window. It is painted as on a screen; QT_QPA_PLATFORM=offscreen needs none. Photographs are
+// drawn; the workspace's can be replaced by the file that NIMBRA_BENCH_PHOTO names.
 
 namespace {
 
@@ -19,18 +28,19 @@ HostApplication *host = nullptr;
 PluginFile *plugin = nullptr;
 QString folder;
 
+void processEventsUntil(const std::function<bool()> &holds)
+{
+    while (!holds())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
 struct Window
 {
     Window() : window(*host, plugin->process(), nullptr, /*jobs=*/0) { window.show(); }
 
-    void until(const std::function<bool()> &holds)
-    {
-        while (!holds())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
     void finishPage()
     {
-        until([&] { return window.currentPage()->isComplete(); });
+        processEventsUntil([&] { return window.currentPage()->isComplete(); });
         window.repaint();
     }
     /// From choosing a photograph to the first result on the screen.
@@ -76,7 +86,7 @@ void choosing_to_first_result(benchmark::State &state)
         state.ResumeTiming();
     }
 }
-BENCHMARK(choosing_to_first_result)->Arg(1)->Arg(24)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(choosing_to_first_result)->Arg(1)->Arg(24)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
 
 void strength_to_picture(benchmark::State &state)
 {
@@ -90,7 +100,221 @@ void strength_to_picture(benchmark::State &state)
         window.finishPage();
     }
 }
-BENCHMARK(strength_to_picture)->Arg(1)->Arg(24)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(strength_to_picture)->Arg(1)->Arg(24)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+
+/// What the workspace does, without its widgets: the store, and a renderer for the result on a screen with a wide gamut.
+class Workspace
+{
+public:
+    Workspace()
+    {
+        QObject::connect(&renderer, &PictureRenderer::ready, &renderer,
+                         [this](const QImage &, const PictureRequest &, bool isExact) { (isExact ? exacts : pictures) += 1; });
+    }
+
+    void show(const QString &path, const QStringList &neighbours = {})
+    {
+        store.show(path, neighbours);
+        shown = path;
+    }
+    bool isComplete(const QString &path) const
+    {
+        const auto photo = store.photo(path);
+        return photo && photo->isComplete();
+    }
+    void finish(const QString &path)
+    {
+        processEventsUntil([&] { return isComplete(path); });
+    }
+    /// From the request to the picture of 1100 x 600 at most, fitted in or the middle at 100 %.
+    void picture(int strength, bool fullSize, bool exact = false)
+    {
+        PictureRequest request;
+        request.photo = store.photo(shown);
+        const QSize whole = request.photo->size();
+        const QSize fitted = fullSize ? whole.boundedTo({1100, 600}) : whole.scaled(1100, 600, Qt::KeepAspectRatio);
+        request.size = fitted;
+        request.scale = fullSize ? 1 : double(fitted.width()) / whole.width();
+        if (fullSize)
+            request.corner = QPoint((whole.width() - fitted.width()) / 2, (whole.height() - fitted.height()) / 2);
+        request.strength = strength;
+        request.clipping = true;
+        request.colours = colours;
+        const int before = exact ? exacts : exacts + pictures;
+        renderer.request(request);
+        processEventsUntil([&] { return (exact ? exacts : exacts + pictures) > before; });
+    }
+
+    PhotoStore store;
+
+private:
+    PictureRenderer renderer;
+    QString shown;
+    int pictures = 0, exacts = 0;
+    const std::shared_ptr<ScreenColours> colours =
+        std::make_shared<ScreenColours>(QColorSpace(QColorSpace::DisplayP3).iccProfile());
+};
+
+/// Photographs that are the same but for their names.
+QStringList photographs(std::int64_t megapixels, int count)
+{
+    const QString replaced = QString::fromLocal8Bit(qgetenv("NIMBRA_BENCH_PHOTO"));
+    const QString source = replaced.isEmpty() ? drawn(megapixels) : replaced;
+    QStringList links;
+    for (int i = 0; i < count; ++i) {
+        links << QStringLiteral("%1/same_%2_%3.jpg").arg(folder).arg(megapixels).arg(i);
+        QFile::link(source, links.last());
+    }
+    return links;
+}
+
+/// The result at 70 % of a photograph that has just been opened.
+void workspace_first_picture(benchmark::State &state)
+{
+    const QString photograph = photographs(state.range(0), 1).first();
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto workspace = std::make_unique<Workspace>();
+        state.ResumeTiming();
+        workspace->show(photograph);
+        workspace->finish(photograph);
+        workspace->picture(70, /*fullSize=*/false);
+        state.PauseTiming();
+        workspace.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(workspace_first_picture)->Arg(1)->Arg(24)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+
+/// The photograph before, which is there first.
+void workspace_first_pixels(benchmark::State &state)
+{
+    const QString photograph = photographs(state.range(0), 1).first();
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto workspace = std::make_unique<Workspace>();
+        state.ResumeTiming();
+        workspace->show(photograph);
+        processEventsUntil([&] { return bool(workspace->store.photo(photograph)); });
+        workspace->picture(0, /*fullSize=*/false);
+        state.PauseTiming();
+        workspace.reset(); // waits for the map
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(workspace_first_pixels)->Arg(1)->Arg(24)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+
+/// Pictures per second while the strength is dragged, at 100 % or fitted in.
+void workspace_drag(benchmark::State &state)
+{
+    Workspace workspace;
+    const QString photograph = photographs(state.range(0), 1).first();
+    workspace.show(photograph);
+    workspace.finish(photograph);
+    const bool fullSize = state.range(1) != 0;
+    workspace.picture(50, fullSize);
+    int strength = 0;
+    for (auto _ : state) {
+        strength = strength % 99 + 1;
+        workspace.picture(strength, fullSize);
+    }
+    state.counters["pictures"] = benchmark::Counter(double(state.iterations()), benchmark::Counter::kIsRate);
+}
+BENCHMARK(workspace_drag)
+    ->ArgNames({"", "full"})
+    ->ArgsProduct({{1, 24}, {0, 1}})
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime()
+    ->UseRealTime();
+
+/// From the end of a drag to the picture from all pixels, the moment of rest included.
+void workspace_exact_picture(benchmark::State &state)
+{
+    Workspace workspace;
+    const QString photograph = photographs(state.range(0), 1).first();
+    workspace.show(photograph);
+    workspace.finish(photograph);
+    for (auto _ : state)
+        workspace.picture(70, /*fullSize=*/false, /*exact=*/true);
+}
+BENCHMARK(workspace_exact_picture)->Arg(1)->Arg(24)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+
+/// The result of the next photograph, which has been prepared or not.
+void workspace_next_photograph(benchmark::State &state)
+{
+    const QStringList both = photographs(state.range(0), 2);
+    const bool prepared = state.range(1) != 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto workspace = std::make_unique<Workspace>();
+        workspace->show(both[0], prepared ? both.mid(1) : QStringList());
+        workspace->finish(both[0]);
+        workspace->picture(70, /*fullSize=*/false);
+        if (prepared)
+            workspace->finish(both[1]);
+        state.ResumeTiming();
+        workspace->show(both[1]);
+        workspace->finish(both[1]);
+        workspace->picture(70, /*fullSize=*/false);
+        state.PauseTiming();
+        workspace.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(workspace_next_photograph)
+    ->ArgNames({"", "prepared"})
+    ->ArgsProduct({{1, 24}, {0, 1}})
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime()
+    ->UseRealTime();
+
+void workspace_histogram(benchmark::State &state)
+{
+    Workspace workspace;
+    const QString photograph = photographs(state.range(0), 1).first();
+    workspace.show(photograph);
+    workspace.finish(photograph);
+    const auto photo = workspace.store.photo(photograph);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(histogramOf(*photo, 70));
+}
+BENCHMARK(workspace_histogram)->Arg(1)->Arg(24)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+
+/// What /proc says of this process, in MB.
+double memoryNow()
+{
+    std::ifstream status("/proc/self/status");
+    std::string word;
+    while (status >> word && word != "VmRSS:") {
+    }
+    double kilobytes = 0;
+    status >> kilobytes;
+    return kilobytes / 1024;
+}
+
+/// The most memory while photographs are shown one after the other, each with its neighbours, and after the last.
+void workspace_walk(benchmark::State &state)
+{
+    const QStringList series = photographs(state.range(0), int(state.range(1)));
+    double most = 0;
+    for (auto _ : state) {
+        Workspace workspace;
+        for (int i = 0; i < series.size(); ++i) {
+            workspace.show(series[i], series.mid(i + 1, 1) + series.mid(i - 1, i > 0 ? 1 : 0));
+            workspace.finish(series[i]);
+            workspace.picture(70, /*fullSize=*/false);
+            most = std::max(most, memoryNow());
+        }
+    }
+    state.counters["MB"] = most;
+}
+BENCHMARK(workspace_walk)
+    ->ArgNames({"", "photographs"})
+    ->Args({1, 20})
+    ->Args({24, 200})
+    ->Unit(benchmark::kSecond)
+    ->Iterations(1)
+    ->UseRealTime();
 
 } // namespace
 

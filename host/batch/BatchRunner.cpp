@@ -287,10 +287,10 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
 
 qint64 BatchRunner::memoryFor(const PhotoHead &facts, bool untouched)
 {
-    // The source and the working image of 16 bytes per pixel exist throughout. Added to them is first the sparse system, whose size
-    // is the same for every photograph (measured: 150 MB), and at the end the haze map of 4 bytes per pixel, with the guide and the
-    // map of the level before: the copy of 100,000 pixels, doubled as long as it stays narrower. Transposing a picture takes two
-    // copies of it, or 12 bytes per pixel of coefficients, which is less than all that.
+    // The source and the working image of 16 bytes per pixel exist throughout. Added to them is first the sparse system, whose
+    // size is the same for every photograph (measured: 150 MB), and at the end the haze map of 4 bytes per pixel, with the guide
+    // and the map of the level before: the copy of 100,000 pixels, doubled as long as it stays narrower. Transposing a picture
+    // takes two copies of it, or 12 bytes per pixel of coefficients, which is less than all that.
     constexpr int kWorkingBytes = 16, kMapBytes = 4;
     const qint64 pixels = qint64(facts.width) * facts.height;
     const qint64 images = pixels * (facts.bytesPerPixel + kWorkingBytes);

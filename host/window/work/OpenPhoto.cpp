@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstring>
 
-#include <QFile>
+#include <QTemporaryFile>
 
 #include "AutomaticStrength.h"
 #include "BatchRunner.h"
@@ -27,8 +27,17 @@ struct BitmapRelease
 };
 
 /// What a save would copy into the result. A photograph whose metadata can't be read has none here; its save says so.
-QByteArray profileOf(const QString &path)
+QByteArray profileOf(const QString &photograph, const PhotoHead &head)
 {
+    QString path = photograph;
+    QTemporaryFile standIn;
+    if (head.needsStandIn) {
+        if (!standIn.open())
+            return QByteArray();
+        standIn.write(PhotoLoader::standIn(photograph));
+        standIn.flush();
+        path = standIn.fileName();
+    }
     GflLoadParams params;
     gflGetDefaultLoadParams(&params);
     params.flags |= GFL_LOAD_METADATA | GFL_LOAD_METADATA_ONLY;
@@ -84,7 +93,7 @@ std::shared_ptr<const OpenPhoto> OpenPhoto::read(const QString &path)
         stored.Turn(whole->image, photo->head.orientation);
         decoded.reset();
     }
-    photo->icc = profileOf(path);
+    photo->icc = profileOf(path, photo->head);
 
     photo->levels.push_back(whole);
     while (std::max(photo->pixels(photo->levelCount() - 1).Width(), photo->pixels(photo->levelCount() - 1).Height()) >

@@ -48,12 +48,13 @@ private:
     }
 };
 
-/// The smallest level that has at least one pixel for each of the screen.
+/// The smallest level that has at least two pixels along each of the screen's: with fewer, the draft is visibly softer than the
+/// exact picture.
 int levelFor(const PictureRequest &request)
 {
     int level = 0;
     while (level + 1 < request.photo->levelCount() &&
-           request.photo->pixels(level + 1).Width() >= request.scale * request.photo->width())
+           request.photo->pixels(level + 1).Width() >= 2 * request.scale * request.photo->width())
         ++level;
     return level;
 }
@@ -204,15 +205,19 @@ QImage PicturePainter::reducedDraft(const PictureRequest &request)
     if (photo.lock() != request.photo || geometry.size != request.size || geometry.scale != request.scale ||
         geometry.corner != request.corner) {
         photo.reset();
-        const QRect part = place.under(place.rows.first(), place.rows.end());
-        const VImage &level = wanted.pixels(place.level);
-        const VImage view(part.width(), part.height(), level.Type(), level.BitsPerComponent(), /*clear=*/false,
-                          level.PixelAddress(part.x(), part.y()), level.BytesPerLine());
-        VImage working;
-        toWorkingForm(view, working);
         pixels.Create(place.columns.count(), place.rows.count(), VImage::Rgba, 32);
-        reduceArea(working, part.x(), part.y(), place.columns, place.rows, place.rows.first(), place.rows.end(), pixels, 0);
         values.Create(place.columns.count(), place.rows.count(), VImage::Grey, 32, /*clear=*/true);
+        const VImage &level = wanted.pixels(place.level);
+        VImage working;
+        const int band = rowsPerBand(place);
+        for (int first = place.rows.first(); first < place.rows.end(); first += band) {
+            const int end = std::min(first + band, place.rows.end());
+            const QRect part = place.under(first, end);
+            const VImage view(part.width(), part.height(), level.Type(), level.BitsPerComponent(), /*clear=*/false,
+                              level.PixelAddress(part.x(), part.y()), level.BytesPerLine());
+            toWorkingForm(view, working);
+            reduceArea(working, part.x(), part.y(), place.columns, place.rows, first, end, pixels, first - place.rows.first());
+        }
         if (wanted.hasMap())
             reduceArea(wanted.map(place.level), 0, 0, place.columns, place.rows, place.rows.first(), place.rows.end(), values, 0);
         geometry.size = request.size;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <new>
+#include <numeric>
 #include <vector>
 
 #include <QImage>
@@ -22,6 +23,7 @@ struct Release
 using Profile = std::unique_ptr<void, Release>;
 
 constexpr std::size_t kMostKept = 16; ///< Conversions; a series rarely has more than two or three profiles.
+constexpr std::size_t kGreyValues = 65536;
 /// Below this many pixels a team costs more than it gains.
 constexpr qint64 kPixelsForTeam = 1 << 16;
 
@@ -36,7 +38,8 @@ Profile opened(const QByteArray &bytes, cmsColorSpaceSignature space)
 
 } // namespace
 
-/// Each is null if it is not needed; all are without lcms2's cache of the last pixel, so that several threads may use them.
+/// What is not needed is null or empty. The conversions are without lcms2's cache of the last pixel, so that several threads may
+/// use them.
 struct ScreenColours::Conversion
 {
     Conversion() = default;
@@ -44,15 +47,14 @@ struct ScreenColours::Conversion
     Conversion &operator=(const Conversion &) = delete;
     ~Conversion()
     {
-        for (const cmsHTRANSFORM transform : {quick, exact, grey, exactGrey})
+        for (const cmsHTRANSFORM transform : {quick, exact})
             if (transform)
                 cmsDeleteTransform(transform);
     }
 
-    cmsHTRANSFORM quick = nullptr;     ///< BGRA with 8 bits to the same.
-    cmsHTRANSFORM exact = nullptr;     ///< RGBA with 16 bits to BGRA with 8.
-    cmsHTRANSFORM grey = nullptr;      ///< Grey with 8 bits to BGRA with 8.
-    cmsHTRANSFORM exactGrey = nullptr; ///< Grey with 16 bits to BGRA with 8.
+    cmsHTRANSFORM quick = nullptr; ///< BGRA with 8 bits to the same.
+    cmsHTRANSFORM exact = nullptr; ///< RGBA with 16 bits to BGRA with 8.
+    std::vector<QRgb> ofGrey;      ///< By the value in 16 bits.
 };
 
 ScreenColours::ScreenColours(const QByteArray &screenProfile) : screen(screenProfile) {}
@@ -73,23 +75,28 @@ std::shared_ptr<const ScreenColours::Conversion> ScreenColours::conversionFrom(c
 
     const auto conversion = std::make_shared<Conversion>();
     Profile target = opened(screen, cmsSigRgbData);
-    Profile colour = opened(profile, cmsSigRgbData), grey = opened(profile, cmsSigGrayData);
+    const Profile grey = opened(profile, cmsSigGrayData);
+    Profile colour = opened(profile, cmsSigRgbData);
     if (target || colour || grey) {
         if (!target)
             target.reset(cmsCreate_sRGBProfile());
         if (!colour)
             colour.reset(cmsCreate_sRGBProfile());
         const auto transform = [&](const Profile &from, cmsUInt32Number form, cmsUInt32Number flags) {
-            return from ? cmsCreateTransform(from.get(), form, target.get(), TYPE_BGRA_8, INTENT_RELATIVE_COLORIMETRIC,
-                                             flags | cmsFLAGS_NOCACHE | cmsFLAGS_BLACKPOINTCOMPENSATION)
-                        : nullptr;
+            return cmsCreateTransform(from.get(), form, target.get(), TYPE_BGRA_8, INTENT_RELATIVE_COLORIMETRIC,
+                                      flags | cmsFLAGS_NOCACHE | cmsFLAGS_BLACKPOINTCOMPENSATION);
         };
-        // Unless it is told not to, the library replaces a conversion from 16 bits by a table, which is wrong by up to 26 of 255
-        // where colours leave the screen's gamut.
+        // Unless optimizations are off, the library replaces a conversion from 16 bits by a table, which is wrong by up to 26 of
+        // 255 where colours leave the screen's gamut.
         conversion->quick = transform(colour, TYPE_BGRA_8, 0);
         conversion->exact = transform(colour, TYPE_RGBA_16, cmsFLAGS_NOOPTIMIZE);
-        conversion->grey = transform(grey, TYPE_GRAY_8, 0);
-        conversion->exactGrey = transform(grey, TYPE_GRAY_16, cmsFLAGS_NOOPTIMIZE);
+        if (const cmsHTRANSFORM ofGrey = grey ? transform(grey, TYPE_GRAY_16, cmsFLAGS_NOOPTIMIZE) : nullptr) {
+            std::vector<std::uint16_t> values(kGreyValues);
+            std::iota(values.begin(), values.end(), std::uint16_t(0));
+            conversion->ofGrey.assign(kGreyValues, qRgb(0, 0, 0)); // sets the alpha, which the library leaves alone
+            cmsDoTransform(ofGrey, values.data(), conversion->ofGrey.data(), cmsUInt32Number(kGreyValues));
+            cmsDeleteTransform(ofGrey);
+        }
     }
     if (conversions.size() >= kMostKept)
         conversions.clear();
@@ -103,22 +110,27 @@ void ScreenColours::convert(const VImage &pixels, const QByteArray &profile, Qua
     pixels.ToQImage(picture); // without a conversion of colours; the alpha stays
     if (picture.isNull())
         throw std::bad_alloc();
-    const bool grey = pixels.Type() == VImage::Grey && conversion->grey;
+    const bool grey = pixels.Type() == VImage::Grey && !conversion->ofGrey.empty();
     const bool exact = quality == Quality::Exact && pixels.BitsPerComponent() > 8;
-    const cmsHTRANSFORM transform =
-        grey ? (exact ? conversion->exactGrey : conversion->grey) : (exact ? conversion->exact : conversion->quick);
-    if (!transform)
+    const cmsHTRANSFORM transform = exact ? conversion->exact : conversion->quick;
+    if (!grey && !transform)
         return;
     VImage source;
     if (grey || exact)
-        pixels.ConvertTo(source, grey ? VImage::Grey : VImage::Rgba, exact ? 16 : 8);
+        pixels.ConvertTo(source, grey ? VImage::Grey : VImage::Rgba, 16);
     const int width = picture.width(), height = picture.height();
     const int team = qint64(width) * height < kPixelsForTeam ? 1 : std::max(1, std::min(int(threadCount), height));
     unsigned char *const first = picture.bits();
     const qptrdiff stride = picture.bytesPerLine();
 #pragma omp parallel for schedule(static) num_threads(team)
     for (int y = 0; y < height; ++y) {
-        unsigned char *row = first + stride * y;
-        cmsDoTransform(transform, source.Bitmap() ? source.PixelAddress(0, y) : row, row, cmsUInt32Number(width));
+        unsigned char *const row = first + stride * y;
+        if (grey) {
+            const auto *const values = reinterpret_cast<const std::uint16_t *>(source.PixelAddress(0, y));
+            for (int x = 0; x < width; ++x)
+                reinterpret_cast<QRgb *>(row)[x] = conversion->ofGrey[values[x]];
+        } else {
+            cmsDoTransform(transform, exact ? source.PixelAddress(0, y) : row, row, cmsUInt32Number(width));
+        }
     }
 }
