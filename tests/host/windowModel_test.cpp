@@ -4,6 +4,7 @@
 #include <random>
 
 #include <QApplication>
+#include <QColorSpace>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -22,6 +23,7 @@
 #include "Session.h"
 #include "TestFolder.h"
 #include "VException.h"
+#include "profileName.h"
 
 namespace {
 
@@ -169,6 +171,34 @@ TEST_F(Window, TakesAThousandPhotographsInBatches)
     ASSERT_TRUE(eventually([&] { return series.rowCount() == 1000; }));
     EXPECT_GE(batches, 10);
     EXPECT_LE(longest, 100);
+}
+
+TEST_F(Window, ReadsWhatIsInViewFirst)
+{
+    QStringList names;
+    for (int i = 0; i < 20; ++i)
+        names << QStringLiteral("p%1.png").arg(i);
+    photographs(names, 300, 200);
+    QObject::connect(&series, &Series::rowsInserted, [&] { series.readFirst({18, 19}); });
+    std::map<int, int> turns; // by row: the event that its picture came with
+    int event = 0;
+    QObject::connect(&series, &Series::dataChanged, [&](const QModelIndex &first, const QModelIndex &last) {
+        ++event;
+        for (int row = first.row(); row <= last.row(); ++row)
+            if (!series.data(series.index(row), Series::ThumbnailRole).value<QImage>().isNull())
+                turns.emplace(row, event);
+    });
+    add(paths(names));
+    readAll();
+    ASSERT_EQ(turns.size(), 20u);
+    EXPECT_LE(std::max(turns[18], turns[19]), turns[17]);
+}
+
+TEST(ProfileName, IsTheProfilesOwn)
+{
+    EXPECT_EQ(profileName({}), "sRGB");
+    EXPECT_EQ(profileName("no profile"), "sRGB");
+    EXPECT_EQ(profileName(QColorSpace(QColorSpace::AdobeRgb).iccProfile()), "Adobe RGB");
 }
 
 TEST_F(Window, StartsAtTheStoredDefault)
@@ -342,27 +372,37 @@ TEST_F(Window, TreatsExistingResultsAsAsked)
     struct Case
     {
         Policy policy;
+        std::optional<int> quality;
         QStringList fresh; ///< Files that are new or have another content afterwards.
         int saved, kept;
         const char *states;
     };
     const Case cases[] = {
         {Policy::ReplaceChanged,
+         {},
          {"b_dehazed.png", "c_dehazed.png", "d_dehazed.png"},
          3,
          1,
-         "a.png 50 saved, b.png 90 saved, c.png 70 saved, d.png 70 saved"},
-        {Policy::ReplaceAll,
+         "a.png 0 saved, b.png 90 saved, c.png 0 saved, d.png 0 saved"},
+        {Policy::ReplaceChanged,
+         95,
          {"a_dehazed.png", "b_dehazed.png", "c_dehazed.png", "d_dehazed.png"},
          4,
          0,
-         "a.png 50 saved, b.png 90 saved, c.png 70 saved, d.png 70 saved"},
+         "a.png 0 saved, b.png 90 saved, c.png 0 saved, d.png 0 saved"},
+        {Policy::ReplaceAll,
+         {},
+         {"a_dehazed.png", "b_dehazed.png", "c_dehazed.png", "d_dehazed.png"},
+         4,
+         0,
+         "a.png 0 saved, b.png 90 saved, c.png 0 saved, d.png 0 saved"},
         {Policy::KeepBoth,
+         {},
          {"a_dehazed-2.png", "b_dehazed-2.png", "c_dehazed-2.png", "d_dehazed.png"},
          4,
          0,
-         "a.png 50 saved, b.png 90 saved, c.png 70 saved, d.png 70 saved"},
-        {Policy::Skip, {"d_dehazed.png"}, 1, 3, "a.png 50 saved, b.png 90 kept, c.png 70 kept, d.png 70 saved"},
+         "a.png 0 saved, b.png 90 saved, c.png 0 saved, d.png 0 saved"},
+        {Policy::Skip, {}, {"d_dehazed.png"}, 1, 3, "a.png 0 saved, b.png 90 kept, c.png 0 kept, d.png 0 saved"},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(int(c.policy));
@@ -373,7 +413,7 @@ TEST_F(Window, TreatsExistingResultsAsAsked)
         series.follow(queue);
         series.setSaveOptions({});
         add(photographs({"a.png", "b.png", "c.png", "d.png"}));
-        series.setStrength({0, 1}, fixed(50));
+        series.setStrength({0, 1, 2, 3}, fixed(0)); // at which a save takes no time
         series.save({0, 1});
         ASSERT_TRUE(untilEnded(queue));
         series.setStrength({1}, fixed(90));
@@ -384,6 +424,7 @@ TEST_F(Window, TreatsExistingResultsAsAsked)
 
         SaveQueue::Options options;
         options.existing = c.policy;
+        options.quality = c.quality;
         series.setSaveOptions(options);
         series.saveAll();
         const auto summary = untilEnded(queue);
@@ -448,7 +489,7 @@ TEST_F(Window, PausesDropsAndStopsWithWholeResults)
 
 TEST_F(Window, QuitInTheMiddleOfSavesGoesOnNextTime)
 {
-    constexpr int kCount = 24;
+    constexpr int kCount = 16;
     QStringList names;
     for (int i = 0; i < kCount; ++i)
         names << QStringLiteral("p%1.jpg").arg(i, 2, 10, QLatin1Char('0'));
@@ -457,7 +498,8 @@ TEST_F(Window, QuitInTheMiddleOfSavesGoesOnNextTime)
         SaveQueue queue(*host, *one2one, 0);
         Session session(series, kProcess, sessions());
         series.follow(queue);
-        series.setStrength({3}, fixed(33));
+        series.setStrength({0, 1, 2, 3, 4, 5}, fixed(0)); // soon done
+        series.setStrength({12}, fixed(33));
         SaveQueue::Options options;
         options.folder = folder.path("out");
         series.setSaveOptions(options);
@@ -480,7 +522,7 @@ TEST_F(Window, QuitInTheMiddleOfSavesGoesOnNextTime)
     ASSERT_TRUE(session.restore());
     EXPECT_EQ(session.currentPhoto(), folder.path("p05.jpg"));
     ASSERT_EQ(later.rowCount(), kCount);
-    EXPECT_EQ(later.percent(3), 33);
+    EXPECT_EQ(later.percent(12), 33);
     SaveQueue queue(*host, *one2one, 0);
     later.follow(queue);
     later.saveUnfinished();
@@ -585,7 +627,7 @@ TEST_F(Window, ExchangesSettingsFilesWithTheCommandLine)
     readAll();
     const QByteArray number = "hazeRemove=\"" + QByteArray::number(series.percent(1).value()) + '"';
     ASSERT_TRUE(eventually([&] { return folder.content("s.xml").contains(number); }));
-    const Said said = folder.run({"--settings", "s.xml", "--newer", "--json"});
+    const Said said = folder.run({"--settings", "s.xml", "--newer", "--json", "--jobs", "1"});
     ASSERT_EQ(said.code, 0) << said.err;
     ASSERT_EQ(said.objects().size(), 2u);
     EXPECT_EQ(said.objects()[0]["strength"].toInt(), 60);

@@ -70,9 +70,11 @@ struct Series::Photo
     QString path;
     WantedStrength strength;
     WantedStrength start;
-    WantedStrength ordered; ///< When it was last given to the queue.
+    WantedStrength ordered;            ///< When it was last given to the queue,
+    std::optional<int> orderedQuality; ///< and the quality then.
     std::optional<int> automatic;
     std::optional<int> resultStrength;
+    std::optional<int> resultQuality;
     QString result;
     Work work = Work::None;
     Failure failure = Failure::None;
@@ -356,6 +358,7 @@ Series::Record Series::record(int row) const
     record.start = photo.start;
     record.automatic = photo.automatic;
     record.resultStrength = photo.resultStrength;
+    record.resultQuality = photo.resultQuality;
     record.result = photo.result;
     record.unfinished = photo.work != Photo::Work::None;
     record.failed = photo.failure == Photo::Failure::Saving;
@@ -530,6 +533,7 @@ void Series::restore(const std::vector<Record> &records)
         photo->automatic = record.automatic;
         if (record.resultStrength && QFileInfo::exists(record.result)) {
             photo->resultStrength = record.resultStrength;
+            photo->resultQuality = record.resultQuality;
             photo->result = record.result;
         }
         photo->work = record.unfinished ? Photo::Work::Waiting : Photo::Work::None;
@@ -594,6 +598,14 @@ void Series::takeNews()
     show(touched);
     if (kept)
         Q_EMIT changed();
+}
+
+void Series::readFirst(const QList<int> &given)
+{
+    QStringList first;
+    for (const int row : given)
+        first << path(row);
+    reader.prefer(first);
 }
 
 void Series::knowAutomatic(const QString &path, int percent)
@@ -710,7 +722,8 @@ void Series::follow(SaveQueue &next)
 
 SaveQueue::Order Series::orderOf(const Photo &photo) const
 {
-    const bool current = photo.resultStrength && percentOf(photo) == photo.resultStrength;
+    const bool current =
+        photo.resultStrength && percentOf(photo) == photo.resultStrength && photo.resultQuality == options.quality;
     return {photo.path, photo.strength, current ? photo.result : QString()};
 }
 
@@ -720,6 +733,7 @@ void Series::save(const QList<int> &given)
     for (const int row : given) {
         Photo &photo = *photos.at(std::size_t(row));
         photo.ordered = photo.strength;
+        photo.orderedQuality = options.quality;
         orders << orderOf(photo);
     }
     if (queue && !orders.isEmpty())
@@ -785,6 +799,7 @@ void Series::onEnded(const QString &path, const BatchOutcome &outcome, const QSt
     photo->work = Photo::Work::None;
     if (outcome.hasResult()) {
         photo->resultStrength = outcome.strength;
+        photo->resultQuality = photo->orderedQuality;
         photo->result = result;
         if (photo->ordered.automatic && !photo->automatic)
             photo->automatic = outcome.strength;

@@ -70,6 +70,7 @@ public:
         WantedStrength start;              ///< What Reset returns to.
         std::optional<int> automatic;      ///< The automatic strength, once it is known.
         std::optional<int> resultStrength; ///< Of the result that was written last,
+        std::optional<int> resultQuality;  ///< the quality that was chosen for it, if any,
         QString result;                    ///< and its absolute path.
         bool unfinished = false;           ///< It was waiting or in work.
         bool failed = false;
@@ -114,6 +115,9 @@ public:
     std::vector<Record> records() const;
 
     QUndoStack &undoStack() { return undo; }
+    /// The small pictures of these rows, as those in view, are read before the others.
+    void readFirst(const QList<int> &rows);
+
     /// Each of these is one step to undo; rows that have the strength already are left out, and no step is made for none.
     void setStrength(const QList<int> &rows, const WantedStrength &strength);
     void setAutomatic(const QList<int> &rows);

@@ -27,7 +27,8 @@ const QString kOpen = QStringLiteral("open"), kFile = QStringLiteral("settingsFi
               kPolicy = QStringLiteral("existing"), kFolder = QStringLiteral("folder"), kTag = QStringLiteral("tag"),
               kPath = QStringLiteral("path"), kStrength = QStringLiteral("strength"), kStart = QStringLiteral("start"),
               kAutomatic = QStringLiteral("automatic"), kResult = QStringLiteral("result"),
-              kResultStrength = QStringLiteral("resultStrength"), kUnfinished = QStringLiteral("unfinished"),
+              kResultStrength = QStringLiteral("resultStrength"), kResultQuality = QStringLiteral("resultQuality"),
+              kQuality = QStringLiteral("quality"), kUnfinished = QStringLiteral("unfinished"),
               kInFile = QStringLiteral("inSettingsFile"), kFailed = QStringLiteral("failed"), kReason = QStringLiteral("reason");
 
 QJsonValue fromStrength(const WantedStrength &strength)
@@ -56,6 +57,8 @@ QJsonObject fromRecord(const Series::Record &record)
     if (record.resultStrength) {
         photo[kResult] = record.result;
         photo[kResultStrength] = *record.resultStrength;
+        if (record.resultQuality)
+            photo[kResultQuality] = *record.resultQuality;
     }
     if (record.unfinished)
         photo[kUnfinished] = true;
@@ -75,6 +78,7 @@ Series::Record toRecord(const QJsonObject &photo)
     record.automatic = toPercent(photo[kAutomatic]);
     record.result = photo[kResult].toString();
     record.resultStrength = toPercent(photo[kResultStrength]);
+    record.resultQuality = toPercent(photo[kResultQuality]);
     record.unfinished = photo[kUnfinished].toBool();
     record.failed = photo[kFailed].toBool();
     record.reason = photo[kReason].toString();
@@ -130,6 +134,8 @@ QJsonObject fromOptions(const SaveQueue::Options &options)
     QJsonObject saving{{kPolicy, int(options.existing)}, {kFolder, options.folder}};
     if (options.tag)
         saving[kTag] = *options.tag;
+    if (options.quality)
+        saving[kQuality] = *options.quality;
     return saving;
 }
 
@@ -140,6 +146,7 @@ SaveQueue::Options toOptions(const QJsonObject &saving)
     options.folder = saving[kFolder].toString();
     if (saving.contains(kTag))
         options.tag = saving[kTag].toString();
+    options.quality = toPercent(saving[kQuality]);
     return options;
 }
 

@@ -27,7 +27,7 @@ BatchOutcome notBegun()
 
 bool SaveQueue::Options::operator==(const Options &other) const
 {
-    return existing == other.existing && folder == other.folder && tag == other.tag;
+    return existing == other.existing && folder == other.folder && tag == other.tag && quality == other.quality;
 }
 
 SaveQueue::SaveQueue(HostApplication &host, VIPluginOne2One &process, int jobs, QObject *parent)
@@ -48,6 +48,7 @@ BatchPlan::Options SaveQueue::planOptions(const Options &options)
                                                          : Existing::Replace;
     plan.output = options.folder;
     plan.tag = options.tag;
+    plan.packing.jpegQuality = options.quality;
     return plan;
 }
 

@@ -40,6 +40,7 @@ public:
         Policy existing = Policy::ReplaceChanged;
         QString folder;             ///< Absolute; empty for the photograph's own.
         std::optional<QString> tag; ///< Instead of the plug-in's; may be empty.
+        std::optional<int> quality; ///< Of a JPEG, 1 to 100; otherwise the photograph's own.
 
         bool operator==(const Options &other) const;
     };
@@ -49,7 +50,7 @@ public:
     {
         QString path; ///< Absolute.
         WantedStrength strength;
-        QString currentResult; ///< Absolute; the result that was made at this strength, or empty.
+        QString currentResult; ///< Absolute; the result that was made at this strength and quality, or empty.
     };
 
     struct Progress
