@@ -5,6 +5,7 @@
 ActionButton::ActionButton(QAction *action, QWidget *parent) : QPushButton(parent), source(action)
 {
     setAutoDefault(false);
+    setFocusPolicy(Qt::TabFocus);
     connect(this, &QPushButton::clicked, action, [action] { action->trigger(); });
     connect(action, &QAction::changed, this, &ActionButton::follow);
     follow();

@@ -16,20 +16,21 @@ constexpr int kNoticeMs = 12000;
 } // namespace
 
 MessageBar::MessageBar(QWidget *parent)
-    : QFrame(parent), label(new QLabel(this)), remedyButton(new QPushButton(this)), timer(new QTimer(this))
+    : QFrame(parent), sign(new QLabel(this)), label(new QLabel(this)), remedyButton(new QPushButton(this)),
+      timer(new QTimer(this))
 {
     setObjectName(QStringLiteral("messageBar"));
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    setForegroundRole(QPalette::ToolTipText);
+    setBackgroundRole(QPalette::AlternateBase);
+    setForegroundRole(QPalette::Text);
     setAccessibleName(tr("Message"));
 
     label->setObjectName(QStringLiteral("message"));
     label->setWordWrap(true);
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setForegroundRole(QPalette::ToolTipText);
+    label->setForegroundRole(QPalette::Text);
     remedyButton->setObjectName(QStringLiteral("remedy"));
     remedyButton->setAutoDefault(false);
     auto *dismiss = new QPushButton(style()->standardIcon(QStyle::SP_DialogCloseButton), QString(), this);
@@ -41,6 +42,7 @@ MessageBar::MessageBar(QWidget *parent)
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(10, 4, 4, 4);
+    row->addWidget(sign);
     row->addWidget(label, 1);
     row->addWidget(remedyButton);
     row->addWidget(dismiss);
@@ -60,6 +62,9 @@ MessageBar::MessageBar(QWidget *parent)
 void MessageBar::say(Kind kind, const QString &text, const QString &remedy, std::function<void()> help)
 {
     helpWith = std::move(help);
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    const auto icon = kind == Kind::Notice ? QStyle::SP_MessageBoxInformation : QStyle::SP_MessageBoxWarning;
+    sign->setPixmap(style()->standardIcon(icon, nullptr, this).pixmap(side, side));
     label->setText(text);
     remedyButton->setText(remedy);
     remedyButton->setVisible(!remedy.isEmpty());

@@ -29,6 +29,7 @@ public:
 
 private:
     std::function<void()> helpWith;
+    QLabel *sign; ///< Tells a problem from a notice.
     QLabel *label;
     QPushButton *remedyButton;
     QTimer *timer;

@@ -1,5 +1,8 @@
 #include "SaveBar.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -44,6 +47,7 @@ SaveBar::SaveBar(const WindowActions &actions, QWidget *parent)
         auto *button = new ActionButton(actions[id], this);
         button->setObjectName(QLatin1String(name));
         row->addWidget(button);
+        tallest = std::max(tallest, button->sizeHint().height());
     }
     hide();
 }

@@ -17,6 +17,8 @@ class SaveBar : public QWidget
 public:
     SaveBar(const WindowActions &actions, QWidget *parent = nullptr);
 
+    /// Of its buttons, so that the bar around it need not grow when they appear.
+    int usualHeight() const { return tallest; }
     void showProgress(const SaveQueue::Progress &progress, bool paused);
     void showSummary(const SaveQueue::Summary &summary);
     /// In one sentence, for the bar and the desktop's notification.
@@ -25,4 +27,5 @@ public:
 private:
     QLabel *label;
     QProgressBar *bar;
+    int tallest = 0;
 };

@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include "BatchPlan.h"
@@ -20,6 +21,7 @@ namespace {
 
 using Policy = SaveQueue::Policy;
 
+constexpr int kUsualQuality = 95;
 constexpr int kLongestTag = 100; ///< Leaves room for the photograph's own name.
 
 } // namespace
@@ -27,7 +29,8 @@ constexpr int kLongestTag = 100; ///< Leaves room for the photograph's own name.
 SaveOptionsDialog::SaveOptionsDialog(const SaveQueue::Options &options, const QString &example, QWidget *parent)
     : QDialog(parent), exampleName(example), existing(new QButtonGroup(this)),
       inFolder(new QCheckBox(tr("In this &folder:"), this)), folder(new QLineEdit(this)),
-      browse(new QPushButton(tr("&Choose..."), this)), tag(new QLineEdit(this)), outlook(new QLabel(this))
+      browse(new QPushButton(tr("&Choose..."), this)), tag(new QLineEdit(this)),
+      ownQuality(new QCheckBox(tr("JPEG &quality:"), this)), quality(new QSpinBox(this)), outlook(new QLabel(this))
 {
     setWindowTitle(tr("Save options"));
 
@@ -52,6 +55,16 @@ SaveOptionsDialog::SaveOptionsDialog(const SaveQueue::Options &options, const QS
     grid->addWidget(browse, 0, 2);
     grid->addWidget(tagLabel, 1, 0);
     grid->addWidget(tag, 1, 1);
+    ownQuality->setObjectName(QStringLiteral("ownQuality"));
+    ownQuality->setChecked(options.quality.has_value());
+    ownQuality->setToolTip(tr("Otherwise each JPEG keeps the quality of its photograph"));
+    quality->setObjectName(QStringLiteral("quality"));
+    quality->setRange(1, 100);
+    quality->setValue(options.quality.value_or(kUsualQuality));
+    quality->setEnabled(ownQuality->isChecked());
+    quality->setAccessibleName(tr("JPEG quality"));
+    grid->addWidget(ownQuality, 2, 0);
+    grid->addWidget(quality, 2, 1, Qt::AlignLeft);
     grid->setColumnStretch(1, 1);
 
     auto *others = new QGroupBox(tr("If a result exists already"), this);
@@ -94,6 +107,7 @@ SaveOptionsDialog::SaveOptionsDialog(const SaveQueue::Options &options, const QS
     connect(browse, &QPushButton::clicked, this, &SaveOptionsDialog::chooseFolder);
     connect(inFolder, &QCheckBox::toggled, this, &SaveOptionsDialog::check);
     connect(folder, &QLineEdit::textChanged, this, &SaveOptionsDialog::check);
+    connect(ownQuality, &QCheckBox::toggled, quality, &QWidget::setEnabled);
     connect(tag, &QLineEdit::textChanged, this, &SaveOptionsDialog::check);
     check();
 }
@@ -106,6 +120,8 @@ SaveQueue::Options SaveOptionsDialog::options() const
         chosen.folder = QDir::cleanPath(QDir::fromNativeSeparators(folder->text()));
     if (!tag->text().isEmpty())
         chosen.tag = tag->text();
+    if (ownQuality->isChecked())
+        chosen.quality = quality->value();
     return chosen;
 }
 

@@ -9,8 +9,9 @@ class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QSpinBox;
 
-/// How results are saved: where, under which name, and what happens to results that exist already.
+/// How results are saved: where, under which name, at which quality, and what happens to results that exist already.
 class SaveOptionsDialog : public QDialog
 {
     Q_OBJECT
@@ -32,6 +33,8 @@ private:
     QLineEdit *folder;
     QPushButton *browse;
     QLineEdit *tag;
+    QCheckBox *ownQuality;
+    QSpinBox *quality;
     QLabel *outlook;
     QPushButton *accepting;
 };

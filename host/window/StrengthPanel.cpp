@@ -36,6 +36,7 @@ StrengthPanel::StrengthPanel(QWidget *histogram, const WindowActions &actions, Q
     slider->setObjectName(QStringLiteral("strengthSlider"));
     slider->setRange(0, 100);
     slider->setPageStep(kPage);
+    slider->setFocusPolicy(Qt::TabFocus); // a drag leaves the keys to the pictures
     slider->setAccessibleName(tr("Strength"));
     slider->setToolTip(tr("How much of the haze is removed"));
     box->setObjectName(QStringLiteral("strength"));

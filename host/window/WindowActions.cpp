@@ -90,7 +90,7 @@ constexpr Row kRows[] = {
     {Id::SaveAll, QT_TRANSLATE_NOOP("WindowActions", "Save all"), "Ctrl+Shift+Return; Ctrl+Shift+Enter",
      QT_TRANSLATE_NOOP("WindowActions", "Save the results of the whole series")},
     {Id::Options, QT_TRANSLATE_NOOP("WindowActions", "Save op&tions..."), "",
-     QT_TRANSLATE_NOOP("WindowActions", "Folder and tag of the results, and what happens to existing ones")},
+     QT_TRANSLATE_NOOP("WindowActions", "Folder, tag and quality of the results, and what happens to existing ones")},
     {Id::Pause, QT_TRANSLATE_NOOP("WindowActions", "&Pause"), "",
      QT_TRANSLATE_NOOP("WindowActions", "Finish the photographs in work and begin no other until you resume"), Reach::Window,
      /*checkable=*/true},

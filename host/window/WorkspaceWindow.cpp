@@ -43,6 +43,7 @@
 #include "StrengthPanel.h"
 #include "VException.h"
 #include "notifyDesktop.h"
+#include "profileName.h"
 
 namespace {
 
@@ -127,6 +128,7 @@ void WorkspaceWindow::build()
     zoomLabel->setObjectName(QStringLiteral("zoom"));
     zoomLabel->setAccessibleName(tr("Zoom"));
     statusBar()->addWidget(hint, 1);
+    statusBar()->setMinimumHeight(saveBar->usualHeight() + 4);
     statusBar()->addPermanentWidget(saveBar);
     statusBar()->addPermanentWidget(zoomLabel);
 
@@ -277,11 +279,7 @@ void WorkspaceWindow::connectActions()
             series.setStrength({row}, {percent, /*automatic=*/false});
     });
     connect(panel, &StrengthPanel::done, this, [this] { picture->setFocus(); });
-    connect(picture, &PictureView::zoomChanged, this, [this](double scale, bool fits) {
-        actions[Id::Fit]->setChecked(fits);
-        actions[Id::Full]->setChecked(qFuzzyCompare(scale, 1.0));
-        zoomLabel->setText(tr("%1 %").arg(qRound(scale * 100)));
-    });
+    connect(picture, &PictureView::zoomChanged, this, &WorkspaceWindow::showZoom);
 }
 
 void WorkspaceWindow::connectWork()
@@ -366,13 +364,16 @@ QList<int> WorkspaceWindow::allRows() const
 void WorkspaceWindow::selectRow(int row)
 {
     if (row >= 0 && row < series.rowCount())
-        strip->setCurrentIndex(series.index(row));
+        strip->selectionModel()->setCurrentIndex(series.index(row), QItemSelectionModel::ClearAndSelect);
 }
 
 void WorkspaceWindow::showPhotograph(int row)
 {
     const bool any = row >= 0 && row < series.rowCount();
+    const bool begins = any && stack->currentWidget() == empty;
     stack->setCurrentWidget(any ? static_cast<QWidget *>(picture) : empty);
+    if (begins)
+        picture->setFocus();
     strip->setVisible(any);
     panel->setVisible(any);
     if (!any) {
@@ -408,7 +409,17 @@ void WorkspaceWindow::showPixels(const QString &path)
     if (currentRow() < 0 || path != series.path(currentRow()))
         return;
     picture->showPhoto(store.photo(path));
+    showZoom();
+    showFacts();
     histogramTimer->start();
+}
+
+void WorkspaceWindow::showZoom()
+{
+    const double scale = picture->scale();
+    actions[Id::Fit]->setChecked(picture->fits());
+    actions[Id::Full]->setChecked(qFuzzyCompare(scale, 1.0));
+    zoomLabel->setText(tr("%1 %").arg(qRound(scale * 100)));
 }
 
 void WorkspaceWindow::showStrength()
@@ -433,6 +444,8 @@ void WorkspaceWindow::showFacts()
         lines << tr("%1 x %2 px, %3 bits").arg(facts.size.width()).arg(facts.size.height()).arg(facts.bits);
         lines << tr("%1, %2").arg(facts.kind, QLocale().formattedDataSize(facts.bytes));
     }
+    if (const auto photo = store.photo(series.path(row)))
+        lines << profileName(photo->profile());
     if (!facts.resultName.isEmpty())
         lines << tr("Result: %1").arg(facts.resultName);
     panel->showFacts(series.data(series.index(row), Series::NameRole).toString(), lines);
@@ -629,7 +642,7 @@ void WorkspaceWindow::retryFailed()
     for (const int row : allRows())
         if (series.state(row) == Series::State::Failed)
             series.retry(row);
-    showState();
+    showPhotograph(currentRow());
 }
 
 void WorkspaceWindow::onSaved(const SaveQueue::Summary &summary)
@@ -652,8 +665,8 @@ void WorkspaceWindow::onSaved(const SaveQueue::Summary &summary)
 void WorkspaceWindow::showKeys()
 {
     std::vector<KeySheet::Row> rows = KeySheet::rowsOf(actions.all());
-    const std::vector<KeySheet::Row> held = PictureView::keys();
-    rows.insert(rows.end(), held.begin(), held.end());
+    for (const KeySheet::Row &row : PictureView::keys())
+        rows.push_back(row);
     KeySheet(rows, this).exec();
 }
 

@@ -77,6 +77,7 @@ private:
     void showThumbnail(int row);
     void showPixels(const QString &path);
     void showFacts();
+    void showZoom();
     void showStrength();
     void showHistogram();
     /// Texts and states of the actions that depend on the series.

@@ -154,7 +154,7 @@ TEST(KeySheet, ShowsTheActionsOwnKeysAndTexts)
     ASSERT_EQ(rows.size(), 2u);
     EXPECT_EQ(rows[0].does, QStringLiteral("Save & close"));
     EXPECT_EQ(rows[1].does, QStringLiteral("Show each pixel as it is"));
-    EXPECT_TRUE(rows[1].keys.contains(QLatin1Char('Z')) && rows[1].keys.contains(QLatin1String("Ctrl+1")));
+    EXPECT_EQ(rows[1].keys, QStringLiteral("Z")); // the first
 }
 
 TEST(EmptyView, OpensTheSessionThatIsClicked)

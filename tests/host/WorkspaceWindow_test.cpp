@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QDropEvent>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLabel>
@@ -61,11 +62,19 @@ bool eventually(const std::function<bool()> &holds)
     return !late;
 }
 
-void usePalette(bool dark)
+enum class Look { Light, Dark, HighContrast };
+
+void use(Look look)
 {
     QPalette palette = QApplication::style()->standardPalette();
-    if (dark) {
+    if (look == Look::HighContrast) {
+        palette = QPalette(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white, Qt::black, Qt::black);
+        palette.setColor(QPalette::Highlight, Qt::yellow);
+        palette.setColor(QPalette::HighlightedText, Qt::black);
+    } else if (look == Look::Dark) {
         palette = QPalette(QColor(53, 53, 53), QColor(38, 38, 38));
+        palette.setColor(QPalette::Base, QColor(28, 28, 28));
+        palette.setColor(QPalette::AlternateBase, QColor(48, 48, 48));
         palette.setColor(QPalette::Highlight, QColor(61, 125, 202));
     }
     QApplication::setPalette(palette);
@@ -125,8 +134,23 @@ protected:
     }
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
+        QCoreApplication::processEvents();
         QWidget *const focus = QApplication::focusWidget() ? QApplication::focusWidget() : window;
         QTest::keyClick(focus, Qt::Key(key), modifiers);
+        QCoreApplication::processEvents();
+    }
+    /// With the left button, along a line.
+    void drag(QWidget *widget, QPoint from, QPoint to)
+    {
+        QTest::mousePress(widget, Qt::LeftButton, {}, from);
+        constexpr int kSteps = 8;
+        for (int step = 1; step <= kSteps; ++step) {
+            const QPoint at = from + (to - from) * step / kSteps;
+            QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(widget, &move);
+            QCoreApplication::processEvents();
+        }
+        QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
     }
     void drop(const QStringList &paths)
     {
@@ -144,10 +168,15 @@ protected:
     /// Waits for a dialog that opens, and acts on it.
     void inDialog(const std::function<void(QWidget *)> &person)
     {
-        QTimer::singleShot(0, [=] {
-            ASSERT_TRUE(eventually([] { return QApplication::activeModalWidget() != nullptr; }));
-            person(QApplication::activeModalWidget());
+        auto *watch = new QTimer(window);
+        QObject::connect(watch, &QTimer::timeout, [=] {
+            if (QWidget *dialog = QApplication::activeModalWidget()) {
+                watch->deleteLater();
+                watch->stop();
+                person(dialog);
+            }
         });
+        watch->start(20);
     }
 
     Series *series() { return qobject_cast<Series *>(strip()->model()); }
@@ -183,17 +212,31 @@ protected:
         QTest::keyClick(box, Qt::Key_Return);
     }
 
-    /// In light and dark.
+    /// The view shows the photograph, and nothing more comes.
+    bool settled()
+    {
+        constexpr int kRestMs = 400; // longer than the view waits before it says what it waits for
+        QImage last;
+        QElapsedTimer rest;
+        return eventually([&] {
+            const QImage now = picture()->grab().toImage();
+            if (now != last || now.pixel(now.width() / 4, now.height() / 2) == now.pixel(4, 4))
+                rest.start();
+            last = now;
+            return rest.elapsed() > kRestMs;
+        });
+    }
     void keepPicture(const char *state)
     {
-        for (const bool dark : {false, true}) {
-            usePalette(dark);
+        const std::pair<Look, const char *> kLooks[] = {
+            {Look::Dark, "dark"}, {Look::HighContrast, "contrast"}, {Look::Light, "light"}};
+        for (const auto &[look, name] : kLooks) {
+            ::use(look);
             keepPictureOf(window, QStringLiteral("%1_%2x_%3_%4")
                                       .arg(host->locale().name().left(2))
                                       .arg(window->devicePixelRatioF())
-                                      .arg(state, dark ? "dark" : "light"));
+                                      .arg(state, name));
         }
-        usePalette(false);
     }
 
     TestFolder folder;
@@ -217,6 +260,7 @@ TEST_F(Workspace, FromADroppedFolderToResults)
         EXPECT_TRUE(find<QLabel>("message")->text().contains('1')); // result left out
         EXPECT_EQ(picture()->path(), folder.path("trip/1_valley.jpg"));
         ASSERT_TRUE(eventually([&] { return find<QLabel>("facts")->text().contains("750"); }));
+        EXPECT_TRUE(settled());
         keepPicture("2_opened");
 
         typeStrength("85");
@@ -242,6 +286,7 @@ TEST_F(Workspace, FromADroppedFolderToResults)
         EXPECT_DOUBLE_EQ(picture()->scale(), 1);
         press(Qt::Key_C);
         EXPECT_TRUE(picture()->clipping());
+        EXPECT_TRUE(settled());
         keepPicture("3_side_by_side");
         press(Qt::Key_C);
         press(Qt::Key_F);
@@ -289,7 +334,7 @@ TEST_F(Workspace, KeysMeanWhatTheFocusSays)
         EXPECT_EQ(picture()->peek(), PictureView::NoPeek);
         QTest::keyClick(box, Qt::Key_Up);
         EXPECT_EQ(strength(), 5);
-        QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier); // all that was typed
+        press(Qt::Key_Z, Qt::ControlModifier); // all that was typed
         EXPECT_EQ(strength(), WantedStrength::kUsual);
 
         // Return leaves the box, and does nothing more there or elsewhere.
@@ -348,7 +393,9 @@ TEST_F(Workspace, KeysMeanWhatTheFocusSays)
         });
         press(Qt::Key_F1);
 
+        window->activateWindow(); // there may be no window manager to do it
         strip()->setFocus();
+        ASSERT_TRUE(eventually([&] { return strip()->hasFocus(); }));
         press(Qt::Key_Delete);
         EXPECT_EQ(series()->paths(), QStringList{folder.path("b.jpg")});
         press(Qt::Key_Z, Qt::ControlModifier);
@@ -364,10 +411,7 @@ TEST_F(Workspace, OneDragOfTheSliderIsOneStep)
         ASSERT_TRUE(listed(1));
         auto *slider = find<QSlider>("strengthSlider");
         const int y = slider->height() / 2, from = slider->width() * WantedStrength::kUsual / 100;
-        QTest::mousePress(slider, Qt::LeftButton, {}, {from, y});
-        for (int x = from; x > slider->width() / 4; x -= 5)
-            QTest::mouseMove(slider, {x, y});
-        QTest::mouseRelease(slider, Qt::LeftButton, {}, {slider->width() / 4, y});
+        drag(slider, {from, y}, {slider->width() / 4, y});
         EXPECT_LT(series()->percent(0), 40);
         EXPECT_EQ(series()->undoStack().count(), 1);
         click("undo");
@@ -476,7 +520,8 @@ TEST_F(Workspace, ASessionIsSavedOpenedAndRunByTheCommandLine)
         EXPECT_EQ(series()->rowCount(), 0);
         keepPicture("7_recent");
     });
-    EXPECT_EQ(use({folder.path("new.xml")}, [] {}), 0); // a new one
+    const CommandLine missing = CommandLine::parse({"veilaway", "window", folder.path("missing.xml")});
+    EXPECT_EQ(WindowCommand(missing, *host).run(), ExitUsage);
 }
 
 TEST_F(Workspace, QuittingInTheMiddleOfSavesLeavesWholeResultsAndASessionThatGoesOn)
@@ -585,6 +630,6 @@ int main(int argc, char **argv)
     HostedApplication<QApplication> application(argc, argv, locale, /*lendServices=*/true);
     application.loadTranslator(QStringLiteral("veilaway_%1.qm").arg(locale.name()));
     host = &application;
-    usePalette(/*dark=*/false);
+    use(Look::Light);
     return RUN_ALL_TESTS();
 }

@@ -51,7 +51,7 @@ std::vector<KeySheet::Row> KeySheet::rowsOf(const QList<QAction *> &actions)
 {
     std::vector<Row> rows;
     for (const QAction *action : actions)
-        if (const QString keys = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText); !keys.isEmpty())
+        if (const QString keys = action->shortcut().toString(QKeySequence::NativeText); !keys.isEmpty())
             rows.push_back({keys, action->statusTip().isEmpty() ? withoutMnemonic(action->text()) : action->statusTip()});
     return rows;
 }

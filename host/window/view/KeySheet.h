@@ -19,8 +19,8 @@ public:
         QString keys; ///< As the desktop writes them.
         QString does;
     };
-    /// From the actions' own shortcuts, and their status tips or else their texts, so that the sheet is right whatever they are.
-    /// Actions without a shortcut are left out.
+    /// From the actions' first shortcuts, and their status tips or else their texts, so that the sheet is right whatever they
+    /// are. Actions without a shortcut are left out.
     static std::vector<Row> rowsOf(const QList<QAction *> &actions);
 
     explicit KeySheet(const std::vector<Row> &rows, QWidget *parent = nullptr);
