@@ -564,13 +564,13 @@ TEST_F(Workspace, QuittingInTheMiddleOfSavesLeavesWholeResultsAndASessionThatGoe
 TEST_F(Workspace, EveryLanguageFitsAndEveryControlCanBeReached)
 {
     PluginFile plugin{QString()};
+    photograph("a.jpg", 60, 40);
     for (const QString &language : HostApplication::languages()) {
         SCOPED_TRACE(language.toStdString());
         QTranslator catalogue;
         ASSERT_TRUE(catalogue.load(QStringLiteral(":/Translation/veilaway_%1.qm").arg(language)));
         QCoreApplication::installTranslator(&catalogue);
         WorkspaceWindow shown(*host, plugin.process(), /*jobs=*/1);
-        photograph("a.jpg");
         shown.addPhotographs({folder.path("a.jpg")});
         ASSERT_TRUE(eventually([&] { return shown.findChild<PictureView *>()->isVisibleTo(&shown); }));
         shown.resize(kSmallScreen);
