@@ -68,7 +68,7 @@ void FilmstripDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
         painter->drawPixmap(place.topLeft(), pixmap);
     }
 
-    // Strength and state share one ground at the bottom right of the thumbnail's room, so that narrow ones have it too.
+    // Strength and state are in the corners of the thumbnail's room, so that a narrow thumbnail has room for both.
     const auto state = Series::State(index.data(Series::StateRole).toInt());
     const QVariant strength = index.data(Series::StrengthRole);
     QFont bold = option.font;
