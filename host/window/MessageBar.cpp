@@ -33,10 +33,11 @@ MessageBar::MessageBar(QWidget *parent)
     label->setForegroundRole(QPalette::Text);
     remedyButton->setObjectName(QStringLiteral("remedy"));
     remedyButton->setAutoDefault(false);
-    auto *dismiss = new QPushButton(style()->standardIcon(QStyle::SP_DialogCloseButton), QString(), this);
+    auto *dismiss = new QPushButton(QStringLiteral("\u00D7"), this);
     dismiss->setObjectName(QStringLiteral("dismiss"));
     dismiss->setAutoDefault(false);
     dismiss->setFlat(true);
+    dismiss->setFixedWidth(dismiss->sizeHint().height());
     dismiss->setAccessibleName(tr("Dismiss the message"));
     dismiss->setToolTip(dismiss->accessibleName());
 

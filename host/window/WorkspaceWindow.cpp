@@ -212,7 +212,10 @@ void WorkspaceWindow::connectActions()
     const auto on = [&](Id id, auto &&does) { connect(actions[id], &QAction::triggered, this, does); };
     on(Id::Add, [this] { choosePhotographs(); });
     on(Id::AddFolder, [this] { chooseFolder(); });
-    on(Id::NewSession, [this] { attempt([&] { session.startOver(); }); });
+    on(Id::NewSession, [this] {
+        bar->hide();
+        attempt([&] { session.startOver(); });
+    });
     on(Id::OpenSession, [this] { chooseSession(); });
     on(Id::SaveSession, [this] { saveSession(/*underAnotherName=*/false); });
     on(Id::SaveSessionAs, [this] { saveSession(/*underAnotherName=*/true); });

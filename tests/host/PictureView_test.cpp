@@ -78,7 +78,18 @@ protected:
         view.showPicture(side, picture, request);
     }
 
-    QImage grab() { return view.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    /// The view in device pixels, as it is in the window.
+    QImage grab()
+    {
+        const double ratio = view.devicePixelRatioF();
+        const QPoint corner(int(std::round(view.x() * ratio)), int(std::round(view.y() * ratio)));
+        return window.grab().toImage().convertToFormat(QImage::Format_RGB32).copy(QRect(corner, deviceSize()));
+    }
+    QSize deviceSize()
+    {
+        const double ratio = view.devicePixelRatioF();
+        return {int(std::ceil(view.width() * ratio)), int(std::ceil(view.height() * ratio))};
+    }
     /// Which picture is seen at this part of the view's width and height.
     int pictureAt(double x, double y)
     {
@@ -188,13 +199,12 @@ TEST_F(View, APixelOfThePhotographIsOneOfTheScreen)
             const PictureRequest &request = requests.back().second;
             EXPECT_EQ(request.scale, scale);
             const QImage seen = grab();
-            ASSERT_EQ(seen.size(), view.size() * view.devicePixelRatioF());
             const int across = mode == PictureView::SideBySide ? request.size.width() : seen.width();
             const int split = int(std::lround(view.splitPosition() * seen.width()));
             const int margin = int(20 * view.devicePixelRatioF()); // where the line is
             int wrong = 0;
             for (int y = seen.height() / 5; y < seen.height() * 2 / 5; ++y) // below the labels, above the knob
-                for (int x = 0; x < seen.width(); ++x) {
+                for (int x = 0; x < seen.width() - 1; ++x) {                // the last column may be half a pixel
                     const bool second = mode == PictureView::SideBySide ? x >= seen.width() - across : x >= split;
                     if (mode == PictureView::Split ? std::abs(x - split) < margin
                                                    : mode == PictureView::SideBySide && x >= across && x < seen.width() - across)
@@ -220,7 +230,7 @@ TEST_F(View, ThePointerZoomsWhereItIsAndPansBothSides)
     const auto pixelUnder = [&] {
         const PictureRequest &request = requests.back().second;
         const double ratio = view.devicePixelRatioF();
-        const QSize whole(int(std::ceil(view.width() * ratio)), int(std::ceil(view.height() * ratio)));
+        const QSize whole = deviceSize();
         const QSize pane((whole.width() - int(2 * ratio)) / 2, whole.height());
         const QPointF inPane = QPointF(pointer) * ratio - QPointF(whole.width() - pane.width(), 0);
         const QPoint topLeft((pane.width() - request.size.width()) / 2, (pane.height() - request.size.height()) / 2);
@@ -372,7 +382,6 @@ TEST_F(View, AHeldKeyIsLetGoWhateverTakesTheFocus)
     };
     for (const Held &held : kKeys)
         for (const auto &[name, act] : kEnds) {
-            view.show();
             window.activateWindow();
             ASSERT_TRUE(QTest::qWaitForWindowActive(&window, kLimitMs));
             view.setFocus(Qt::MouseFocusReason);
@@ -383,6 +392,7 @@ TEST_F(View, AHeldKeyIsLetGoWhateverTakesTheFocus)
             EXPECT_EQ(pictureAt(0.8, 0.3), held.seen) << held.name;
             act(held.key);
             EXPECT_EQ(view.peek(), PictureView::NoPeek) << held.name << " and " << name;
+            view.show();
             settle();
             EXPECT_EQ(pictureAt(0.2, 0.3), BeforeCode) << held.name << " and " << name;
             EXPECT_EQ(pictureAt(0.8, 0.3), AfterCode) << held.name << " and " << name;

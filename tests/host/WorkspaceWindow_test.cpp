@@ -168,10 +168,15 @@ protected:
     /// Waits for a dialog that opens, and acts on it.
     void inDialog(const std::function<void(QWidget *)> &person)
     {
-        QTimer::singleShot(0, [=] {
-            ASSERT_TRUE(eventually([] { return QApplication::activeModalWidget() != nullptr; }));
-            person(QApplication::activeModalWidget());
+        auto *watch = new QTimer(window);
+        QObject::connect(watch, &QTimer::timeout, [=] {
+            if (QWidget *dialog = QApplication::activeModalWidget()) {
+                watch->deleteLater();
+                watch->stop();
+                person(dialog);
+            }
         });
+        watch->start(20);
     }
 
     Series *series() { return qobject_cast<Series *>(strip()->model()); }
@@ -388,7 +393,9 @@ TEST_F(Workspace, KeysMeanWhatTheFocusSays)
         });
         press(Qt::Key_F1);
 
+        window->activateWindow(); // there may be no window manager to do it
         strip()->setFocus();
+        ASSERT_TRUE(eventually([&] { return strip()->hasFocus(); }));
         press(Qt::Key_Delete);
         EXPECT_EQ(series()->paths(), QStringList{folder.path("b.jpg")});
         press(Qt::Key_Z, Qt::ControlModifier);
@@ -557,13 +564,13 @@ TEST_F(Workspace, QuittingInTheMiddleOfSavesLeavesWholeResultsAndASessionThatGoe
 TEST_F(Workspace, EveryLanguageFitsAndEveryControlCanBeReached)
 {
     PluginFile plugin{QString()};
+    photograph("a.jpg", 60, 40);
     for (const QString &language : HostApplication::languages()) {
         SCOPED_TRACE(language.toStdString());
         QTranslator catalogue;
         ASSERT_TRUE(catalogue.load(QStringLiteral(":/Translation/veilaway_%1.qm").arg(language)));
         QCoreApplication::installTranslator(&catalogue);
         WorkspaceWindow shown(*host, plugin.process(), /*jobs=*/1);
-        photograph("a.jpg");
         shown.addPhotographs({folder.path("a.jpg")});
         ASSERT_TRUE(eventually([&] { return shown.findChild<PictureView *>()->isVisibleTo(&shown); }));
         shown.resize(kSmallScreen);

@@ -129,14 +129,14 @@ TEST_F(Veilaway, TheWizardNamesTheRemedyWhereNoWindowCanBeShown)
         const char *said;
     } cases[] = {
         {{"wizard"}, "DISPLAY=", 1, kNone},
-        {{"wizard"}, "DISPLAY=:97531", 1, kNone},
+        {{"window"}, "DISPLAY=:97531", 1, kNone},
         {{"wizard"}, "QT_QPA_PLATFORM=nonsense", 1, kNone},
         {{"wizard"}, "QT_QPA_PLATFORM=linuxfb:fb=none", 1, "The window can't be shown: linuxfb"},
         {{"--share-services", "wizard"}, "DISPLAY=", 1, kNone},
         {{"--language", "de", "wizard", "--", "-a.png"}, "DISPLAY=", 1, "Das Fenster kann nicht"},
         {{"--", "wizard"}, "DISPLAY=", 1, "wizard: There is no such file"},
         {{"wizard", "--settings", "broken.xml"}, "QT_QPA_PLATFORM=offscreen", 2, "broken.xml"},
-        {{"wizard", "--settings", "broken.xml"}, "QT_QPA_PLATFORM=nonsense;minimal", 2, "broken.xml"},
+        {{"window", "broken.xml"}, "QT_QPA_PLATFORM=nonsense;minimal", 2, "broken.xml"},
     };
     for (const auto &[arguments, environment, code, said] : cases) {
         const Said answer = folder.run(arguments, {environment});

@@ -288,6 +288,9 @@ void Session::prune() const
     for (int i = kKeptSessions; i < all.size(); ++i)
         if (const auto free = lock(all[i].completeBaseName()))
             QFile::remove(all[i].filePath());
+    // A lock that a killed process left behind is gone once it has been taken and let go.
+    for (const QString &left : QDir(place).entryList({QStringLiteral("*.lock")}, QDir::Files))
+        lock(QFileInfo(left).completeBaseName());
 }
 
 QList<Session::Recent> Session::recent(int most) const

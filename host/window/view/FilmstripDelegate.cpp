@@ -68,7 +68,7 @@ void FilmstripDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
         painter->drawPixmap(place.topLeft(), pixmap);
     }
 
-    // Strength and state share one ground at the bottom right of the thumbnail's room, so that narrow ones have it too.
+    // Strength and state are in the corners of the thumbnail's room, so that a narrow thumbnail has room for both.
     const auto state = Series::State(index.data(Series::StateRole).toInt());
     const QVariant strength = index.data(Series::StrengthRole);
     QFont bold = option.font;
@@ -134,9 +134,13 @@ void FilmstripDelegate::paintState(QPainter &painter, const QRectF &place, Serie
         painter.drawArc(QRectF(at(0.14, 0.14), at(0.86, 0.86)), -turn * 16, 270 * 16);
         break;
     case Series::State::Saved:
-    case Series::State::Kept:
-        stroke(state == Series::State::Saved ? kSaved : kOnChip);
+        stroke(kSaved);
         painter.drawPolyline(QPolygonF(QVector<QPointF>{at(0.12, 0.52), at(0.4, 0.8), at(0.88, 0.22)}));
+        break;
+    case Series::State::Kept:
+        stroke(kOnChip);
+        painter.drawPolyline(QPolygonF(QVector<QPointF>{at(0.2, 0.36), at(0.42, 0.58), at(0.8, 0.1)}));
+        painter.drawLine(at(0.12, 0.86), at(0.88, 0.86));
         break;
     case Series::State::ChangedSince:
         stroke(kChanged);

@@ -6,9 +6,9 @@
 
 /// Draws one photograph of the series: its thumbnail with strength and state on it, and its name below.
 ///
-/// Each state has a shape besides its colour, on a ground of the delegate's, so that it can be told on any photograph, in any
-/// theme, and without seeing colours: a dot for edited, three dots for waiting, an arc that turns for in work, a tick for saved,
-/// a tick in outline for kept, a round arrow for changed since, a triangle with a mark for failed. Untouched has none.
+/// Each state has a shape besides its colour, on a dark ground, so that it can be recognised on any photograph, in any theme, and
+/// without seeing colours: a dot for edited, three dots for waiting, an arc that turns for in work, a tick for saved, a tick on a
+/// line for kept, a round arrow for changed since, a triangle with a mark for failed. Untouched has none.
 class FilmstripDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

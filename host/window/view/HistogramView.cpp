@@ -88,7 +88,7 @@ void HistogramView::paintEvent(QPaintEvent *)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
 
-    // The ends often hold far more pixels than anything between them, so that they don't count for the height.
+    // The ends often hold far more pixels than anything between them, so they don't count for the height.
     double highest = 1;
     for (const auto *channels : {&shown->before, &shown->after})
         for (const auto &bins : *channels)

@@ -564,11 +564,9 @@ void PictureView::paintEvent(QPaintEvent *)
         return shownPeek == PeekMap ? MapPicture : shownPeek == PeekBefore || side == 0 ? BeforePicture : AfterPicture;
     };
 
-    // Pictures in device pixels, beginning at a whole one wherever the widget is in its window.
+    // Pictures in device pixels.
     painter.save();
     painter.scale(1 / ratio, 1 / ratio);
-    const QTransform device = painter.deviceTransform();
-    painter.translate(std::round(device.dx()) - device.dx(), std::round(device.dy()) - device.dy());
     const QRect first = pane(0), second = pane(paneCount() - 1);
     if (halved) {
         QRect left = first, right = first;

@@ -32,8 +32,7 @@ class PictureView : public QWidget
 public:
     enum Mode { Split, SideBySide, AfterOnly };
     Q_ENUM(Mode)
-    /// Which picture is asked for. Each has a queue of its own, so that a strength that is being dragged never delays the picture
-    /// before.
+    /// Which picture is asked for. Each has its own queue, so that dragging the strength never delays the picture before.
     enum Side { Before, After };
     Q_ENUM(Side)
     /// What is shown for as long as a key or button is held.

@@ -153,6 +153,8 @@ private:
             reason = failure.message;
         } catch (const std::bad_alloc &) {
             reason = tooLittleMemory();
+        } catch (const std::exception &failure) {
+            reason = QString::fromLocal8Bit(failure.what());
         }
         return nullptr;
     }

@@ -94,6 +94,8 @@ private:
             reason = failure.message;
         } catch (const std::bad_alloc &) {
             reason = PictureRenderer::tr("There is not enough memory for this picture. Close other programs.");
+        } catch (const std::exception &failure) {
+            reason = QString::fromLocal8Bit(failure.what());
         }
         deliver([this, wanted, reason] { Q_EMIT owner.failed(wanted, reason); });
     }
