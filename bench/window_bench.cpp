@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QColorSpace>
 #include <QEventLoop>
+#include <QListView>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
@@ -17,6 +18,7 @@
 #include "PluginFile.h"
 #include "ScreenColours.h"
 #include "WizardWindow.h"
+#include "WorkspaceWindow.h"
 #include "drawScene.h"
 
 // How long a photographer waits for a window. It is painted as on a screen; QT_QPA_PLATFORM=offscreen needs none. Photographs are
@@ -316,6 +318,26 @@ BENCHMARK(workspace_walk)
     ->Iterations(1)
     ->UseRealTime();
 
+/// From dropping photographs to a list of all of them; their small pictures follow.
+void workspace_adding(benchmark::State &state)
+{
+    const QStringList series = photographs(1, int(state.range(0)));
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto window = std::make_unique<WorkspaceWindow>(*host, plugin->process(), /*jobs=*/0);
+        window->show();
+        const QAbstractItemModel *listed = window->findChild<QListView *>()->model();
+        state.ResumeTiming();
+        window->addPhotographs(series);
+        processEventsUntil([&] { return listed->rowCount() == series.size(); });
+        window->repaint();
+        state.PauseTiming();
+        window.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(workspace_adding)->Arg(10)->Arg(1000)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -323,7 +345,8 @@ int main(int argc, char **argv)
     benchmark::Initialize(&argc, argv);
     const QTemporaryDir place;
     folder = place.path();
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder));
+    for (const char *kept : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
+        qputenv(kept, QFile::encodeName(folder));
     HostedApplication<QApplication> application(argc, argv, QLocale(QLocale::English), /*lendServices=*/true);
     QApplication::setQuitOnLastWindowClosed(false);
     application.setUsual(QStringLiteral("hazeRemove"), 70); // at 0 the engine has nothing to do

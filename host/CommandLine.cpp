@@ -94,14 +94,20 @@ CommandLine CommandLine::parse(const QStringList &given)
     }
     if (word == "wizard")
         line.command = Command::Wizard;
+    if (word == "window")
+        line.command = Command::Window;
 
     line.settingsFile = parser.value("settings");
+    if (line.command == Command::Window && line.settingsFile.isEmpty() && line.photographs.size() == 1 &&
+        line.photographs[0].endsWith(".xml", Qt::CaseInsensitive))
+        line.settingsFile = line.photographs.takeFirst();
     line.quiet = parser.isSet("quiet");
     line.json = parser.isSet("json");
     line.shareServices = parser.isSet("share-services");
     line.keepTime = parser.isSet("keep-time");
     line.recursive = parser.isSet("recursive");
     line.nullSeparated = parser.isSet("null");
+    line.notify = parser.isSet("notify");
     line.dryRun = parser.isSet("dry-run");
 
     bool whole = false;
@@ -168,10 +174,10 @@ CommandLine CommandLine::parse(const QStringList &given)
         line.command = Command::SetDefault;
         return line;
     }
-    if (line.command == Command::Wizard) {
+    if (line.needsDisplay()) {
         for (const CommandOption &option : OptionTable::options())
-            if (parser.isSet(option.longName()) && !(option.commands & BitWizard))
-                return fail(tr("--%1 can't be used with the wizard, which asks in its window.").arg(option.longName()));
+            if (parser.isSet(option.longName()) && !(option.commands & command->bit))
+                return fail(tr("--%1 can't be used with %2, which asks for it on the screen.").arg(option.longName(), word));
     } else if (line.photographs.isEmpty() && line.settingsFile.isEmpty()) {
         return fail(tr("Name the photographs to remove haze from."));
     }

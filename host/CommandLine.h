@@ -15,7 +15,7 @@ class CommandLine
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 
 public:
-    enum class Command { Run, Wizard, SetDefault, Help, Version, Completion };
+    enum class Command { Run, Window, Wizard, SetDefault, Help, Version, Completion };
 
     Command command = Command::Run;
     QStringList photographs;
@@ -34,6 +34,7 @@ public:
     bool recursive = false;
     bool nullSeparated = false;
     bool dryRun = false;
+    bool notify = false;
     bool quiet = false;
     bool json = false;
     bool shareServices = false;
@@ -41,6 +42,9 @@ public:
 
     /// What is wrong with the command line, or empty. If it is set, the other members are meaningless.
     QString error;
+
+    /// True for the commands that show a window.
+    bool needsDisplay() const { return error.isEmpty() && (command == Command::Window || command == Command::Wizard); }
 
     /// `arguments` start with the name of the program.
     static CommandLine parse(const QStringList &arguments);

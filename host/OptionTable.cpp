@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr unsigned kWindows = BitWizard, kAll = ~0U;
+constexpr unsigned kWindows = BitWindow | BitWizard, kAll = ~0U;
 
 #define TEXT(text) QT_TRANSLATE_NOOP("OptionTable", text)
 
@@ -50,6 +50,7 @@ const std::vector<CommandOption> kOptions{
      TEXT("Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into "
           "memory.")},
     {"quiet", 'q', nullptr, nullptr, BitRun, TEXT("Report failures only.")},
+    {"notify", 0, nullptr, nullptr, BitRun, TEXT("Show a notification of the desktop at the end.")},
     {"json", 0, nullptr, nullptr, BitRun, TEXT("Write one line with a JSON object for each photograph.")},
     {"language", 0, "LANG", "de en es fr it ja pl ru zh_CN zh_TW", kAll,
      TEXT(
@@ -67,6 +68,9 @@ const std::vector<CommandOption> kOptions{
 const std::vector<CommandWord> kCommands{
     {"run", BitRun, "[run] PHOTO... [options]",
      TEXT("Take the haze out of photographs and write the results. The word may be left out.")},
+    {"window", BitWindow, "window [PHOTO... | SETTINGS.xml] [options]",
+     TEXT("Open a workspace for a series: judge each photograph at 100 %, compare before and after, set strengths and save the "
+          "results. It keeps your work as you go.")},
     {"wizard", BitWizard, "wizard [PHOTO...] [options]",
      TEXT("Open a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare.")},
     {"help", BitHelp, "help [COMMAND]", TEXT("Show the help, or the help about one command.")},
@@ -149,8 +153,9 @@ QString OptionTable::help(const QString &name, int columns)
     if (chosen) {
         text = QStringLiteral("veilaway %1\n\n%2\n").arg(QString::fromLatin1(chosen->usage), tr(chosen->text));
     } else {
-        for (const char *usage : {"[run] PHOTO... [options]", "[run] --settings FILE [options]", "wizard [PHOTO...] [options]",
-                                  "--set-default N|auto|none", "help [COMMAND]"})
+        for (const char *usage :
+             {"[run] PHOTO... [options]", "[run] --settings FILE [options]", "window [PHOTO... | SETTINGS.xml] [options]",
+              "wizard [PHOTO...] [options]", "--set-default N|auto|none", "help [COMMAND]"})
             text += QStringLiteral("  veilaway %1\n").arg(QString::fromLatin1(usage));
     }
     if (bits & BitRun) {

@@ -31,7 +31,7 @@ struct CommandWord
     const char *text;  ///< What it does; to be translated in the context of OptionTable.
 };
 
-enum CommandBits : unsigned { BitRun = 1, BitWizard = 2, BitHelp = 4, BitCompletion = 8 };
+enum CommandBits : unsigned { BitRun = 1, BitWizard = 2, BitHelp = 4, BitCompletion = 8, BitWindow = 16 };
 
 /// All commands and options, in one place for the parser, the help and the completions of the shells.
 class OptionTable
@@ -48,6 +48,6 @@ public:
 
     /// The help about one command, or about all if `name` is empty, for a terminal of this width.
     static QString help(const QString &name, int columns);
-    /// The completion script for "bash", "zsh" or "fish"; empty for any other shell.
+    /// The completion script for "bash", "zsh" or "fish".
     static QString completion(const QString &shell);
 };

@@ -143,6 +143,8 @@ void ProgressView::finished(int index, const BatchOutcome &outcome)
     erase();
     if (!outcome.message.isEmpty() && !skipped && !notBegun)
         complain(item.given + ": " + outcome.message);
+    if (outcome.status == Status::Failed && failure.isEmpty())
+        failure = item.given + ": " + outcome.message;
     if (outcome.status == Status::Unchanged && notes)
         note(item.given + ": " + outcome.unchanged);
     const QString took = item.automatic && outcome.hasResult()
@@ -210,8 +212,12 @@ void ProgressView::sayObject(int index, const BatchOutcome &outcome, const Batch
 
 void ProgressView::summarize()
 {
-    if (style == Style::Quiet || style == Style::Json || (items.size() == 1 && counts[Done] + counts[Unchanged] == 1))
-        return;
+    if (style != Style::Quiet && style != Style::Json && !(items.size() == 1 && counts[Done] + counts[Unchanged] == 1))
+        write(stderr, summary() + '\n');
+}
+
+QString ProgressView::summary() const
+{
     QStringList parts;
     if (counts[Planned] > 0)
         parts << tr("%n photograph(s) would be done.", nullptr, counts[Planned]);
@@ -225,7 +231,7 @@ void ProgressView::summarize()
         parts << tr("%n failed.", nullptr, counts[Failed]);
     if (counts[NotBegun] > 0)
         parts << tr("%n not started.", nullptr, counts[NotBegun]);
-    write(stderr, parts.join(' ') + '\n');
+    return parts.join(' ');
 }
 
 void ProgressView::erase()

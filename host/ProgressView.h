@@ -26,6 +26,10 @@ public:
     /// Prints one last line that counts what became of the photographs. It is left out for a single photograph that has its
     /// result, and in the styles Quiet and Json.
     void summarize();
+    /// What summarize prints, in any case.
+    QString summary() const;
+    /// The first failure with the name of its photograph, or an empty text.
+    const QString &firstFailure() const { return failure; }
 
     /// True if each photograph has a result, even an unchanged one or an earlier one that was to be kept, or could have one.
     bool allDone() const;
@@ -65,4 +69,5 @@ private:
     int linesDrawn = 0;
     int finishedCount = 0;
     int counts[Counts] = {};
+    QString failure;
 };

@@ -12,6 +12,7 @@
 #include "PhotographList.h"
 #include "VException.h"
 #include "argumentText.h"
+#include "notifyDesktop.h"
 
 namespace {
 
@@ -66,6 +67,7 @@ int RunCommand::run()
     } catch (const Ending &ending) {
         if (!ending.complaint.isEmpty())
             ProgressView::complain(ending.complaint);
+        notify(ending.complaint);
         return ending.code;
     }
     const auto style = line.json                                 ? ProgressView::Style::Json
@@ -80,6 +82,12 @@ void RunCommand::note(const QString &text) const
 {
     if (!line.quiet)
         ProgressView::note(text);
+}
+
+void RunCommand::notify(const QString &text) const
+{
+    if (line.notify && !text.isEmpty() && !notifyDesktop(tr("Remove haze"), text.trimmed()))
+        note(tr("There is no desktop that shows notifications."));
 }
 
 void RunCommand::loadPlugin()
@@ -238,6 +246,7 @@ int RunCommand::work(ProgressView &view)
         runner.run(items, line.jobs);
     }
     view.summarize();
+    notify(view.summary() + '\n' + view.firstFailure());
     const bool settingsKept = keepSettings(view);
     if (caughtSignal != 0)
         return ExitBySignal + caughtSignal;

@@ -46,6 +46,7 @@ private:
     /// False, after a complaint, if the settings can't be written.
     bool keepSettings(const ProgressView &view);
     void note(const QString &text) const;
+    void notify(const QString &text) const;
 
     const CommandLine &line;
     HostApplication &application;

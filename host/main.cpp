@@ -19,6 +19,7 @@
 #include "RunCommand.h"
 #include "SetDefaultCommand.h"
 #include "VException.h"
+#include "WindowCommand.h"
 #include "WizardCommand.h"
 #include "argumentText.h"
 #include "readPhoto.h"
@@ -70,7 +71,7 @@ int showVersion(const CommandLine &line)
     }
 }
 
-/// Runs every command but the wizard.
+/// Runs every command that shows no window.
 int answer(const CommandLine &line, HostApplication &application)
 {
     switch (line.command) {
@@ -121,7 +122,7 @@ int runProgram(int argc, char **argv)
         QCoreApplication::setApplicationVersion(QStringLiteral(NIMBRA_VERSION));
         application.loadTranslator(QStringLiteral("veilaway_%1.qm").arg(application.locale().name()));
     };
-    if (line.command == CommandLine::Command::Wizard && line.error.isEmpty()) {
+    if (line.needsDisplay()) {
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
         std::optional<DisplayWatch> watch(locale);
@@ -131,7 +132,8 @@ int runProgram(int argc, char **argv)
         settle(application);
         QApplication::setDesktopFileName(QStringLiteral("veilaway"));
         QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("veilaway")));
-        return WizardCommand(line, application).run();
+        return line.command == CommandLine::Command::Window ? WindowCommand(line, application).run()
+                                                            : WizardCommand(line, application).run();
     }
     HostedApplication<QCoreApplication> application(argc, argv, locale, line.shareServices);
     settle(application);

@@ -69,6 +69,21 @@ void PhotoReader::forget(const QString &path)
     wanted.remove(path);
 }
 
+void PhotoReader::prefer(const QStringList &paths)
+{
+    const std::lock_guard lock(mutex);
+    preferred = paths;
+}
+
+QString PhotoReader::nextPicture()
+{
+    const std::lock_guard lock(mutex);
+    for (const QString &path : qAsConst(preferred))
+        if (withoutPicture.removeOne(path))
+            return path;
+    return withoutPicture.takeFirst();
+}
+
 void PhotoReader::read(const QString &path)
 {
     {
@@ -84,10 +99,15 @@ void PhotoReader::read(const QString &path)
             if (!photograph.facts().pixels)
                 picture(photograph, side);
             Q_EMIT checked(path);
-            pictures.start([this, path] {
-                attempt(path, [&](Photograph &same) {
-                    const QImage small = picture(same, side);
-                    Q_EMIT ready(path, small);
+            {
+                const std::lock_guard lock(mutex);
+                withoutPicture << path;
+            }
+            pictures.start([this] {
+                const QString next = nextPicture();
+                attempt(next, [&](Photograph &chosen) {
+                    const QImage small = picture(chosen, side);
+                    Q_EMIT ready(next, small);
                 });
             });
         });

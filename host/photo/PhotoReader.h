@@ -28,6 +28,8 @@ public:
     void read(const QString &path);
     /// Skips what has not begun yet of reading this photograph.
     void forget(const QString &path);
+    /// From now on the pictures of these photographs are read before the others.
+    void prefer(const QStringList &paths);
     /// A picture of a photograph as a viewer shows it, with its longest side at most this long. Blocks while it decodes; any
     /// thread. Throws VException.
     static QImage picture(Photograph &photograph, int longestSide);
@@ -42,12 +44,15 @@ Q_SIGNALS:
     void failed(const QString &path, const QString &reason);
 
 private:
+    QString nextPicture();
     void attempt(const QString &path, const std::function<void(Photograph &)> &work);
 
     HostApplication &application;
     const int side;
     std::mutex mutex;
-    QSet<QString> wanted; ///< Under the mutex.
+    QSet<QString> wanted;       ///< Under the mutex, as the next two.
+    QStringList preferred;      ///< In their order.
+    QStringList withoutPicture; ///< In theirs; each has its place in `pictures`.
     QThreadPool heads;
     QThreadPool pictures;
 };

@@ -85,7 +85,7 @@ TEST_F(Veilaway, WrongCommandLinesExitWith2AndSayWhatIsWrong)
         {{"a.png", "--strenght", "5"}, "Did you mean --strength?"},
         {{"a.png", "--skip"}, "Did you mean --skip-existing?"},
         {{"wizard", "--setings", "s.xml"}, "Did you mean --settings?"},
-        {{"help", "walk"}, "run wizard help"},
+        {{"help", "walk"}, "run window wizard help"},
         {{"a.png", "--newer", "--overwrite"}, "only one"},
         {{"a.png", "-o", ""}, "--output must be"},
         {{"a.png", "-o", "a.gif"}, "written as \"gif\""},
@@ -94,7 +94,8 @@ TEST_F(Veilaway, WrongCommandLinesExitWith2AndSayWhatIsWrong)
         {{"a.png", "-o", "c.png", "--tag", "x"}, "leave it out"},
         {{"a.png", "--tag", "x/y"}, "slash"},
         {{"@none.txt"}, "The list \"none.txt\" can't be read"},
-        {{"--quiet", "wizard"}, "--quiet can't be used with the wizard"},
+        {{"--quiet", "wizard"}, "--quiet can't be used with wizard"},
+        {{"window", "--strength", "5"}, "--strength can't be used with window"},
         {{"--settings", "none.xml"}, "none.xml"},
         {{"a.png", "--strength", "9", "--settings", "broken.xml"}, "broken.xml"},
         {{"a.png", "--settings", "twice.xml"}, "twice"},
@@ -126,14 +127,14 @@ TEST_F(Veilaway, TheWizardNamesTheRemedyWhereNoWindowCanBeShown)
         const char *said;
     } cases[] = {
         {{"wizard"}, "DISPLAY=", 1, kNone},
-        {{"wizard"}, "DISPLAY=:97531", 1, kNone},
+        {{"window"}, "DISPLAY=:97531", 1, kNone},
         {{"wizard"}, "QT_QPA_PLATFORM=nonsense", 1, kNone},
         {{"wizard"}, "QT_QPA_PLATFORM=linuxfb:fb=none", 1, "The window can't be shown: linuxfb"},
         {{"--share-services", "wizard"}, "DISPLAY=", 1, kNone},
         {{"--language", "de", "wizard", "--", "-a.png"}, "DISPLAY=", 1, "Das Fenster kann nicht"},
         {{"--", "wizard"}, "DISPLAY=", 1, "wizard: There is no such file"},
         {{"wizard", "--settings", "broken.xml"}, "QT_QPA_PLATFORM=offscreen", 2, "broken.xml"},
-        {{"wizard", "--settings", "broken.xml"}, "QT_QPA_PLATFORM=nonsense;minimal", 2, "broken.xml"},
+        {{"window", "broken.xml"}, "QT_QPA_PLATFORM=nonsense;minimal", 2, "broken.xml"},
     };
     for (const auto &[arguments, environment, code, said] : cases) {
         const Said answer = folder.run(arguments, {environment});

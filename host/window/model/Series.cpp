@@ -3,11 +3,14 @@
 #include <algorithm>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include "BatchPlan.h"
 #include "DefaultStrength.h"
-#include "PhotoLoader.h"
+#include "PhotographList.h"
+#include "argumentText.h"
+#include "photographText.h"
 
 namespace {
 
@@ -19,31 +22,18 @@ bool same(const WantedStrength &one, const WantedStrength &other)
     return one.automatic == other.automatic && (one.automatic || one.percent == other.percent);
 }
 
-QStringList patterns()
-{
-    QStringList all;
-    for (const QString &suffix : PhotoLoader::pictureSuffixes() + PhotoLoader::rawSuffixes())
-        all << "*." + suffix;
-    return all;
-}
-
 /// The photographs that these paths stand for, each once; folders without any go to `empty`.
 QStringList filesOf(const QStringList &paths, QStringList &empty)
 {
-    QStringList files;
-    for (const QString &given : paths) {
-        const QFileInfo info(given);
-        if (!info.isDir()) {
-            files << QDir::cleanPath(info.absoluteFilePath());
-            continue;
-        }
-        // Name filters ignore the case of letters.
-        const QFileInfoList inside = QDir(info.absoluteFilePath()).entryInfoList(patterns(), QDir::Files, QDir::Name);
-        if (inside.isEmpty())
-            empty << given;
-        for (const QFileInfo &file : inside)
-            files << QDir::cleanPath(file.absoluteFilePath());
-    }
+    QStringList arguments, files;
+    for (const QString &path : paths)
+        arguments << argumentText(QFile::encodeName(QDir::cleanPath(QFileInfo(path).absoluteFilePath())));
+    const PhotographList list(arguments, {});
+    for (const QString &name : list.photographs())
+        if (const QString path = QString::fromUtf8(argumentBytes(name)); QFileInfo(path).isDir())
+            empty << path;
+        else
+            files << path;
     files.removeDuplicates();
     return files;
 }
@@ -80,8 +70,11 @@ struct Series::Photo
     QString path;
     WantedStrength strength;
     WantedStrength start;
+    WantedStrength ordered;            ///< When it was last given to the queue,
+    std::optional<int> orderedQuality; ///< and the quality then.
     std::optional<int> automatic;
     std::optional<int> resultStrength;
+    std::optional<int> resultQuality;
     QString result;
     Work work = Work::None;
     Failure failure = Failure::None;
@@ -255,7 +248,9 @@ QVariant Series::data(const QModelIndex &index, int role) const
     case ThumbnailRole:
         return photo.thumbnail;
     case Qt::ToolTipRole:
-        return photo.reason.isEmpty() ? QDir::toNativeSeparators(photo.path) : photo.reason;
+        return photographText(index) + QLatin1Char('\n') + QDir::toNativeSeparators(photo.path);
+    case Qt::AccessibleTextRole:
+        return photographText(index);
     case PathRole:
         return photo.path;
     case StrengthRole: {
@@ -346,8 +341,11 @@ Series::Facts Series::facts(int row) const
 {
     const Photo &photo = *photos.at(std::size_t(row));
     Facts all = photo.facts;
+    const bool tiff = application.imageDef(photo.path)->needsTiffOutput();
     const bool saved = stateOf(photo) == State::Saved;
-    all.resultName = QFileInfo(saved ? photo.result : SaveQueue::resultName(photo.path, application, options)).fileName();
+    all.resultName =
+        QFileInfo(saved ? photo.result : BatchPlan::resultOf(photo.path, photo.path, SaveQueue::planOptions(options), tiff))
+            .fileName();
     return all;
 }
 
@@ -360,6 +358,7 @@ Series::Record Series::record(int row) const
     record.start = photo.start;
     record.automatic = photo.automatic;
     record.resultStrength = photo.resultStrength;
+    record.resultQuality = photo.resultQuality;
     record.result = photo.result;
     record.unfinished = photo.work != Photo::Work::None;
     record.failed = photo.failure == Photo::Failure::Saving;
@@ -461,10 +460,10 @@ void Series::beginAdding()
     for (const auto &photo : photos)
         if (!photo->result.isEmpty())
             ours << photo->result;
-    adder.start([this, series, given = pending.first(), listed = paths(), ours] {
+    adder.start([this, series, given = pending.first(), listed = paths(), ours, rules = SaveQueue::planOptions(options)] {
         Added what;
         const QStringList files = filesOf(given, what.emptyFolders), all = listed + files;
-        QSet<QString> results = BatchPlan::resultsAmong(all, all, application);
+        QSet<QString> results = BatchPlan::resultsAmong(all, all, application, rules);
         results.unite(QSet<QString>(ours.begin(), ours.end()));
         QStringList fresh, listedResults;
         for (const QString &path : listed)
@@ -534,6 +533,7 @@ void Series::restore(const std::vector<Record> &records)
         photo->automatic = record.automatic;
         if (record.resultStrength && QFileInfo::exists(record.result)) {
             photo->resultStrength = record.resultStrength;
+            photo->resultQuality = record.resultQuality;
             photo->result = record.result;
         }
         photo->work = record.unfinished ? Photo::Work::Waiting : Photo::Work::None;
@@ -598,6 +598,14 @@ void Series::takeNews()
     show(touched);
     if (kept)
         Q_EMIT changed();
+}
+
+void Series::readFirst(const QList<int> &given)
+{
+    QStringList first;
+    for (const int row : given)
+        first << path(row);
+    reader.prefer(first);
 }
 
 void Series::knowAutomatic(const QString &path, int percent)
@@ -714,15 +722,20 @@ void Series::follow(SaveQueue &next)
 
 SaveQueue::Order Series::orderOf(const Photo &photo) const
 {
-    const bool current = photo.resultStrength && percentOf(photo) == photo.resultStrength;
+    const bool current =
+        photo.resultStrength && percentOf(photo) == photo.resultStrength && photo.resultQuality == options.quality;
     return {photo.path, photo.strength, current ? photo.result : QString()};
 }
 
 void Series::save(const QList<int> &given)
 {
     QVector<SaveQueue::Order> orders;
-    for (const int row : given)
-        orders << orderOf(*photos.at(std::size_t(row)));
+    for (const int row : given) {
+        Photo &photo = *photos.at(std::size_t(row));
+        photo.ordered = photo.strength;
+        photo.orderedQuality = options.quality;
+        orders << orderOf(photo);
+    }
     if (queue && !orders.isEmpty())
         queue->add(orders, options, paths());
 }
@@ -786,7 +799,10 @@ void Series::onEnded(const QString &path, const BatchOutcome &outcome, const QSt
     photo->work = Photo::Work::None;
     if (outcome.hasResult()) {
         photo->resultStrength = outcome.strength;
+        photo->resultQuality = photo->orderedQuality;
         photo->result = result;
+        if (photo->ordered.automatic && !photo->automatic)
+            photo->automatic = outcome.strength;
     }
     const bool kept = outcome.status == BatchOutcome::Status::Skipped || outcome.reason == BatchOutcome::Reason::ResultExists;
     if (outcome.status != BatchOutcome::Status::Stopped) {

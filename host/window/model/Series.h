@@ -70,6 +70,7 @@ public:
         WantedStrength start;              ///< What Reset returns to.
         std::optional<int> automatic;      ///< The automatic strength, once it is known.
         std::optional<int> resultStrength; ///< Of the result that was written last,
+        std::optional<int> resultQuality;  ///< the quality that was chosen for it, if any,
         QString result;                    ///< and its absolute path.
         bool unfinished = false;           ///< It was waiting or in work.
         bool failed = false;
@@ -89,7 +90,7 @@ public:
     {
         int photographs = 0;
         int results = 0;          ///< Files left out because they are results of other photographs.
-        QStringList emptyFolders; ///< Folders without photographs, as given.
+        QStringList emptyFolders; ///< Folders without photographs, or that can't be read; absolute.
     };
     /// Appends photographs, those of a folder by name; each once. Left out are results of photographs that are given or listed,
     /// and listed results of these. They start at the default strength. Returns at once: the photographs follow in batches, and
@@ -114,6 +115,9 @@ public:
     std::vector<Record> records() const;
 
     QUndoStack &undoStack() { return undo; }
+    /// The small pictures of these rows, as those in view, are read before the others.
+    void readFirst(const QList<int> &rows);
+
     /// Each of these is one step to undo; rows that have the strength already are left out, and no step is made for none.
     void setStrength(const QList<int> &rows, const WantedStrength &strength);
     void setAutomatic(const QList<int> &rows);

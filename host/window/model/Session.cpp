@@ -27,7 +27,8 @@ const QString kOpen = QStringLiteral("open"), kFile = QStringLiteral("settingsFi
               kPolicy = QStringLiteral("existing"), kFolder = QStringLiteral("folder"), kTag = QStringLiteral("tag"),
               kPath = QStringLiteral("path"), kStrength = QStringLiteral("strength"), kStart = QStringLiteral("start"),
               kAutomatic = QStringLiteral("automatic"), kResult = QStringLiteral("result"),
-              kResultStrength = QStringLiteral("resultStrength"), kUnfinished = QStringLiteral("unfinished"),
+              kResultStrength = QStringLiteral("resultStrength"), kResultQuality = QStringLiteral("resultQuality"),
+              kQuality = QStringLiteral("quality"), kUnfinished = QStringLiteral("unfinished"),
               kInFile = QStringLiteral("inSettingsFile"), kFailed = QStringLiteral("failed"), kReason = QStringLiteral("reason");
 
 QJsonValue fromStrength(const WantedStrength &strength)
@@ -56,6 +57,8 @@ QJsonObject fromRecord(const Series::Record &record)
     if (record.resultStrength) {
         photo[kResult] = record.result;
         photo[kResultStrength] = *record.resultStrength;
+        if (record.resultQuality)
+            photo[kResultQuality] = *record.resultQuality;
     }
     if (record.unfinished)
         photo[kUnfinished] = true;
@@ -75,6 +78,7 @@ Series::Record toRecord(const QJsonObject &photo)
     record.automatic = toPercent(photo[kAutomatic]);
     record.result = photo[kResult].toString();
     record.resultStrength = toPercent(photo[kResultStrength]);
+    record.resultQuality = toPercent(photo[kResultQuality]);
     record.unfinished = photo[kUnfinished].toBool();
     record.failed = photo[kFailed].toBool();
     record.reason = photo[kReason].toString();
@@ -130,6 +134,8 @@ QJsonObject fromOptions(const SaveQueue::Options &options)
     QJsonObject saving{{kPolicy, int(options.existing)}, {kFolder, options.folder}};
     if (options.tag)
         saving[kTag] = *options.tag;
+    if (options.quality)
+        saving[kQuality] = *options.quality;
     return saving;
 }
 
@@ -140,6 +146,7 @@ SaveQueue::Options toOptions(const QJsonObject &saving)
     options.folder = saving[kFolder].toString();
     if (saving.contains(kTag))
         options.tag = saving[kTag].toString();
+    options.quality = toPercent(saving[kQuality]);
     return options;
 }
 
@@ -281,6 +288,9 @@ void Session::prune() const
     for (int i = kKeptSessions; i < all.size(); ++i)
         if (const auto free = lock(all[i].completeBaseName()))
             QFile::remove(all[i].filePath());
+    // A lock that a killed process left behind is gone once it has been taken and let go.
+    for (const QString &left : QDir(place).entryList({QStringLiteral("*.lock")}, QDir::Files))
+        lock(QFileInfo(left).completeBaseName());
 }
 
 QList<Session::Recent> Session::recent(int most) const
@@ -352,7 +362,7 @@ void Session::open(const QString &given)
         throw VException(tr("There is no settings file \"%1\". Check its name and folder.").arg(path), V_LOCATION);
     file.load();
     for (const Recent &earlier : recent(kKeptSessions))
-        if (earlier.file == path && earlier.when > QFileInfo(path).lastModified() && read(earlier.id).modified) {
+        if (earlier.file == path && earlier.when >= QFileInfo(path).lastModified() && read(earlier.id).modified) {
             reopen(earlier.id);
             return;
         }

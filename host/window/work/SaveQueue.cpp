@@ -5,7 +5,6 @@
 
 #include <QFileInfo>
 
-#include "BatchPlan.h"
 #include "VException.h"
 
 namespace {
@@ -15,17 +14,6 @@ constexpr double kFixedWeight = 6e6;
 
 // How much of a photograph's time has passed when a stage begins; the engine takes most of it.
 constexpr double kStageStart[] = {0, 0.15, 0.85};
-
-BatchPlan::Options planOptions(const SaveQueue::Options &options)
-{
-    BatchPlan::Options plan;
-    plan.existing = options.existing == SaveQueue::Policy::KeepBoth ? Existing::Number
-                    : options.existing == SaveQueue::Policy::Skip   ? Existing::Skip
-                                                                    : Existing::Replace;
-    plan.output = options.folder;
-    plan.tag = options.tag;
-    return plan;
-}
 
 BatchOutcome notBegun()
 {
@@ -39,7 +27,7 @@ BatchOutcome notBegun()
 
 bool SaveQueue::Options::operator==(const Options &other) const
 {
-    return existing == other.existing && folder == other.folder && tag == other.tag;
+    return existing == other.existing && folder == other.folder && tag == other.tag && quality == other.quality;
 }
 
 SaveQueue::SaveQueue(HostApplication &host, VIPluginOne2One &process, int jobs, QObject *parent)
@@ -52,9 +40,16 @@ SaveQueue::~SaveQueue()
     quit();
 }
 
-QString SaveQueue::resultName(const QString &path, HostApplication &host, const Options &options)
+BatchPlan::Options SaveQueue::planOptions(const Options &options)
 {
-    return BatchPlan::resultOf(path, path, planOptions(options), host.imageDef(path)->needsTiffOutput());
+    BatchPlan::Options plan;
+    plan.existing = options.existing == Policy::KeepBoth ? Existing::Number
+                    : options.existing == Policy::Skip   ? Existing::Skip
+                                                         : Existing::Replace;
+    plan.output = options.folder;
+    plan.tag = options.tag;
+    plan.packing.jpegQuality = options.quality;
+    return plan;
 }
 
 QString SaveQueue::textOf(const BatchOutcome &outcome)

@@ -13,6 +13,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include "BatchPlan.h"
 #include "BatchRunner.h"
 #include "HostApplication.h"
 #include "VIPluginOne2One.h"
@@ -39,6 +40,7 @@ public:
         Policy existing = Policy::ReplaceChanged;
         QString folder;             ///< Absolute; empty for the photograph's own.
         std::optional<QString> tag; ///< Instead of the plug-in's; may be empty.
+        std::optional<int> quality; ///< Of a JPEG, 1 to 100; otherwise the photograph's own.
 
         bool operator==(const Options &other) const;
     };
@@ -48,7 +50,7 @@ public:
     {
         QString path; ///< Absolute.
         WantedStrength strength;
-        QString currentResult; ///< Absolute; the result that was made at this strength, or empty.
+        QString currentResult; ///< Absolute; the result that was made at this strength and quality, or empty.
     };
 
     struct Progress
@@ -95,8 +97,8 @@ public:
     bool isActive() const { return worker.joinable(); }
     Progress progress() const;
 
-    /// The result's path with these options, unless a policy gives it a number.
-    static QString resultName(const QString &path, HostApplication &host, const Options &options);
+    /// The same for the batch, for the names of results.
+    static BatchPlan::Options planOptions(const Options &options);
     /// What the window's user reads about this outcome; empty if there is nothing to say.
     static QString textOf(const BatchOutcome &outcome);
 
