@@ -118,7 +118,7 @@ std::string withoutFurtherPictures(const std::string &packet)
         if (!data.empty() && Exiv2::XmpParser::encode(rest, data, Exiv2::XmpParser::useCompactFormat) != 0)
             return {};
         return rest;
-    } catch (const Exiv2::AnyError &) {
+    } catch (const Exiv2::Error &) {
         return {};
     }
 }
