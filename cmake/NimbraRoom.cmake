@@ -72,6 +72,8 @@ function(nimbra_headers name)
     target_include_directories(${name} INTERFACE "${CMAKE_CURRENT_SOURCE_DIR}")
 endfunction()
 
+# Seconds. Only a test that hangs reaches it: the longest take half a minute, twenty times as long on a machine that is overloaded.
+set(nimbra_test_timeout 1800)
 set(nimbra_test_environment QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=allocator_may_return_null=1
     "LSAN_OPTIONS=use_tls=0:print_suppressions=0:suppressions=${CMAKE_SOURCE_DIR}/cmake/lsan.supp")
 
@@ -83,7 +85,7 @@ function(nimbra_test name)
     add_executable(${name} ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE nimbra_options ${TEST_LINK} GTest::gmock_main)
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES LABELS "${TEST_LABELS}" TIMEOUT 600 ENVIRONMENT "${nimbra_test_environment};${TEST_ENVIRONMENT}")
+    set_tests_properties(${name} PROPERTIES LABELS "${TEST_LABELS}" TIMEOUT ${nimbra_test_timeout} ENVIRONMENT "${nimbra_test_environment};${TEST_ENVIRONMENT}")
     if(NIMBRA_SANITIZE STREQUAL "thread")
         get_filename_component(openmp_folder "${OpenMP_omp_LIBRARY}" DIRECTORY)
         set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT
@@ -92,7 +94,7 @@ function(nimbra_test name)
     if(TEST_KERNELS AND NOT NIMBRA_SANITIZE AND CMAKE_SYSTEM_PROCESSOR STREQUAL x86_64)
         foreach(set IN ITEMS plain avx2 avx512f)
             add_test(NAME ${name}_${set} COMMAND ${name})
-            set_tests_properties(${name}_${set} PROPERTIES LABELS kernels TIMEOUT 600 SKIP_REGULAR_EXPRESSION "this processor has no"
+            set_tests_properties(${name}_${set} PROPERTIES LABELS kernels TIMEOUT ${nimbra_test_timeout} SKIP_REGULAR_EXPRESSION "this processor has no"
                 ENVIRONMENT "${nimbra_test_environment};${TEST_ENVIRONMENT};NIMBRA_INSTRUCTION_SET=${set}")
         endforeach()
     endif()
@@ -115,7 +117,7 @@ function(nimbra_fuzz name)
         add_executable(replay_${name} replay.cpp ${FUZZ_MAIN} ${FUZZ_SOURCES})
         if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/regressions/${name}")
             add_test(NAME fuzz_regressions_${name} COMMAND replay_${name} "${CMAKE_CURRENT_SOURCE_DIR}/regressions/${name}")
-            set_tests_properties(fuzz_regressions_${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${nimbra_test_environment}")
+            set_tests_properties(fuzz_regressions_${name} PROPERTIES TIMEOUT ${nimbra_test_timeout} ENVIRONMENT "${nimbra_test_environment}")
         endif()
         list(APPEND programs replay_${name})
     endif()

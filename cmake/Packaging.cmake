@@ -19,6 +19,11 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_SOURCE_DIR}/packaging/debian.cmake")
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+# What is built on one release needs that release's libraries, so its name is in the version.
+cmake_host_system_information(RESULT distribution QUERY DISTRIB_ID)
+cmake_host_system_information(RESULT distribution_version QUERY DISTRIB_VERSION_ID)
+string(REPLACE debian deb distribution "${distribution}")
+set(CPACK_DEBIAN_PACKAGE_VERSION "${PROJECT_VERSION}~${distribution}${distribution_version}")
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
@@ -27,7 +32,7 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libopenblas0-serial, hicolor-icon-theme")
 # Glyphs of the window's languages that the usual fonts lack; libheif's decoders, where they are packages of their own.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-droid-fallback | fonts-noto-cjk,
- libheif-plugin-libde265 | libheif1 (<< 1.16), libheif-plugin-dav1d | libheif1 (<< 1.16)")
+string(CONCAT CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-droid-fallback | fonts-noto-cjk, "
+    "libheif-plugin-libde265 | libheif1 (<< 1.16), libheif-plugin-dav1d | libheif1 (<< 1.16)")
 
 include(CPack)

@@ -10,7 +10,7 @@ PluginFile::PluginFile(const QString &path)
     QStringList candidates{path};
     if (path.isEmpty()) {
         const QString folder = QCoreApplication::applicationDirPath();
-        candidates = QStringList{folder + "/Nimbra.so", folder + "/../lib/nimbra/Nimbra.so"};
+        candidates = QStringList{folder + "/Nimbra.so", folder + "/" NIMBRA_PLUGIN_FROM_PROGRAM "/Nimbra.so"};
     }
     for (const QString &candidate : candidates)
         if (QFileInfo(candidate).isFile()) {

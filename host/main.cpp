@@ -129,7 +129,7 @@ int runProgram(int argc, char **argv)
         watch->checkScreens();
         watch.reset();
         settle(application);
-        QApplication::setDesktopFileName(QStringLiteral("veilaway"));
+        QApplication::setDesktopFileName(QStringLiteral("org.example.nimbra.veilaway"));
         QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("veilaway")));
         return WizardCommand(line, application).run();
     }

@@ -226,8 +226,9 @@ TEST_F(Outputs, KilledAtAnyMomentABatchLeavesWholeResultsAndTheNextOneCleansUp)
         for (const auto &[name, content] : tree("out")) {
             const bool hidden = name.contains("/.veilaway-run-") || name.startsWith(".veilaway-run-");
             inWork += hidden && name.endsWith('/');
-            if (!hidden)
+            if (!hidden) {
                 EXPECT_TRUE(whole.count(name) && whole.at(name) == content) << name;
+            }
         }
         const Said next = folder.run(QStringList(run) << "--skip-existing");
         EXPECT_EQ(next.code, 0) << next.err;

@@ -687,7 +687,7 @@ TEST_F(Veilaway, MetadataGoesFromThePhotographIntoTheResult)
         image->readMetadata();
         return image;
     };
-    for (const QString &name : {"a.jpg", "a.png", "a.tif"}) {
+    for (const QString name : {"a.jpg", "a.png", "a.tif"}) {
         folder.photograph(name, 40, 24);
         {
             const auto image = read(name);
@@ -703,8 +703,9 @@ TEST_F(Veilaway, MetadataGoesFromThePhotographIntoTheResult)
         const auto image = read(result);
         EXPECT_EQ(image->exifData()["Exif.Image.Orientation"].toString(), "6") << name;
         EXPECT_EQ(image->xmpData()["Xmp.xmp.Rating"].toString(), "4") << name;
-        if (name != "a.tif") // the library rewrites the packet of a TIFF
+        if (name != "a.tif") { // the library rewrites the packet of a TIFF
             EXPECT_TRUE(folder.content(result).contains(packet.c_str())) << name;
+        }
         EXPECT_EQ(PhotoLoader::decode(folder.path(result))->image().Width(), 40) << name; // not turned
     }
     EXPECT_EQ(folder.files().size(), 6);
@@ -800,6 +801,7 @@ TEST_F(Veilaway, ATerminalShowsTheTotalAndWhatIsInWorkWithinItsWidth)
     EXPECT_TRUE(contains(coloured.out, "\x1b[31mveilaway:\x1b[0m missing.png: "));
     EXPECT_FALSE(dumb.out.contains('\x1b')) << dumb.out;
     for (const QString &line : plain.out.split("\r\n"))
-        if (line.contains("] ") || line.contains(QRegularExpression("reading|removing haze|saving")))
+        if (line.contains("] ") || line.contains(QRegularExpression("reading|removing haze|saving"))) {
             EXPECT_LT(QString(line).remove(QRegularExpression("\r|\x1b\\[[0-9]*[A-Z]")).size(), 40) << line;
+        }
 }

@@ -277,15 +277,17 @@ TEST_F(Panel, ManyChangesWhileImagesComeAndGo)
         strength->setValue(wanted[current]);
         if (change % 5 == 0)
             QCoreApplication::processEvents();
-        if (change % 50 == 0)
+        if (change % 50 == 0) {
             ASSERT_TRUE(watch.until([&] { return watch.runs > runsBefore; }));
+        }
     }
     ASSERT_TRUE(watch.finish());
     EXPECT_GE(watch.runs, kChanges / 50);
     for (std::size_t i = 0; i < slots.size(); ++i) {
         EXPECT_EQ(slots[i].state.strength, wanted[i]);
-        if (maps[i])
+        if (maps[i]) {
             EXPECT_EQ(slots[i].state.transmission, maps[i]);
+        }
     }
     ASSERT_NE(slots[current].state.transmission, nullptr);
     RemoveHaze(*panel->previewImage, slots[current].state); // its pixels are no longer needed

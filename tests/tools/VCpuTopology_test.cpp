@@ -80,9 +80,9 @@ TEST(VCpuTopology, IsTheSameWithoutProcessorGroupsIfThePlainMasksSuffice)
     VCpuTopology first, second;
     countTopology(groups, first);
     countTopology(plain, second);
-    if (plain.processorCount > 32)
+    if (plain.processorCount > 32) {
         EXPECT_EQ(second.error, VCpuTopology::TooManyProcessors);
-    else if (plain.processMask != plain.systemMask)
+    } else if (plain.processMask != plain.systemMask)
         EXPECT_NE(second.error, 0u);
     else
         EXPECT_EQ(std::tie(second.error, second.coreCount, second.threadCount),

@@ -2,21 +2,26 @@
 
 #include <cstdio>
 
-#include <ext/stdio_filebuf.h>
 #include <fcntl.h>
 #include <libraw/libraw.h>
+#include <unistd.h>
 
 #include "RegularFile.h"
 
-/// The library's own stream over a file, for one that is open already.
-class RawPhoto::Stream final : public LibRaw_file_datastream
+/// The library's own stream over a file, for one that is open already. Without a stream it is not valid, which the library
+/// reports.
+class RawPhoto::Stream final : public LibRaw_bigfile_datastream
 {
 public:
-    explicit Stream(const RegularFile &file) : LibRaw_file_datastream("")
+    explicit Stream(const RegularFile &file) : LibRaw_bigfile_datastream("")
     {
         const int descriptor = ::fcntl(file.descriptor(), F_DUPFD_CLOEXEC, 0);
-        f.reset(new __gnu_cxx::stdio_filebuf<char>(descriptor, std::ios_base::in | std::ios_base::binary, BUFSIZ));
-        f->pubseekpos(0, std::ios_base::in);
+        f = ::fdopen(descriptor, "rb");
+        if (!f) {
+            ::close(descriptor);
+            return;
+        }
+        std::rewind(f);
         filename = file.name();
         _fsize = INT64(file.size());
     }

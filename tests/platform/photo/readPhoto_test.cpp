@@ -160,8 +160,11 @@ TEST_F(ReadPhotoTest, TheStandInHasColourProfileExifAndXmpAndSaysHowThePixelsLie
             EXPECT_EQ(image->exifData()["Exif.Image.Orientation"].toString(), std::to_string(orientation));
             EXPECT_EQ(image->xmpData()["Xmp.xmp.Rating"].toString(), "4");
             if (numbers) {
-                const Exiv2::DataBuf *profile = image->iccProfile();
-                const std::string text(reinterpret_cast<const char *>(profile->pData_), std::size_t(profile->size_));
+#if EXIV2_TEST_VERSION(0, 28, 0)
+                const std::string text(image->iccProfile().cbegin(), image->iccProfile().cend());
+#else
+                const std::string text(image->iccProfile()->pData_, image->iccProfile()->pData_ + image->iccProfile()->size_);
+#endif
                 EXPECT_NE(text.find(std::string("D\0i\0s\0p\0l\0a\0y\0 \0P\0"
                                                 "3",
                                                 19)),
