@@ -32,7 +32,7 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libopenblas0-serial, hicolor-icon-theme")
 # Glyphs of the window's languages that the usual fonts lack; libheif's decoders, where they are packages of their own.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-droid-fallback | fonts-noto-cjk,
- libheif-plugin-libde265 | libheif1 (<< 1.16), libheif-plugin-dav1d | libheif1 (<< 1.16)")
+string(CONCAT CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-droid-fallback | fonts-noto-cjk, "
+    "libheif-plugin-libde265 | libheif1 (<< 1.16), libheif-plugin-dav1d | libheif1 (<< 1.16)")
 
 include(CPack)

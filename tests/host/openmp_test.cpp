@@ -30,8 +30,7 @@ TEST(OpenMP, AllCodeOfTheProcessRunsOnLLVMs)
     ASSERT_TRUE(program.waitForFinished(60000));
     ASSERT_EQ(program.exitCode(), 0);
 
-    static const QRegularExpression binding(
-        R"(binding file (.+) \[0\] to (.+) \[0\]: normal symbol `(GOMP_|omp_|kmp_|__kmpc_))");
+    static const QRegularExpression binding(R"(binding file (.+) \[0\] to (.+) \[0\]: normal symbol `(GOMP_|omp_|kmp_|__kmpc_))");
     std::map<std::string, std::set<std::string>> runTimes; // by who calls
     for (const QString &name : QDir(folder.path()).entryList(QDir::Files)) {
         QFile file(folder.filePath(name));

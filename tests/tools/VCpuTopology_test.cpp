@@ -82,8 +82,7 @@ TEST(VCpuTopology, IsTheSameWithoutProcessorGroupsIfThePlainMasksSuffice)
     countTopology(plain, second);
     if (plain.processorCount > 32) {
         EXPECT_EQ(second.error, VCpuTopology::TooManyProcessors);
-    }
-    else if (plain.processMask != plain.systemMask)
+    } else if (plain.processMask != plain.systemMask)
         EXPECT_NE(second.error, 0u);
     else
         EXPECT_EQ(std::tie(second.error, second.coreCount, second.threadCount),

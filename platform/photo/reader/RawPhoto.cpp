@@ -8,7 +8,8 @@
 
 #include "RegularFile.h"
 
-/// The library's own stream over a file, for one that is open already. Without a stream it is not valid, which the library reports.
+/// The library's own stream over a file, for one that is open already. Without a stream it is not valid, which the library
+/// reports.
 class RawPhoto::Stream final : public LibRaw_bigfile_datastream
 {
 public:

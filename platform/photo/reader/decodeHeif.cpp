@@ -61,7 +61,17 @@ struct Source
         return size >= 0 && std::uint64_t(size) <= source.file.size() ? heif_reader_grow_status_size_reached
                                                                       : heif_reader_grow_status_size_beyond_eof;
     }
-    static constexpr heif_reader kCalls{1, tell, read, seek, wait};
+    /// Of the first version; later ones have more.
+    static heif_reader calls()
+    {
+        heif_reader reader{};
+        reader.reader_api_version = 1;
+        reader.get_position = tell;
+        reader.read = read;
+        reader.seek = seek;
+        reader.wait_for_file_size = wait;
+        return reader;
+    }
 
     const RegularFile &file;
     std::int64_t position = 0;
@@ -214,9 +224,9 @@ PhotoProblem decode(const heif_image_handle *image, heif_colorspace space, heif_
 PhotoProblem decodeHeif(const RegularFile &file, Wanted wanted, std::uint64_t mostBytes, DecodedPicture &picture)
 {
     Source source(file);
+    const heif_reader calls = Source::calls();
     const Context context(heif_context_alloc());
-    if (PhotoProblem problem =
-            problemOf(heif_context_read_from_reader(context.get(), &Source::kCalls, &source, /*options=*/nullptr)))
+    if (PhotoProblem problem = problemOf(heif_context_read_from_reader(context.get(), &calls, &source, /*options=*/nullptr)))
         return problem;
     heif_image_handle *primary = nullptr;
     if (PhotoProblem problem = problemOf(heif_context_get_primary_image_handle(context.get(), &primary)))

@@ -54,7 +54,8 @@ PhotoProblem checkSize(const DecodedPicture &picture, const RegularFile &file, s
 
 PhotoProblem readWhole(const RegularFile &file, std::uint64_t mostBytes, Bytes &bytes)
 {
-    if (file.size() > mostBytes)
+    constexpr std::uint64_t kLongest = std::uint64_t(1) << 30; // far longer than a photograph
+    if (file.size() > std::min(mostBytes, kLongest))
         return {PhotoProblem::Cause::NoMemory, {}};
     bytes.resize(std::size_t(file.size()));
     if (file.readAt(0, bytes.data(), bytes.size()) != bytes.size())

@@ -56,7 +56,7 @@ constexpr std::int64_t kMostPixelsPerByte = 1 << 20;
 PhotoProblem checkSize(const DecodedPicture &picture, const RegularFile &file, std::uint64_t workingBytes,
                        std::uint64_t mostBytes);
 
-/// The whole file, or nothing if it can't be read or is longer than `mostBytes`.
+/// The whole file, or nothing if it can't be read or is longer than `mostBytes` or than any photograph.
 PhotoProblem readWhole(const RegularFile &file, std::uint64_t mostBytes, Bytes &bytes);
 
 /// The EXIF in a container's block, which may have other things before its TIFF header; empty if there is none.
