@@ -4,6 +4,26 @@
 <context>
     <name>BatchPlan</name>
     <message>
+        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
+        <translation>Su resultado «%1» ya existe. Indique --overwrite para reemplazarlo.</translation>
+    </message>
+    <message>
+        <source>The folder can&apos;t be read. Give yourself the permission to read it.</source>
+        <translation>No se puede leer la carpeta. Dese permiso para leerla.</translation>
+    </message>
+    <message>
+        <source>There are no photographs in this folder or those inside it.</source>
+        <translation>No hay fotos en esta carpeta ni en las que contiene.</translation>
+    </message>
+    <message>
+        <source>There are no photographs in this folder. Add --recursive for those in the folders inside it.</source>
+        <translation>No hay fotos en esta carpeta. Añada --recursive para las de sus subcarpetas.</translation>
+    </message>
+    <message>
+        <source>Skipped: its result &quot;%1&quot; already exists.</source>
+        <translation>Omitida: su resultado «%1» ya existe.</translation>
+    </message>
+    <message>
         <source>It has no suffix, so the result is a TIFF.</source>
         <translation>La foto no tiene extensión, así que el resultado será un TIFF.</translation>
     </message>
@@ -12,8 +32,8 @@
         <translation>El formato «%1» no se puede escribir, así que el resultado será un TIFF.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away.</source>
-        <translation>Su resultado «%1» es el mismo archivo que la foto «%2». Mueva uno de los dos a otro lugar.</translation>
+        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder with --output.</source>
+        <translation>Su resultado «%1» es el mismo archivo que la foto «%2». Mueva uno de los dos o elija otra carpeta con --output.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
@@ -24,12 +44,16 @@
         <translation>En el lugar del resultado, «%1», hay una carpeta. Mueva la carpeta a otro lugar.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; already exists. Add --overwrite to replace it.</source>
-        <translation>Su resultado «%1» ya existe. Indique --overwrite para reemplazarlo.</translation>
+        <source>Skipped: its result &quot;%1&quot; is newer than the photograph.</source>
+        <translation>Omitida: su resultado «%1» es más reciente que la foto.</translation>
     </message>
     <message>
-        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Copy the photograph to another folder.</source>
-        <translation>No se puede escribir el resultado: la carpeta «%1» es de solo lectura. Copie la foto en otra carpeta.</translation>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one with --output.</source>
+        <translation>No se puede escribir su resultado: «%1» no es una carpeta. Elija otra con --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one with --output.</source>
+        <translation>No se puede escribir su resultado: la carpeta «%1» es de solo lectura. Elija otra con --output.</translation>
     </message>
     <message>
         <source>The name of its result would be too long. Give the photograph a shorter name.</source>
@@ -39,8 +63,8 @@
 <context>
     <name>BatchRunner</name>
     <message>
-        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
-        <translation>El resultado se ha guardado, pero no se han podido copiar en él los datos XMP de la foto: %1.</translation>
+        <source>Stopped; no result was written.</source>
+        <translation>Detenido; no se ha escrito ningún resultado.</translation>
     </message>
     <message>
         <source>The plug-in failed at %1</source>
@@ -51,8 +75,8 @@
         <translation>No hay suficiente memoria.</translation>
     </message>
     <message>
-        <source>Stopped; no result was written.</source>
-        <translation>Detenido; no se ha escrito ningún resultado.</translation>
+        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
+        <translation>La foto se modificó, se movió o se borró mientras se quitaba la bruma. Vuelva a ponerla en su sitio y empiece de nuevo.</translation>
     </message>
     <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -63,12 +87,20 @@
         <translation>Libere espacio en la carpeta «%1» y compruebe que tiene permiso para escribir en ella.</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>El complemento ha escrito «%1» en lugar de «%2»</translation>
+        <source>The file also holds a gain map or further pictures, which don&apos;t fit the result and are left out.</source>
+        <translation>El archivo contiene además un mapa de ganancia u otras imágenes, que no corresponden al resultado y se omiten.</translation>
     </message>
     <message>
-        <source>The photograph was changed, moved or deleted while its haze was being removed. Put it back and try again.</source>
-        <translation>La foto se modificó, se movió o se borró mientras se quitaba la bruma. Vuelva a ponerla en su sitio y empiece de nuevo.</translation>
+        <source>The result was written, but the photograph&apos;s XMP could not be copied into it: %1.</source>
+        <translation>El resultado se ha guardado, pero no se han podido copiar en él los datos XMP de la foto: %1.</translation>
+    </message>
+    <message>
+        <source>The result was written, but could not be given the photograph&apos;s time of modification: %1.</source>
+        <translation>Se ha escrito el resultado, pero no se le pudo dar la fecha de modificación de la foto: %1.</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>El complemento ha escrito «%1» en lugar de «%2»</translation>
     </message>
     <message>
         <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
@@ -76,18 +108,15 @@
     </message>
 </context>
 <context>
-    <name>BeforeAfterView</name>
-    <message>
-        <source>Before</source>
-        <translation>Antes</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <translation>Después</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
+    <message>
+        <source>Did you mean --%1?</source>
+        <translation>¿Quiso decir --%1?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be followed by one of %2, not &quot;%3&quot;.</source>
+        <translation>Tras «%1» debe ir uno de %2, no «%3».</translation>
+    </message>
     <message>
         <source>--strength must be a whole number from 0 to 100, or auto, not &quot;%1&quot;.</source>
         <translation>--strength requiere un número entero de 0 a 100 o auto, no «%1».</translation>
@@ -95,6 +124,14 @@
     <message>
         <source>--jobs must be a whole number from 1 to %1, not &quot;%2&quot;.</source>
         <translation>--jobs espera un número entero de 1 a %1, no «%2».</translation>
+    </message>
+    <message>
+        <source>--quality must be a whole number from 1 to 100, not &quot;%1&quot;.</source>
+        <translation>--quality requiere un número entero de 1 a 100, no «%1».</translation>
+    </message>
+    <message>
+        <source>--compression must be none, deflate or lzw, not &quot;%1&quot;.</source>
+        <translation>--compression requiere none, deflate o lzw, no «%1».</translation>
     </message>
     <message>
         <source>--language must be one of %1, not &quot;%2&quot;.</source>
@@ -105,107 +142,16 @@
         <translation>--settings espera el nombre de un archivo, en UTF-8.</translation>
     </message>
     <message>
-        <source>--%1 can&apos;t be used with the wizard, which asks in its window.</source>
-        <translation>--%1 no sirve para el asistente, que pregunta en su ventana.</translation>
+        <source>--output must be the name of a folder or file, in UTF-8.</source>
+        <translation>--output requiere el nombre de una carpeta o de un archivo, en UTF-8.</translation>
     </message>
     <message>
-        <source>Name the photographs to remove haze from.</source>
-        <translation>Indique las fotos de las que se debe quitar la bruma.</translation>
+        <source>--tag is a part of a name: it must not contain a slash, and must be in UTF-8.</source>
+        <translation>--tag es parte de un nombre: no puede contener una barra y debe estar en UTF-8.</translation>
     </message>
     <message>
-        <source>veilaway takes the haze out of photographs.
-
-Usage:
-  veilaway [run] PHOTO... [options]
-  veilaway [run] --settings FILE [options]
-  veilaway wizard [PHOTO...] [options]
-  veilaway --set-default N|auto|none
-  veilaway --help | --version
-
-Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.
-
-The wizard opens a window: choose photographs, set the strength of each with a live preview, remove the haze, and compare. It takes --settings (which then holds the strengths), --language, --jobs, --share-services and --plugin.
-
-Options:
-  --strength N      How much haze to remove, in per cent: 0 leaves the picture as it is, 100 removes all of it, and auto chooses a strength for each photograph, from 50 for a dark one to 80 for a bright one. Without this option, the strength in the settings file is used, otherwise your stored default, otherwise 70.
-  --set-default N   Store this default, a number or auto, or remove the stored one with none. Nothing else is done.
-  --settings FILE   Keep the strength of each photograph in this XML file. If the file exists, its strengths are used, unless --strength is given too; afterwards it holds the strengths that were used. Without a PHOTO, all photographs in the file are done.
-  --language LANG   Language of messages and of the tag: de, en, es, fr, it, ja, pl, ru, zh_CN or zh_TW. Without this option, the language of the system.
-  --jobs N          Number of photographs to work on at the same time. Without this option, as many as keep all cores busy and fit into memory.
-  --overwrite       Replace results that already exist.
-  --quiet           Report failures only.
-  --json            Write one line with a JSON object for each photograph: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (the reason, or null).
-  --share-services  Lend the plug-in the program&apos;s own services (log, memory pool, processor count) instead of letting it start its own.
-  --plugin FILE     Load this plug-in file instead of Nimbra.so beside the program or in ../lib/nimbra.
-  -h, --help        Show this text.
-  --version         Show the versions of the program and the plug-in.
-  --                Everything that follows is a photograph, even if it begins with a dash.
-
-Formats:
-  Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.
-  Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others). The result is a 16-bit TIFF. Photographs with any other suffix, or none, become a TIFF too.
-  XMP sidecar files are not read and stay where they are.
-
-Exit status:
-  0  All photographs are done, or came back unchanged (a message says why).
-  1  Some are not: standard error says which, why, and what helps. Or standard output could not be written.
-  2  The command line or the settings file is wrong; nothing was begun.
-Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.
-
-Examples:
-  veilaway hills.jpg --strength 80
-  veilaway hills.jpg valley.jpg --strength auto
-  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
-  veilaway --settings holiday/haze.xml --overwrite
-</source>
-        <translation>veilaway quita la bruma de las fotos.
-
-Uso:
-  veilaway [run] FOTO... [opciones]
-  veilaway [run] --settings ARCHIVO [opciones]
-  veilaway wizard [FOTO...] [opciones]
-  veilaway --set-default N|auto|none
-  veilaway --help | --version
-
-Cada resultado se guarda junto a su foto, con el nombre de esta y un sufijo: de hills.jpg se obtiene hills_sinbruma.jpg. La foto original no se modifica nunca. El sufijo depende del idioma: con --language en, por ejemplo, es _dehazed.
-
-El asistente abre una ventana: elija las fotos, ajuste la potencia de cada una con una vista previa en directo, quite la bruma y compare. Admite --settings (el archivo contiene después las potencias), --language, --jobs, --share-services y --plugin.
-
-Opciones:
-  --strength N        Cuánta bruma se quita, en tanto por ciento: 0 deja la imagen como está, 100 la quita toda y auto se adapta a cada foto: desde 50 para una oscura hasta 80 para una clara. Sin esta opción se usa la potencia del archivo de ajustes; si no la hay, su valor predeterminado guardado y, en su defecto, 70.
-  --set-default N     Guardar este valor predeterminado, un número o auto, o retirarlo con none. No hace nada más.
-  --settings ARCHIVO  Conservar la potencia de cada foto en este archivo XML. Si el archivo existe, se usan sus potencias, salvo que se indique también --strength; al final contiene las potencias usadas. Sin FOTO, se procesan todas las fotos del archivo.
-  --language LANG     Idioma de los mensajes y del sufijo: de, en, es, fr, it, ja, pl, ru, zh_CN o zh_TW. Sin esta opción, el del sistema.
-  --jobs N            Número de fotos que se procesan a la vez. Sin esta opción, tantas como ocupen todos los núcleos y quepan en la memoria.
-  --overwrite         Reemplazar los resultados que ya existan.
-  --quiet             Informar solo de lo que ha fallado.
-  --json              Escribir por cada foto una línea con un objeto JSON: photo, result, status (done, unchanged, failed, stopped), strength, automatic, seconds, message, unchanged (el motivo, o null).
-  --share-services    Prestar al complemento los servicios del programa (registro, reserva de memoria, número de procesadores) en vez de dejar que los cree.
-  --plugin ARCHIVO    Cargar este archivo de complemento en lugar de Nimbra.so, junto al programa o en ../lib/nimbra.
-  -h, --help          Mostrar este texto.
-  --version           Mostrar las versiones del programa y del complemento.
-  --                  Lo que sigue son fotos, aunque empiecen por un guion.
-
-Formatos:
-  Lectura y escritura: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) y PSD. Un resultado tiene el formato de su foto, su profundidad (8 o 16 bits o coma flotante), su perfil de color y sus datos EXIF, IPTC y XMP. La orientación EXIF se conserva, de modo que el resultado se muestra igual que su foto.
-  Solo lectura: RAW de cámara (dng, cr2, nef, arw, raf, orf, rw2 y otros). El resultado es un TIFF de 16 bits. Las fotos con otra extensión, o sin ella, se convierten también en TIFF. Los archivos XMP adjuntos se quedan como están y no se leen.
-
-Códigos de salida:
-  0  Se han procesado todas las fotos, o han quedado como estaban (y dice por qué).
-  1  Algunas no: la salida de error estándar dice cuáles, por qué y qué hacer. O no se ha podido escribir en la salida estándar.
-  2  La línea de comandos o el archivo de ajustes no son correctos; no se ha empezado nada.
-Ctrl-C lo termina con la señal (130 en un shell), sin dejar resultados a medias.
-
-Ejemplos:
-  veilaway hills.jpg --strength 80
-  veilaway hills.jpg valley.jpg --strength auto
-  veilaway holiday/*.jpg holiday/*.cr2 --settings holiday/haze.xml
-  veilaway --settings holiday/haze.xml --overwrite
-</translation>
-    </message>
-    <message>
-        <source>See veilaway --help.</source>
-        <translation>Consulte veilaway --help.</translation>
+        <source>Of --skip-existing, --newer and --overwrite, only one can be used at a time.</source>
+        <translation>De --skip-existing, --newer y --overwrite solo se puede usar una a la vez.</translation>
     </message>
     <message>
         <source>--set-default must be a whole number from 0 to 100, auto or none, not &quot;%1&quot;.</source>
@@ -214,6 +160,26 @@ Ejemplos:
     <message>
         <source>--set-default only stores the default: leave out photographs and the options for them.</source>
         <translation>--set-default guarda el valor predeterminado y no hace nada más: omita las fotos y las opciones para ellas.</translation>
+    </message>
+    <message>
+        <source>--%1 can&apos;t be used with %2, which asks for it on the screen.</source>
+        <translation>--%1 no se puede usar con %2, que lo pregunta en la pantalla.</translation>
+    </message>
+    <message>
+        <source>Name the photographs to remove haze from.</source>
+        <translation>Indique las fotos de las que se debe quitar la bruma.</translation>
+    </message>
+    <message>
+        <source>Also read here: %1</source>
+        <translation>Aquí también se leen: %1</translation>
+    </message>
+    <message>
+        <source>Not read here, for want of a decoder: %1</source>
+        <translation>Aquí no se leen, por falta de descodificador: %1</translation>
+    </message>
+    <message>
+        <source>See veilaway --help.</source>
+        <translation>Consulte veilaway --help.</translation>
     </message>
 </context>
 <context>
@@ -231,6 +197,76 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>EmptyView</name>
+    <message>
+        <source>Recent sessions</source>
+        <translation>Sesiones recientes</translation>
+    </message>
+    <message>
+        <source>Drop photographs or a folder here</source>
+        <translation>Suelte aquí fotos o una carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Add photographs...</source>
+        <translation>&amp;Añadir fotos...</translation>
+    </message>
+    <message>
+        <source>Add a &amp;folder...</source>
+        <translation>Añadir una &amp;carpeta...</translation>
+    </message>
+</context>
+<context>
+    <name>FilmstripDelegate</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>FilmstripView</name>
+    <message>
+        <source>Photographs</source>
+        <translation>Fotos</translation>
+    </message>
+</context>
+<context>
+    <name>HistogramView</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histograma</translation>
+    </message>
+    <message>
+        <source>Black %1 %, white %2 %</source>
+        <translation>Negro %1 %, blanco %2 %</translation>
+    </message>
+    <message>
+        <source>black %1 %</source>
+        <translation>negro %1 %</translation>
+    </message>
+    <message>
+        <source>white %1 %</source>
+        <translation>blanco %1 %</translation>
+    </message>
+</context>
+<context>
+    <name>KeySheet</name>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBar</name>
+    <message>
+        <source>Message</source>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>Dismiss the message</source>
+        <translation>Cerrar el mensaje</translation>
+    </message>
+</context>
+<context>
     <name>NimbraOne2One</name>
     <message>
         <source>_dehazed</source>
@@ -238,10 +274,97 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>OptionTable</name>
+    <message>
+        <source>veilaway takes the haze out of photographs.</source>
+        <translation>veilaway quita la bruma de las fotos.</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Uso:</translation>
+    </message>
+    <message>
+        <source>PHOTO is a photograph, a folder with photographs, @FILE for a file that lists them, one per line, or - for such a list on standard input.</source>
+        <translation>PHOTO es una foto, una carpeta con fotos, @FILE para un archivo que las enumera, una por línea, o - para una lista así en la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Each result is written beside its photograph, under the photograph&apos;s name with a tag: hills.jpg becomes hills_dehazed.jpg. The photograph itself is never changed. The tag follows the language: _entnebelt with --language de, for instance.</source>
+        <translation>Cada resultado se escribe junto a su foto, con el nombre de esta y una etiqueta: hills.jpg pasa a ser hills_dehazed.jpg. La foto misma no se modifica nunca. La etiqueta sigue el idioma: _entnebelt con --language de, por ejemplo.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Órdenes:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Everything that follows is a photograph, even if it begins with a dash.</source>
+        <translation>Todo lo que sigue es una foto, aunque empiece por un guion.</translation>
+    </message>
+    <message>
+        <source>Formats:</source>
+        <translation>Formatos:</translation>
+    </message>
+    <message>
+        <source>Read and written: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) and PSD. A result has the format of its photograph, its depth (8 or 16 bits, or float), colour profile, EXIF, IPTC and XMP. EXIF orientation is kept, so that the result is shown the same way up.</source>
+        <translation>Se leen y escriben: JPEG (jpg, jpeg), PNG, TIFF (tif, tiff), Radiance (hdr, hdri), OpenEXR (exr) y PSD. Un resultado tiene el formato de su foto, su profundidad (8 o 16 bits, o coma flotante), perfil de color, EXIF, IPTC y XMP. La orientación EXIF se conserva, así que el resultado se muestra en la misma posición.</translation>
+    </message>
+    <message>
+        <source>Read only: camera raw (dng, cr2, nef, arw, raf, orf, rw2 and others), whose result is a 16-bit TIFF, and, where --version names them, HEIC (heic, heif, hif), AVIF, WebP and JPEG XL (jxl), whose result is a TIFF of their depth. Photographs with any other suffix, or none, become a TIFF too.</source>
+        <translation>Solo se leen: archivos RAW (dng, cr2, nef, arw, raf, orf, rw2 y otros), cuyo resultado es un TIFF de 16 bits, y, donde --version los nombra, HEIC (heic, heif, hif), AVIF, WebP y JPEG XL (jxl), cuyo resultado es un TIFF de su profundidad. Las fotos con otra extensión, o sin ella, también dan un TIFF.</translation>
+    </message>
+    <message>
+        <source>XMP sidecar files are not read and stay where they are.</source>
+        <translation>Los archivos XMP adjuntos no se leen y se quedan donde están.</translation>
+    </message>
+    <message>
+        <source>Exit status:</source>
+        <translation>Código de salida:</translation>
+    </message>
+    <message>
+        <source>All photographs are done, skipped as requested, or came back unchanged (a message says why).</source>
+        <translation>Todas las fotos están listas, se omitieron como se pidió o quedaron sin cambios (un mensaje dice por qué).</translation>
+    </message>
+    <message>
+        <source>Some are not: standard error says which, why, and what helps. Or standard output could not be written.</source>
+        <translation>Algunas no lo están: la salida de error dice cuáles, por qué y qué ayuda. O no se pudo escribir en la salida estándar.</translation>
+    </message>
+    <message>
+        <source>The command line or the settings file is wrong; nothing was begun.</source>
+        <translation>La línea de órdenes o el archivo de ajustes es incorrecto; no se empezó nada.</translation>
+    </message>
+    <message>
+        <source>Ctrl-C ends the program by that signal (130 in a shell), without leaving half a result.</source>
+        <translation>Ctrl-C termina el programa con esa señal (130 en un intérprete de órdenes) sin dejar un resultado a medias.</translation>
+    </message>
+    <message>
+        <source>Examples:</source>
+        <translation>Ejemplos:</translation>
+    </message>
+</context>
+<context>
     <name>PhotoLoader</name>
     <message>
         <source>The file can&apos;t be opened. Check that it exists and that you may read it.</source>
         <translation>No se puede abrir el archivo. Compruebe que existe y que tiene permiso para leerlo.</translation>
+    </message>
+    <message>
+        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
+        <translation>Es un vídeo. La bruma solo se puede quitar de fotografías; guarde una imagen del vídeo como JPEG, PNG o TIFF.</translation>
+    </message>
+    <message>
+        <source>It is an animation. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
+        <translation>Es una animación. La bruma solo se puede quitar de fotos; guarde un fotograma como JPEG, PNG o TIFF.</translation>
+    </message>
+    <message>
+        <source>This installation can&apos;t decode its format; veilaway --version says which formats it can. Convert the photograph to JPEG, PNG or TIFF.</source>
+        <translation>Esta instalación no puede descodificar su formato; veilaway --version dice cuáles puede. Convierta la foto a JPEG, PNG o TIFF.</translation>
+    </message>
+    <message>
+        <source>It is not a picture in a known format, or not in the one that its suffix names. %1 and camera raw can be read; give the file the suffix of its format, or convert it.</source>
+        <translation>No es una imagen de un formato conocido, o no del que indica su extensión. Se pueden leer %1 y archivos RAW; dé al archivo la extensión de su formato o conviértalo.</translation>
     </message>
     <message>
         <source>The file is cut short or damaged. Copy it again from the camera or a backup.</source>
@@ -252,12 +375,12 @@ Ejemplos:
         <translation>No hay suficiente memoria para esta foto. Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
     </message>
     <message>
-        <source>It is not a picture in a known format, or not in the one that its suffix names. JPEG, PNG, TIFF, HDR, EXR, PSD and camera raw can be read; give the file the suffix of its format, or convert it.</source>
-        <translation>No es una imagen de un formato conocido, o su formato no es el que indica la extensión. Se pueden leer JPEG, PNG, TIFF, HDR, EXR, PSD y RAW de cámara; dé al archivo la extensión que le corresponde o conviértalo.</translation>
+        <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
+        <translation>No hay suficiente memoria para este archivo RAW. Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
     </message>
     <message>
-        <source>It is a video. Haze can be removed from photographs only; save a frame of it as JPEG, PNG or TIFF.</source>
-        <translation>Es un vídeo. La bruma solo se puede quitar de fotografías; guarde una imagen del vídeo como JPEG, PNG o TIFF.</translation>
+        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
+        <translation>No se puede revelar el archivo RAW: %1. Vuelva a copiarlo o conviértalo a DNG o TIFF.</translation>
     </message>
     <message>
         <source>Its kind of pixels can&apos;t be read. Save it as RGB with 8 or 16 bits and try again.</source>
@@ -266,6 +389,10 @@ Ejemplos:
     <message>
         <source>An empty name cannot be that of a photograph.</source>
         <translation>Un nombre vacío no designa ninguna foto.</translation>
+    </message>
+    <message>
+        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
+        <translation>Su nombre o el de una carpeta contiene caracteres que no son UTF-8. Cámbiele el nombre.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
@@ -291,28 +418,9 @@ Ejemplos:
         <source>The file is empty. Copy it again from the camera or a backup.</source>
         <translation>El archivo está vacío. Vuelva a copiarlo desde la cámara o desde una copia de seguridad.</translation>
     </message>
-    <message>
-        <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
-        <translation>No hay suficiente memoria para este archivo RAW. Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
-    </message>
-    <message>
-        <source>The camera raw file can&apos;t be developed: %1. Copy it again, or convert it to DNG or TIFF.</source>
-        <translation>No se puede revelar el archivo RAW: %1. Vuelva a copiarlo o conviértalo a DNG o TIFF.</translation>
-    </message>
-    <message>
-        <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
-        <translation>Su nombre o el de una carpeta contiene caracteres que no son UTF-8. Cámbiele el nombre.</translation>
-    </message>
 </context>
 <context>
     <name>PhotoPage</name>
-    <message numerus="yes">
-        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
-        <translation>
-            <numerusform>%1: es el resultado de otra foto de la lista.</numerusform>
-            <numerusform>%n resultados de otras fotos de la lista, por ejemplo «%1».</numerusform>
-        </translation>
-    </message>
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Quitar</translation>
@@ -340,6 +448,13 @@ Ejemplos:
     <message>
         <source>%1: There are no photographs in this folder.</source>
         <translation>%1: en esta carpeta no hay fotos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) that are results of other photographs in the list, such as &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>%1: es el resultado de otra foto de la lista.</numerusform>
+            <numerusform>%n resultados de otras fotos de la lista, por ejemplo «%1».</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -392,10 +507,90 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>PhotoStore</name>
+    <message>
+        <source>There is not enough memory for it. Close other programs, or scale the photograph down.</source>
+        <translation>No hay memoria suficiente para ella. Cierre otros programas o reduzca la foto.</translation>
+    </message>
+</context>
+<context>
     <name>Photograph</name>
     <message>
         <source>It is too large: haze can be taken from photographs whose width or height is at most %1 pixels. Scale it down, or cut it into parts.</source>
         <translation>La foto es demasiado grande: solo se puede quitar la bruma de fotos cuyo ancho o alto no supere los %1 píxeles. Redúzcala o divídala en partes.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotographList</name>
+    <message>
+        <source>The list &quot;%1&quot; can&apos;t be read: %2. Check its name, or write ./@... for a photograph whose name begins with @.</source>
+        <translation>No se puede leer la lista «%1»: %2. Compruebe su nombre, o escriba ./@... para una foto cuyo nombre empiece por @.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureRenderer</name>
+    <message>
+        <source>There is not enough memory for this picture. Close other programs.</source>
+        <translation>No hay memoria suficiente para esta imagen. Cierre otros programas.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Photograph</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Hold: the photograph before</source>
+        <translation>Mantener: la foto antes</translation>
+    </message>
+    <message>
+        <source>Hold: the haze map; Alt does the same</source>
+        <translation>Mantener: el mapa de bruma; Alt hace lo mismo</translation>
+    </message>
+    <message>
+        <source>Move over the photograph</source>
+        <translation>Moverse por la foto</translation>
+    </message>
+    <message>
+        <source>Move the line between before and after</source>
+        <translation>Mover la línea entre antes y después</translation>
+    </message>
+    <message>
+        <source>Before, zoom %1 %</source>
+        <translation>Antes, zoom %1 %</translation>
+    </message>
+    <message>
+        <source>Haze map, zoom %1 %</source>
+        <translation>Mapa de bruma, zoom %1 %</translation>
+    </message>
+    <message>
+        <source>After %1 %, zoom %2 %</source>
+        <translation>Después %1 %, zoom %2 %</translation>
+    </message>
+    <message>
+        <source>Before and after %1 %, zoom %2 %</source>
+        <translation>Antes y después %1 %, zoom %2 %</translation>
+    </message>
+    <message>
+        <source>Haze map</source>
+        <translation>Mapa de bruma</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>After %1 %</source>
+        <translation>Después %1 %</translation>
+    </message>
+    <message>
+        <source>Estimating the haze</source>
+        <translation>Estimando la bruma</translation>
+    </message>
+    <message>
+        <source>Reading the photograph</source>
+        <translation>Leyendo la foto</translation>
     </message>
 </context>
 <context>
@@ -418,14 +613,72 @@ Ejemplos:
     </message>
 </context>
 <context>
+    <name>PrivateRun</name>
+    <message>
+        <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder with --output.</source>
+        <translation>No se pueden crear archivos en la carpeta «%1»: %2. Libere espacio en ella o elija otra carpeta con --output.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: %2.</source>
+        <translation>No se puede escribir «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>A link to the photograph can&apos;t be created, neither in the folder of its result nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
+        <translation>No se puede crear un enlace a la foto ni en la carpeta de su resultado ni en «%1». Libere espacio y compruebe que puede escribir allí.</translation>
+    </message>
+    <message>
+        <source>Its %1 bits per channel don&apos;t fit into a file of this format. Choose a name that ends in .tif, .psd or, for up to 16 bits, .png.</source>
+        <translation>Sus %1 bits por canal no caben en un archivo de este formato. Elija un nombre que termine en .tif, .psd o, hasta 16 bits, .png.</translation>
+    </message>
+    <message>
+        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
+        <translation>El complemento escribió «%1» en lugar de «%2»</translation>
+    </message>
+</context>
+<context>
     <name>ProgressView</name>
     <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
     </message>
     <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
+        <translation>No se puede escribir en la salida estándar: %1. Libere espacio ahí o envíela a otro lugar.</translation>
+    </message>
+    <message>
+        <source>%1 %, %2 s</source>
+        <translation>%1 %, %2 s</translation>
+    </message>
+    <message>
         <source>%1: %2 (%3)</source>
         <translation>%1: %2 (%3)</translation>
+    </message>
+    <message>
+        <source>automatic strength</source>
+        <translation>potencia automática</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1: %2 (%3 x %4 pixels, %5 of memory, %6)</source>
+        <translation>%1: %2 (%3 x %4 píxeles, %5 de memoria, %6)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) would be done.</source>
+        <translation>
+            <numerusform>Se procesaría %n foto.</numerusform>
+            <numerusform>Se procesarían %n fotos.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n photograph(s) done.</source>
@@ -434,54 +687,72 @@ Ejemplos:
             <numerusform>%n fotos procesadas.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1 of %2 photographs done, %3 not.</source>
-        <translation>Fotos procesadas: %1 de %2; no procesadas: %3.</translation>
+    <message numerus="yes">
+        <source>%n came back unchanged.</source>
+        <translation>
+            <numerusform>%n quedó sin cambios.</numerusform>
+            <numerusform>%n quedaron sin cambios.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>reading</source>
-        <translation>leyendo</translation>
+    <message numerus="yes">
+        <source>%n skipped.</source>
+        <translation>
+            <numerusform>%n omitida.</numerusform>
+            <numerusform>%n omitidas.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>removing haze</source>
-        <translation>quitando la bruma</translation>
+    <message numerus="yes">
+        <source>%n failed.</source>
+        <translation>
+            <numerusform>%n con error.</numerusform>
+            <numerusform>%n con error.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>saving</source>
-        <translation>guardando</translation>
+    <message numerus="yes">
+        <source>%n not started.</source>
+        <translation>
+            <numerusform>%n sin empezar.</numerusform>
+            <numerusform>%n sin empezar.</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
     </message>
-    <message numerus="yes">
-        <source>%n came back unchanged.</source>
-        <translation>
-            <numerusform>Sin cambios: %n.</numerusform>
-            <numerusform>Sin cambios: %n.</numerusform>
-        </translation>
+    <message>
+        <source>, %1 left</source>
+        <translation>, quedan %1</translation>
     </message>
     <message>
-        <source>Writing to standard output failed: %1. Make room there, or redirect it.</source>
-        <translation>No se puede escribir en la salida estándar: %1. Libere espacio ahí o envíela a otro lugar.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n photograph(s) not started.</source>
-        <translation>
-            <numerusform>No se ha empezado %n foto.</numerusform>
-            <numerusform>No se han empezado %n fotos.</numerusform>
-        </translation>
+        <source>saving %1</source>
+        <translation>guardando %1</translation>
     </message>
     <message>
-        <source>%1 %, %2 s</source>
-        <translation>%1 %, %2 s</translation>
+        <source>removing haze: %1</source>
+        <translation>quitando la bruma: %1</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>leyendo %1</translation>
     </message>
 </context>
 <context>
     <name>ResultPage</name>
     <message>
+        <source>Open &amp;result</source>
+        <translation>Abrir el &amp;resultado</translation>
+    </message>
+    <message>
         <source>Open &amp;folder</source>
         <translation>Abrir la &amp;carpeta</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Show the result in the program that opens such pictures</source>
+        <translation>Mostrar el resultado en el programa que abre esas imágenes</translation>
     </message>
     <message>
         <source>&amp;Save session...</source>
@@ -492,8 +763,12 @@ Ejemplos:
         <translation>Conservar las fotos y la potencia de cada una en un archivo de ajustes</translation>
     </message>
     <message>
-        <source>Results</source>
-        <translation>Resultados</translation>
+        <source>Start &amp;over</source>
+        <translation>&amp;Volver a empezar</translation>
+    </message>
+    <message>
+        <source>Choose other photographs</source>
+        <translation>Elegir otras fotos</translation>
     </message>
     <message>
         <source>All photographs are done.</source>
@@ -503,24 +778,20 @@ Ejemplos:
         <source>%1 of %2 photographs are done.</source>
         <translation>Fotos procesadas: %1 de %2.</translation>
     </message>
-    <message>
-        <source>Start &amp;over</source>
-        <translation>&amp;Volver a empezar</translation>
-    </message>
-    <message>
-        <source>Choose other photographs</source>
-        <translation>Elegir otras fotos</translation>
-    </message>
 </context>
 <context>
     <name>RunCommand</name>
     <message>
-        <source>No --strength given: using your stored default of %1.</source>
-        <translation>No se ha indicado --strength: se usa su valor predeterminado guardado, %1.</translation>
+        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
+        <translation>Deteniendo; se termina el archivo que se está guardando. Pulse Ctrl-C otra vez para salir de inmediato.</translation>
     </message>
     <message>
-        <source>No --strength given and no default stored: using %1.</source>
-        <translation>No se ha indicado --strength ni hay un valor predeterminado guardado: se usa %1.</translation>
+        <source>Remove haze</source>
+        <translation>Quitar la bruma</translation>
+    </message>
+    <message>
+        <source>There is no desktop that shows notifications.</source>
+        <translation>No hay ningún escritorio que muestre notificaciones.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; names no photographs. Name some on the command line.</source>
@@ -535,12 +806,24 @@ Ejemplos:
         <translation>El archivo de ajustes «%1» no se puede escribir ahí. Indique uno en otra carpeta.</translation>
     </message>
     <message>
-        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
-        <translation>El archivo de ajustes «%1» tiene el nombre de un resultado. Dele otro nombre.</translation>
+        <source>The list names no photographs: there is nothing to do.</source>
+        <translation>La lista no nombra ninguna foto: no hay nada que hacer.</translation>
     </message>
     <message>
-        <source>Stopping; finishing the file being saved. Press Ctrl-C again to quit at once.</source>
-        <translation>Deteniendo; se termina el archivo que se está guardando. Pulse Ctrl-C otra vez para salir de inmediato.</translation>
+        <source>--output: &quot;%1&quot; exists and is not a folder. Name another one.</source>
+        <translation>--output: «%1» existe y no es una carpeta. Indique otra.</translation>
+    </message>
+    <message>
+        <source>--output: results can&apos;t be written as &quot;%1&quot;. Choose a name that ends in one of %2.</source>
+        <translation>--output: no se pueden escribir resultados como «%1». Elija un nombre que termine en uno de %2.</translation>
+    </message>
+    <message>
+        <source>--output names the file &quot;%1&quot;, but there are %2 photographs. Name a folder, such as &quot;%3&quot;.</source>
+        <translation>--output nombra el archivo «%1», pero hay %2 fotos. Indique una carpeta, como «%3».</translation>
+    </message>
+    <message>
+        <source>--tag is for results that get their names from their photographs: leave it out, or name a folder as --output.</source>
+        <translation>--tag es para resultados que toman su nombre de las fotos: omítalo o indique una carpeta en --output.</translation>
     </message>
     <message numerus="yes">
         <source>Left out %n file(s) that are results of the other photographs, such as &quot;%1&quot;.</source>
@@ -550,8 +833,20 @@ Ejemplos:
         </translation>
     </message>
     <message>
+        <source>No --strength given and no default stored: using %1.</source>
+        <translation>No se ha indicado --strength ni hay un valor predeterminado guardado: se usa %1.</translation>
+    </message>
+    <message>
         <source>No --strength given: using your stored default, the automatic strength.</source>
         <translation>No se ha indicado --strength: se usa su valor predeterminado guardado, la potencia automática.</translation>
+    </message>
+    <message>
+        <source>No --strength given: using your stored default of %1.</source>
+        <translation>No se ha indicado --strength: se usa su valor predeterminado guardado, %1.</translation>
+    </message>
+    <message>
+        <source>The settings file &quot;%1&quot; has the name of a result. Give it another name.</source>
+        <translation>El archivo de ajustes «%1» tiene el nombre de un resultado. Dele otro nombre.</translation>
     </message>
 </context>
 <context>
@@ -565,16 +860,16 @@ Ejemplos:
         <translation>Quitando la bruma</translation>
     </message>
     <message>
-        <source>Each result is saved beside its photograph.</source>
-        <translation>Cada resultado se guarda junto a su foto.</translation>
-    </message>
-    <message>
         <source>&amp;Replace</source>
         <translation>&amp;Reemplazar</translation>
     </message>
     <message>
         <source>&amp;Keep</source>
         <translation>&amp;Conservar</translation>
+    </message>
+    <message>
+        <source>Photographs</source>
+        <translation>Fotos</translation>
     </message>
     <message>
         <source>Photograph</source>
@@ -591,6 +886,14 @@ Ejemplos:
     <message>
         <source>State</source>
         <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Photographs that are done</source>
+        <translation>Fotos terminadas</translation>
+    </message>
+    <message>
+        <source>Each result is saved beside its photograph.</source>
+        <translation>Cada resultado se guarda junto a su foto.</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) of an earlier run already exist.</source>
@@ -612,6 +915,10 @@ Ejemplos:
         <translation>%v de %m</translation>
     </message>
     <message>
+        <source>Stopping. A result that is being saved is finished first.</source>
+        <translation>Deteniendo. Antes se termina de guardar el resultado en curso.</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>Leyendo</translation>
     </message>
@@ -620,32 +927,271 @@ Ejemplos:
         <translation>Guardando</translation>
     </message>
     <message>
-        <source>Done</source>
-        <translation>Terminado</translation>
-    </message>
-    <message>
-        <source>Stopped</source>
-        <translation>Detenido</translation>
-    </message>
-    <message>
-        <source>Failed</source>
-        <translation>Error</translation>
-    </message>
-    <message>
-        <source>Stopping. A result that is being saved is finished first.</source>
-        <translation>Deteniendo. Antes se termina de guardar el resultado en curso.</translation>
-    </message>
-    <message>
         <source>Its result already existed and was kept.</source>
         <translation>Su resultado ya existía y se ha conservado.</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminado</translation>
     </message>
     <message>
         <source>Unchanged</source>
         <translation>Sin cambios</translation>
     </message>
     <message>
+        <source>Stopped</source>
+        <translation>Detenido</translation>
+    </message>
+    <message>
         <source>Kept</source>
         <translation>Conservado</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Error</translation>
+    </message>
+</context>
+<context>
+    <name>SaveBar</name>
+    <message>
+        <source>less than a minute left</source>
+        <translation>queda menos de un minuto</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s) left</source>
+        <translation>
+            <numerusform>queda aproximadamente %n minuto</numerusform>
+            <numerusform>quedan aproximadamente %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s) left</source>
+        <translation>
+            <numerusform>queda aproximadamente %n hora</numerusform>
+            <numerusform>quedan aproximadamente %n horas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Saving</source>
+        <translation>Guardando</translation>
+    </message>
+    <message>
+        <source>%1 of %2 saved</source>
+        <translation>%1 de %2 guardadas</translation>
+    </message>
+    <message>
+        <source>Paused: %1</source>
+        <translation>En pausa: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) saved</source>
+        <translation>
+            <numerusform>%n foto guardada</numerusform>
+            <numerusform>%n fotos guardadas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kept as it is</source>
+        <translation>
+            <numerusform>%n conservada</numerusform>
+            <numerusform>%n conservadas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <translation>
+            <numerusform>%n con error</numerusform>
+            <numerusform>%n con error</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stopped</source>
+        <translation>
+            <numerusform>%n detenida</numerusform>
+            <numerusform>%n detenidas</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SaveOptionsDialog</name>
+    <message>
+        <source>In this &amp;folder:</source>
+        <translation>En esta &amp;carpeta:</translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation>&amp;Elegir...</translation>
+    </message>
+    <message>
+        <source>JPEG &amp;quality:</source>
+        <translation>Calidad &amp;JPEG:</translation>
+    </message>
+    <message>
+        <source>Save options</source>
+        <translation>Opciones de guardado</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Otherwise each result is saved beside its photograph</source>
+        <translation>Si no, cada resultado se guarda junto a su foto</translation>
+    </message>
+    <message>
+        <source>Folder of the results</source>
+        <translation>Carpeta de los resultados</translation>
+    </message>
+    <message>
+        <source>&amp;Tag behind the name:</source>
+        <translation>E&amp;tiqueta tras el nombre:</translation>
+    </message>
+    <message>
+        <source>Otherwise each JPEG keeps the quality of its photograph</source>
+        <translation>Si no, cada JPEG conserva la calidad de su foto</translation>
+    </message>
+    <message>
+        <source>JPEG quality</source>
+        <translation>Calidad JPEG</translation>
+    </message>
+    <message>
+        <source>If a result exists already</source>
+        <translation>Si ya existe un resultado</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it if its strength has changed</source>
+        <translation>&amp;Reemplazarlo si su potencia ha cambiado</translation>
+    </message>
+    <message>
+        <source>Replace it in &amp;any case</source>
+        <translation>Reemplazarlo &amp;siempre</translation>
+    </message>
+    <message>
+        <source>Keep &amp;both: the new one gets a number</source>
+        <translation>Conservar &amp;ambos: el nuevo recibe un número</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it and save nothing</source>
+        <translation>Conservarlo y &amp;no guardar nada</translation>
+    </message>
+    <message>
+        <source>A tag can&apos;t contain &quot;/&quot;.</source>
+        <translation>Una etiqueta no puede contener «/».</translation>
+    </message>
+    <message>
+        <source>There is no folder &quot;%1&quot;. Choose one that exists.</source>
+        <translation>No existe la carpeta «%1». Elija una que exista.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; is read-only. Choose another one.</source>
+        <translation>La carpeta «%1» es de solo lectura. Elija otra.</translation>
+    </message>
+    <message>
+        <source>%1 becomes %2.</source>
+        <translation>%1 pasa a ser %2.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveQueue</name>
+    <message>
+        <source>Its result already existed and was kept.</source>
+        <translation>Su resultado ya existía y se ha conservado.</translation>
+    </message>
+</context>
+<context>
+    <name>Series</name>
+    <message>
+        <source>edited</source>
+        <translation>editada</translation>
+    </message>
+    <message>
+        <source>waiting to be saved</source>
+        <translation>en espera de guardarse</translation>
+    </message>
+    <message>
+        <source>being saved</source>
+        <translation>guardándose</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>guardada</translation>
+    </message>
+    <message>
+        <source>changed since it was saved</source>
+        <translation>cambiada desde que se guardó</translation>
+    </message>
+    <message>
+        <source>existing result kept</source>
+        <translation>se conservó el resultado existente</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>error</translation>
+    </message>
+    <message>
+        <source>Strength %1 %, automatic</source>
+        <translation>Potencia %1 %, automática</translation>
+    </message>
+    <message>
+        <source>Strength %1 %</source>
+        <translation>Potencia %1 %</translation>
+    </message>
+    <message>
+        <source>Camera raw</source>
+        <translation>Archivo RAW</translation>
+    </message>
+    <message>
+        <source>Change strength</source>
+        <translation>Cambiar la potencia</translation>
+    </message>
+    <message>
+        <source>Automatic strength</source>
+        <translation>Potencia automática</translation>
+    </message>
+    <message>
+        <source>Reset strength</source>
+        <translation>Restablecer la potencia</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n photograph(s)</source>
+        <translation>
+            <numerusform>Quitar %n foto</numerusform>
+            <numerusform>Quitar %n fotos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>The session can&apos;t be kept in &quot;%1&quot;: %2. Make room, or give yourself permission to write there.</source>
+        <translation>La sesión no se puede conservar en «%1»: %2. Libere espacio o dese permiso para escribir allí.</translation>
+    </message>
+    <message>
+        <source>Another window works on the settings file &quot;%1&quot;. Close it there first.</source>
+        <translation>Otra ventana usa el archivo de ajustes «%1». Ciérrelo allí primero.</translation>
+    </message>
+    <message>
+        <source>The session in &quot;%1&quot; can&apos;t be read: %2. Open its photographs or a settings file instead.</source>
+        <translation>No se puede leer la sesión de «%1»: %2. Abra en su lugar sus fotos o un archivo de ajustes.</translation>
+    </message>
+    <message>
+        <source>Another window works on this session. Close it there first.</source>
+        <translation>Otra ventana usa esta sesión. Ciérrela allí primero.</translation>
+    </message>
+    <message>
+        <source>There is no settings file &quot;%1&quot;. Check its name and folder.</source>
+        <translation>No hay ningún archivo de ajustes «%1». Compruebe su nombre y su carpeta.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one of the photographs. Give the settings file another name.</source>
+        <translation>«%1» es una de las fotos. Dé otro nombre al archivo de ajustes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The strengths of %n photograph(s) would be lost.</source>
+        <translation>
+            <numerusform>Se perdería la potencia de %n foto.</numerusform>
+            <numerusform>Se perderían las potencias de %n fotos.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -707,14 +1253,357 @@ Ejemplos:
     </message>
 </context>
 <context>
-    <name>TransposedRun</name>
+    <name>StrengthPanel</name>
     <message>
-        <source>A temporary folder with a link to the photograph can&apos;t be created, neither beside it nor in &quot;%1&quot;. Make room there, and check that you can write there.</source>
-        <translation>No se puede crear una carpeta temporal con un enlace a la foto, ni junto a ella ni en «%1». Libere espacio allí y compruebe que tiene permiso para escribir.</translation>
+        <source>&amp;Strength</source>
+        <translation>&amp;Potencia</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>El complemento ha escrito «%1» en lugar de «%2»</translation>
+        <source>Strength</source>
+        <translation>Potencia</translation>
+    </message>
+    <message>
+        <source>How much of the haze is removed</source>
+        <translation>Cuánta bruma se quita</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Strength in per cent</source>
+        <translation>Potencia en tanto por ciento</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automática</translation>
+    </message>
+</context>
+<context>
+    <name>WindowActions</name>
+    <message>
+        <source>Add photographs...</source>
+        <translation>Añadir fotos...</translation>
+    </message>
+    <message>
+        <source>Add photographs to the series</source>
+        <translation>Añadir fotos a la serie</translation>
+    </message>
+    <message>
+        <source>Add a folder...</source>
+        <translation>Añadir una carpeta...</translation>
+    </message>
+    <message>
+        <source>Add the photographs of a folder to the series</source>
+        <translation>Añadir a la serie las fotos de una carpeta</translation>
+    </message>
+    <message>
+        <source>Start over</source>
+        <translation>Volver a empezar</translation>
+    </message>
+    <message>
+        <source>Begin an empty series; this one stays among the recent sessions</source>
+        <translation>Empezar una serie vacía; esta queda entre las sesiones recientes</translation>
+    </message>
+    <message>
+        <source>&amp;Open a session...</source>
+        <translation>Abrir una sesió&amp;n...</translation>
+    </message>
+    <message>
+        <source>Open photographs and strengths that were saved as a session</source>
+        <translation>Abrir fotos y potencias guardadas como sesión</translation>
+    </message>
+    <message>
+        <source>Save the session</source>
+        <translation>Guardar la sesión</translation>
+    </message>
+    <message>
+        <source>Save the list of photographs and their strengths</source>
+        <translation>Guardar la lista de fotos y sus potencias</translation>
+    </message>
+    <message>
+        <source>Save the session as...</source>
+        <translation>Guardar la sesión como...</translation>
+    </message>
+    <message>
+        <source>Save the session under another name</source>
+        <translation>Guardar la sesión con otro nombre</translation>
+    </message>
+    <message>
+        <source>Previous photograph</source>
+        <translation>Foto anterior</translation>
+    </message>
+    <message>
+        <source>Next photograph</source>
+        <translation>Foto siguiente</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Select all photographs</source>
+        <translation>Seleccionar todas las fotos</translation>
+    </message>
+    <message>
+        <source>Remove from the series</source>
+        <translation>Quitar de la serie</translation>
+    </message>
+    <message>
+        <source>Remove the selected photographs from the series; the files stay</source>
+        <translation>Quitar de la serie las fotos seleccionadas; los archivos se quedan</translation>
+    </message>
+    <message>
+        <source>Stronger</source>
+        <translation>Más fuerte</translation>
+    </message>
+    <message>
+        <source>Raise the strength by 1 per cent</source>
+        <translation>Subir la potencia un 1 por ciento</translation>
+    </message>
+    <message>
+        <source>Weaker</source>
+        <translation>Más débil</translation>
+    </message>
+    <message>
+        <source>Lower the strength by 1 per cent</source>
+        <translation>Bajar la potencia un 1 por ciento</translation>
+    </message>
+    <message>
+        <source>Stronger by 10</source>
+        <translation>10 más fuerte</translation>
+    </message>
+    <message>
+        <source>Raise the strength by 10 per cent</source>
+        <translation>Subir la potencia un 10 por ciento</translation>
+    </message>
+    <message>
+        <source>Weaker by 10</source>
+        <translation>10 más débil</translation>
+    </message>
+    <message>
+        <source>Lower the strength by 10 per cent</source>
+        <translation>Bajar la potencia un 10 por ciento</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Give each selected photograph the strength that suits it</source>
+        <translation>Dar a cada foto seleccionada la potencia que le conviene</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Go back to the strength at the start</source>
+        <translation>Volver a la potencia inicial</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Undo the last change</source>
+        <translation>Deshacer el último cambio</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Make the change again that was undone</source>
+        <translation>Volver a hacer el cambio deshecho</translation>
+    </message>
+    <message>
+        <source>Appl&amp;y to selected</source>
+        <translation>Aplicar a la &amp;selección</translation>
+    </message>
+    <message>
+        <source>Use this strength for all selected photographs</source>
+        <translation>Usar esta potencia para todas las fotos seleccionadas</translation>
+    </message>
+    <message>
+        <source>App&amp;ly to all</source>
+        <translation>Aplicar a &amp;todas</translation>
+    </message>
+    <message>
+        <source>Use this strength for all photographs of the series</source>
+        <translation>Usar esta potencia para todas las fotos de la serie</translation>
+    </message>
+    <message>
+        <source>Use as &amp;default</source>
+        <translation>Usar por &amp;defecto</translation>
+    </message>
+    <message>
+        <source>Start new photographs at this strength from now on</source>
+        <translation>Empezar las fotos nuevas con esta potencia a partir de ahora</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Dividida</translation>
+    </message>
+    <message>
+        <source>Before and after in one picture, with a line to drag</source>
+        <translation>Antes y después en una imagen, con una línea que se arrastra</translation>
+    </message>
+    <message>
+        <source>Side by side</source>
+        <translation>Lado a lado</translation>
+    </message>
+    <message>
+        <source>Before and after side by side</source>
+        <translation>Antes y después lado a lado</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Only the result</source>
+        <translation>Solo el resultado</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>Hold, or hold Space: the photograph as it was</source>
+        <translation>Mantener, o mantener Espacio: la foto como era</translation>
+    </message>
+    <message>
+        <source>Haze map</source>
+        <translation>Mapa de bruma</translation>
+    </message>
+    <message>
+        <source>Hold, or hold M: where haze was found</source>
+        <translation>Mantener, o mantener M: dónde se encontró bruma</translation>
+    </message>
+    <message>
+        <source>Clipping</source>
+        <translation>Recorte</translation>
+    </message>
+    <message>
+        <source>Mark pixels that became black or white</source>
+        <translation>Marcar los píxeles que quedaron negros o blancos</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajustar</translation>
+    </message>
+    <message>
+        <source>Show the whole photograph</source>
+        <translation>Mostrar la foto entera</translation>
+    </message>
+    <message>
+        <source>100 %</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>Show each pixel as it is, where the pointer is</source>
+        <translation>Mostrar cada píxel tal como es, donde está el puntero</translation>
+    </message>
+    <message>
+        <source>200 %</source>
+        <translation>200 %</translation>
+    </message>
+    <message>
+        <source>Show pixels at twice their size</source>
+        <translation>Mostrar los píxeles al doble de su tamaño</translation>
+    </message>
+    <message>
+        <source>400 %</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>Show pixels at four times their size</source>
+        <translation>Mostrar los píxeles a cuatro veces su tamaño</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Reducir</translation>
+    </message>
+    <message>
+        <source>Save this one</source>
+        <translation>Guardar esta</translation>
+    </message>
+    <message>
+        <source>Save the result of this photograph</source>
+        <translation>Guardar el resultado de esta foto</translation>
+    </message>
+    <message>
+        <source>Save all</source>
+        <translation>Guardar todas</translation>
+    </message>
+    <message>
+        <source>Save the results of the whole series</source>
+        <translation>Guardar los resultados de toda la serie</translation>
+    </message>
+    <message>
+        <source>Save op&amp;tions...</source>
+        <translation>&amp;Opciones de guardado...</translation>
+    </message>
+    <message>
+        <source>Folder, tag and quality of the results, and what happens to existing ones</source>
+        <translation>Carpeta, etiqueta y calidad de los resultados, y qué pasa con los existentes</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>Pa&amp;usa</translation>
+    </message>
+    <message>
+        <source>Finish the photographs in work and begin no other until you resume</source>
+        <translation>Terminar las fotos en curso y no empezar otras hasta reanudar</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Stop saving; results that are complete stay</source>
+        <translation>Dejar de guardar; los resultados completos se quedan</translation>
+    </message>
+    <message>
+        <source>Try a&amp;gain</source>
+        <translation>&amp;Intentar de nuevo</translation>
+    </message>
+    <message>
+        <source>Save those again that failed</source>
+        <translation>Guardar otra vez las que fallaron</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Pantalla completa</translation>
+    </message>
+    <message>
+        <source>Use the whole screen, or go back to the window</source>
+        <translation>Usar toda la pantalla o volver a la ventana</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Show all keys</source>
+        <translation>Mostrar todas las teclas</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Close the window</source>
+        <translation>Cerrar la ventana</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -728,12 +1617,211 @@ Ejemplos:
         <translation>&amp;Quitar la bruma</translation>
     </message>
     <message>
+        <source>Set how much haze to remove from each photograph. Hold Alt to see where the haze is.</source>
+        <translation>Indique cuánta bruma quitar de cada foto. Mantenga Alt para ver dónde está la bruma.</translation>
+    </message>
+    <message>
+        <source>Photograph</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Strength in per cent</source>
+        <translation>Potencia en tanto por ciento</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Previous photograph</source>
+        <translation>Foto anterior</translation>
+    </message>
+    <message>
+        <source>Next photograph</source>
+        <translation>Foto siguiente</translation>
+    </message>
+    <message>
         <source>Save session</source>
         <translation>Guardar la sesión</translation>
     </message>
     <message>
         <source>Settings files (*.xml)</source>
         <translation>Archivos de ajustes (*.xml)</translation>
+    </message>
+</context>
+<context>
+    <name>WorkspaceWindow</name>
+    <message numerus="yes">
+        <source>%1, %n photograph(s), %2</source>
+        <translation>
+            <numerusform>%1, %n foto, %2</numerusform>
+            <numerusform>%1, %n fotos, %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Photograph</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Serie</translation>
+    </message>
+    <message>
+        <source>Drag the line to compare. Hold Space: before. Left, Right: photograph. Up, Down: strength.</source>
+        <translation>Arrastrar la línea: comparar. Mantener Espacio: antes. Izquierda, derecha: foto. Arriba, abajo: potencia.</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Herramientas</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sesión</translation>
+    </message>
+    <message>
+        <source>Open, save or begin a session: photographs with their strengths</source>
+        <translation>Abrir, guardar o empezar una sesión: fotos con sus potencias</translation>
+    </message>
+    <message>
+        <source>&amp;Recent sessions</source>
+        <translation>Sesiones re&amp;cientes</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 x %2 px, %3 bits</source>
+        <translation>%1 x %2 px, %3 bits</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Result: %1</source>
+        <translation>Resultado: %1</translation>
+    </message>
+    <message>
+        <source>Appl&amp;y to selected (%1)</source>
+        <translation>Aplicar a la &amp;selección (%1)</translation>
+    </message>
+    <message>
+        <source>App&amp;ly to all (%1)</source>
+        <translation>Aplicar a &amp;todas (%1)</translation>
+    </message>
+    <message>
+        <source>Save all %1</source>
+        <translation>Guardar las %1</translation>
+    </message>
+    <message>
+        <source>&amp;Resume</source>
+        <translation>&amp;Reanudar</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>Pa&amp;usa</translation>
+    </message>
+    <message>
+        <source>veilaway</source>
+        <translation>veilaway</translation>
+    </message>
+    <message>
+        <source>%1[*] - veilaway</source>
+        <translation>%1[*] - veilaway</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s) left out.</source>
+        <translation>
+            <numerusform>%n resultado omitido.</numerusform>
+            <numerusform>%n resultados omitidos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There are no photographs in the folder &quot;%1&quot;.</source>
+        <translation>No hay fotos en la carpeta «%1».</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) of this series were still to be saved.</source>
+        <translation>
+            <numerusform>Quedaba por guardar %n foto de esta serie.</numerusform>
+            <numerusform>Quedaban por guardar %n fotos de esta serie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Save them now</source>
+        <translation>&amp;Guardarlas ahora</translation>
+    </message>
+    <message>
+        <source>The series is as you left it.</source>
+        <translation>La serie está como la dejó.</translation>
+    </message>
+    <message>
+        <source>Add photographs</source>
+        <translation>Añadir fotos</translation>
+    </message>
+    <message>
+        <source>Photographs (%1)</source>
+        <translation>Fotos (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Add a folder</source>
+        <translation>Añadir una carpeta</translation>
+    </message>
+    <message>
+        <source>Open a session</source>
+        <translation>Abrir una sesión</translation>
+    </message>
+    <message>
+        <source>Settings files (*.xml)</source>
+        <translation>Archivos de ajustes (*.xml)</translation>
+    </message>
+    <message>
+        <source>Save session</source>
+        <translation>Guardar la sesión</translation>
+    </message>
+    <message>
+        <source>New photographs start at their automatic strength.</source>
+        <translation>Las fotos nuevas empiezan con su potencia automática.</translation>
+    </message>
+    <message>
+        <source>New photographs start at %1 %.</source>
+        <translation>Las fotos nuevas empiezan al %1 %.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n photograph(s) could not be saved.</source>
+        <translation>
+            <numerusform>No se pudo guardar %n foto.</numerusform>
+            <numerusform>No se pudieron guardar %n fotos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Try a&amp;gain</source>
+        <translation>&amp;Intentar de nuevo</translation>
+    </message>
+    <message>
+        <source>Saving has ended</source>
+        <translation>Guardado terminado</translation>
+    </message>
+    <message>
+        <source>Close &amp;anyway</source>
+        <translation>C&amp;errar de todos modos</translation>
+    </message>
+    <message>
+        <source>&amp;Stay</source>
+        <translation>&amp;Quedarse</translation>
     </message>
 </context>
 <context>
