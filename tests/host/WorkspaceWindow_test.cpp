@@ -225,7 +225,7 @@ protected:
         QElapsedTimer rest;
         return eventually([&] {
             const QImage now = picture()->grab().toImage();
-            if (now != last || now.pixel(now.width() / 4, now.height() / 2) == now.pixel(4, 4))
+            if (now != last || now.pixel(now.width() * 2 / 5, now.height() / 2) == now.pixel(4, 4))
                 rest.start();
             last = now;
             return rest.elapsed() > kRestMs;
