@@ -316,7 +316,7 @@ float *VImage::HazeJointUpsample(float *lowMap, VImage *lowImage)
     const HazeJointRows rows(*this, *lowImage, lowMap);
     const int height = Height();
     const int parts = teamFor(height);
-    std::vector<HazeJointRows::Scratch> scratch;
+    std::vector<TileScratch> scratch;
     scratch.resize(std::size_t(parts));
     float *const first = map.get();
 #pragma omp parallel for schedule(static) num_threads(parts)
