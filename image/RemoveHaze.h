@@ -19,5 +19,5 @@ class VImage;
 /// map. At 64425 the cycle starts again.
 ///
 /// Throws VException "Invalid Bitmap" for another form and "Not enough memory", and std::bad_alloc. Runs on the caller's thread,
-/// with a team of `threadCount` in its loops.
+/// with up to `threadCount` threads in its loops.
 void RemoveHaze(VImage &image, HazeState &state);

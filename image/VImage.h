@@ -112,7 +112,7 @@ public:
     ///
     /// This image must be Rgba with 32-bit samples (W x H). Writes the atmospheric light (R, G, B, in sample units) to `airlight`
     /// and returns W*H floats, row by row, which the caller releases with delete[]; null, with `airlight` untouched, if no pixel
-    /// qualifies. Throws "Invalid Bitmap" for any other form. Runs a team of `threadCount`.
+    /// qualifies. Throws "Invalid Bitmap" for any other form. Runs up to `threadCount` threads.
     ///
     /// The minimum ignores samples that are not a number; a pixel whose window holds nothing else ranks last as airlight. A
     /// quotient that is not a number, such as 0.0 / 0.0, is ignored; a pixel with three of them gets 0.0. Light in a channel that
@@ -126,15 +126,15 @@ public:
     /// This image must be Rgba with 32-bit samples; its alpha is not read. Returns false, with `darkMap` multiplied by lambda,
     /// if the system could not be solved, as happens if a colour sample is not a finite number. A window whose covariance can't
     /// be inverted in 32 bits counts as one of a single colour. The result does not depend on the size of the team. Throws
-    /// "Invalid Bitmap" for any other form, and std::bad_alloc. Runs a team of `threadCount`. Source: A. Levin, D. Lischinski, Y.
-    /// Weiss, A Closed-Form Solution to Natural Image Matting, PAMI 2008, equation 12; its use for haze: He, Sun, Tang, CVPR
-    /// 2009, section 4.2.
+    /// "Invalid Bitmap" for any other form, and std::bad_alloc. Runs up to `threadCount` threads. Source: A. Levin, D.
+    /// Lischinski, Y. Weiss, A Closed-Form Solution to Natural Image Matting, PAMI 2008, equation 12; its use for haze: He, Sun,
+    /// Tang, CVPR 2009, section 4.2.
     [[nodiscard]] bool HazeMatting(float *darkMap);
 
     /// Carries a map from `lowImage`'s size up to this image's, by joint bilateral steps of at most a factor of 2, guided by this
     /// image. `lowMap` holds one float per pixel of `lowImage`. Returns W*H floats, row by row, which the caller releases with
     /// delete[]; 0.0 where this image's alpha is 0.0. Both images must be Rgba with 32-bit samples and are only read. Throws
-    /// "Invalid Bitmap" for any other form. Runs a team of `threadCount`.
+    /// "Invalid Bitmap" for any other form. Runs up to `threadCount` threads.
     ///
     /// Neighbours whose difference in a channel is 2.001 or more, or not a number, have the weight 0.0; a pixel whose weights are
     /// all 0.0 gets 0.0. A map value that is not a number carries over to every pixel that it is a neighbour of.
@@ -146,9 +146,9 @@ public:
 
     /// Takes the haze out, in place: J = A + (I - A) / max(1 - transmission * strength, 0.1), not below 0. `transmission` holds
     /// W*H floats, the refined dark map; `strength` is a fraction, nominally 0..1. Alpha is not written, and a pixel with alpha
-    /// 0.0 stays as it is. Throws "Invalid Bitmap" unless this image is Rgba with 32-bit samples. Runs a team of `threadCount`.
-    /// A colour sample that is not a number becomes 0.0, and so do all three of a pixel whose transmission is not a number.
-    /// Source: He, Sun, Tang, CVPR 2009, equations 1 and 16.
+    /// 0.0 stays as it is. Throws "Invalid Bitmap" unless this image is Rgba with 32-bit samples. Runs up to `threadCount`
+    /// threads. A colour sample that is not a number becomes 0.0, and so do all three of a pixel whose transmission is not a
+    /// number. Source: He, Sun, Tang, CVPR 2009, equations 1 and 16.
     void HazeRecover(const float *transmission, const float airlight[3], float strength);
 
 private:

@@ -26,6 +26,12 @@ QString invalidBitmap()
     return QStringLiteral("Invalid Bitmap");
 }
 
+// What the loops take per pixel, for teamFor().
+constexpr double kNormaliseNanoseconds = 0.7;
+constexpr double kMattingNanoseconds = 500.0;
+constexpr double kJointNanoseconds = 6.0;
+constexpr double kRecoverNanoseconds = 1.2;
+
 std::size_t pixelCount(const VImage &image)
 {
     return std::size_t(image.Width()) * std::size_t(image.Height());
@@ -174,7 +180,7 @@ void addMattingLaplacian(const VImage &image, VSparseFactory &factory)
     const int height = image.Height();
     if (width < HazeMattingRows::kWindow || height < HazeMattingRows::kWindow)
         return;
-    const int parts = teamFor(height);
+    const int parts = teamFor(height, kMattingNanoseconds * width * height);
     const auto rowStep = std::ptrdiff_t(image.BytesPerLine()) / std::ptrdiff_t(sizeof(float));
     std::vector<HazeMattingRows> blocks(std::size_t(parts), HazeMattingRows(rowOf(image, 0), rowStep, width, height));
     bool outOfMemory = false;
@@ -229,7 +235,7 @@ float *VImage::HazeDarkChannel(float airlight[3])
     std::copy_n(brightest, 3, airlight);
 
     float *const first = darkMap.get();
-    const int team = teamFor(height);
+    const int team = teamFor(height, kNormaliseNanoseconds * width * height);
 #pragma omp parallel for schedule(static) num_threads(team)
     for (int y = 0; y < height; ++y)
         normaliseRow(eroded.row(y), first + std::size_t(y) * std::size_t(width), width, airlight);
@@ -315,7 +321,7 @@ float *VImage::HazeJointUpsample(float *lowMap, VImage *lowImage)
     AdviseHugePages(map.get(), pixelCount(*this) * sizeof(float));
     const HazeJointRows rows(*this, *lowImage, lowMap);
     const int height = Height();
-    const int parts = teamFor(height);
+    const int parts = teamFor(height, kJointNanoseconds * double(pixelCount(*this)));
     std::vector<TileScratch> scratch;
     scratch.resize(std::size_t(parts));
     float *const first = map.get();
@@ -333,7 +339,7 @@ void VImage::HazeRecover(const float *transmission, const float airlight[3], flo
         throw VException(invalidBitmap(), V_LOCATION);
     const int width = Width();
     const int height = Height();
-    const int team = teamFor(height);
+    const int team = teamFor(height, kRecoverNanoseconds * width * height);
 #pragma omp parallel for schedule(static) num_threads(team)
     for (int y = 0; y < height; ++y)
         recoverRow(rowOf(*this, y), transmission + std::size_t(y) * std::size_t(width), width, airlight, strength);

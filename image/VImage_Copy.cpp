@@ -128,8 +128,7 @@ struct IppiRelease
 /// With a buffer between the two steps, both run over one tile at a time. A tile this small (at most 4 KB of buffer) keeps memory
 /// reads going between the steps.
 constexpr int kTilePixels = 256;
-/// Below this many pixels a team costs more than it gains.
-constexpr std::int64_t kPixelsForTeam = 1 << 17;
+constexpr double kPixelNanoseconds = 0.4; ///< What most conversions take per pixel.
 
 } // namespace
 
@@ -170,7 +169,7 @@ void VImage::CopyRect(int x, int y, int width, int height, VImage &target, int t
     const int tileWidth = buffered ? std::min(width, kTilePixels) : width;
     const int tileHeight = std::clamp(kTilePixels / tileWidth, 1, height);
     const int bands = (height - 1) / tileHeight + 1;
-    const int team = std::int64_t(width) * height < kPixelsForTeam ? 1 : teamFor(bands);
+    const int team = teamFor(bands, kPixelNanoseconds * width * height);
 
     Raster buffer{nullptr, 0, plan.between};
     std::unique_ptr<unsigned char, IppiRelease> buffers;

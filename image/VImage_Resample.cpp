@@ -16,8 +16,7 @@ struct IppsRelease
 template<typename T>
 using IppsBlock = std::unique_ptr<T, IppsRelease>;
 
-/// Below this many samples in source and target together a team costs more than it gains.
-constexpr std::int64_t kSamplesForTeam = 1 << 18;
+constexpr double kSampleNanoseconds = 0.2; ///< What scaling takes per sample of source and target together.
 
 /// Scales all of `source` into all of `target`. Returns false, with the target unchanged, for a form that is not processed or an
 /// image without pixels. Throws std::bad_alloc.
@@ -39,7 +38,7 @@ constexpr std::int64_t kSamplesForTeam = 1 << 18;
     (void)ippiResizeInit(from, to, method, {channels, source.BitsPerComponent()}, spec.get());
 
     const std::int64_t pixels = std::int64_t(from.width) * from.height + std::int64_t(to.width) * to.height;
-    const int team = pixels * channels < kSamplesForTeam ? 1 : teamFor(to.height);
+    const int team = teamFor(to.height, kSampleNanoseconds * double(pixels * channels));
     const std::size_t bufferBytes = ippiResizeGetBufferSize(spec.get());
     const IppsBlock<unsigned char> buffers(static_cast<unsigned char *>(ippsMalloc(bufferBytes * std::size_t(team))));
     if (!buffers)

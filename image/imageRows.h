@@ -33,10 +33,14 @@ inline float *rowOf(VImage &image, int y)
     return reinterpret_cast<float *>(image.PixelAddress(0, y));
 }
 
-/// Number of threads for `blocks` blocks of work: threadCount, but no more than there are blocks, and at least 1.
-inline int teamFor(int blocks)
+/// Number of threads for `blocks` blocks of work that would take a single thread `nanoseconds` in all: threadCount, but no more
+/// than there are blocks, and at least 1. Waking a thread and waiting for it takes about 12 microseconds, so each one must have
+/// twice that to do; small pictures thus run on the calling thread.
+inline int teamFor(int blocks, double nanoseconds)
 {
-    return std::max(1, std::min(int(threadCount), blocks));
+    constexpr double kShare = 25e3;
+    const double most = std::min(nanoseconds / kShare, double(blocks));
+    return std::max(1, int(std::min(double(threadCount), most)));
 }
 
 /// First row of part `part` when `rows` rows are divided into `parts` contiguous blocks. Part `parts` starts just past the last

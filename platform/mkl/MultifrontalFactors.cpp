@@ -224,6 +224,12 @@ void MultifrontalFactors::planWaves(std::int32_t number, std::int32_t parent, st
         planWaves(child, number, depth + 1);
 }
 
+// A thread that finds no job would be woken for nothing.
+int MultifrontalFactors::teamFor(const std::vector<Job> &jobs) const
+{
+    return int(std::min(std::size_t(team), std::max<std::size_t>(jobs.size(), 1)));
+}
+
 // Visits every node after its children, independent nodes at the same time. Stops early and returns false if a visit returns
 // false.
 template<typename Visit>
@@ -242,12 +248,12 @@ bool MultifrontalFactors::childrenFirst(const Visit &visit)
             state = NoMemory;
         }
     };
-#pragma omp parallel for schedule(dynamic) num_threads(team)
+#pragma omp parallel for schedule(dynamic) num_threads(teamFor(subtrees))
     for (std::size_t i = 0; i < subtrees.size(); ++i)
         climb(subtrees[i].node, guarded);
     for (auto wave = waves.rbegin(); wave != waves.rend(); ++wave) {
         const std::vector<Job> &jobs = *wave;
-#pragma omp parallel for schedule(dynamic) num_threads(team)
+#pragma omp parallel for schedule(dynamic) num_threads(teamFor(jobs))
         for (std::size_t i = 0; i < jobs.size(); ++i)
             guarded(jobs[i].node);
     }
@@ -396,11 +402,11 @@ void MultifrontalFactors::solve(float *rightHandSide)
         return true;
     });
     for (const std::vector<Job> &jobs : waves) {
-#pragma omp parallel for schedule(dynamic) num_threads(team)
+#pragma omp parallel for schedule(dynamic) num_threads(teamFor(jobs))
         for (std::size_t i = 0; i < jobs.size(); ++i)
             substitute(jobs[i].node, jobs[i].parent, rightHandSide);
     }
-#pragma omp parallel for schedule(dynamic) num_threads(team)
+#pragma omp parallel for schedule(dynamic) num_threads(teamFor(subtrees))
     for (std::size_t i = 0; i < subtrees.size(); ++i)
         descend(subtrees[i].node, subtrees[i].parent, rightHandSide);
 }

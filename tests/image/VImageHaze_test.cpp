@@ -62,7 +62,8 @@ TEST(VImageHaze, EveryStageRefusesOtherForms)
 
 TEST(HazeDarkChannel, EqualsThePlainVersion)
 {
-    const std::pair<int, int> sizes[] = {{1, 1}, {2, 7}, {7, 2}, {99, 99}, {100, 99}, {301, 30}, {5, 1001}, {3, 2000}, {131, 17}};
+    const std::pair<int, int> sizes[] = {{1, 1},     {2, 7},    {7, 2},    {99, 99}, {100, 99},
+                                         {301, 260}, {5, 1001}, {3, 2000}, {131, 17}};
     for (const auto &[width, height] : sizes) {
         for (const Kind kind : kKinds) {
             const Picture picture = makePicture(width, height, kind);
@@ -314,7 +315,7 @@ TEST(HazeUpsample, AnEmptyLowImageGivesZeros)
 
 TEST(HazeRecover, EqualsThePlainVersion)
 {
-    const std::pair<int, int> sizes[] = {{1, 1}, {7, 3}, {64, 5}, {131, 4}};
+    const std::pair<int, int> sizes[] = {{1, 1}, {7, 3}, {131, 4}, {401, 160}}; // the last with a team
     const float airlight[3] = {0.9f, 0.8f, 0.7f};
     for (const auto &[width, height] : sizes) {
         for (const Kind kind : kKinds) {
