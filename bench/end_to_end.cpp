@@ -1,6 +1,6 @@
 // The whole program on a drawn photograph, as an 8-bit JPEG and a 16-bit TIFF, compared with the best that the machine can do,
 // all measured in one run: copy bandwidth, and reading and writing the same file with the codec layer alone. Prints medians of
-// several rounds and judges nothing. usage: end_to_end [--megapixels N] [--rounds N] [--batch N]
+// several rounds and judges nothing. usage: end_to_end [--megapixels N] [--rounds N] [--batch N] [--threads N,N,...]
 
 #include <algorithm>
 #include <chrono>
@@ -369,6 +369,33 @@ void measurePreview(const VImage &photograph, int rounds)
     printCost("change of strength", median(change), 0.0);
 }
 
+/// How the time falls with the number of processors, each of which gets a thread: medians of rounds that take the counts in turn.
+/// The serial part is what the times for one and for the most threads leave for work that does not share.
+void measureThreads(Launcher &launcher, const QString &program, const QString &file, const std::vector<int> &counts, int rounds)
+{
+    std::vector<std::vector<Cost>> costs(counts.size());
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t i = 0; i < counts.size(); ++i) {
+            const QString processors = QStringLiteral("0-%1").arg(counts[i] - 1);
+            costs[i].push_back(launcher.run({"/usr/bin/taskset", "-c", processors, program, file, "--strength",
+                                             QString::number(kStrength), "--overwrite", "--quiet"}));
+        }
+    }
+    std::printf("\nby threads: %s\n  %-10s %9s %9s %9s\n", qPrintable(file.section('/', -1)), "threads", "wall ms", "CPU ms",
+                "speed-up");
+    const double first = median(costs.front()).wall;
+    for (std::size_t i = 0; i < counts.size(); ++i) {
+        const Cost cost = median(costs[i]);
+        std::printf("  %-10d %9.1f %9.1f %9.2f\n", counts[i], cost.wall * 1e3, cost.cpu * 1e3, first / cost.wall);
+    }
+    const double most = counts.back();
+    if (counts.front() == 1 && most > 1) {
+        const double serial = (median(costs.back()).wall - first / most) / (1.0 - 1.0 / most);
+        std::printf("  serial part %.0f ms, part that the threads share %.0f ms; by this model, 16 cores take %.0f ms\n",
+                    serial * 1e3, (first - serial) * 1e3, (serial + (first - serial) / 16.0) * 1e3);
+    }
+}
+
 void measureBatch(Launcher &launcher, const QString &program, const QString &file, int count)
 {
     QStringList words{program};
@@ -384,7 +411,7 @@ void measureBatch(Launcher &launcher, const QString &program, const QString &fil
                 cost.wall / count, cost.cpu, cost.cpu / cost.wall / cores * 100.0, cores, cost.peakBytes * 1e-6);
 }
 
-void measure(Launcher &launcher, double megapixels, int rounds, int batch)
+void measure(Launcher &launcher, double megapixels, int rounds, int batch, const std::vector<int> &threads)
 {
     const QString program = QCoreApplication::applicationDirPath() + "/veilaway";
     QTemporaryDir folder;
@@ -412,8 +439,29 @@ void measure(Launcher &launcher, double megapixels, int rounds, int batch)
     printCost("start, load the plug-in", median(start), 0.0);
     measureFormat(launcher, program, jpeg, "jpeg", rounds, bandwidth);
     measureFormat(launcher, program, tiff, "tiff", rounds, bandwidth);
+    for (const QString &file : {jpeg, tiff}) {
+        if (!threads.empty())
+            measureThreads(launcher, program, file, threads, rounds);
+    }
     if (batch > 0)
         measureBatch(launcher, program, jpeg, batch);
+}
+
+/// The counts in rising order. Those that are not positive, and those beyond the machine's cores, are left out, the latter with a
+/// word.
+std::vector<int> threadCounts(const QString &list)
+{
+    std::vector<int> counts;
+    const int cores = int(std::max(1u, std::thread::hardware_concurrency()));
+    for (const QString &text : list.split(',')) {
+        const int count = text.toInt();
+        if (count > cores)
+            std::printf("%d threads: skipped, this machine runs %d\n", count, cores);
+        else if (count > 0)
+            counts.push_back(count);
+    }
+    std::sort(counts.begin(), counts.end());
+    return counts;
 }
 
 } // namespace
@@ -426,13 +474,14 @@ int main(int argc, char **argv)
     const QCommandLineOption megapixels("megapixels", "Size of the photograph.", "N", "24");
     const QCommandLineOption rounds("rounds", "Number of rounds; medians are printed.", "N", "5");
     const QCommandLineOption batch("batch", "Photographs in the batch; 0 for none.", "N", "20");
-    parser.addOptions({megapixels, rounds, batch});
+    const QCommandLineOption threads("threads", "Also measure the program with each of these numbers of threads.", "N,N,...", "");
+    parser.addOptions({megapixels, rounds, batch, threads});
     parser.addHelpOption();
     parser.process(application);
     try {
         startImageLibrary(nullptr);
         measure(launcher, std::max(0.1, parser.value(megapixels).toDouble()), std::max(1, parser.value(rounds).toInt()),
-                parser.value(batch).toInt());
+                parser.value(batch).toInt(), threadCounts(parser.value(threads)));
         stopImageLibrary();
     } catch (const VException &failure) {
         std::fprintf(stderr, "end_to_end: %s\n", qPrintable(failure.message));
