@@ -4,8 +4,6 @@
 #include <cstring>
 #include <limits>
 
-#include "imageRows.h"
-
 namespace {
 
 constexpr int kChannels = 4; ///< R, G, B, A.
@@ -20,12 +18,12 @@ int centreOf(int place, float scale)
 
 } // namespace
 
-HazeJointRows::HazeJointRows(const VImage &fineImage, const VImage &coarseImage, const float *map)
-    : fine(fineImage), coarse(coarseImage), coarseMap(map), tables(tileTables()), kernel(tileKernel()),
-      rowScale(float(coarseImage.Height()) / float(fineImage.Height())), tileColumns(kTileColumns),
-      centres(std::size_t(std::max(0, fineImage.Width())))
+HazeJointRows::HazeJointRows(Size fineSize, Size coarseSize)
+    : fine(fineSize), coarse(coarseSize), tables(tileTables()), kernel(tileKernel()),
+      rowScale(float(coarseSize.height) / float(fineSize.height)), tileColumns(kTileColumns),
+      centres(std::size_t(std::max(0, fineSize.width)))
 {
-    const float columnScale = float(coarse.Width()) / float(fine.Width());
+    const float columnScale = float(coarse.width) / float(fine.width);
     if (columnScale > 1.0f) {
         tileColumns = std::max(1, int(kTileColumns / columnScale));
         kernel.spread = spreadByLoops;
@@ -34,28 +32,35 @@ HazeJointRows::HazeJointRows(const VImage &fineImage, const VImage &coarseImage,
         centres[x] = centreOf(int(x), columnScale);
 }
 
-void HazeJointRows::spread(int coarseRow, int firstColumn, int columns, TileScratch &scratch) const
+HazeJointRows::Range HazeJointRows::coarseRowsOf(int firstRow, int lastRow) const
 {
-    const float *const pixels = rowOf(coarse, coarseRow);
-    const float *const values = coarseMap + std::size_t(coarseRow) * std::size_t(coarse.Width());
+    return {std::max(centreOf(firstRow, rowScale) - kRadius, 0),
+            std::min(centreOf(lastRow - 1, rowScale) + kRadius, coarse.height - 1)};
+}
+
+void HazeJointRows::spread(const Images &images, int coarseRow, int firstColumn, int columns, TileScratch &scratch) const
+{
+    const float *const pixels = images.coarse.row(coarseRow);
+    const float *const values = images.coarseMap.row(coarseRow);
     const int *const centre = centres.data() + firstColumn;
-    const auto coarseWidth = unsigned(coarse.Width());
+    const auto coarseWidth = unsigned(coarse.width);
     const int first = centre[0] - kRadius;
     const int reached = centre[columns - 1] + kRadius - first + 1;
     // The next row's pixels are fetched early: a tile's rows are too far apart for the processor to foresee.
-    const float *const nextPixels = rowOf(coarse, std::min(coarseRow + 1, coarse.Height() - 1));
+    const float *const nextPixels = images.coarse.row(std::min(coarseRow + 1, coarse.height - 1));
     constexpr float kNone = std::numeric_limits<float>::quiet_NaN();
     for (int i = 0; i < reached; ++i) {
         const auto column = std::ptrdiff_t(first + i);
-        const float *const pixel = pixels + column * kChannels;
         CoarsePixel &target = scratch.coarse[i];
-        if (unsigned(column) < coarseWidth && pixel[3] != 0.0f) {
+        target = {{kNone, kNone, kNone}, 0.0f};
+        if (unsigned(column) >= coarseWidth)
+            continue;
+        const float *const pixel = pixels + column * kChannels;
+        if (pixel[3] != 0.0f) {
             std::memcpy(&target, pixel, sizeof target);
             target.map = values[column];
-            __builtin_prefetch(nextPixels + column * kChannels);
-        } else {
-            target = {{kNone, kNone, kNone}, 0.0f};
         }
+        __builtin_prefetch(nextPixels + column * kChannels);
     }
     int places[kTileColumns];
     for (int x = 0; x < columns; ++x)
@@ -64,36 +69,33 @@ void HazeJointRows::spread(int coarseRow, int firstColumn, int columns, TileScra
     kernel.spread(places, columns, scratch, scratch.rows[coarseRow % kTileSide]);
 }
 
-void HazeJointRows::write(float *map, int firstRow, int lastRow, TileScratch &scratch) const
+void HazeJointRows::write(const Images &images, int firstRow, int lastRow, TileScratch &scratch) const
 {
-    const int width = fine.Width();
     for (int band = firstRow; band < lastRow; band += kBand) {
-        for (int firstColumn = 0; firstColumn < width; firstColumn += tileColumns)
-            writeTile(map, band, std::min(band + kBand, lastRow), firstColumn, std::min(tileColumns, width - firstColumn),
-                      scratch);
+        for (int column = 0; column < fine.width; column += tileColumns)
+            writeTile(images, band, std::min(band + kBand, lastRow), column, std::min(tileColumns, fine.width - column), scratch);
     }
 }
 
-void HazeJointRows::writeTile(float *map, int firstRow, int lastRow, int firstColumn, int columns, TileScratch &scratch) const
+void HazeJointRows::writeTile(const Images &images, int firstRow, int lastRow, int firstColumn, int columns,
+                              TileScratch &scratch) const
 {
+    const std::ptrdiff_t corner = std::ptrdiff_t(firstColumn) * kChannels;
     int held[kTileSide] = {-1, -1, -1}; // coarse rows that the scratch memory holds for this tile
     for (int y = firstRow; y < lastRow; ++y) {
-        const int centre = centreOf(y, rowScale);
-        const int first = std::max(centre - kRadius, 0);
-        const int last = std::min(centre + kRadius, coarse.Height() - 1);
+        const auto [first, last] = coarseRowsOf(y, y + 1);
         const TileNeighbours *rows[kTileSide];
         for (int row = first; row <= last; ++row) {
             const int slot = row % kTileSide;
             if (held[slot] != row) {
-                spread(row, firstColumn, columns, scratch);
+                spread(images, row, firstColumn, columns, scratch);
                 held[slot] = row;
             }
             rows[row - first] = scratch.rows[slot];
         }
-        const std::ptrdiff_t corner = std::ptrdiff_t(firstColumn) * kChannels;
-        kernel.write({rowOf(fine, y) + corner, rowOf(fine, std::min(y + 1, lastRow - 1)) + corner,
-                      map + std::size_t(y) * std::size_t(fine.Width()) + firstColumn, columns, rows,
-                      std::max(0, last - first + 1), first - centre},
+        kernel.write({images.fine.row(y) + corner, images.fine.row(std::min(y + 1, lastRow - 1)) + corner,
+                      images.map.row(y) + firstColumn, columns, rows, std::max(0, last - first + 1),
+                      first - centreOf(y, rowScale)},
                      tables, scratch);
     }
 }

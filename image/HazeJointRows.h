@@ -1,10 +1,11 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <vector>
 
 #include "HazeTileKernel.h"
-
-class VImage;
+#include "VImage.h"
 
 /// The joint bilateral step from a coarse map to a fine one, for any block of fine rows.
 ///
@@ -15,20 +16,60 @@ class VImage;
 class HazeJointRows
 {
 public:
-    /// Both images must be Rgba with 32-bit samples; `coarseMap` has one float per pixel of `coarse`. All three must outlive
-    /// this object.
-    HazeJointRows(const VImage &fine, const VImage &coarse, const float *coarseMap);
+    /// Where rows are: row y at `first` + (y modulo `held`) * `step` floats. `held` is the image's height, or fewer rows for a
+    /// ring that only ever holds a part of the image.
+    template<typename Float>
+    struct Rows
+    {
+        Float *first;
+        std::ptrdiff_t step;
+        int held;
+        Float *row(int y) const { return first + std::ptrdiff_t(y % held) * step; }
+    };
+    struct Size
+    {
+        int width, height;
+    };
+    /// The pixels are R, G, B, A; the maps have one float per pixel.
+    struct Images
+    {
+        Rows<const float> fine;
+        Rows<const float> coarse;
+        Rows<const float> coarseMap;
+        Rows<float> map; ///< The result.
+    };
 
-    /// Writes the rows firstRow ... lastRow - 1 of `map`, which has one float per pixel of the fine image.
-    void write(float *map, int firstRow, int lastRow, TileScratch &scratch) const;
+    static Rows<const float> rowsOf(const VImage &image)
+    {
+        return {reinterpret_cast<const float *>(image.PixelAddress(0, 0)),
+                std::ptrdiff_t(image.BytesPerLine()) / std::ptrdiff_t(sizeof(float)), std::max(1, image.Height())};
+    }
+    /// A map of an image's size.
+    template<typename Float>
+    static Rows<Float> rowsOf(Float *map, const VImage &image)
+    {
+        return {map, image.Width(), std::max(1, image.Height())};
+    }
+
+    HazeJointRows(Size fine, Size coarse);
+
+    /// The coarse rows that the fine rows firstRow ... lastRow - 1 need: from `first` to `last`, none if `last` is the smaller
+    /// one.
+    struct Range
+    {
+        int first, last;
+    };
+    Range coarseRowsOf(int firstRow, int lastRow) const;
+
+    /// Writes the rows firstRow ... lastRow - 1 of the map.
+    void write(const Images &images, int firstRow, int lastRow, TileScratch &scratch) const;
 
 private:
-    void writeTile(float *map, int firstRow, int lastRow, int firstColumn, int columns, TileScratch &scratch) const;
-    void spread(int coarseRow, int firstColumn, int columns, TileScratch &scratch) const;
+    void writeTile(const Images &images, int firstRow, int lastRow, int firstColumn, int columns, TileScratch &scratch) const;
+    void spread(const Images &images, int coarseRow, int firstColumn, int columns, TileScratch &scratch) const;
 
-    const VImage &fine;
-    const VImage &coarse;
-    const float *coarseMap;
+    Size fine;
+    Size coarse;
     const TileTables &tables;
     TileKernel kernel;
     float rowScale;

@@ -11,6 +11,7 @@
 
 #include "HazeJointRows.h"
 #include "HazeMattingRows.h"
+#include "HazePyramid.h"
 #include "InstructionSet.h"
 #include "VSparseFactory.h"
 #include "imageRows.h"
@@ -288,22 +289,33 @@ float *VImage::HazeUpsample(float *lowMap, VImage *lowImage)
         for (float ratio = float(Width()) / float(lowImage->Width()); ratio > 2.0f; ratio *= 0.5f)
             ++levels;
     }
-    // Guide images of the levels in between, each reduced from the next finer one and released after its last use.
+    if (levels == 1)
+        return HazeJointUpsample(lowMap, lowImage);
+
+    // Guide images of the levels in between, each reduced from the next finer one and released after its last use. The last of
+    // them is left to the pyramid.
+    const std::size_t steps = std::size_t(levels) - 1;
+    const HazePyramid pyramid(*this, lowImage->Width() << steps, lowImage->Height() << steps);
     std::vector<std::unique_ptr<VImage>> made;
-    made.resize(std::size_t(levels));
-    std::vector<VImage *> guides(std::size_t(levels) + 1, lowImage);
-    guides.back() = this;
-    for (std::size_t i = made.size() - 1; i > 0; --i) {
+    made.resize(steps);
+    std::vector<VImage *> guides(steps, lowImage);
+    for (std::size_t i = steps - 1; i > 0; --i) {
         made[i] = std::make_unique<VImage>();
         guides[i] = made[i].get();
-        guides[i + 1]->Resample(*guides[i], lowImage->Width() << i, lowImage->Height() << i);
+        if (i == steps - 1)
+            pyramid.halve(*guides[i]);
+        else
+            guides[i + 1]->Resample(*guides[i], lowImage->Width() << i, lowImage->Height() << i);
     }
     std::unique_ptr<float[]> map;
-    for (std::size_t i = 0; i < made.size(); ++i) {
+    for (std::size_t i = 0; i + 1 < steps; ++i) {
         map.reset(guides[i + 1]->HazeJointUpsample(map ? map.get() : lowMap, guides[i]));
         made[i].reset();
     }
-    return map.release();
+    std::unique_ptr<float[]> fullMap(new float[pixelCount(*this)]);
+    AdviseHugePages(fullMap.get(), pixelCount(*this) * sizeof(float));
+    pyramid.write(*guides.back(), map ? map.get() : lowMap, fullMap.get());
+    return fullMap.release();
 }
 
 float *VImage::HazeJointUpsample(float *lowMap, VImage *lowImage)
@@ -319,15 +331,17 @@ float *VImage::HazeJointUpsample(float *lowMap, VImage *lowImage)
 
     std::unique_ptr<float[]> map(new float[pixelCount(*this)]);
     AdviseHugePages(map.get(), pixelCount(*this) * sizeof(float));
-    const HazeJointRows rows(*this, *lowImage, lowMap);
+    const HazeJointRows rows({Width(), Height()}, {lowImage->Width(), lowImage->Height()});
     const int height = Height();
     const int parts = teamFor(height, kJointNanoseconds * double(pixelCount(*this)));
     std::vector<TileScratch> scratch;
     scratch.resize(std::size_t(parts));
-    float *const first = map.get();
+    const HazeJointRows::Images images{HazeJointRows::rowsOf(*this), HazeJointRows::rowsOf(*lowImage),
+                                       HazeJointRows::rowsOf<const float>(lowMap, *lowImage),
+                                       HazeJointRows::rowsOf(map.get(), *this)};
 #pragma omp parallel for schedule(static) num_threads(parts)
     for (int part = 0; part < parts; ++part)
-        rows.write(first, firstRowOf(part, parts, height), firstRowOf(part + 1, parts, height), scratch[std::size_t(part)]);
+        rows.write(images, firstRowOf(part, parts, height), firstRowOf(part + 1, parts, height), scratch[std::size_t(part)]);
     return map.release();
 }
 

@@ -277,7 +277,7 @@ TEST(HazeUpsample, UsesGuidesAtPowersOfTwo)
     const struct
     {
         int width, height, steps;
-    } rows[] = {{12, 9, 1}, {24, 16, 1}, {48, 32, 1}, {49, 33, 2}, {96, 64, 2}, {200, 133, 4}};
+    } rows[] = {{12, 9, 1}, {24, 16, 1}, {48, 32, 1}, {49, 33, 2}, {96, 64, 2}, {97, 65, 3}, {200, 133, 4}};
     for (const auto &row : rows) {
         const Picture full = makePicture(row.width, row.height, Kind::Smooth);
         const Picture low = makePicture(24, 16, Kind::Smooth);
@@ -298,8 +298,11 @@ TEST(HazeUpsample, UsesGuidesAtPowersOfTwo)
             coarse = &*guide;
         }
         expected = jointUpsample(full, *coarse, expected);
-        const std::unique_ptr<float[]> result(full.image->HazeUpsample(map.data(), low.image.get()));
-        EXPECT_EQ(firstDifference(result.get(), expected.data(), expected.size()), "") << row.width;
+        for (const int threads : {1, 3}) {
+            const Threads team(threads);
+            const std::unique_ptr<float[]> result(full.image->HazeUpsample(map.data(), low.image.get()));
+            EXPECT_EQ(firstDifference(result.get(), expected.data(), expected.size()), "") << row.width;
+        }
     }
 }
 
