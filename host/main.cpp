@@ -118,6 +118,7 @@ int runProgram(int argc, char **argv)
     const auto settle = [](HostApplication &application) {
         if (!std::setlocale(LC_CTYPE, "C.UTF-8")) // the application object has set the environment's
             std::setlocale(LC_CTYPE, "en_US.UTF-8");
+        QLocale::setDefault(application.locale()); // of numbers and sizes in the window
         QCoreApplication::setApplicationName(QStringLiteral("veilaway"));
         QCoreApplication::setApplicationVersion(QStringLiteral(NIMBRA_VERSION));
         application.loadTranslator(QStringLiteral("veilaway_%1.qm").arg(application.locale().name()));

@@ -192,8 +192,8 @@
 <context>
     <name>DisplayWatch</name>
     <message>
-        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
-        <translation>Das Fenster kann nicht gezeigt werden: %1. Starten Sie den Assistenten in einer grafischen Sitzung oder von einem anderen Rechner aus mit ssh -X. Ohne Fenster erledigt veilaway FOTO... die Arbeit.</translation>
+        <source>The window can&apos;t be shown: %1. Start it in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Das Fenster kann nicht gezeigt werden: %1. Starten Sie es in einer grafischen Sitzung oder von einem anderen Rechner aus mit ssh -X. Ohne Fenster erledigt veilaway FOTO... die Arbeit.</translation>
     </message>
 </context>
 <context>

@@ -192,8 +192,8 @@
 <context>
     <name>DisplayWatch</name>
     <message>
-        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
-        <translation>No se puede mostrar la ventana: %1. Inicie el asistente en una sesión gráfica, o desde otro equipo con ssh -X. Sin ventana, veilaway FOTO... hace el trabajo.</translation>
+        <source>The window can&apos;t be shown: %1. Start it in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>No se puede mostrar la ventana: %1. Iníciela en una sesión gráfica, o desde otro equipo con ssh -X. Sin ventana, veilaway FOTO... hace el trabajo.</translation>
     </message>
 </context>
 <context>

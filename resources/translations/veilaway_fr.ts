@@ -192,8 +192,8 @@
 <context>
     <name>DisplayWatch</name>
     <message>
-        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
-        <translation>La fenêtre ne peut pas être affichée : %1. Lancez l&apos;assistant dans une session graphique, ou depuis une autre machine avec ssh -X. Sans fenêtre, veilaway PHOTO... fait le travail.</translation>
+        <source>The window can&apos;t be shown: %1. Start it in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>La fenêtre ne peut pas être affichée : %1. Lancez-la dans une session graphique, ou depuis une autre machine avec ssh -X. Sans fenêtre, veilaway PHOTO... fait le travail.</translation>
     </message>
 </context>
 <context>

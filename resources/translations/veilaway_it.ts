@@ -192,8 +192,8 @@
 <context>
     <name>DisplayWatch</name>
     <message>
-        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
-        <translation>Impossibile mostrare la finestra: %1. Avviare la procedura guidata in una sessione grafica, o da un altro computer con ssh -X. Senza finestra, veilaway FOTO... fa il lavoro.</translation>
+        <source>The window can&apos;t be shown: %1. Start it in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Impossibile mostrare la finestra: %1. Avviarla in una sessione grafica, o da un altro computer con ssh -X. Senza finestra, veilaway FOTO... fa il lavoro.</translation>
     </message>
 </context>
 <context>

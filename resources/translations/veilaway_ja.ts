@@ -192,8 +192,8 @@
 <context>
     <name>DisplayWatch</name>
     <message>
-        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
-        <translation>ウィンドウを表示できません: %1。デスクトップ環境でウィザードを起動するか、別のマシンから ssh -X で接続してください。ウィンドウなしで処理するには veilaway 写真... を使います。</translation>
+        <source>The window can&apos;t be shown: %1. Start it in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>ウィンドウを表示できません: %1。デスクトップ環境で起動するか、別のマシンから ssh -X で接続してください。ウィンドウなしで処理するには veilaway 写真... を使います。</translation>
     </message>
 </context>
 <context>

@@ -192,8 +192,8 @@
 <context>
     <name>DisplayWatch</name>
     <message>
-        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
-        <translation>Nie można wyświetlić okna: %1. Kreatora należy uruchomić w sesji graficznej albo z innego komputera przez ssh -X. Bez okna pracę wykona veilaway ZDJĘCIE...</translation>
+        <source>The window can&apos;t be shown: %1. Start it in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Nie można wyświetlić okna: %1. Należy je uruchomić w sesji graficznej albo z innego komputera przez ssh -X. Bez okna pracę wykona veilaway ZDJĘCIE...</translation>
     </message>
 </context>
 <context>

@@ -192,8 +192,8 @@
 <context>
     <name>DisplayWatch</name>
     <message>
-        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
-        <translation>Не удаётся показать окно: %1. Запустите мастер в графическом сеансе или с другого компьютера через ssh -X. Без окна работу выполнит veilaway ФОТО...</translation>
+        <source>The window can&apos;t be shown: %1. Start it in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>Не удаётся показать окно: %1. Запустите его в графическом сеансе или с другого компьютера через ssh -X. Без окна работу выполнит veilaway ФОТО...</translation>
     </message>
 </context>
 <context>

@@ -192,8 +192,8 @@
 <context>
     <name>DisplayWatch</name>
     <message>
-        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
-        <translation>无法显示窗口：%1。请在桌面会话中启动向导，或从另一台计算机用 ssh -X 启动。不需要窗口时，可用 veilaway 照片... 完成处理。</translation>
+        <source>The window can&apos;t be shown: %1. Start it in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>无法显示窗口：%1。请在桌面会话中启动，或从另一台计算机用 ssh -X 启动。不需要窗口时，可用 veilaway 照片... 完成处理。</translation>
     </message>
 </context>
 <context>

@@ -192,8 +192,8 @@
 <context>
     <name>DisplayWatch</name>
     <message>
-        <source>The window can&apos;t be shown: %1. Start the wizard in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
-        <translation>無法顯示視窗：%1。請在桌面工作階段中啟動精靈，或從另一台電腦以 ssh -X 啟動。不需要視窗時，可用 veilaway 照片... 完成處理。</translation>
+        <source>The window can&apos;t be shown: %1. Start it in a desktop session, or from another machine with ssh -X. Without a window, veilaway PHOTO... does the work.</source>
+        <translation>無法顯示視窗：%1。請在桌面工作階段中啟動，或從另一台電腦以 ssh -X 啟動。不需要視窗時，可用 veilaway 照片... 完成處理。</translation>
     </message>
 </context>
 <context>

@@ -633,6 +633,7 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QLocale locale = HostApplication::localeFor(QString::fromLatin1(argc > 1 ? argv[1] : "en")).value();
     HostedApplication<QApplication> application(argc, argv, locale, /*lendServices=*/true);
+    QLocale::setDefault(locale);
     application.loadTranslator(QStringLiteral("veilaway_%1.qm").arg(locale.name()));
     host = &application;
     use(Look::Light);
