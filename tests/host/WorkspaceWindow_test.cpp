@@ -585,8 +585,9 @@ TEST_F(Workspace, EveryLanguageFitsAndEveryControlCanBeReached)
             keepPictureOf(&shown, "all_" + language);
         EXPECT_LE(shown.minimumSizeHint().width(), kSmallScreen.width());
         EXPECT_LE(shown.minimumSizeHint().height(), kSmallScreen.height());
-        if (const auto *more = shown.findChild<QWidget *>("qt_toolbar_ext_button"))
+        if (const auto *more = shown.findChild<QWidget *>("qt_toolbar_ext_button")) {
             EXPECT_FALSE(more->isVisible());
+        }
 
         SaveOptionsDialog dialog({}, folder.path("a.jpg"), &shown);
         for (QWidget *scope : QList<QWidget *>{&shown, &dialog}) {
@@ -599,8 +600,9 @@ TEST_F(Workspace, EveryLanguageFitsAndEveryControlCanBeReached)
                     text = button->text();
                 else if (const auto *label = qobject_cast<QLabel *>(widget); label && label->buddy())
                     text = label->text();
-                if (const QKeySequence mnemonic = QKeySequence::mnemonic(text); !mnemonic.isEmpty())
+                if (const QKeySequence mnemonic = QKeySequence::mnemonic(text); !mnemonic.isEmpty()) {
                     EXPECT_TRUE(mnemonics.insert(mnemonic.toString()).second) << text;
+                }
                 const auto *button = qobject_cast<QAbstractButton *>(widget);
                 if (widget->objectName().startsWith("qt_")) {
                     continue; // a part of another control
