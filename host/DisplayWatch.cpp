@@ -20,9 +20,8 @@ QString reason; ///< The first complaint of a platform plug-in, or of the search
     QTranslator texts;
     texts.load(QStringLiteral("veilaway_%1.qm").arg(language), QStringLiteral(":/Translation"));
     constexpr char kText[] = QT_TRANSLATE_NOOP(
-        "DisplayWatch",
-        "The window can't be shown: %1. Start it in a desktop session, or from another machine with ssh -X. "
-        "Without a window, veilaway PHOTO... does the work.");
+        "DisplayWatch", "The window can't be shown: %1. Start it in a desktop session, or from another machine with ssh -X. "
+                        "Without a window, veilaway PHOTO... does the work.");
     const QString text = texts.translate("DisplayWatch", kText);
     ProgressView::complain((text.isEmpty() ? QString(kText) : text).arg(reason.trimmed()));
     std::_Exit(ExitSomeFailed); // a half-made application object can't be destroyed
