@@ -174,7 +174,7 @@ CommandLine CommandLine::parse(const QStringList &given)
         line.command = Command::SetDefault;
         return line;
     }
-    if (line.needsDisplay()) {
+    if (command && line.needsDisplay()) {
         for (const CommandOption &option : OptionTable::options())
             if (parser.isSet(option.longName()) && !(option.commands & command->bit))
                 return fail(tr("--%1 can't be used with %2, which asks for it on the screen.").arg(option.longName(), word));
