@@ -69,7 +69,7 @@ void PictureView::setRenderers(PictureRenderer *before, PictureRenderer *after)
     for (const auto &[side, renderer] : {std::pair{Before, before}, std::pair{After, after}}) {
         connect(
             renderer, &PictureRenderer::ready, this,
-            [this, side = side](const QImage &picture, const PictureRequest &request) { showPicture(side, picture, request); });
+            [this, shown = side](const QImage &picture, const PictureRequest &request) { showPicture(shown, picture, request); });
         connect(renderer, &PictureRenderer::failed, this,
                 [this](const PictureRequest &, const QString &reason) { Q_EMIT pictureFailed(reason); });
     }
