@@ -96,7 +96,7 @@ QJsonArray fromRecords(const std::vector<Series::Record> &records)
 std::vector<Series::Record> toRecords(const QJsonValue &photos)
 {
     std::vector<Series::Record> records;
-    for (const QJsonValue &photo : photos.toArray())
+    for (const auto &photo : photos.toArray())
         records.push_back(toRecord(photo.toObject()));
     return records;
 }
