@@ -80,7 +80,7 @@ struct Source
 /// The next box and what it holds; throws EndOfBytes after the last one.
 struct Box
 {
-    explicit Box(ByteReader &reader) : Box(reader, reader.u32(), reader.bytes(4)) {}
+    explicit Box(ByteReader &reader) : Box{reader, reader.u32(), reader.bytes(4)} {} // braces: read from left to right
 
     bool is(const char *wanted) const { return std::memcmp(type.data(), wanted, 4) == 0; }
 
