@@ -159,7 +159,7 @@ TEST_F(Outputs, EveryWayOverAFolderTree)
     for (const auto &row : rows) {
         SCOPED_TRACE(row.run);
         folder.shell("cp -a tree row");
-        // By a link, since the program's own path may have blanks.
+        // By a name without blanks, whatever the build's folder is called.
         const QString start = "ln -sfn \"$V\" program; PROGRAM=$PWD/program; V=\"$PROGRAM -s 0\"; cd row; ";
         folder.shell(start + row.prepare);
         const Tree before = tree("row");

@@ -78,27 +78,24 @@ struct Source
 };
 
 /// The next box and what it holds; throws EndOfBytes after the last one.
-class Box
+struct Box
 {
-public:
-    explicit Box(ByteReader &reader)
-        : size(reader.u32()), type(reader.bytes(4)), // in this order: members are initialised as they are declared
-          content(reader.stretch(size == 0   ? reader.remaining()
-                                 : size == 1 ? rest(reader.u64(), 16)
-                                             : rest(size, 8)))
-    {
-    }
+    explicit Box(ByteReader &reader) : Box{reader, reader.u32(), reader.bytes(4)} {} // braces: read from left to right
 
     bool is(const char *wanted) const { return std::memcmp(type.data(), wanted, 4) == 0; }
 
-private:
-    static std::uint64_t rest(std::uint64_t size, std::uint64_t head) { return size >= head ? size - head : throw EndOfBytes{}; }
-
-    std::uint32_t size;
     Bytes type;
-
-public:
     ByteReader content;
+
+private:
+    Box(ByteReader &reader, std::uint32_t size, Bytes name)
+        : type(std::move(name)), content(reader.stretch(size == 0   ? reader.remaining()
+                                                        : size == 1 ? longSize(reader.u64())
+                                                                    : rest(size, 8)))
+    {
+    }
+    static std::uint64_t rest(std::uint64_t size, std::uint64_t head) { return size >= head ? size - head : throw EndOfBytes{}; }
+    static std::uint64_t longSize(std::uint64_t size) { return rest(size, 16); }
 };
 
 /// Whether every coded picture in the file is without colour: the library tells it only of what it has decoded.
