@@ -104,7 +104,7 @@ private:
     {
         for (const QString &path : qAsConst(wanted)) {
             const Entry &entry = entries[path];
-            const bool inView = path == wanted.first();
+            const bool inView = path == wanted.constFirst(); // first() would detach the list that is being walked through
             if (!isDone(entry) && (step == Step::Read) == !entry.photo)
                 return Task{path, entry.photo, generations[path], inView};
             if (inView && !isDone(entry))
