@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "FileThreadLimit.h"
 #include "VImageSettings.h"
 #include "VTempManager.h"
 #include "gfl.h"
@@ -118,6 +119,7 @@ void VImage::Save(QString fileName, QString format, int quality, QString metadat
     }
     saveParams.formatIndex = gflGetFormatIndexByName(format.toLocal8Bit().constData());
 
+    gflSetTeamSize(fileThreadCount());
     const auto result = std::int16_t(gflSaveBitmapUTF8(fileName.toUtf8().constData(), bitmap, &saveParams));
     if (result != 0) {
         // A full disk or a locked file makes a clearer message than the code. The byte count is a signed 32-bit product that

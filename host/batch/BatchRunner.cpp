@@ -17,11 +17,13 @@
 #include <QThread>
 
 #include "BatchPlan.h"
+#include "FileThreadLimit.h"
 #include "PrivateRun.h"
 #include "VException.h"
 #include "WantedStrength.h"
 #include "carryXmp.h"
 #include "kernel32.h"
+#include "threadCount.h"
 #include "whyUnchanged.h"
 
 namespace {
@@ -73,10 +75,13 @@ void BatchRunner::run(const std::vector<BatchItem> &items, int jobs)
     if (jobs <= 0)
         jobs = std::min(QThread::idealThreadCount(), kMostJobs);
     std::vector<std::thread> team;
+    const int size = int(std::min(std::max(items.size(), std::size_t(1)), std::size_t(std::max(jobs, 1))));
+    workers = size;
     try {
-        for (std::size_t i = 1; i < std::min(items.size(), std::size_t(std::max(jobs, 1))); ++i)
+        while (int(team.size()) + 1 < size)
             team.emplace_back([&] { work(items); });
     } catch (const std::exception &) { // no more threads available: those started so far do the work
+        workers -= size - int(team.size()) - 1;
     }
     work(items);
     for (std::thread &member : team)
@@ -88,6 +93,7 @@ void BatchRunner::run(const std::vector<BatchItem> &items, int jobs)
 void BatchRunner::work(const std::vector<BatchItem> &items)
 {
     for (std::size_t index; (index = next++) < items.size();) {
+        const FileThreadLimit limit(threadCount / workers); // several photographs at a time share the cores
         QElapsedTimer timer;
         timer.start();
         BatchOutcome outcome = process(items[index], int(index));
@@ -97,6 +103,7 @@ void BatchRunner::work(const std::vector<BatchItem> &items)
         const std::lock_guard lock(reportMutex);
         watcher.finished(int(index), outcome);
     }
+    --workers;
 }
 
 namespace {

@@ -81,6 +81,7 @@ private:
     Observer &watcher;
     std::atomic<bool> stopping{false};
     std::atomic<std::size_t> next{0};
+    std::atomic<int> workers{0}; ///< Threads that still have photographs to work on.
     std::mutex reportMutex;
     std::mutex memoryMutex; ///< Guards the next four.
     std::condition_variable memoryFreed;

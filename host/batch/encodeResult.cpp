@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 
+#include "FileThreadLimit.h"
 #include "VException.h"
 #include "VTempManager.h"
 #include "gfl.h"
@@ -39,6 +40,7 @@ void encodeJpeg(VImage &image, const QString &fileName, int quality, const QStri
     saveParams.flags |= GFL_SAVE_ICC_PROFILE;
     saveParams.formatIndex = gflGetFormatIndexByName("jpeg");
     saveParams.quality = std::int16_t(quality);
+    gflSetTeamSize(fileThreadCount());
     const int code = gflSaveBitmapUTF8(fileName.toUtf8().constData(), bitmap, &saveParams);
     if (code != GFL_NO_ERROR) // a full disk makes a clearer message than the code
         checkFileWritable(fileName, qint64(image.BytesPerLine()) * image.Height(), V_LOCATION);

@@ -3,7 +3,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "FileThreadLimit.h"
 #include "VException.h"
+#include "gfl.h"
 #include "kernel32.h"
 #include "photoKind.h"
 
@@ -144,6 +146,7 @@ std::unique_ptr<DecodedPhoto> PhotoLoader::decode(const QString &path)
 {
     auto photo = std::make_unique<DecodedPhoto>();
     PhotoPixels &read = photo->read;
+    gflSetTeamSize(fileThreadCount());
     check(readPixels(fileName(path), read, GetAvailableMemory()));
     const unsigned short type = read.components == 1 ? VImage::Grey : read.components == 3 ? VImage::Rgb : VImage::Rgba;
     photo->pixels.Create(read.width, read.height, type, read.bits, /*clear=*/false, read.data, read.strideBytes);

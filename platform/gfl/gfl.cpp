@@ -16,6 +16,7 @@ namespace gfl {
 namespace {
 
 std::atomic<bool> lzwEnabled{true};
+thread_local int teamSize = 1;
 
 struct Format
 {
@@ -73,7 +74,7 @@ void load(const InputFile &file, GflBitmap *&bitmap, const GflLoadParams *params
     const int index = formatOf(file);
     const std::uint32_t flags = params ? params->flags : 0;
     const bool only = (flags & GFL_LOAD_METADATA_ONLY) != 0;
-    const ReadRequest request{file, only || (flags & GFL_LOAD_METADATA) != 0, !only};
+    const ReadRequest request{file, only || (flags & GFL_LOAD_METADATA) != 0, !only, teamSize};
     BitmapPointer read = index == kRawFormat ? readRaw(request) : kFormats[index].read(request);
     if (Metadata *metadata = metadataOf(read.get()))
         if (!profileFits(metadata->icc, read->componentsPerPixel))
@@ -111,6 +112,11 @@ void gflLibraryExit() {}
 void gflEnableLZW(int enable)
 {
     gfl::lzwEnabled = enable != 0;
+}
+
+void gflSetTeamSize(int threads)
+{
+    gfl::teamSize = std::max(1, threads);
 }
 
 int gflGetFormatIndexByName(const char *name)
@@ -174,7 +180,7 @@ int gflSaveBitmapUTF8(const char *fileName, const GflBitmap *bitmap, const GflSa
         gfl::OutputFile file(fileName);
         gfl::kFormats[params->formatIndex].write({file, *bitmap, params->quality, params->compression, gfl::lzwEnabled,
                                                   profile ? metadata.icc : kNone.icc, metadata.iptc.block, metadata.exif.block,
-                                                  metadata.packing});
+                                                  metadata.packing, gfl::teamSize});
         file.commit();
     });
 }

@@ -93,6 +93,10 @@ void gflLibraryExit();
 /// always be read.
 void gflEnableLZW(int enable);
 
+/// Sets how many threads (at least 1) an operation may use that the calling thread starts after this call, that thread included;
+/// 1 on a thread that never called it. Files and pixels do not depend on it.
+void gflSetTeamSize(int threads);
+
 /// Index of a format by its lower-case name: "jpeg", "png", "tiff", "hdri", "exr", "psd"; -1 for any other.
 int gflGetFormatIndexByName(const char *name);
 

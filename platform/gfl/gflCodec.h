@@ -15,6 +15,7 @@ struct ReadRequest
     const InputFile &file;
     bool metadata; ///< Colour profile, IPTC and EXIF are wanted.
     bool pixels;   ///< If false, the bitmap needs no pixel block.
+    int threads;   ///< May be used, the calling thread included; at least 1.
 };
 
 BitmapPointer readJpeg(const ReadRequest &request);
@@ -38,6 +39,7 @@ struct WriteRequest
     const Bytes &iptc;
     const Bytes &exif;
     const Packing &packing; ///< What the defaults of quality and compression are taken from.
+    int threads;            ///< May be used, the calling thread included; at least 1.
 };
 
 void writeJpeg(const WriteRequest &request);
