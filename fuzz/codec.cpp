@@ -102,6 +102,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t cou
         if (choice % 8 == 1)
             require(digestOf(*load(source, GFL_LOAD_METADATA).second) == samples, "every sample comes from the file");
     }
+    // Smaller pictures are read by one thread anyway.
+    if (described && std::int64_t(described->width) * described->height >= 65536) {
+        gflSetTeamSize(2 + int(choice % 2));
+        const Picture shared = load(source, GFL_LOAD_METADATA).second;
+        gflSetTeamSize(1);
+        require(bool(shared) == bool(picture) && (!shared || digestOf(*shared) == digestOf(*picture)),
+                "the number of threads does not matter");
+    }
     const std::string turned = folder.path("turned");
     if (kSuffix == "jpg" && choice % 8 == 2 && gflTransposeJpegUTF8(source.c_str(), turned.c_str()) == GFL_NO_ERROR && picture) {
         const Picture again = load(turned, GFL_LOAD_METADATA).second;

@@ -193,10 +193,11 @@ void writeTiffs(const std::string &folder)
     }
 }
 
-/// JPEG files in other colour spaces, progressive, arithmetic, with restarts.
+/// JPEG files in other colour spaces, progressive, arithmetic, with restarts; the last six are large enough for several threads.
 void writeJpegs(const std::string &folder)
 {
-    for (int form = 0; form < 12; ++form) {
+    for (int form = 0; form < 18; ++form) {
+        const bool large = form >= 12;
         const int components = form % 3 == 0 ? 1 : form % 3 == 1 ? 3 : 4;
         jpeg_compress_struct jpeg;
         jpeg_error_mgr errors;
@@ -204,22 +205,23 @@ void writeJpegs(const std::string &folder)
         jpeg_create_compress(&jpeg);
         FILE *const file = std::fopen((folder + "/foreign" + std::to_string(form) + ".jpg").c_str(), "wb");
         jpeg_stdio_dest(&jpeg, file);
-        jpeg.image_width = 21;
-        jpeg.image_height = 17;
+        jpeg.image_width = large ? 256 : 21;
+        jpeg.image_height = large ? 256 : 17;
         jpeg.input_components = components;
         jpeg.in_color_space = components == 1 ? JCS_GRAYSCALE : components == 3 ? JCS_RGB : JCS_CMYK;
         jpeg_set_defaults(&jpeg);
         if (components == 4 && form % 2)
             jpeg_set_colorspace(&jpeg, JCS_YCCK);
-        if (form / 3 % 2)
+        if (form / 3 % 2 && !large)
             jpeg_simple_progression(&jpeg);
-        jpeg.arith_code = form >= 9;
-        jpeg.restart_interval = form >= 6 ? 2 : 0;
+        jpeg.arith_code = form >= 9 && !large;
+        jpeg.restart_interval = form >= 6 && !large ? 2 : 0;
+        jpeg.restart_in_rows = form >= 12 && form < 15 ? 1 : 0;
         jpeg_start_compress(&jpeg, TRUE);
-        Bytes row(21 * 4);
+        Bytes row(jpeg.image_width * 4);
         while (jpeg.next_scanline < jpeg.image_height) {
             for (std::size_t i = 0; i < row.size(); ++i)
-                row[i] = std::uint8_t(i * 3 + jpeg.next_scanline * 5);
+                row[i] = std::uint8_t(large ? jpeg.next_scanline / 8 : i * 3 + jpeg.next_scanline * 5);
             JSAMPROW rows[] = {row.data()};
             jpeg_write_scanlines(&jpeg, rows, 1);
         }
