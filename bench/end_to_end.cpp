@@ -222,8 +222,9 @@ struct BitmapRelease
 };
 using Bitmap = std::unique_ptr<GflBitmap, BitmapRelease>;
 
-Bitmap decode(const QString &file)
+Bitmap decode(const QString &file, int threads)
 {
+    gflSetTeamSize(threads);
     GflLoadParams params;
     gflGetDefaultLoadParams(&params);
     GflBitmap *bitmap = nullptr;
@@ -274,7 +275,7 @@ void runStages(const QString &file, const QString &result, const QString &format
 {
     stages.begin();
     Bitmap source;
-    stages.run("read the file", 0.0, [&] { source = decode(file); });
+    stages.run("read the file", 0.0, [&] { source = decode(file, threadCount); });
     const int sourceBits = source->bitsPerComponent;
     const double sourceBytes = source->bytesPerPixel;
     const VImage view(source->width, source->height, source->type, sourceBits, /*clear=*/false, source->data,
@@ -327,7 +328,7 @@ void measureFormat(Launcher &launcher, const QString &program, const QString &fi
     Stages stages;
     for (int round = 0; round < rounds; ++round) {
         codec.push_back(costOf([&] {
-            const Bitmap bitmap = decode(file);
+            const Bitmap bitmap = decode(file, 1);
             pixels = double(bitmap->width) * bitmap->height;
             GflSaveParams params;
             gflGetDefaultSaveParams(&params);
@@ -344,7 +345,7 @@ void measureFormat(Launcher &launcher, const QString &program, const QString &fi
     std::printf("\n%s: %.1f megapixels, %.1f MB, medians of %d\n  %-26s %9s %9s\n", qPrintable(format), pixels * 1e-6,
                 double(QFile(file).size()) * 1e-6, rounds, "", "wall ms", "CPU ms");
     printCost("whole program", run, pixels);
-    printCost("codec layer alone", floor, pixels);
+    printCost("codec layer, 1 thread", floor, pixels);
     std::printf("  program / codec: wall %.2f, CPU %.2f; %.1f ns wall a pixel\n", run.wall / floor.wall, run.cpu / floor.cpu,
                 run.wall / pixels * 1e9);
     stages.print(pixels, bandwidth);

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstring>
+#include <new>
 #include <numeric>
 
 #include "JpegEncoder.h"

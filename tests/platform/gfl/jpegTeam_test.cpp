@@ -6,6 +6,8 @@
 #include <jpeglib.h>
 
 #include "GflFixture.h"
+#include "JpegPart.h"
+#include "RegularFile.h"
 
 // JPEG files written and read by several threads, against the library's own writer and reader on one thread.
 namespace {
@@ -24,7 +26,7 @@ struct Coding
     bool scans = false; ///< One scan for each component.
 };
 
-/// A picture whose rows all differ: a gradient with noise that grows from left to right.
+/// A picture whose rows all differ: a gradient with grain that grows from left to right, about as much as in a photograph.
 Picture makeNoisy(int width, int height, int components)
 {
     Picture picture = makePicture(width, height, components, 8);
@@ -35,7 +37,7 @@ Picture makeNoisy(int width, int height, int components)
             for (int c = 0; c < components; ++c) {
                 state = state * 1664525u + 1013904223u;
                 std::uint8_t &sample = *sampleAt(*picture, x, y, c);
-                sample = std::uint8_t(std::clamp(sample + int(state >> 24) * x / (4 * width) - 16, 0, 255));
+                sample = std::uint8_t(std::clamp(sample + int(state >> 24) * x / (12 * width) - 5, 0, 255));
             }
     return picture;
 }
@@ -234,6 +236,52 @@ TEST_F(JpegTeamTest, PixelsDoNotDependOnTheTeamAndAreThoseOfTheLibrarysReader)
                 EXPECT_TRUE(samples == decode(file).samples);
             }
         }
+}
+
+// If parts were not read without a complaint, the layer would read the file once more on one thread, and nobody would notice.
+TEST_F(JpegTeamTest, PartsAreFilesThatTheLibraryReadsWithoutAComplaint)
+{
+    const struct
+    {
+        Coding coding;
+        int step; ///< Rows of units from one place where a part may begin to the next.
+    } cases[] = {{{"a row", 3, 1, 1, 0, 1}, 1},
+                 {{"three rows", 3, 1, 1, 0, 3}, 3},
+                 {{"four units", 3, 1, 1, 4}, 2},
+                 {{"eleven units", 3, 1, 1, 11}, 1},
+                 {{"grey", 1, 2, 2, 12}, 2}};
+    for (const auto &[coding, step] : cases) {
+        SCOPED_TRACE(coding.name);
+        const int width = 528, height = 473, unitRows = 60;
+        const FileBytes bytes = encode(*makeNoisy(width, height, coding.components), coding);
+        writeFile(path("parts.jpg"), bytes);
+        const FileBytes whole = decode(bytes).samples;
+        jpeg_decompress_struct info;
+        jpeg_error_mgr errors;
+        info.err = jpeg_std_error(&errors);
+        jpeg_create_decompress(&info);
+        jpeg_mem_src(&info, bytes.data(), bytes.size());
+        jpeg_read_header(&info, TRUE);
+        const RegularFile file(path("parts.jpg"));
+        const auto intervals = gfl::JpegIntervals::find(file, info);
+        jpeg_destroy_decompress(&info);
+        ASSERT_TRUE(intervals);
+        EXPECT_EQ(intervals->unitRows(), unitRows);
+        EXPECT_EQ(intervals->step(), step);
+        for (int first = 0; first < unitRows; first += 7 * step) {
+            const int last = std::min(first + 7 * step, unitRows);
+            gfl::JpegPart part(*intervals, first, last);
+            FileBytes stream;
+            for (auto block = part.block(); block.second > 0; block = part.block())
+                stream.insert(stream.end(), block.first, block.first + block.second);
+            const Decoded rows = decode(stream);
+            const std::size_t rowBytes = std::size_t(width * coding.components);
+            EXPECT_EQ(rows.warnings, 0) << first;
+            ASSERT_EQ(rows.samples.size(), rowBytes * std::size_t(std::min(last * 8, height) - first * 8)) << first;
+            EXPECT_EQ(std::memcmp(rows.samples.data(), &whole[rowBytes * std::size_t(first) * 8], rows.samples.size()), 0)
+                << first;
+        }
+    }
 }
 
 TEST_F(JpegTeamTest, DamagedFilesAreTheSameToEveryTeam)
