@@ -116,7 +116,8 @@ void gflEnableLZW(int enable)
 
 void gflSetTeamSize(int threads)
 {
-    gfl::teamSize = std::max(1, threads);
+    constexpr int kMost = 1024; // more than any machine has, and few enough to multiply
+    gfl::teamSize = std::clamp(threads, 1, kMost);
 }
 
 int gflGetFormatIndexByName(const char *name)
