@@ -12,10 +12,11 @@ constexpr std::size_t kRegionBytes = std::size_t(64) << 20;
 constexpr std::size_t kPieceBytes = std::size_t(256) << 10;
 constexpr std::size_t kLargeBlock = 1024;
 
+/// From 1.
 unsigned numberOfThisThread()
 {
     static std::atomic<unsigned> threads{0};
-    static thread_local const unsigned number = threads.fetch_add(1, std::memory_order_relaxed);
+    static thread_local const unsigned number = threads.fetch_add(1, std::memory_order_relaxed) + 1;
     return number;
 }
 
@@ -40,20 +41,25 @@ void *SparseArena::take(Piece &piece, std::size_t bytes, std::size_t alignment)
 
 void *SparseArena::allocate(std::size_t bytes, std::size_t alignment)
 {
-    Slot &slot = slots[numberOfThisThread() % slots.size()];
-    while (slot.taken.test_and_set(std::memory_order_acquire)) {
-    }
-    struct Opener
-    {
-        std::atomic_flag &flag;
-        ~Opener() { flag.clear(std::memory_order_release); }
-    } opener{slot.taken};
+    const unsigned number = numberOfThisThread();
+    Pieces &own = owned[number % owned.size()];
+    unsigned owner = own.owner.load(std::memory_order_relaxed);
+    if (owner == 0 && own.owner.compare_exchange_strong(owner, number, std::memory_order_relaxed))
+        owner = number;
+    if (owner == number)
+        return takeFrom(own, bytes, alignment);
+    const std::lock_guard<std::mutex> guard(sharedLock);
+    return takeFrom(shared, bytes, alignment);
+}
 
-    Piece &piece = bytes < kLargeBlock ? slot.small : slot.large;
+void *SparseArena::takeFrom(Pieces &pieces, std::size_t bytes, std::size_t alignment)
+{
+    const bool small = bytes < kLargeBlock;
+    Piece &piece = small ? pieces.small : pieces.large;
     void *block = take(piece, bytes, alignment);
     if (block == nullptr) {
         // After a block larger than a piece the thread keeps whichever piece has more room left.
-        Piece fresh = cut(bytes);
+        Piece fresh = cut(bytes, small ? smallRest : largeRest);
         block = take(fresh, bytes, alignment);
         if (fresh.end - fresh.next > piece.end - piece.next)
             piece = fresh;
@@ -61,7 +67,7 @@ void *SparseArena::allocate(std::size_t bytes, std::size_t alignment)
     return block;
 }
 
-SparseArena::Piece SparseArena::cut(std::size_t bytes)
+SparseArena::Piece SparseArena::cut(std::size_t bytes, Piece &rest)
 {
     // Pieces start on page boundaries, so that any permitted alignment is met without a gap.
     constexpr std::size_t kPage = 4096;

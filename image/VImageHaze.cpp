@@ -196,15 +196,15 @@ void addMattingLaplacian(const VImage &image, VSparseFactory &factory)
                 const float *cells = block.next();
                 for (int x = 0; x < width; ++x, cells += HazeMattingRows::kCells) {
                     const int p = row * width + x;
+                    VSparseFactory::Cell rowCells[HazeMattingRows::kCells];
+                    VSparseFactory::Cell *last = rowCells;
                     for (int index = 0; index < HazeMattingRows::kCells; ++index) {
                         const HazeMattingRows::Offset offset = HazeMattingRows::offsetOf(index);
                         const int column = x + offset.column;
-                        if (row + offset.row >= height || column < 0 || column >= width)
-                            continue;
-                        VSparseFactory::CellAccessor cell;
-                        (factory.*factory.cellAccess)(p, p + offset.row * width + offset.column, cell);
-                        cell->second = cells[index];
+                        if (row + offset.row < height && column >= 0 && column < width)
+                            *last++ = {p + offset.row * width + offset.column, cells[index]};
                     }
+                    factory.SetRow(p, rowCells, last);
                 }
             }
         } catch (...) { // only the memory for a cell can fail here
