@@ -5,6 +5,13 @@
 
 #include "InstructionSet.h"
 
+// Before a loop over the columns of a tile: unrolled altogether, so that they stay in registers.
+#ifdef __clang__
+#    define NIMBRA_UNROLL _Pragma("clang loop unroll(full)")
+#else
+#    define NIMBRA_UNROLL _Pragma("GCC unroll 16")
+#endif
+
 namespace {
 
 // Generic vectors, which each version of a kernel maps to its instruction set.
@@ -19,23 +26,29 @@ NIMBRA_INLINE const Lanes &lanes(const float *at)
     return *reinterpret_cast<const Lanes *>(at);
 }
 
-/// target (16 x 16) -= left (16 x depth) * right' (depth x 16), `Width` columns at a time: as many as fit into registers.
-template<int Width>
-NIMBRA_INLINE void subtractProduct(float *target, const float *left, const float *right, int depth)
+/// For each of `Strips` strips of rows, one `leftStep` floats after the other and their targets `targetStep` floats: target (16 x
+/// 16) -= left (16 x depth) * right' (depth x 16), `Width` columns at a time. As many as fit into registers.
+template<int Width, int Strips>
+NIMBRA_INLINE void subtractProducts(float *target, std::ptrdiff_t targetStep, const float *left, std::ptrdiff_t leftStep,
+                                    const float *right, int depth)
 {
     for (int first = 0; first < kStrip; first += Width) {
-        Lanes sum[Width];
-        for (int c = 0; c < Width; ++c)
-            sum[c] = lanes(target + (first + c) * kStrip);
+        Lanes sum[Strips][Width];
+        for (int s = 0; s < Strips; ++s)
+            for (int c = 0; c < Width; ++c)
+                sum[s][c] = lanes(target + s * targetStep + (first + c) * kStrip);
         const float *l = left;
         const float *r = right + first;
         for (int k = 0; k < depth; ++k, l += kStrip, r += kStrip) {
-            const Lanes column = lanes(l);
-            for (int c = 0; c < Width; ++c)
-                sum[c] -= column * r[c];
+            for (int s = 0; s < Strips; ++s) {
+                const Lanes column = lanes(l + s * leftStep);
+                for (int c = 0; c < Width; ++c)
+                    sum[s][c] -= column * r[c];
+            }
         }
-        for (int c = 0; c < Width; ++c)
-            lanes(target + (first + c) * kStrip) = sum[c];
+        for (int s = 0; s < Strips; ++s)
+            for (int c = 0; c < Width; ++c)
+                lanes(target + s * targetStep + (first + c) * kStrip) = sum[s][c];
     }
 }
 
@@ -57,48 +70,87 @@ NIMBRA_INLINE bool factorTile(float *tile, const float *floors)
     return true;
 }
 
-/// target := target * L'^-1, where L is the tile as left by factorTile.
+/// target := target * L'^-1, where L is the tile as left by factorTile, for as many rows at a time as one register holds.
+template<int Rows>
 NIMBRA_INLINE void divideTile(float *target, const float *tile)
 {
-    for (int j = 0; j < kStrip; ++j) {
-        Lanes sum = lanes(target + j * kStrip);
-        for (int i = 0; i < j; ++i)
-            sum -= lanes(target + i * kStrip) * tile[i * kStrip + j];
-        lanes(target + j * kStrip) = sum * tile[j * kStrip + j];
+    typedef float Part __attribute__((vector_size(Rows * sizeof(float))));
+    for (int first = 0; first < kStrip; first += Rows) {
+        Part column[kStrip];
+        for (int j = 0; j < kStrip; ++j)
+            column[j] = *reinterpret_cast<const Part *>(target + j * kStrip + first);
+        NIMBRA_UNROLL
+        for (int j = 0; j < kStrip; ++j) {
+            column[j] *= tile[j * kStrip + j];
+            NIMBRA_UNROLL
+            for (int c = j + 1; c < kStrip; ++c)
+                column[c] -= column[j] * tile[j * kStrip + c];
+        }
+        for (int j = 0; j < kStrip; ++j)
+            *reinterpret_cast<Part *>(target + j * kStrip + first) = column[j];
     }
 }
 
-template<int Width>
+/// Register set: `Rows` floats in a register; the products' blocks have `Strips` strips and `Width` columns.
+template<int RowCount, int StripCount, int ColumnCount>
+struct Registers
+{
+    static constexpr int Rows = RowCount;
+    static constexpr int Strips = StripCount;
+    static constexpr int Width = ColumnCount;
+};
+
+template<typename Set>
 NIMBRA_INLINE bool factorBody(float *panel, int pivotStrips, int strips, const float *floors)
 {
     const std::ptrdiff_t stripSize = std::ptrdiff_t(pivotStrips) * kStrip * kStrip;
     for (int block = 0; block < pivotStrips; ++block) {
-        const float *const blockRows = panel + block * stripSize;
-        const float *const tile = blockRows + block * kStrip * kStrip;
-        for (int strip = block; strip < strips; ++strip) {
+        const int depth = block * kStrip;
+        float *const blockRows = panel + block * stripSize;
+        float *const tile = blockRows + depth * kStrip;
+        subtractProducts<Set::Width, 1>(tile, 0, blockRows, 0, blockRows, depth);
+        if (!factorTile(tile, floors + depth))
+            return false;
+        int strip = block + 1;
+        for (; strip + Set::Strips <= strips; strip += Set::Strips) {
             float *const rows = panel + strip * stripSize;
-            float *const target = rows + block * kStrip * kStrip;
-            subtractProduct<Width>(target, rows, blockRows, block * kStrip);
-            if (strip > block)
-                divideTile(target, tile);
-            else if (!factorTile(target, floors + block * kStrip))
-                return false;
+            subtractProducts<Set::Width, Set::Strips>(rows + depth * kStrip, stripSize, rows, stripSize, blockRows, depth);
+            for (int s = 0; s < Set::Strips; ++s)
+                divideTile<Set::Rows>(rows + s * stripSize + depth * kStrip, tile);
+        }
+        for (; strip < strips; ++strip) {
+            float *const rows = panel + strip * stripSize;
+            subtractProducts<Set::Width, 1>(rows + depth * kStrip, 0, rows, 0, blockRows, depth);
+            divideTile<Set::Rows>(rows + depth * kStrip, tile);
         }
     }
     return true;
 }
 
-template<int Width>
+template<typename Set>
 NIMBRA_INLINE void updateBody(const float *panel, int pivots, int pivotStrips, int strips, float *contribution)
 {
     const std::ptrdiff_t stripSize = std::ptrdiff_t(pivotStrips) * kStrip * kStrip;
     const float *const border = panel + pivotStrips * stripSize;
-    for (int row = 0; row < strips - pivotStrips; ++row) {
+    const int borderStrips = strips - pivotStrips;
+    int row = 0;
+    for (; row + Set::Strips <= borderStrips; row += Set::Strips) {
+        const float *const left = border + row * stripSize;
         float *const target = contribution + contributionStart(row);
+        // All rows of the block have the columns up to the first one's diagonal; those after it are the lower rows' own.
         for (int column = 0; column <= row; ++column)
-            subtractProduct<Width>(target + column * kStrip * kStrip, border + row * stripSize, border + column * stripSize,
-                                   pivots);
+            subtractProducts<Set::Width, Set::Strips>(target + column * kStrip * kStrip,
+                                                      contributionStart(row + 1) - contributionStart(row), left, stripSize,
+                                                      border + column * stripSize, pivots);
+        for (int s = 1; s < Set::Strips; ++s)
+            for (int column = row + 1; column <= row + s; ++column)
+                subtractProducts<Set::Width, 1>(contribution + contributionStart(row + s) + column * kStrip * kStrip, 0,
+                                                left + s * stripSize, 0, border + column * stripSize, pivots);
     }
+    for (; row < borderStrips; ++row)
+        for (int column = 0; column <= row; ++column)
+            subtractProducts<Set::Width, 1>(contribution + contributionStart(row) + column * kStrip * kStrip, 0,
+                                            border + row * stripSize, 0, border + column * stripSize, pivots);
 }
 
 NIMBRA_INLINE void forwardBody(const float *panel, int pivotStrips, int strips, float *local)
@@ -148,14 +200,14 @@ NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips,
 }
 
 // One version per register set; the widths leave room for a column and a factor beside the sums.
-#define NIMBRA_VERSION(name, width, ...)                                                                                         \
+#define NIMBRA_VERSION(name, registers, ...)                                                                                     \
     __VA_ARGS__ bool factor##name(float *panel, int pivotStrips, int strips, const float *floors)                                \
     {                                                                                                                            \
-        return factorBody<width>(panel, pivotStrips, strips, floors);                                                            \
+        return factorBody<registers>(panel, pivotStrips, strips, floors);                                                        \
     }                                                                                                                            \
     __VA_ARGS__ void update##name(const float *panel, int pivots, int pivotStrips, int strips, float *contribution)              \
     {                                                                                                                            \
-        updateBody<width>(panel, pivots, pivotStrips, strips, contribution);                                                     \
+        updateBody<registers>(panel, pivots, pivotStrips, strips, contribution);                                                 \
     }                                                                                                                            \
     __VA_ARGS__ void forward##name(const float *panel, int pivotStrips, int strips, float *local)                                \
     {                                                                                                                            \
@@ -167,10 +219,13 @@ NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips,
     }                                                                                                                            \
     constexpr FrontKernels k##name = {factor##name, update##name, forward##name, backward##name};
 
-NIMBRA_VERSION(Plain, 2, )
+using PlainRegisters = Registers<4, 1, 2>;
+NIMBRA_VERSION(Plain, PlainRegisters, )
 #ifdef __x86_64__
-NIMBRA_VERSION(Avx2, 4, NIMBRA_AVX2)
-NIMBRA_VERSION(Avx512, 8, NIMBRA_AVX512)
+using Avx2Registers = Registers<8, 1, 4>;
+NIMBRA_VERSION(Avx2, Avx2Registers, NIMBRA_AVX2)
+using Avx512Registers = Registers<16, 2, 8>;
+NIMBRA_VERSION(Avx512, Avx512Registers, NIMBRA_AVX512)
 #endif
 
 } // namespace
