@@ -6,6 +6,7 @@
 #include <iterator>
 #include <new>
 
+#include <omp.h>
 #include <sys/mman.h>
 
 #include "frontKernels.h"
@@ -38,13 +39,6 @@ int MultifrontalFactors::Node::pivotStrips() const
 int MultifrontalFactors::Node::strips() const
 {
     return pivotStrips() + (int(border.size()) + kStrip - 1) / kStrip;
-}
-
-int MultifrontalFactors::Node::rowOf(std::int32_t position) const
-{
-    if (position < first + pivots)
-        return position - first;
-    return pivotStrips() * kStrip + int(std::lower_bound(border.begin(), border.end(), position) - border.begin());
 }
 
 void MultifrontalFactors::Free::operator()(float *memory) const
@@ -149,7 +143,7 @@ std::int32_t MultifrontalFactors::dissect(const Box &box)
 void MultifrontalFactors::fileCells(const SparseRows &matrix)
 {
     cellStarts.assign(std::size_t(order) + 1, 0);
-    cells.resize(std::size_t(matrix.count()));
+    cells.reset(new Cell[std::size_t(matrix.count())]);
     const auto everyCell = [&](const auto &visit) {
         for (std::int32_t row = 0; row < order; ++row) {
             const std::int32_t rowPosition = positionOf[std::size_t(row)];
@@ -166,16 +160,21 @@ void MultifrontalFactors::fileCells(const SparseRows &matrix)
     everyCell([&](std::size_t sooner, const Cell &cell) { cells[std::size_t(next[sooner]++)] = cell; });
 }
 
-void MultifrontalFactors::findBorder(std::int32_t number)
+// `rowAt` holds, by position, the row of the front; -1 for positions outside the border, before and after.
+void MultifrontalFactors::findBorder(std::int32_t number, std::int32_t *rowAt)
 {
     Node &node = nodes[std::size_t(number)];
     const std::int32_t end = node.first + node.pivots;
+    Cell *const firstCell = cells.get() + cellStarts[std::size_t(node.first)];
+    Cell *const lastCell = cells.get() + cellStarts[std::size_t(end)];
     std::vector<std::int32_t> border;
-    for (std::int32_t cell = cellStarts[std::size_t(node.first)]; cell < cellStarts[std::size_t(end)]; ++cell)
-        if (cells[std::size_t(cell)].later >= end)
-            border.push_back(cells[std::size_t(cell)].later);
+    for (const Cell *cell = firstCell; cell != lastCell; ++cell) {
+        if (cell->later >= end && rowAt[cell->later] < 0) {
+            rowAt[cell->later] = 0;
+            border.push_back(cell->later);
+        }
+    }
     std::sort(border.begin(), border.end());
-    border.erase(std::unique(border.begin(), border.end()), border.end());
     for (const std::int32_t child : node.children) {
         if (child < 0)
             continue;
@@ -186,15 +185,23 @@ void MultifrontalFactors::findBorder(std::int32_t number)
                        std::back_inserter(both));
         border.swap(both);
     }
-    node.border = std::move(border);
+
+    std::int32_t row = node.pivotStrips() * kStrip;
+    for (const std::int32_t position : border)
+        rowAt[position] = row++;
+    const auto rowOf = [&](std::int32_t position) { return position < end ? position - node.first : rowAt[position]; };
+    for (Cell *cell = firstCell; cell != lastCell; ++cell)
+        cell->later = rowOf(cell->later);
     for (const std::int32_t child : node.children) {
         if (child < 0)
             continue;
         Node &below = nodes[std::size_t(child)];
-        below.parentRows.reserve(below.border.size());
-        for (const std::int32_t position : below.border)
-            below.parentRows.push_back(node.rowOf(position));
+        below.parentRows.resize(below.border.size());
+        std::transform(below.border.begin(), below.border.end(), below.parentRows.begin(), rowOf);
     }
+    for (const std::int32_t position : border)
+        rowAt[position] = -1;
+    node.border = std::move(border);
 }
 
 template<typename Visit>
@@ -276,8 +283,10 @@ bool MultifrontalFactors::analyse(const SparseRows &matrix)
         positionOf[std::size_t(vertexAt[std::size_t(position)])] = position;
     fileCells(matrix);
     planWaves(std::int32_t(nodes.size()) - 1, -1, 0);
-    childrenFirst([this](std::int32_t number) {
-        findBorder(number);
+    const auto positions = std::size_t(order);
+    std::vector<std::int32_t> rowAt(positions * std::size_t(team), -1);
+    childrenFirst([&](std::int32_t number) {
+        findBorder(number, rowAt.data() + positions * std::size_t(omp_get_thread_num()));
         return true;
     });
 
@@ -312,14 +321,16 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
     const int strips = node.strips();
     const std::size_t stripFloats = std::size_t(pivotStrips) * kStrip * kStrip;
     float *const panel = panels.get() + node.panelStart;
-    // Start of a row in the panel and in the contribution: column c is 16 c floats further.
+    // Start of a row in the panel: column c is 16 c floats further.
     const auto inPanel = [&](int row) { return std::size_t(row / kStrip) * stripFloats + std::size_t(row % kStrip); };
-    const auto inContribution = [](int row) { return std::size_t(contributionStart(row / kStrip) + row % kStrip); };
 
+    float *contribution = nullptr;
     if (strips > pivotStrips) {
-        const auto count = std::size_t(contributionStart(strips - pivotStrips));
+        // With a strip's width to spare on both sides, which the kernel that adds it to the parent reads.
+        const auto count = std::size_t(contributionStart(strips - pivotStrips)) + 2 * kStrip;
         node.contribution = allocate(count, kAlignment);
         std::fill_n(node.contribution.get(), count, 0.0f);
+        contribution = node.contribution.get() + kStrip;
     }
     std::fill_n(panel, stripFloats * std::size_t(strips), 0.0f);
     float *const floors = locals.get() + node.localStart;
@@ -330,55 +341,27 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
         for (std::int32_t i = cellStarts[position]; i < cellStarts[position + 1]; ++i) {
             const Cell &cell = cells[std::size_t(i)];
             const float value = values[cell.source];
-            column[inPanel(node.rowOf(cell.later))] = value;
-            if (std::size_t(cell.later) == position)
+            column[inPanel(cell.later)] = value;
+            if (cell.later == pivot)
                 floors[pivot] = kPivotFloor * value;
         }
     }
     for (int pad = node.pivots; pad < pivotStrips * kStrip; ++pad)
         panel[inPanel(pad) + std::size_t(pad) * kStrip] = 1.0f;
 
+    const FrontKernels &kernels = frontKernels();
     for (const std::int32_t child : node.children) {
         if (child < 0)
             continue;
         Node &below = nodes[std::size_t(child)];
-        const auto count = int(below.border.size());
-        const float *source = below.contribution.get();
-        for (int strip = 0; strip * kStrip < count; ++strip) {
-            const int rows = std::min(kStrip, count - strip * kStrip);
-            const std::int32_t *const targetRows = below.parentRows.data() + strip * kStrip;
-            std::size_t panelRow[kStrip];
-            std::size_t contributionRow[kStrip];
-            for (int i = 0; i < rows; ++i) {
-                panelRow[i] = inPanel(targetRows[i]);
-                contributionRow[i] =
-                    targetRows[i] < pivotStrips * kStrip ? 0 : inContribution(targetRows[i] - pivotStrips * kStrip);
-            }
-            const int columns = std::min((strip + 1) * kStrip, count);
-            for (int column = 0; column < columns; ++column) {
-                const int from = std::max(0, column - strip * kStrip); // only the lower triangle
-                const int target = below.parentRows[std::size_t(column)];
-                const float *const sourceColumn = source + column * kStrip;
-                if (target < pivotStrips * kStrip) {
-                    float *const at = panel + std::size_t(target) * kStrip;
-                    for (int i = from; i < rows; ++i)
-                        at[panelRow[i]] += sourceColumn[i];
-                } else {
-                    float *const at = node.contribution.get() + std::size_t(target - pivotStrips * kStrip) * kStrip;
-                    for (int i = from; i < rows; ++i)
-                        at[contributionRow[i]] += sourceColumn[i];
-                }
-            }
-            source += (strip + 1) * kStrip * kStrip;
-        }
+        kernels.add(below.contribution.get() + kStrip, int(below.border.size()), below.parentRows.data(), panel, pivotStrips,
+                    contribution);
         below.contribution.reset();
     }
-
-    const FrontKernels &kernels = frontKernels();
     if (!kernels.factor(panel, pivotStrips, strips, floors))
         return false;
     if (strips > pivotStrips)
-        kernels.update(panel, node.pivots, pivotStrips, strips, node.contribution.get());
+        kernels.update(panel, node.pivots, pivotStrips, strips, contribution);
     return true;
 }
 

@@ -51,8 +51,6 @@ private:
 
         int pivotStrips() const;
         int strips() const;
-        /// Row of a position in the front; the front must hold it.
-        int rowOf(std::int32_t position) const;
     };
     struct Box
     {
@@ -66,7 +64,7 @@ private:
     /// A cell of the matrix, stored with whichever of its two vertices is eliminated first.
     struct Cell
     {
-        std::int32_t later;  ///< The other vertex, as a position.
+        std::int32_t later;  ///< The other vertex: its position; once the borders are known, its row in the front.
         std::int32_t source; ///< Index into the values.
     };
 
@@ -75,7 +73,7 @@ private:
     void findGrid(const SparseRows &matrix);
     std::int32_t dissect(const Box &box);
     void fileCells(const SparseRows &matrix);
-    void findBorder(std::int32_t node);
+    void findBorder(std::int32_t node, std::int32_t *rowAt);
     bool eliminate(std::int32_t node, const float *values);
     template<typename Visit>
     bool childrenFirst(const Visit &visit);
@@ -96,7 +94,7 @@ private:
     std::vector<std::int32_t> positionOf;
     std::vector<std::int32_t> vertexAt;
     std::vector<std::int32_t> cellStarts; ///< By position.
-    std::vector<Cell> cells;
+    std::unique_ptr<Cell[]> cells;
     std::size_t panelFloats = 0;
     Floats panels;
     Floats locals; ///< One float per row of each front, for the solution.

@@ -1,5 +1,6 @@
 #include "frontKernels.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 
@@ -153,6 +154,63 @@ NIMBRA_INLINE void updateBody(const float *panel, int pivots, int pivotStrips, i
                                             border + row * stripSize, 0, border + column * stripSize, pivots);
 }
 
+typedef std::int32_t LaneMask __attribute__((vector_size(kStrip * sizeof(std::int32_t))));
+typedef float UnalignedLanes __attribute__((vector_size(kStrip * sizeof(float)), aligned(sizeof(float))));
+
+/// Sets all bits of lanes first ... last - 1, and clears the others. By reference, as are all vectors here: functions that return
+/// or take them by value differ between instruction sets.
+NIMBRA_INLINE void choose(LaneMask &mask, int first, int last)
+{
+    const LaneMask lane = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
+    mask = LaneMask(lane >= first) & LaneMask(lane < last);
+}
+
+NIMBRA_INLINE void addChosen(float *target, const float *source, const LaneMask &mask)
+{
+    lanes(target) += Lanes(LaneMask(*reinterpret_cast<const UnalignedLanes *>(source)) & mask);
+}
+
+NIMBRA_INLINE void addBody(const float *child, int rows, const std::int32_t *targetRows, float *panel, int pivotStrips,
+                           float *contribution)
+{
+    const int pivotRows = pivotStrips * kStrip;
+    const std::ptrdiff_t stripSize = std::ptrdiff_t(pivotRows) * kStrip;
+    const int pivotColumns = int(std::lower_bound(targetRows, targetRows + rows, pivotRows) - targetRows);
+    for (int strip = 0; strip * kStrip < rows; ++strip) {
+        const int firstRow = strip * kStrip;
+        const int count = std::min(kStrip, rows - firstRow);
+        const std::int32_t *const targets = targetRows + firstRow;
+        const float *const source = child + contributionStart(strip);
+        // Lanes from `first` to `last` are neighbours in one strip of the front, too, though not in the same lanes.
+        for (int first = 0, last = 0; first < count; first = last) {
+            for (last = first + 1; last < count && targets[last] == targets[last - 1] + 1 && targets[last] % kStrip != 0;)
+                ++last;
+            const int targetStrip = targets[first] / kStrip;
+            const int shift = targets[first] % kStrip - first;
+            const float *const shifted = source - shift;
+            // The front's columns from pivotRows on are in the contribution.
+            const std::ptrdiff_t inPanel = targetStrip * stripSize;
+            const std::ptrdiff_t inContribution =
+                targetStrip < pivotStrips ? 0 : contributionStart(targetStrip - pivotStrips) - std::ptrdiff_t(pivotRows) * kStrip;
+            LaneMask mask;
+            choose(mask, first + shift, last + shift);
+            int column = 0;
+            for (; column < std::min(firstRow, pivotColumns); ++column)
+                addChosen(panel + (inPanel + std::ptrdiff_t(targetRows[column]) * kStrip), shifted + column * kStrip, mask);
+            for (; column < firstRow; ++column)
+                addChosen(contribution + (inContribution + std::ptrdiff_t(targetRows[column]) * kStrip),
+                          shifted + column * kStrip, mask);
+            for (; column < firstRow + last; ++column) {
+                choose(mask, std::max(first, column - firstRow) + shift, last + shift); // only the lower triangle
+                const std::ptrdiff_t targetColumn = std::ptrdiff_t(targetRows[column]) * kStrip;
+                float *const target =
+                    column < pivotColumns ? panel + (inPanel + targetColumn) : contribution + (inContribution + targetColumn);
+                addChosen(target, shifted + column * kStrip, mask);
+            }
+        }
+    }
+}
+
 NIMBRA_INLINE void forwardBody(const float *panel, int pivotStrips, int strips, float *local)
 {
     const int columns = pivotStrips * kStrip;
@@ -209,6 +267,11 @@ NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips,
     {                                                                                                                            \
         updateBody<registers>(panel, pivots, pivotStrips, strips, contribution);                                                 \
     }                                                                                                                            \
+    __VA_ARGS__ void add##name(const float *child, int rows, const std::int32_t *targetRows, float *panel, int pivotStrips,      \
+                               float *contribution)                                                                              \
+    {                                                                                                                            \
+        addBody(child, rows, targetRows, panel, pivotStrips, contribution);                                                      \
+    }                                                                                                                            \
     __VA_ARGS__ void forward##name(const float *panel, int pivotStrips, int strips, float *local)                                \
     {                                                                                                                            \
         forwardBody(panel, pivotStrips, strips, local);                                                                          \
@@ -217,7 +280,7 @@ NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips,
     {                                                                                                                            \
         backwardBody(panel, pivotStrips, strips, local);                                                                         \
     }                                                                                                                            \
-    constexpr FrontKernels k##name = {factor##name, update##name, forward##name, backward##name};
+    constexpr FrontKernels k##name = {factor##name, update##name, add##name, forward##name, backward##name};
 
 using PlainRegisters = Registers<4, 1, 2>;
 NIMBRA_VERSION(Plain, PlainRegisters, )
