@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "kernel32.h"
+#include "threadCount.h"
 
 namespace {
 
@@ -11,6 +12,8 @@ namespace {
 constexpr std::size_t kRegionBytes = std::size_t(64) << 20;
 constexpr std::size_t kPieceBytes = std::size_t(256) << 10;
 constexpr std::size_t kLargeBlock = 1024;
+constexpr std::size_t kHugePage = std::size_t(2) << 20;
+constexpr std::size_t kSharedBlock = 2 * kHugePage;
 
 /// From 1.
 unsigned numberOfThisThread()
@@ -18,6 +21,15 @@ unsigned numberOfThisThread()
     static std::atomic<unsigned> threads{0};
     static thread_local const unsigned number = threads.fetch_add(1, std::memory_order_relaxed) + 1;
     return number;
+}
+
+/// The system clears a page when it is first touched. For a large block that takes longer than filling it, so the team shares it.
+void touchPages(char *block, std::size_t bytes)
+{
+    const auto pages = std::ptrdiff_t((bytes + kHugePage - 1) / kHugePage);
+#pragma omp parallel for schedule(static) num_threads(int(std::min(pages, std::ptrdiff_t(std::max(1, threadCount)))))
+    for (std::ptrdiff_t page = 0; page < pages; ++page)
+        *const_cast<volatile char *>(block + std::size_t(page) * kHugePage) = 0;
 }
 
 } // namespace
@@ -61,6 +73,8 @@ void *SparseArena::takeFrom(Pieces &pieces, std::size_t bytes, std::size_t align
         // After a block larger than a piece the thread keeps whichever piece has more room left.
         Piece fresh = cut(bytes, small ? smallRest : largeRest);
         block = take(fresh, bytes, alignment);
+        if (bytes >= kSharedBlock)
+            touchPages(static_cast<char *>(block), bytes);
         if (fresh.end - fresh.next > piece.end - piece.next)
             piece = fresh;
     }

@@ -7,7 +7,6 @@
 #include <new>
 
 #include <omp.h>
-#include <sys/mman.h>
 
 #include "frontKernels.h"
 #include "mkl.h"
@@ -26,9 +25,6 @@ constexpr std::int32_t kJobVertices = 1500;
 // a solver with pivoting does better.
 constexpr float kPivotFloor = 1.0f / (1 << 20);
 
-constexpr std::size_t kAlignment = kStrip * sizeof(float);
-constexpr std::size_t kHugePage = std::size_t(2) << 20;
-
 } // namespace
 
 int MultifrontalFactors::Node::pivotStrips() const
@@ -41,14 +37,21 @@ int MultifrontalFactors::Node::strips() const
     return pivotStrips() + (int(border.size()) + kStrip - 1) / kStrip;
 }
 
-void MultifrontalFactors::Free::operator()(float *memory) const
+std::size_t MultifrontalFactors::Node::contributionFloats() const
+{
+    return border.empty() ? 0 : std::size_t(contributionStart(strips() - pivotStrips())) + 2 * kStrip;
+}
+
+void MultifrontalFactors::Free::operator()(void *memory) const
 {
     mklFree(memory);
 }
 
-MultifrontalFactors::Floats MultifrontalFactors::allocate(std::size_t count, std::size_t alignment)
+template<typename T>
+MultifrontalFactors::Block<T> MultifrontalFactors::allocate(std::size_t count)
 {
-    Floats result(static_cast<float *>(mklMalloc(std::max<std::size_t>(count, 1) * sizeof(float), int(alignment))));
+    constexpr int kAlignment = kStrip * sizeof(float);
+    Block<T> result(static_cast<T *>(mklMalloc(std::max<std::size_t>(count, 1) * sizeof(T), kAlignment)));
     if (!result)
         throw std::bad_alloc();
     return result;
@@ -143,7 +146,7 @@ std::int32_t MultifrontalFactors::dissect(const Box &box)
 void MultifrontalFactors::fileCells(const SparseRows &matrix)
 {
     cellStarts.assign(std::size_t(order) + 1, 0);
-    cells.reset(new Cell[std::size_t(matrix.count())]);
+    cells = allocate<Cell>(std::size_t(matrix.count()));
     const auto everyCell = [&](const auto &visit) {
         for (std::int32_t row = 0; row < order; ++row) {
             const std::int32_t rowPosition = positionOf[std::size_t(row)];
@@ -231,6 +234,30 @@ void MultifrontalFactors::planWaves(std::int32_t number, std::int32_t parent, st
         planWaves(child, number, depth + 1);
 }
 
+// Contributions of the nodes that are visited one wave at a time. Those of the small subtrees all exist at once. Of the waves
+// only two do, one and the one above it, so that every other wave has the same place.
+void MultifrontalFactors::planWorkspace()
+{
+    std::size_t ends[3] = {0, 0, 0};
+    const auto place = [&](const std::vector<Job> &jobs, std::size_t area) {
+        std::size_t end = area < 2 ? 0 : ends[area];
+        for (const Job &job : jobs) {
+            nodes[std::size_t(job.node)].workStart = std::ptrdiff_t(end);
+            end += nodes[std::size_t(job.node)].contributionFloats();
+        }
+        ends[area] = std::max(ends[area], end);
+    };
+    for (std::size_t depth = 0; depth < waves.size(); ++depth)
+        place(waves[depth], depth % 2);
+    place(subtrees, 2);
+    for (std::size_t depth = 0; depth < waves.size(); ++depth)
+        for (const Job &job : waves[depth])
+            nodes[std::size_t(job.node)].workStart += std::ptrdiff_t(depth % 2 == 0 ? 0 : ends[0]);
+    for (const Job &job : subtrees)
+        nodes[std::size_t(job.node)].workStart += std::ptrdiff_t(ends[0] + ends[1]);
+    workFloats = ends[0] + ends[1] + ends[2];
+}
+
 // A thread that finds no job would be woken for nothing.
 int MultifrontalFactors::teamFor(const std::vector<Job> &jobs) const
 {
@@ -300,21 +327,19 @@ bool MultifrontalFactors::analyse(const SparseRows &matrix)
     }
     if (panelFloats > kMostFloatsPerVertex * std::size_t(order))
         return false;
-    locals = allocate(localFloats, kAlignment);
+    locals = allocate<float>(localFloats);
+    planWorkspace();
     return true;
 }
 
 bool MultifrontalFactors::factorise(const SparseRows &matrix)
 {
-    panels = allocate(panelFloats, kHugePage);
-    madvise(panels.get(), panelFloats * sizeof(float), MADV_HUGEPAGE); // a hint: without huge pages it is only slower
-    const bool done = childrenFirst([&](std::int32_t number) { return eliminate(number, matrix.values); });
-    for (Node &node : nodes)
-        node.contribution.reset();
-    return done;
+    panels = allocate<float>(panelFloats);
+    const Block<float> workspace = allocate<float>(workFloats);
+    return childrenFirst([&](std::int32_t number) { return eliminate(number, matrix.values, workspace.get()); });
 }
 
-bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
+bool MultifrontalFactors::eliminate(std::int32_t number, const float *values, float *workspace)
 {
     Node &node = nodes[std::size_t(number)];
     const int pivotStrips = node.pivotStrips();
@@ -325,12 +350,12 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
     const auto inPanel = [&](int row) { return std::size_t(row / kStrip) * stripFloats + std::size_t(row % kStrip); };
 
     float *contribution = nullptr;
-    if (strips > pivotStrips) {
-        // With a strip's width to spare on both sides, which the kernel that adds it to the parent reads.
-        const auto count = std::size_t(contributionStart(strips - pivotStrips)) + 2 * kStrip;
-        node.contribution = allocate(count, kAlignment);
-        std::fill_n(node.contribution.get(), count, 0.0f);
-        contribution = node.contribution.get() + kStrip;
+    if (const std::size_t count = node.contributionFloats(); count > 0) {
+        if (node.workStart < 0)
+            node.own = allocate<float>(count);
+        float *const memory = node.workStart < 0 ? node.own.get() : workspace + node.workStart;
+        std::fill_n(memory, count, 0.0f);
+        contribution = node.contribution = memory + kStrip;
     }
     std::fill_n(panel, stripFloats * std::size_t(strips), 0.0f);
     float *const floors = locals.get() + node.localStart;
@@ -354,9 +379,8 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
         if (child < 0)
             continue;
         Node &below = nodes[std::size_t(child)];
-        kernels.add(below.contribution.get() + kStrip, int(below.border.size()), below.parentRows.data(), panel, pivotStrips,
-                    contribution);
-        below.contribution.reset();
+        kernels.add(below.contribution, int(below.border.size()), below.parentRows.data(), panel, pivotStrips, contribution);
+        below.own.reset();
     }
     if (!kernels.factor(panel, pivotStrips, strips, floors))
         return false;

@@ -32,9 +32,10 @@ public:
 private:
     struct Free
     {
-        void operator()(float *memory) const;
+        void operator()(void *memory) const;
     };
-    using Floats = std::unique_ptr<float[], Free>;
+    template<typename T>
+    using Block = std::unique_ptr<T[], Free>;
 
     /// Vertices that are eliminated together, in one dense front: a leaf of the dissection, or a separator with two children.
     struct Node
@@ -47,10 +48,15 @@ private:
         std::vector<std::int32_t> parentRows; ///< The row of each border position in the parent's front.
         std::size_t panelStart = 0;
         std::size_t localStart = 0;
-        Floats contribution; ///< Exists from this node's elimination to its parent's.
+        float *contribution = nullptr; ///< Exists from this node's elimination to its parent's; see contributionFloats().
+        std::ptrdiff_t workStart = -1; ///< Where it is in the workspace; -1 inside the small subtrees, where it is in `own`.
+        Block<float> own;
 
         int pivotStrips() const;
         int strips() const;
+        /// 0 without a border. Otherwise with a strip's width before and after the contribution, which the kernel that adds it to
+        /// the parent reads.
+        std::size_t contributionFloats() const;
     };
     struct Box
     {
@@ -69,18 +75,20 @@ private:
     };
 
     /// Uninitialised memory. Throws std::bad_alloc.
-    static Floats allocate(std::size_t count, std::size_t alignment);
+    template<typename T>
+    static Block<T> allocate(std::size_t count);
     void findGrid(const SparseRows &matrix);
     std::int32_t dissect(const Box &box);
     void fileCells(const SparseRows &matrix);
     void findBorder(std::int32_t node, std::int32_t *rowAt);
-    bool eliminate(std::int32_t node, const float *values);
+    bool eliminate(std::int32_t node, const float *values, float *workspace);
     template<typename Visit>
     bool childrenFirst(const Visit &visit);
     template<typename Visit>
     void climb(std::int32_t node, const Visit &visit);
     int teamFor(const std::vector<Job> &jobs) const;
     void planWaves(std::int32_t node, std::int32_t parent, std::size_t depth);
+    void planWorkspace();
     void substitute(std::int32_t node, std::int32_t parent, float *solution);
     void descend(std::int32_t node, std::int32_t parent, float *solution);
 
@@ -94,8 +102,9 @@ private:
     std::vector<std::int32_t> positionOf;
     std::vector<std::int32_t> vertexAt;
     std::vector<std::int32_t> cellStarts; ///< By position.
-    std::unique_ptr<Cell[]> cells;
+    Block<Cell> cells;
     std::size_t panelFloats = 0;
-    Floats panels;
-    Floats locals; ///< One float per row of each front, for the solution.
+    std::size_t workFloats = 0;
+    Block<float> panels;
+    Block<float> locals; ///< One float per row of each front, for the solution.
 };

@@ -17,8 +17,8 @@ struct FrontKernels
     bool (*factor)(float *panel, int pivotStrips, int strips, const float *floors);
     /// Subtracts the product of the border with its transpose, over the first `pivots` columns, from the contribution.
     void (*update)(const float *panel, int pivots, int pivotStrips, int strips, float *contribution);
-    /// Adds the contribution of a child, which has `rows` rows, to a front and its contribution. `targetRows` holds the row of the
-    /// front for each row of the child, ascending.
+    /// Adds the contribution of a child, which has `rows` rows, to a front and its contribution. `targetRows` holds the row of
+    /// the front for each row of the child, ascending.
     void (*add)(const float *child, int rows, const std::int32_t *targetRows, float *panel, int pivotStrips, float *contribution);
     /// Solves L y = b for the pivots and subtracts their part from the border; `local` holds one float per row of the front.
     void (*forward)(const float *panel, int pivotStrips, int strips, float *local);

@@ -2,15 +2,25 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <limits>
 #include <memory>
 #include <new>
 #include <vector>
 
+#include <sys/mman.h>
+
 #include "MultifrontalFactors.h"
 #include "MumpsFactors.h"
 #include "SparseRows.h"
+
+namespace {
+
+constexpr std::size_t kHugePage = std::size_t(2) << 20;
+constexpr std::size_t kLargeBlock = 2 * kHugePage;
+
+} // namespace
 
 void *mklMalloc(std::size_t bytes, int alignment)
 {
@@ -18,7 +28,16 @@ void *mklMalloc(std::size_t bytes, int alignment)
         return nullptr;
     void *block = nullptr;
     const std::size_t least = std::max(std::size_t(alignment), sizeof(void *));
-    return posix_memalign(&block, least, bytes) == 0 ? block : nullptr;
+    if (bytes < kLargeBlock)
+        return posix_memalign(&block, least, bytes) == 0 ? block : nullptr;
+    // Whole huge pages: the end of a block would otherwise lie in hundreds of small ones, each with a fault of its own.
+    if (bytes > SIZE_MAX - kHugePage)
+        return nullptr;
+    const std::size_t whole = (bytes + kHugePage - 1) / kHugePage * kHugePage;
+    if (posix_memalign(&block, std::max(least, kHugePage), whole) != 0)
+        return nullptr;
+    madvise(block, whole, MADV_HUGEPAGE); // a hint: without huge pages it is only slower
+    return block;
 }
 
 void mklFree(void *block)
