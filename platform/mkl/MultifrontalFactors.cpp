@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <iterator>
 #include <new>
+#include <utility>
 
 #include <omp.h>
 
@@ -21,6 +22,8 @@ constexpr std::int64_t kMostLeafVertices = 512;
 constexpr std::size_t kMostFloatsPerVertex = 2000;
 // Subtrees up to this size are visited by one thread.
 constexpr std::int32_t kJobVertices = 1500;
+// More threads gain less by filing cells than adding up their counts costs.
+constexpr int kMostFilers = 4;
 // The smallest share of a diagonal cell that may remain after elimination. Below it, a float retains three bits of the cell, and
 // a solver with pivoting does better.
 constexpr float kPivotFloor = 1.0f / (1 << 20);
@@ -80,20 +83,26 @@ void MultifrontalFactors::findGrid(const SparseRows &matrix)
             gridWidth = std::max(1, (second[0] + endOfRun(second)[-1]) / 2 - (longest + 1));
     }
 
-    std::vector<std::int32_t> x(std::size_t(order), 0);
-    std::vector<std::int32_t> y(std::size_t(order), 0);
-    for (std::int32_t vertex = 0; vertex < order; ++vertex) {
-        x[std::size_t(vertex)] = vertex % gridWidth;
-        y[std::size_t(vertex)] = vertex / gridWidth;
-    }
-    reach[0] = reach[1] = 0;
+    std::int32_t reachX = 0;
+    std::int32_t reachY = 0;
+#pragma omp parallel for schedule(static) num_threads(teamForRows()) reduction(max : reachX, reachY)
     for (std::int32_t row = 0; row < order; ++row) {
+        const std::int32_t x = row % gridWidth;
+        std::int32_t start = row - x; // of the grid row that the column is in; both rise from cell to cell
+        std::int32_t y = 0;
         for (std::int32_t cell = matrix.rowStarts[row] - 1; cell < matrix.rowStarts[row + 1] - 1; ++cell) {
-            const auto column = std::size_t(matrix.columns[cell] - 1);
-            reach[0] = std::max(reach[0], std::abs(x[column] - x[std::size_t(row)]));
-            reach[1] = std::max(reach[1], y[column] - y[std::size_t(row)]);
+            const std::int32_t column = matrix.columns[cell] - 1;
+            if (column - start >= gridWidth) {
+                const std::int32_t further = (column - start) / gridWidth;
+                y += further;
+                start += further * gridWidth;
+            }
+            reachX = std::max(reachX, std::abs(column - start - x));
+            reachY = std::max(reachY, y);
         }
     }
+    reach[0] = reachX;
+    reach[1] = reachY;
 }
 
 // Cuts the box in the direction that needs fewer separator vertices. The separator is as thick as the reach, so that no cell
@@ -145,10 +154,14 @@ std::int32_t MultifrontalFactors::dissect(const Box &box)
 
 void MultifrontalFactors::fileCells(const SparseRows &matrix)
 {
-    cellStarts.assign(std::size_t(order) + 1, 0);
+    // Each thread counts the cells of its rows by position, and puts them behind those of the threads before it.
+    const auto positions = std::size_t(order);
+    const int parts = std::min(teamForRows(), kMostFilers);
+    std::vector<std::int32_t> places(positions * std::size_t(parts));
     cells = allocate<Cell>(std::size_t(matrix.count()));
-    const auto everyCell = [&](const auto &visit) {
-        for (std::int32_t row = 0; row < order; ++row) {
+    const auto everyCell = [&](int part, const auto &visit) {
+        const auto last = std::int32_t(std::int64_t(order) * (part + 1) / parts);
+        for (auto row = std::int32_t(std::int64_t(order) * part / parts); row < last; ++row) {
             const std::int32_t rowPosition = positionOf[std::size_t(row)];
             for (std::int32_t cell = matrix.rowStarts[row] - 1; cell < matrix.rowStarts[row + 1] - 1; ++cell) {
                 const std::int32_t position = positionOf[std::size_t(matrix.columns[cell] - 1)];
@@ -156,11 +169,24 @@ void MultifrontalFactors::fileCells(const SparseRows &matrix)
             }
         }
     };
-    everyCell([this](std::size_t sooner, const Cell &) { ++cellStarts[sooner + 1]; });
-    for (std::size_t position = 0; position < std::size_t(order); ++position)
-        cellStarts[position + 1] += cellStarts[position];
-    std::vector<std::int32_t> next(cellStarts.begin(), cellStarts.end() - 1);
-    everyCell([&](std::size_t sooner, const Cell &cell) { cells[std::size_t(next[sooner]++)] = cell; });
+#pragma omp parallel for schedule(static) num_threads(parts)
+    for (int part = 0; part < parts; ++part) {
+        std::int32_t *const count = places.data() + positions * std::size_t(part);
+        everyCell(part, [count](std::size_t sooner, const Cell &) { ++count[sooner]; });
+    }
+    cellStarts.resize(positions + 1);
+    std::int32_t filed = 0;
+    for (std::size_t position = 0; position < positions; ++position) {
+        cellStarts[position] = filed;
+        for (int part = 0; part < parts; ++part)
+            filed += std::exchange(places[positions * std::size_t(part) + position], filed);
+    }
+    cellStarts[positions] = filed;
+#pragma omp parallel for schedule(static) num_threads(parts)
+    for (int part = 0; part < parts; ++part) {
+        std::int32_t *const next = places.data() + positions * std::size_t(part);
+        everyCell(part, [&](std::size_t sooner, const Cell &cell) { cells[std::size_t(next[sooner]++)] = cell; });
+    }
 }
 
 // `rowAt` holds, by position, the row of the front; -1 for positions outside the border, before and after.
@@ -256,6 +282,12 @@ void MultifrontalFactors::planWorkspace()
     for (const Job &job : subtrees)
         nodes[std::size_t(job.node)].workStart += std::ptrdiff_t(ends[0] + ends[1]);
     workFloats = ends[0] + ends[1] + ends[2];
+}
+
+int MultifrontalFactors::teamForRows() const
+{
+    constexpr std::int32_t kRowsPerThread = 4096; // fewer take less time than waking a thread
+    return std::clamp(order / kRowsPerThread, 1, team);
 }
 
 // A thread that finds no job would be woken for nothing.
@@ -413,9 +445,12 @@ void MultifrontalFactors::solve(float *rightHandSide)
         for (std::size_t i = 0; i < jobs.size(); ++i)
             substitute(jobs[i].node, jobs[i].parent, rightHandSide);
     }
+    // From the last to the first: each pass begins with the panels that the one before has used last, and finds some in the
+    // cache.
+    const std::size_t last = subtrees.size() - 1;
 #pragma omp parallel for schedule(dynamic) num_threads(teamFor(subtrees))
     for (std::size_t i = 0; i < subtrees.size(); ++i)
-        descend(subtrees[i].node, subtrees[i].parent, rightHandSide);
+        descend(subtrees[last - i].node, subtrees[last - i].parent, rightHandSide);
 }
 
 void MultifrontalFactors::substitute(std::int32_t number, std::int32_t parent, float *solution)

@@ -86,6 +86,7 @@ private:
     bool childrenFirst(const Visit &visit);
     template<typename Visit>
     void climb(std::int32_t node, const Visit &visit);
+    int teamForRows() const;
     int teamFor(const std::vector<Job> &jobs) const;
     void planWaves(std::int32_t node, std::int32_t parent, std::size_t depth);
     void planWorkspace();
