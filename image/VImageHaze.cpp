@@ -193,16 +193,17 @@ void addMattingLaplacian(const VImage &image, VSparseFactory &factory)
             int row = firstRowOf(part, parts, height);
             block.start(row, kLambdaCell);
             for (; row < end; ++row) {
-                const float *cells = block.next();
-                for (int x = 0; x < width; ++x, cells += HazeMattingRows::kCells) {
+                const float *const cells = block.next();
+                for (int x = 0; x < width; ++x) {
                     const int p = row * width + x;
                     VSparseFactory::Cell rowCells[HazeMattingRows::kCells];
                     VSparseFactory::Cell *last = rowCells;
+                    const bool inside = row + 2 < height && x >= 2 && x + 2 < width;
                     for (int index = 0; index < HazeMattingRows::kCells; ++index) {
                         const HazeMattingRows::Offset offset = HazeMattingRows::offsetOf(index);
                         const int column = x + offset.column;
-                        if (row + offset.row < height && column >= 0 && column < width)
-                            *last++ = {p + offset.row * width + offset.column, cells[index]};
+                        if (inside || (row + offset.row < height && column >= 0 && column < width))
+                            *last++ = {p + offset.row * width + offset.column, cells[std::ptrdiff_t(index) * width + x]};
                     }
                     factory.SetRow(p, rowCells, last);
                 }
