@@ -40,11 +40,6 @@ int MultifrontalFactors::Node::strips() const
     return pivotStrips() + (int(border.size()) + kStrip - 1) / kStrip;
 }
 
-std::size_t MultifrontalFactors::Node::contributionFloats() const
-{
-    return border.empty() ? 0 : std::size_t(contributionStart(strips() - pivotStrips())) + 2 * kStrip;
-}
-
 void MultifrontalFactors::Free::operator()(void *memory) const
 {
     mklFree(memory);
@@ -260,30 +255,6 @@ void MultifrontalFactors::planWaves(std::int32_t number, std::int32_t parent, st
         planWaves(child, number, depth + 1);
 }
 
-// Contributions of the nodes that are visited one wave at a time. Those of the small subtrees all exist at once. Of the waves
-// only two do, one and the one above it, so that every other wave has the same place.
-void MultifrontalFactors::planWorkspace()
-{
-    std::size_t ends[3] = {0, 0, 0};
-    const auto place = [&](const std::vector<Job> &jobs, std::size_t area) {
-        std::size_t end = area < 2 ? 0 : ends[area];
-        for (const Job &job : jobs) {
-            nodes[std::size_t(job.node)].workStart = std::ptrdiff_t(end);
-            end += nodes[std::size_t(job.node)].contributionFloats();
-        }
-        ends[area] = std::max(ends[area], end);
-    };
-    for (std::size_t depth = 0; depth < waves.size(); ++depth)
-        place(waves[depth], depth % 2);
-    place(subtrees, 2);
-    for (std::size_t depth = 0; depth < waves.size(); ++depth)
-        for (const Job &job : waves[depth])
-            nodes[std::size_t(job.node)].workStart += std::ptrdiff_t(depth % 2 == 0 ? 0 : ends[0]);
-    for (const Job &job : subtrees)
-        nodes[std::size_t(job.node)].workStart += std::ptrdiff_t(ends[0] + ends[1]);
-    workFloats = ends[0] + ends[1] + ends[2];
-}
-
 int MultifrontalFactors::teamForRows() const
 {
     constexpr std::int32_t kRowsPerThread = 4096; // fewer take less time than waking a thread
@@ -360,18 +331,19 @@ bool MultifrontalFactors::analyse(const SparseRows &matrix)
     if (panelFloats > kMostFloatsPerVertex * std::size_t(order))
         return false;
     locals = allocate<float>(localFloats);
-    planWorkspace();
     return true;
 }
 
 bool MultifrontalFactors::factorise(const SparseRows &matrix)
 {
     panels = allocate<float>(panelFloats);
-    const Block<float> workspace = allocate<float>(workFloats);
-    return childrenFirst([&](std::int32_t number) { return eliminate(number, matrix.values, workspace.get()); });
+    const bool done = childrenFirst([&](std::int32_t number) { return eliminate(number, matrix.values); });
+    for (Node &node : nodes)
+        node.contribution.reset();
+    return done;
 }
 
-bool MultifrontalFactors::eliminate(std::int32_t number, const float *values, float *workspace)
+bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
 {
     Node &node = nodes[std::size_t(number)];
     const int pivotStrips = node.pivotStrips();
@@ -382,12 +354,12 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values, fl
     const auto inPanel = [&](int row) { return std::size_t(row / kStrip) * stripFloats + std::size_t(row % kStrip); };
 
     float *contribution = nullptr;
-    if (const std::size_t count = node.contributionFloats(); count > 0) {
-        if (node.workStart < 0)
-            node.own = allocate<float>(count);
-        float *const memory = node.workStart < 0 ? node.own.get() : workspace + node.workStart;
-        std::fill_n(memory, count, 0.0f);
-        contribution = node.contribution = memory + kStrip;
+    if (strips > pivotStrips) {
+        // With a strip's width to spare on both sides, which the kernel that adds it to the parent reads.
+        const auto count = std::size_t(contributionStart(strips - pivotStrips)) + 2 * kStrip;
+        node.contribution = allocate<float>(count);
+        std::fill_n(node.contribution.get(), count, 0.0f);
+        contribution = node.contribution.get() + kStrip;
     }
     std::fill_n(panel, stripFloats * std::size_t(strips), 0.0f);
     float *const floors = locals.get() + node.localStart;
@@ -411,8 +383,9 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values, fl
         if (child < 0)
             continue;
         Node &below = nodes[std::size_t(child)];
-        kernels.add(below.contribution, int(below.border.size()), below.parentRows.data(), panel, pivotStrips, contribution);
-        below.own.reset();
+        kernels.add(below.contribution.get() + kStrip, int(below.border.size()), below.parentRows.data(), panel, pivotStrips,
+                    contribution);
+        below.contribution.reset();
     }
     if (!kernels.factor(panel, pivotStrips, strips, floors))
         return false;

@@ -48,15 +48,10 @@ private:
         std::vector<std::int32_t> parentRows; ///< The row of each border position in the parent's front.
         std::size_t panelStart = 0;
         std::size_t localStart = 0;
-        float *contribution = nullptr; ///< Exists from this node's elimination to its parent's; see contributionFloats().
-        std::ptrdiff_t workStart = -1; ///< Where it is in the workspace; -1 inside the small subtrees, where it is in `own`.
-        Block<float> own;
+        Block<float> contribution; ///< Exists from this node's elimination to its parent's, with padding before and after it.
 
         int pivotStrips() const;
         int strips() const;
-        /// 0 without a border. Otherwise with a strip's width before and after the contribution, which the kernel that adds it to
-        /// the parent reads.
-        std::size_t contributionFloats() const;
     };
     struct Box
     {
@@ -81,7 +76,7 @@ private:
     std::int32_t dissect(const Box &box);
     void fileCells(const SparseRows &matrix);
     void findBorder(std::int32_t node, std::int32_t *rowAt);
-    bool eliminate(std::int32_t node, const float *values, float *workspace);
+    bool eliminate(std::int32_t node, const float *values);
     template<typename Visit>
     bool childrenFirst(const Visit &visit);
     template<typename Visit>
@@ -89,7 +84,6 @@ private:
     int teamForRows() const;
     int teamFor(const std::vector<Job> &jobs) const;
     void planWaves(std::int32_t node, std::int32_t parent, std::size_t depth);
-    void planWorkspace();
     void substitute(std::int32_t node, std::int32_t parent, float *solution);
     void descend(std::int32_t node, std::int32_t parent, float *solution);
 
@@ -105,7 +99,6 @@ private:
     std::vector<std::int32_t> cellStarts; ///< By position.
     Block<Cell> cells;
     std::size_t panelFloats = 0;
-    std::size_t workFloats = 0;
     Block<float> panels;
     Block<float> locals; ///< One float per row of each front, for the solution.
 };

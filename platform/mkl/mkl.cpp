@@ -28,15 +28,11 @@ void *mklMalloc(std::size_t bytes, int alignment)
         return nullptr;
     void *block = nullptr;
     const std::size_t least = std::max(std::size_t(alignment), sizeof(void *));
-    if (bytes < kLargeBlock)
-        return posix_memalign(&block, least, bytes) == 0 ? block : nullptr;
-    // Whole huge pages: the end of a block would otherwise lie in hundreds of small ones, each with a fault of its own.
-    if (bytes > SIZE_MAX - kHugePage)
+    const bool large = bytes >= kLargeBlock;
+    if (posix_memalign(&block, large ? std::max(least, kHugePage) : least, bytes) != 0)
         return nullptr;
-    const std::size_t whole = (bytes + kHugePage - 1) / kHugePage * kHugePage;
-    if (posix_memalign(&block, std::max(least, kHugePage), whole) != 0)
-        return nullptr;
-    madvise(block, whole, MADV_HUGEPAGE); // a hint: without huge pages it is only slower
+    if (large)
+        madvise(block, bytes, MADV_HUGEPAGE); // a hint: without huge pages it is only slower
     return block;
 }
 
