@@ -322,11 +322,10 @@ bool MultifrontalFactors::analyse(const SparseRows &matrix)
 
     std::size_t localFloats = 0;
     for (Node &node : nodes) {
-        const auto rows = std::size_t(node.strips()) * kStrip;
         node.panelStart = panelFloats;
         node.localStart = localFloats;
-        panelFloats += rows * std::size_t(node.pivotStrips()) * kStrip;
-        localFloats += rows;
+        panelFloats += std::size_t(panelStart(node.strips(), node.pivotStrips()));
+        localFloats += std::size_t(node.strips()) * kStrip;
     }
     if (panelFloats > kMostFloatsPerVertex * std::size_t(order))
         return false;
@@ -348,10 +347,9 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
     Node &node = nodes[std::size_t(number)];
     const int pivotStrips = node.pivotStrips();
     const int strips = node.strips();
-    const std::size_t stripFloats = std::size_t(pivotStrips) * kStrip * kStrip;
     float *const panel = panels.get() + node.panelStart;
     // Start of a row in the panel: column c is 16 c floats further.
-    const auto inPanel = [&](int row) { return std::size_t(row / kStrip) * stripFloats + std::size_t(row % kStrip); };
+    const auto inPanel = [pivotStrips](int row) { return panelStart(row / kStrip, pivotStrips) + row % kStrip; };
 
     float *contribution = nullptr;
     if (strips > pivotStrips) {
@@ -361,7 +359,7 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
         std::fill_n(node.contribution.get(), count, 0.0f);
         contribution = node.contribution.get() + kStrip;
     }
-    std::fill_n(panel, stripFloats * std::size_t(strips), 0.0f);
+    std::fill_n(panel, panelStart(strips, pivotStrips), 0.0f);
     float *const floors = locals.get() + node.localStart;
     std::fill(floors, floors + pivotStrips * kStrip, 0.0f);
     for (int pivot = 0; pivot < node.pivots; ++pivot) {
@@ -376,13 +374,15 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
         }
     }
     for (int pad = node.pivots; pad < pivotStrips * kStrip; ++pad)
-        panel[inPanel(pad) + std::size_t(pad) * kStrip] = 1.0f;
+        panel[inPanel(pad) + std::ptrdiff_t(pad) * kStrip] = 1.0f;
 
     const FrontKernels &kernels = frontKernels();
     for (const std::int32_t child : node.children) {
         if (child < 0)
             continue;
         Node &below = nodes[std::size_t(child)];
+        if (below.border.empty())
+            continue;
         kernels.add(below.contribution.get() + kStrip, int(below.border.size()), below.parentRows.data(), panel, pivotStrips,
                     contribution);
         below.contribution.reset();

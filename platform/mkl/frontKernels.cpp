@@ -92,10 +92,11 @@ NIMBRA_INLINE void divideTile(float *target, const float *tile)
     }
 }
 
-/// Register set: `Rows` floats in a register; the products' blocks have `Strips` strips and `Width` columns.
+/// A register holds `Rows` floats, and the registers hold products of `Strips` strips, 1 or 2, and `Width` columns.
 template<int RowCount, int StripCount, int ColumnCount>
 struct Registers
 {
+    static_assert(StripCount == 1 || StripCount == 2);
     static constexpr int Rows = RowCount;
     static constexpr int Strips = StripCount;
     static constexpr int Width = ColumnCount;
@@ -104,25 +105,27 @@ struct Registers
 template<typename Set>
 NIMBRA_INLINE bool factorBody(float *panel, int pivotStrips, int strips, const float *floors)
 {
-    const std::ptrdiff_t stripSize = std::ptrdiff_t(pivotStrips) * kStrip * kStrip;
     for (int block = 0; block < pivotStrips; ++block) {
         const int depth = block * kStrip;
-        float *const blockRows = panel + block * stripSize;
+        float *const blockRows = panel + panelStart(block, pivotStrips);
         float *const tile = blockRows + depth * kStrip;
         subtractProducts<Set::Width, 1>(tile, 0, blockRows, 0, blockRows, depth);
         if (!factorTile(tile, floors + depth))
             return false;
-        int strip = block + 1;
-        for (; strip + Set::Strips <= strips; strip += Set::Strips) {
-            float *const rows = panel + strip * stripSize;
-            subtractProducts<Set::Width, Set::Strips>(rows + depth * kStrip, stripSize, rows, stripSize, blockRows, depth);
-            for (int s = 0; s < Set::Strips; ++s)
-                divideTile<Set::Rows>(rows + s * stripSize + depth * kStrip, tile);
-        }
-        for (; strip < strips; ++strip) {
-            float *const rows = panel + strip * stripSize;
-            subtractProducts<Set::Width, 1>(rows + depth * kStrip, 0, rows, 0, blockRows, depth);
-            divideTile<Set::Rows>(rows + depth * kStrip, tile);
+        for (int strip = block + 1; strip < strips;) {
+            float *const rows = panel + panelStart(strip, pivotStrips);
+            float *const target = rows + depth * kStrip;
+            if (strip + Set::Strips <= strips) {
+                const std::ptrdiff_t step = panelStart(strip + 1, pivotStrips) - panelStart(strip, pivotStrips);
+                subtractProducts<Set::Width, Set::Strips>(target, step, rows, step, blockRows, depth);
+                for (int s = 0; s < Set::Strips; ++s)
+                    divideTile<Set::Rows>(target + s * step, tile);
+                strip += Set::Strips;
+            } else {
+                subtractProducts<Set::Width, 1>(target, 0, rows, 0, blockRows, depth);
+                divideTile<Set::Rows>(target, tile);
+                ++strip;
+            }
         }
     }
     return true;
@@ -132,26 +135,25 @@ template<typename Set>
 NIMBRA_INLINE void updateBody(const float *panel, int pivots, int pivotStrips, int strips, float *contribution)
 {
     const std::ptrdiff_t stripSize = std::ptrdiff_t(pivotStrips) * kStrip * kStrip;
-    const float *const border = panel + pivotStrips * stripSize;
+    const float *const border = panel + panelStart(pivotStrips, pivotStrips);
     const int borderStrips = strips - pivotStrips;
-    int row = 0;
-    for (; row + Set::Strips <= borderStrips; row += Set::Strips) {
+    for (int row = 0; row < borderStrips;) {
         const float *const left = border + row * stripSize;
         float *const target = contribution + contributionStart(row);
-        // All rows of the block have the columns up to the first one's diagonal; those after it are the lower rows' own.
-        for (int column = 0; column <= row; ++column)
-            subtractProducts<Set::Width, Set::Strips>(target + column * kStrip * kStrip,
-                                                      contributionStart(row + 1) - contributionStart(row), left, stripSize,
-                                                      border + column * stripSize, pivots);
-        for (int s = 1; s < Set::Strips; ++s)
-            for (int column = row + 1; column <= row + s; ++column)
-                subtractProducts<Set::Width, 1>(contribution + contributionStart(row + s) + column * kStrip * kStrip, 0,
-                                                left + s * stripSize, 0, border + column * stripSize, pivots);
+        const bool together = row + Set::Strips <= borderStrips;
+        const std::ptrdiff_t step = contributionStart(row + 1) - contributionStart(row);
+        for (int column = 0; column <= row; ++column) {
+            float *const tile = target + column * kStrip * kStrip;
+            if (together)
+                subtractProducts<Set::Width, Set::Strips>(tile, step, left, stripSize, border + column * stripSize, pivots);
+            else
+                subtractProducts<Set::Width, 1>(tile, 0, left, 0, border + column * stripSize, pivots);
+        }
+        if (together && Set::Strips > 1) // the lower strip's own diagonal
+            subtractProducts<Set::Width, 1>(target + step + (row + 1) * kStrip * kStrip, 0, left + stripSize, 0, left + stripSize,
+                                            pivots);
+        row += together ? Set::Strips : 1;
     }
-    for (; row < borderStrips; ++row)
-        for (int column = 0; column <= row; ++column)
-            subtractProducts<Set::Width, 1>(contribution + contributionStart(row) + column * kStrip * kStrip, 0,
-                                            border + row * stripSize, 0, border + column * stripSize, pivots);
 }
 
 typedef std::int32_t LaneMask __attribute__((vector_size(kStrip * sizeof(std::int32_t))));
@@ -174,7 +176,6 @@ NIMBRA_INLINE void addBody(const float *child, int rows, const std::int32_t *tar
                            float *contribution)
 {
     const int pivotRows = pivotStrips * kStrip;
-    const std::ptrdiff_t stripSize = std::ptrdiff_t(pivotRows) * kStrip;
     const int pivotColumns = int(std::lower_bound(targetRows, targetRows + rows, pivotRows) - targetRows);
     for (int strip = 0; strip * kStrip < rows; ++strip) {
         const int firstRow = strip * kStrip;
@@ -189,7 +190,7 @@ NIMBRA_INLINE void addBody(const float *child, int rows, const std::int32_t *tar
             const int shift = targets[first] % kStrip - first;
             const float *const shifted = source - shift;
             // The front's columns from pivotRows on are in the contribution.
-            const std::ptrdiff_t inPanel = targetStrip * stripSize;
+            const std::ptrdiff_t inPanel = panelStart(targetStrip, pivotStrips);
             const std::ptrdiff_t inContribution =
                 targetStrip < pivotStrips ? 0 : contributionStart(targetStrip - pivotStrips) - std::ptrdiff_t(pivotRows) * kStrip;
             LaneMask mask;
@@ -214,16 +215,17 @@ NIMBRA_INLINE void addBody(const float *child, int rows, const std::int32_t *tar
 NIMBRA_INLINE void forwardBody(const float *panel, int pivotStrips, int strips, float *local)
 {
     const int columns = pivotStrips * kStrip;
-    for (int strip = 0; strip < strips; ++strip, panel += std::ptrdiff_t(columns) * kStrip) {
+    for (int strip = 0; strip < strips; ++strip) {
+        const float *const rows = panel + panelStart(strip, pivotStrips);
         const int known = strip < pivotStrips ? strip * kStrip : columns;
         Lanes sum[4] = {lanes(local + strip * kStrip), {}, {}, {}};
         for (int k = 0; k < known; k += 4)
             for (int i = 0; i < 4; ++i)
-                sum[i] -= lanes(panel + (k + i) * kStrip) * local[k + i];
+                sum[i] -= lanes(rows + (k + i) * kStrip) * local[k + i];
         lanes(local + strip * kStrip) = (sum[0] + sum[1]) + (sum[2] + sum[3]);
         if (strip >= pivotStrips)
             continue;
-        const float *tile = panel + std::ptrdiff_t(known) * kStrip;
+        const float *tile = rows + std::ptrdiff_t(known) * kStrip;
         float *const own = local + known;
         for (int j = 0; j < kStrip; ++j, tile += kStrip) {
             own[j] *= tile[j];
@@ -235,16 +237,16 @@ NIMBRA_INLINE void forwardBody(const float *panel, int pivotStrips, int strips, 
 
 NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips, float *local)
 {
-    const std::ptrdiff_t stripSize = std::ptrdiff_t(pivotStrips) * kStrip * kStrip;
     for (int block = pivotStrips - 1; block >= 0; --block) {
+        const std::ptrdiff_t column = std::ptrdiff_t(block) * kStrip * kStrip;
         Lanes sum[kStrip] = {};
         for (int strip = block + 1; strip < strips; ++strip) {
-            const float *const tile = panel + strip * stripSize + block * kStrip * kStrip;
+            const float *const tile = panel + (panelStart(strip, pivotStrips) + column);
             const Lanes x = lanes(local + strip * kStrip);
             for (int j = 0; j < kStrip; ++j)
                 sum[j] += lanes(tile + j * kStrip) * x;
         }
-        const float *const tile = panel + block * stripSize + block * kStrip * kStrip;
+        const float *const tile = panel + (panelStart(block, pivotStrips) + column);
         float *const own = local + block * kStrip;
         for (int j = kStrip - 1; j >= 0; --j) {
             float rest = own[j];

@@ -4,9 +4,10 @@
 
 /// The dense work of one front of a multifrontal Cholesky factorisation, in single precision.
 ///
-/// A front is stored in strips of 16 rows. Its panel has `strips` strips of `columns` = 16 * `pivotStrips` columns: column c of
-/// strip s is 16 floats at panel + (s * columns + c) * 16. The first `pivotStrips` strips hold the pivots' rows, the others the
-/// border. Padding rows and columns are zero, with 1 on the diagonal.
+/// A front is stored in strips of 16 rows. Its panel has `strips` strips: column c of strip s is 16 floats at panel +
+/// panelStart(s, pivotStrips) + 16 * c. The first `pivotStrips` strips hold the pivots' rows, up to the diagonal: strip s has 16
+/// * (s + 1) columns. The others are the border's, with a column for each pivot. Padding rows and columns are zero, with 1 on the
+/// diagonal.
 ///
 /// Its contribution to the fronts above is the lower triangle of the border: strip s has 16 * (s + 1) columns and begins at
 /// contributionStart(s). kStrip floats before and after it can be read.
@@ -31,6 +32,12 @@ constexpr int kStrip = 16;
 constexpr long contributionStart(long strip)
 {
     return kStrip * kStrip * (strip * (strip + 1) / 2);
+}
+
+constexpr long panelStart(long strip, long pivotStrips)
+{
+    return strip < pivotStrips ? contributionStart(strip)
+                               : contributionStart(pivotStrips) + kStrip * kStrip * pivotStrips * (strip - pivotStrips);
 }
 
 /// The version for instructionSet().
