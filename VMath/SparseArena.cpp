@@ -11,7 +11,7 @@ namespace {
 // A region is only address space until it is touched, so it may be large; a piece is the most that a thread may leave unused.
 constexpr std::size_t kRegionBytes = std::size_t(64) << 20;
 constexpr std::size_t kPieceBytes = std::size_t(256) << 10;
-constexpr std::size_t kLargeBlock = 1024;
+constexpr std::size_t kMediumBlock = 1024;
 constexpr std::size_t kHugePage = std::size_t(2) << 20;
 constexpr std::size_t kSharedBlock = 2 * kHugePage;
 
@@ -66,24 +66,24 @@ void *SparseArena::allocate(std::size_t bytes, std::size_t alignment)
 
 void *SparseArena::takeFrom(Pieces &pieces, std::size_t bytes, std::size_t alignment)
 {
-    const bool small = bytes < kLargeBlock;
-    Piece &piece = small ? pieces.small : pieces.large;
+    if (bytes > kPieceBytes) {
+        char *const block = cut(bytes, largeRest).next; // on a page boundary, which meets any permitted alignment
+        if (bytes >= kSharedBlock)
+            touchPages(block, bytes);
+        return block;
+    }
+    const bool small = bytes < kMediumBlock;
+    Piece &piece = small ? pieces.small : pieces.medium;
     void *block = take(piece, bytes, alignment);
     if (block == nullptr) {
-        // After a block larger than a piece the thread keeps whichever piece has more room left.
-        Piece fresh = cut(bytes, small ? smallRest : largeRest);
-        block = take(fresh, bytes, alignment);
-        if (bytes >= kSharedBlock)
-            touchPages(static_cast<char *>(block), bytes);
-        if (fresh.end - fresh.next > piece.end - piece.next)
-            piece = fresh;
+        piece = cut(bytes, small ? smallRest : mediumRest);
+        block = take(piece, bytes, alignment);
     }
     return block;
 }
 
 SparseArena::Piece SparseArena::cut(std::size_t bytes, Piece &rest)
 {
-    // Pieces start on page boundaries, so that any permitted alignment is met without a gap.
     constexpr std::size_t kPage = 4096;
     if (bytes > std::size_t(-1) / 2)
         throw std::bad_alloc();

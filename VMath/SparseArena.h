@@ -9,8 +9,9 @@
 #include <vector>
 
 /// Memory that only grows and is released all at once, for the many small blocks of one assembly. Safe on several threads: each
-/// thread takes its blocks from its own pieces. Uses huge pages where the system has them. All bytes of a block are 0. Small and
-/// large blocks are kept apart, so that a large one that is never written costs address space only.
+/// thread takes its blocks from its own pieces. Uses huge pages where the system has them. All bytes of a block are 0. Small
+/// blocks, medium ones and those of more than a piece are kept apart: medium ones may never be written, and then cost address
+/// space only.
 class SparseArena
 {
 public:
@@ -32,7 +33,7 @@ private:
     {
         std::atomic<unsigned> owner{0}; ///< Number of the thread; 0 until there is one.
         Piece small;
-        Piece large;
+        Piece medium;
     };
     struct Region
     {
@@ -42,15 +43,16 @@ private:
 
     static void *take(Piece &piece, std::size_t bytes, std::size_t alignment);
     void *takeFrom(Pieces &pieces, std::size_t bytes, std::size_t alignment);
-    /// A piece of at least `bytes` bytes, cut from the end of a region, or from a new one if too little is left.
+    /// A piece of at least `bytes` bytes, cut from what is left of a region, or from a new one if that is too little.
     Piece cut(std::size_t bytes, Piece &rest);
 
     std::array<Pieces, 64> owned; ///< Each is used by its owner only, without a lock.
     Pieces shared;                ///< For threads whose place in `owned` has another owner.
     std::mutex sharedLock;
     std::mutex lock; ///< Guards the members below.
-    Piece smallRest; ///< The unused end of the last region for small blocks. Huge pages that hold them hold nothing else.
-    Piece largeRest; ///< The same for large blocks.
+    Piece smallRest; ///< What is left of the last region for small blocks. No huge page holds blocks of two kinds.
+    Piece mediumRest;
+    Piece largeRest;
     std::vector<Region> regions;
 };
 
