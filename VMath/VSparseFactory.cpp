@@ -18,6 +18,7 @@ namespace {
 constexpr int kAlignment = 128;
 // Below this many rows a team costs more than it saves.
 constexpr std::int32_t kRowsWorthATeam = 4096;
+constexpr std::size_t kLineCells = 64 / sizeof(VSparseFactory::Cell);
 
 std::int32_t *allocateIndices(std::int32_t count)
 {
@@ -109,10 +110,11 @@ void VSparseFactory::ToCsr(VSparseMatrix &target) const
 
     // All memory is allocated before the team starts: no exception may leave a parallel region.
     const int team = rowCount < kRowsWorthATeam ? 1 : std::max(1, threadCount);
-    std::vector<Cell> scratch(std::size_t(team) * longest);
+    const std::size_t scratchCells = longest + kLineCells; // no two threads write to the same cache line
+    std::vector<Cell> scratch(std::size_t(team) * scratchCells);
 #pragma omp parallel for num_threads(team) schedule(static)
     for (std::int32_t row = 0; row < rowCount; ++row) {
-        auto *const first = scratch.data() + std::size_t(omp_get_thread_num()) * longest;
+        auto *const first = scratch.data() + std::size_t(omp_get_thread_num()) * scratchCells;
         auto *last = first;
         const Row &rowCells = rows[std::size_t(row)];
         // Counted, so that the walk stops at the last cell; the iterator would search all remaining buckets on its way to end().
