@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "kernel32.h"
+#include "mkl.h"
 #include "threadCount.h"
 
 namespace {
@@ -36,8 +37,16 @@ void touchPages(char *block, std::size_t bytes)
 
 SparseArena::~SparseArena()
 {
-    for (const Region &region : regions)
-        ReleaseMemory(region.memory, region.bytes);
+    for (const Zone *zone : {&large, &small, &medium}) {
+        for (const Region &region : zone->regions) {
+            // Only what has been written is worth giving: of medium blocks, perhaps nothing.
+            const std::size_t written = !given || zone == &medium ? 0 : (region.used + kHugePage - 1) / kHugePage * kHugePage;
+            if (written > 0)
+                mklGiveMemory(region.memory, written, ReleaseMemory);
+            if (written < region.bytes)
+                ReleaseMemory(region.memory + written, region.bytes - written);
+        }
+    }
 }
 
 void *SparseArena::take(Piece &piece, std::size_t bytes, std::size_t alignment)
@@ -67,22 +76,22 @@ void *SparseArena::allocate(std::size_t bytes, std::size_t alignment)
 void *SparseArena::takeFrom(Pieces &pieces, std::size_t bytes, std::size_t alignment)
 {
     if (bytes > kPieceBytes) {
-        char *const block = cut(bytes, largeRest).next; // on a page boundary, which meets any permitted alignment
+        char *const block = cut(bytes, large).next; // on a page boundary, which meets any permitted alignment
         if (bytes >= kSharedBlock)
             touchPages(block, bytes);
         return block;
     }
-    const bool small = bytes < kMediumBlock;
-    Piece &piece = small ? pieces.small : pieces.medium;
+    const bool isSmall = bytes < kMediumBlock;
+    Piece &piece = isSmall ? pieces.small : pieces.medium;
     void *block = take(piece, bytes, alignment);
     if (block == nullptr) {
-        piece = cut(bytes, small ? smallRest : mediumRest);
+        piece = cut(bytes, isSmall ? small : medium);
         block = take(piece, bytes, alignment);
     }
     return block;
 }
 
-SparseArena::Piece SparseArena::cut(std::size_t bytes, Piece &rest)
+SparseArena::Piece SparseArena::cut(std::size_t bytes, Zone &zone)
 {
     constexpr std::size_t kPage = 4096;
     if (bytes > std::size_t(-1) / 2)
@@ -90,16 +99,17 @@ SparseArena::Piece SparseArena::cut(std::size_t bytes, Piece &rest)
     const std::size_t wanted = std::max(kPieceBytes, (bytes + kPage - 1) / kPage * kPage);
 
     const std::lock_guard<std::mutex> guard(lock);
-    if (std::size_t(rest.end - rest.next) < wanted) {
-        const std::size_t size = std::max(kRegionBytes, wanted);
-        regions.reserve(regions.size() + 1);
+    if (std::size_t(zone.rest.end - zone.rest.next) < wanted) {
+        const std::size_t size = std::max(kRegionBytes, (wanted + kHugePage - 1) / kHugePage * kHugePage);
+        zone.regions.reserve(zone.regions.size() + 1);
         auto *const start = static_cast<char *>(ReserveMemory(size));
         if (!start)
             throw std::bad_alloc();
-        regions.push_back({start, size});
-        rest = {start, start + size};
+        zone.regions.push_back({start, size, 0});
+        zone.rest = {start, start + size};
     }
-    const Piece piece{rest.next, rest.next + wanted};
-    rest.next += wanted;
+    const Piece piece{zone.rest.next, zone.rest.next + wanted};
+    zone.rest.next += wanted;
+    zone.regions.back().used += wanted;
     return piece;
 }

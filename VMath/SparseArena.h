@@ -22,6 +22,8 @@ public:
 
     /// `alignment`: a power of 2, at most 4096. Throws std::bad_alloc.
     void *allocate(std::size_t bytes, std::size_t alignment);
+    /// When this object ends, its memory goes to the next system that this thread solves, instead of back to the system.
+    void giveToSolver() { given = true; }
 
 private:
     struct Piece
@@ -39,21 +41,28 @@ private:
     {
         char *memory;
         std::size_t bytes;
+        std::size_t used;
+    };
+    /// Regions for one kind of block. No huge page holds blocks of two kinds.
+    struct Zone
+    {
+        Piece rest; ///< What is left of the last region.
+        std::vector<Region> regions;
     };
 
     static void *take(Piece &piece, std::size_t bytes, std::size_t alignment);
     void *takeFrom(Pieces &pieces, std::size_t bytes, std::size_t alignment);
     /// A piece of at least `bytes` bytes, cut from what is left of a region, or from a new one if that is too little.
-    Piece cut(std::size_t bytes, Piece &rest);
+    Piece cut(std::size_t bytes, Zone &zone);
 
     std::array<Pieces, 64> owned; ///< Each is used by its owner only, without a lock.
     Pieces shared;                ///< For threads whose place in `owned` has another owner.
     std::mutex sharedLock;
     std::mutex lock; ///< Guards the members below.
-    Piece smallRest; ///< What is left of the last region for small blocks. No huge page holds blocks of two kinds.
-    Piece mediumRest;
-    Piece largeRest;
-    std::vector<Region> regions;
+    Zone small;
+    Zone medium;
+    Zone large;
+    bool given = false;
 };
 
 /// Whether a default-constructed U is all zero bytes. Nothing is left of this in optimised code but the answer, so that a loop

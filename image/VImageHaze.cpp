@@ -265,7 +265,8 @@ bool VImage::HazeMatting(float *darkMap)
     try {
         VSparseMatrix matrix;
         factory->ToCsr(matrix);
-        factory.reset(); // its memory is several times that of the matrix
+        factory->GiveMemoryToSolver();
+        factory.reset();
         matrix.Solve(darkMap, x.get());
         std::copy_n(x.get(), unknowns, darkMap);
     } catch (...) {

@@ -40,9 +40,14 @@ int MultifrontalFactors::Node::strips() const
     return pivotStrips() + (int(border.size()) + kStrip - 1) / kStrip;
 }
 
-void MultifrontalFactors::Free::operator()(void *memory) const
+std::size_t MultifrontalFactors::Node::panelFloats() const
 {
-    mklFree(memory);
+    return std::size_t(panelStart(strips(), pivotStrips()));
+}
+
+void MultifrontalFactors::Free::operator()(void *block) const
+{
+    mklFree(block);
 }
 
 template<typename T>
@@ -153,7 +158,12 @@ void MultifrontalFactors::fileCells(const SparseRows &matrix)
     const auto positions = std::size_t(order);
     const int parts = std::min(teamForRows(), kMostFilers);
     std::vector<std::int32_t> places(positions * std::size_t(parts));
-    cells = allocate<Cell>(std::size_t(matrix.count()));
+    const auto cellCount = std::size_t(matrix.count());
+    cells = static_cast<Cell *>(memory.take(cellCount * sizeof(Cell)));
+    if (cells == nullptr) {
+        ownCells = allocate<Cell>(cellCount);
+        cells = ownCells.get();
+    }
     const auto everyCell = [&](int part, const auto &visit) {
         const auto last = std::int32_t(std::int64_t(order) * (part + 1) / parts);
         for (auto row = std::int32_t(std::int64_t(order) * part / parts); row < last; ++row) {
@@ -189,8 +199,8 @@ void MultifrontalFactors::findBorder(std::int32_t number, std::int32_t *rowAt)
 {
     Node &node = nodes[std::size_t(number)];
     const std::int32_t end = node.first + node.pivots;
-    Cell *const firstCell = cells.get() + cellStarts[std::size_t(node.first)];
-    Cell *const lastCell = cells.get() + cellStarts[std::size_t(end)];
+    Cell *const firstCell = cells + cellStarts[std::size_t(node.first)];
+    Cell *const lastCell = cells + cellStarts[std::size_t(end)];
     std::vector<std::int32_t> border;
     for (const Cell *cell = firstCell; cell != lastCell; ++cell) {
         if (cell->later >= end && rowAt[cell->later] < 0) {
@@ -322,9 +332,8 @@ bool MultifrontalFactors::analyse(const SparseRows &matrix)
 
     std::size_t localFloats = 0;
     for (Node &node : nodes) {
-        node.panelStart = panelFloats;
         node.localStart = localFloats;
-        panelFloats += std::size_t(panelStart(node.strips(), node.pivotStrips()));
+        panelFloats += node.panelFloats();
         localFloats += std::size_t(node.strips()) * kStrip;
     }
     if (panelFloats > kMostFloatsPerVertex * std::size_t(order))
@@ -335,7 +344,20 @@ bool MultifrontalFactors::analyse(const SparseRows &matrix)
 
 bool MultifrontalFactors::factorise(const SparseRows &matrix)
 {
-    panels = allocate<float>(panelFloats);
+    std::size_t left = 0;
+    for (Node &node : nodes) {
+        node.panel = static_cast<float *>(memory.take(node.panelFloats() * sizeof(float)));
+        left += node.panel == nullptr ? node.panelFloats() : 0;
+    }
+    memory.releaseUnused();
+    ownPanels = allocate<float>(left);
+    float *next = ownPanels.get();
+    for (Node &node : nodes) {
+        if (node.panel == nullptr) {
+            node.panel = next;
+            next += node.panelFloats();
+        }
+    }
     const bool done = childrenFirst([&](std::int32_t number) { return eliminate(number, matrix.values); });
     for (Node &node : nodes)
         node.contribution.reset();
@@ -347,7 +369,7 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
     Node &node = nodes[std::size_t(number)];
     const int pivotStrips = node.pivotStrips();
     const int strips = node.strips();
-    float *const panel = panels.get() + node.panelStart;
+    float *const panel = node.panel;
     // Start of a row in the panel: column c is 16 c floats further.
     const auto inPanel = [pivotStrips](int row) { return panelStart(row / kStrip, pivotStrips) + row % kStrip; };
 
@@ -410,7 +432,7 @@ void MultifrontalFactors::solve(float *rightHandSide)
             for (std::size_t i = 0; i < below.parentRows.size(); ++i)
                 local[below.parentRows[i]] += from[i];
         }
-        frontKernels().forward(panels.get() + node.panelStart, node.pivotStrips(), node.strips(), local);
+        frontKernels().forward(node.panel, node.pivotStrips(), node.strips(), local);
         return true;
     });
     for (const std::vector<Job> &jobs : waves) {
@@ -436,7 +458,7 @@ void MultifrontalFactors::substitute(std::int32_t number, std::int32_t parent, f
         for (std::size_t i = 0; i < node.parentRows.size(); ++i)
             border[i] = above[node.parentRows[i]];
     }
-    frontKernels().backward(panels.get() + node.panelStart, node.pivotStrips(), node.strips(), local);
+    frontKernels().backward(node.panel, node.pivotStrips(), node.strips(), local);
     for (int pivot = 0; pivot < node.pivots; ++pivot)
         solution[vertexAt[std::size_t(node.first + pivot)]] = local[pivot];
 }

@@ -3,8 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
+#include "GivenMemory.h"
 #include "SparseRows.h"
 
 /// Cholesky factors LL' of a positive definite matrix that couples neighbours on a grid numbered row by row, as an image does.
@@ -18,8 +20,8 @@
 class MultifrontalFactors
 {
 public:
-    /// `teamSize` is at least 1.
-    explicit MultifrontalFactors(int teamSize) : team(teamSize) {}
+    /// `teamSize` is at least 1. `given` is used before new memory.
+    MultifrontalFactors(int teamSize, GivenMemory given) : team(teamSize), memory(std::move(given)) {}
     /// Ordering and symbolic factorisation. False for any other pattern. Throws std::bad_alloc.
     [[nodiscard]] bool analyse(const SparseRows &matrix);
     /// Numerical factorisation of the analysed matrix. False if a pivot would have to be perturbed. Throws std::bad_alloc.
@@ -32,7 +34,7 @@ public:
 private:
     struct Free
     {
-        void operator()(void *memory) const;
+        void operator()(void *block) const;
     };
     template<typename T>
     using Block = std::unique_ptr<T[], Free>;
@@ -46,12 +48,13 @@ private:
         std::int32_t children[2] = {-1, -1};
         std::vector<std::int32_t> border;     ///< Later positions that the node's subtree touches, ascending.
         std::vector<std::int32_t> parentRows; ///< The row of each border position in the parent's front.
-        std::size_t panelStart = 0;
+        float *panel = nullptr;
         std::size_t localStart = 0;
         Block<float> contribution; ///< Exists from this node's elimination to its parent's, with padding before and after it.
 
         int pivotStrips() const;
         int strips() const;
+        std::size_t panelFloats() const;
     };
     struct Box
     {
@@ -97,8 +100,10 @@ private:
     std::vector<std::int32_t> positionOf;
     std::vector<std::int32_t> vertexAt;
     std::vector<std::int32_t> cellStarts; ///< By position.
-    Block<Cell> cells;
+    GivenMemory memory;
+    Cell *cells = nullptr; ///< Given, or in ownCells.
+    Block<Cell> ownCells;
     std::size_t panelFloats = 0;
-    Block<float> panels;
-    Block<float> locals; ///< One float per row of each front, for the solution.
+    Block<float> ownPanels; ///< Those that the given memory has no room for.
+    Block<float> locals;    ///< One float per row of each front, for the solution.
 };
