@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstddef>
@@ -10,8 +9,9 @@
 #include <vector>
 
 /// Memory that only grows and is released all at once, for the many small blocks of one assembly. Safe on several threads: each
-/// thread takes its blocks from its own pieces. Uses huge pages where the system has them. All bytes of a block are 0. Small and
-/// large blocks are kept apart, so that a large one that is never written costs address space only.
+/// thread takes its blocks from its own pieces. Uses huge pages where the system has them. All bytes of a block are 0. Small
+/// blocks, medium ones and those of more than a piece are kept apart: medium ones may never be written, and then cost address
+/// space only.
 class SparseArena
 {
 public:
@@ -22,6 +22,8 @@ public:
 
     /// `alignment`: a power of 2, at most 4096. Throws std::bad_alloc.
     void *allocate(std::size_t bytes, std::size_t alignment);
+    /// When this object ends, its memory goes to the next system that this thread solves, instead of back to the system.
+    void giveToSolver() { given = true; }
 
 private:
     struct Piece
@@ -29,38 +31,53 @@ private:
         char *next = nullptr;
         char *end = nullptr;
     };
-    /// The pieces of the threads with this number. That is usually one thread, so there is no contention for the flag.
-    struct alignas(64) Slot
+    struct alignas(64) Pieces
     {
-        std::atomic_flag taken = ATOMIC_FLAG_INIT;
+        std::atomic<unsigned> owner{0}; ///< Number of the thread; 0 until there is one.
         Piece small;
-        Piece large;
+        Piece medium;
     };
     struct Region
     {
         char *memory;
         std::size_t bytes;
+        std::size_t used;
+    };
+    /// Regions for one kind of block. No huge page holds blocks of two kinds.
+    struct Zone
+    {
+        Piece rest; ///< What is left of the last region.
+        std::vector<Region> regions;
     };
 
     static void *take(Piece &piece, std::size_t bytes, std::size_t alignment);
-    /// A piece of at least `bytes` bytes, cut from the current region, or from a new one if too little is left.
-    Piece cut(std::size_t bytes);
+    void *takeFrom(Pieces &pieces, std::size_t bytes, std::size_t alignment);
+    /// A piece of at least `bytes` bytes, cut from what is left of a region, or from a new one if that is too little.
+    Piece cut(std::size_t bytes, Zone &zone);
 
-    std::array<Slot, 64> slots;
+    std::array<Pieces, 64> owned; ///< Each is used by its owner only, without a lock.
+    Pieces shared;                ///< For threads whose place in `owned` has another owner.
+    std::mutex sharedLock;
     std::mutex lock; ///< Guards the members below.
-    Piece rest;      ///< The unused end of the last region.
-    std::vector<Region> regions;
+    Zone small;
+    Zone medium;
+    Zone large;
+    bool given = false;
 };
 
-/// Whether a default-constructed U is all zero bytes; found out by constructing one at load.
+/// Whether a default-constructed U is all zero bytes. Nothing is left of this in optimised code but the answer, so that a loop
+/// which constructs nothing but zeros disappears with it.
 template<typename U>
-inline const bool kZeroByDefault = [] {
+inline bool zeroByDefault()
+{
     alignas(U) std::array<unsigned char, sizeof(U)> bytes{};
     U *const probe = ::new (bytes.data()) U();
-    const bool zero = std::all_of(bytes.begin(), bytes.end(), [](unsigned char byte) { return byte == 0; });
+    bool zero = true;
+    for (const unsigned char byte : bytes)
+        zero = zero && byte == 0;
     probe->~U();
     return zero;
-}();
+}
 
 /// Lets a container allocate from an arena. Single blocks are never released and elements never destroyed: whatever a container
 /// on an arena holds must own nothing outside the arena.
@@ -88,7 +105,7 @@ public:
     void construct(U *place, Arguments &&...arguments)
     {
         if constexpr (sizeof...(Arguments) == 0) {
-            if (kZeroByDefault<U>)
+            if (zeroByDefault<U>())
                 return;
         }
         ::new (static_cast<void *>(place)) U(std::forward<Arguments>(arguments)...);

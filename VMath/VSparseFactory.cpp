@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <limits>
-#include <utility>
+#include <new>
 #include <vector>
 
 #include <omp.h>
@@ -17,6 +18,7 @@ namespace {
 constexpr int kAlignment = 128;
 // Below this many rows a team costs more than it saves.
 constexpr std::int32_t kRowsWorthATeam = 4096;
+constexpr std::size_t kLineCells = 64 / sizeof(VSparseFactory::Cell);
 
 std::int32_t *allocateIndices(std::int32_t count)
 {
@@ -64,6 +66,15 @@ void VSparseFactory::OpenCell(int row, int column, CellAccessor &cell)
     rows[std::size_t(row)].insert(cell, column);
 }
 
+void VSparseFactory::SetRow(int row, const Cell *first, const Cell *last)
+{
+    // Made in the row's own place, which no destructor has to leave: all that a row owns is in the arena. A bucket's newest cell
+    // is its first, so that from the last cell to the first each bucket ends up in ascending order.
+    Row &place = rows[std::size_t(row)];
+    ::new (static_cast<void *>(&place))
+        Row(std::make_reverse_iterator(last), std::make_reverse_iterator(first), Row::allocator_type(arena));
+}
+
 void VSparseFactory::ToCsr(VSparseMatrix &target) const
 {
     target.Reset();
@@ -99,10 +110,11 @@ void VSparseFactory::ToCsr(VSparseMatrix &target) const
 
     // All memory is allocated before the team starts: no exception may leave a parallel region.
     const int team = rowCount < kRowsWorthATeam ? 1 : std::max(1, threadCount);
-    std::vector<std::pair<std::int32_t, float>> scratch(std::size_t(team) * longest);
+    const std::size_t scratchCells = longest + kLineCells; // no two threads write to the same cache line
+    std::vector<Cell> scratch(std::size_t(team) * scratchCells);
 #pragma omp parallel for num_threads(team) schedule(static)
     for (std::int32_t row = 0; row < rowCount; ++row) {
-        auto *const first = scratch.data() + std::size_t(omp_get_thread_num()) * longest;
+        auto *const first = scratch.data() + std::size_t(omp_get_thread_num()) * scratchCells;
         auto *last = first;
         const Row &rowCells = rows[std::size_t(row)];
         // Counted, so that the walk stops at the last cell; the iterator would search all remaining buckets on its way to end().
@@ -112,11 +124,20 @@ void VSparseFactory::ToCsr(VSparseMatrix &target) const
             if (left > 1)
                 ++cell;
         }
-        std::sort(first, last, [](const auto &left, const auto &right) { return left.first < right.first; });
-        std::size_t position = std::size_t(target.rowStarts[row]) - 1;
-        for (const auto *sorted = first; sorted != last; ++sorted, ++position) {
-            target.columnIndices[position] = sorted->first + 1;
-            target.values[position] = sorted->second;
+        const auto byColumn = [](const Cell &left, const Cell &right) { return left.first < right.first; };
+        Cell *middle = std::is_sorted_until(first, last, byColumn);
+        if (!std::is_sorted(middle, last, byColumn)) {
+            std::sort(first, last, byColumn);
+            middle = last;
+        }
+        // Rows that came in order are in two sorted runs, one for each bucket.
+        std::int32_t *column = target.columnIndices + (target.rowStarts[row] - 1);
+        float *value = target.values + (target.rowStarts[row] - 1);
+        for (const Cell *low = first, *high = middle; low != middle || high != last; ++column, ++value) {
+            const bool takeLow = high == last || (low != middle && low->first < high->first);
+            const Cell &next = takeLow ? *low++ : *high++;
+            *column = next.first + 1;
+            *value = next.second;
         }
     }
 }

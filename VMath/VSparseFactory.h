@@ -15,7 +15,7 @@
 /// that cell. The table of rows grows without a lock, so a single thread must have opened every row once before a parallel phase
 /// begins.
 ///
-/// The matting Laplacian arrives row by row with its sums already formed: apart from the diagonal, each cell is opened once, and
+/// The matting Laplacian arrives row by row with its sums already formed: apart from the diagonal, its cells are set by SetRow,
 /// each row by one thread. The concurrent containers free OpenCell from depending on that order: any caller may add to any cell
 /// from any thread, for instance window by window, where neighbouring windows share cells.
 class VSparseFactory
@@ -48,6 +48,16 @@ public:
     /// Opens the cell for writing; a missing cell is created with the value 0.0. First releases what `cell` still holds. Callers
     /// reach it through the pointer `cellAccess` (fixed: part of the record's layout).
     void OpenCell(int row, int column, CellAccessor &cell);
+
+    /// A column and its value.
+    using Cell = std::pair<std::int32_t, float>;
+    /// Gives a row, which has been opened before, the cells from `first` up to `last`, in ascending order of their columns, in
+    /// place of those it has. Much quicker than opening each of them, since it takes no lock: meanwhile nothing else may use the
+    /// row; other rows may be used. Throws std::bad_alloc; then the factory can only be destroyed.
+    void SetRow(int row, const Cell *first, const Cell *last);
+
+    /// When the factory ends, its memory goes to the next system that this thread solves: that one must follow soon.
+    void GiveMemoryToSolver() { arena.giveToSolver(); }
 
     /// Writes the compressed rows of all cells ever opened, including those of value 0.0, to `target`, after releasing what it
     /// held. Throws VException "Not enough memory"; what has been allocated by then belongs to `target`.

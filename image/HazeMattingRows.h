@@ -39,13 +39,14 @@ public:
     /// 0.0.
     void start(int firstRow, float diagonal);
 
-    /// The cells of the next row: kCells per pixel, pixel by pixel. Cells that lie outside the image hold no meaningful value.
-    /// Valid until the next call.
+    /// The cells of the next row: kCells rows of `width` floats, one for each cell of its pixels. Cells that lie outside the
+    /// image hold no meaningful value. Valid until the next call.
     [[nodiscard]] const float *next();
 
 private:
     float *rowOfCells(int row) { return cells.data() + std::size_t(row % kWindow) * cellsPerRow; }
-    void clearRow(int row);
+    float *rowOfColours(int row) { return colours.data() + std::size_t(row % kWindow) * std::size_t(width) * 3; }
+    void openRow(int row);
     void addWindows(int y);
 
     const float *pixels;
@@ -53,7 +54,8 @@ private:
     int width;
     int height;
     std::size_t cellsPerRow;
-    std::vector<float> cells; ///< The rows that one row of windows covers; image row r is at r modulo kWindow.
+    std::vector<float> cells;   ///< The rows that one row of windows covers; image row r is at r modulo kWindow.
+    std::vector<float> colours; ///< The colours of the same rows: a row each of R, G and B.
     float diagonal = 0.0f;
     int nextRow = 0; ///< The row that next() returns.
 };

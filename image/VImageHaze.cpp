@@ -193,18 +193,19 @@ void addMattingLaplacian(const VImage &image, VSparseFactory &factory)
             int row = firstRowOf(part, parts, height);
             block.start(row, kLambdaCell);
             for (; row < end; ++row) {
-                const float *cells = block.next();
-                for (int x = 0; x < width; ++x, cells += HazeMattingRows::kCells) {
+                const float *const cells = block.next();
+                for (int x = 0; x < width; ++x) {
                     const int p = row * width + x;
+                    VSparseFactory::Cell rowCells[HazeMattingRows::kCells];
+                    VSparseFactory::Cell *last = rowCells;
+                    const bool inside = row + 2 < height && x >= 2 && x + 2 < width;
                     for (int index = 0; index < HazeMattingRows::kCells; ++index) {
                         const HazeMattingRows::Offset offset = HazeMattingRows::offsetOf(index);
                         const int column = x + offset.column;
-                        if (row + offset.row >= height || column < 0 || column >= width)
-                            continue;
-                        VSparseFactory::CellAccessor cell;
-                        (factory.*factory.cellAccess)(p, p + offset.row * width + offset.column, cell);
-                        cell->second = cells[index];
+                        if (inside || (row + offset.row < height && column >= 0 && column < width))
+                            *last++ = {p + offset.row * width + offset.column, cells[std::ptrdiff_t(index) * width + x]};
                     }
+                    factory.SetRow(p, rowCells, last);
                 }
             }
         } catch (...) { // only the memory for a cell can fail here
@@ -264,7 +265,8 @@ bool VImage::HazeMatting(float *darkMap)
     try {
         VSparseMatrix matrix;
         factory->ToCsr(matrix);
-        factory.reset(); // its memory is several times that of the matrix
+        factory->GiveMemoryToSolver();
+        factory.reset();
         matrix.Solve(darkMap, x.get());
         std::copy_n(x.get(), unknowns, darkMap);
     } catch (...) {

@@ -25,8 +25,8 @@ std::uint32_t GetLastError();
 void AdviseHugePages(void *block, std::size_t bytes);
 
 /// Reserves `bytes` bytes (a multiple of 4096) of zeroed address space that takes memory only where it is touched, on huge pages
-/// where the system has them. Starts on a huge-page boundary. Null on failure. The caller releases it with ReleaseMemory and the
-/// same size.
+/// where the system has them. Starts on a huge-page boundary. Null on failure. The caller releases all of it with ReleaseMemory,
+/// at once or in parts that begin on page boundaries.
 void *ReserveMemory(std::size_t bytes);
 void ReleaseMemory(void *memory, std::size_t bytes);
 

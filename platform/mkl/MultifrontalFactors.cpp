@@ -5,8 +5,9 @@
 #include <cstdlib>
 #include <iterator>
 #include <new>
+#include <utility>
 
-#include <sys/mman.h>
+#include <omp.h>
 
 #include "frontKernels.h"
 #include "mkl.h"
@@ -21,12 +22,11 @@ constexpr std::int64_t kMostLeafVertices = 512;
 constexpr std::size_t kMostFloatsPerVertex = 2000;
 // Subtrees up to this size are visited by one thread.
 constexpr std::int32_t kJobVertices = 1500;
+// More threads gain less by filing cells than adding up their counts costs.
+constexpr int kMostFilers = 4;
 // The smallest share of a diagonal cell that may remain after elimination. Below it, a float retains three bits of the cell, and
 // a solver with pivoting does better.
 constexpr float kPivotFloor = 1.0f / (1 << 20);
-
-constexpr std::size_t kAlignment = kStrip * sizeof(float);
-constexpr std::size_t kHugePage = std::size_t(2) << 20;
 
 } // namespace
 
@@ -40,21 +40,21 @@ int MultifrontalFactors::Node::strips() const
     return pivotStrips() + (int(border.size()) + kStrip - 1) / kStrip;
 }
 
-int MultifrontalFactors::Node::rowOf(std::int32_t position) const
+std::size_t MultifrontalFactors::Node::panelFloats() const
 {
-    if (position < first + pivots)
-        return position - first;
-    return pivotStrips() * kStrip + int(std::lower_bound(border.begin(), border.end(), position) - border.begin());
+    return std::size_t(panelStart(strips(), pivotStrips()));
 }
 
-void MultifrontalFactors::Free::operator()(float *memory) const
+void MultifrontalFactors::Free::operator()(void *block) const
 {
-    mklFree(memory);
+    mklFree(block);
 }
 
-MultifrontalFactors::Floats MultifrontalFactors::allocate(std::size_t count, std::size_t alignment)
+template<typename T>
+MultifrontalFactors::Block<T> MultifrontalFactors::allocate(std::size_t count)
 {
-    Floats result(static_cast<float *>(mklMalloc(std::max<std::size_t>(count, 1) * sizeof(float), int(alignment))));
+    constexpr int kAlignment = kStrip * sizeof(float);
+    Block<T> result(static_cast<T *>(mklMalloc(std::max<std::size_t>(count, 1) * sizeof(T), kAlignment)));
     if (!result)
         throw std::bad_alloc();
     return result;
@@ -83,20 +83,26 @@ void MultifrontalFactors::findGrid(const SparseRows &matrix)
             gridWidth = std::max(1, (second[0] + endOfRun(second)[-1]) / 2 - (longest + 1));
     }
 
-    std::vector<std::int32_t> x(std::size_t(order), 0);
-    std::vector<std::int32_t> y(std::size_t(order), 0);
-    for (std::int32_t vertex = 0; vertex < order; ++vertex) {
-        x[std::size_t(vertex)] = vertex % gridWidth;
-        y[std::size_t(vertex)] = vertex / gridWidth;
-    }
-    reach[0] = reach[1] = 0;
+    std::int32_t reachX = 0;
+    std::int32_t reachY = 0;
+#pragma omp parallel for schedule(static) num_threads(teamForRows()) reduction(max : reachX, reachY)
     for (std::int32_t row = 0; row < order; ++row) {
+        const std::int32_t x = row % gridWidth;
+        std::int32_t start = row - x; // of the grid row that the column is in; both rise from cell to cell
+        std::int32_t y = 0;
         for (std::int32_t cell = matrix.rowStarts[row] - 1; cell < matrix.rowStarts[row + 1] - 1; ++cell) {
-            const auto column = std::size_t(matrix.columns[cell] - 1);
-            reach[0] = std::max(reach[0], std::abs(x[column] - x[std::size_t(row)]));
-            reach[1] = std::max(reach[1], y[column] - y[std::size_t(row)]);
+            const std::int32_t column = matrix.columns[cell] - 1;
+            if (column - start >= gridWidth) {
+                const std::int32_t further = (column - start) / gridWidth;
+                y += further;
+                start += further * gridWidth;
+            }
+            reachX = std::max(reachX, std::abs(column - start - x));
+            reachY = std::max(reachY, y);
         }
     }
+    reach[0] = reachX;
+    reach[1] = reachY;
 }
 
 // Cuts the box in the direction that needs fewer separator vertices. The separator is as thick as the reach, so that no cell
@@ -148,10 +154,19 @@ std::int32_t MultifrontalFactors::dissect(const Box &box)
 
 void MultifrontalFactors::fileCells(const SparseRows &matrix)
 {
-    cellStarts.assign(std::size_t(order) + 1, 0);
-    cells.resize(std::size_t(matrix.count()));
-    const auto everyCell = [&](const auto &visit) {
-        for (std::int32_t row = 0; row < order; ++row) {
+    // Each thread counts the cells of its rows by position, and puts them behind those of the threads before it.
+    const auto positions = std::size_t(order);
+    const int parts = std::min(teamForRows(), kMostFilers);
+    std::vector<std::int32_t> places(positions * std::size_t(parts));
+    const auto cellCount = std::size_t(matrix.count());
+    cells = static_cast<Cell *>(memory.take(cellCount * sizeof(Cell)));
+    if (cells == nullptr) {
+        ownCells = allocate<Cell>(cellCount);
+        cells = ownCells.get();
+    }
+    const auto everyCell = [&](int part, const auto &visit) {
+        const auto last = std::int32_t(std::int64_t(order) * (part + 1) / parts);
+        for (auto row = std::int32_t(std::int64_t(order) * part / parts); row < last; ++row) {
             const std::int32_t rowPosition = positionOf[std::size_t(row)];
             for (std::int32_t cell = matrix.rowStarts[row] - 1; cell < matrix.rowStarts[row + 1] - 1; ++cell) {
                 const std::int32_t position = positionOf[std::size_t(matrix.columns[cell] - 1)];
@@ -159,23 +174,41 @@ void MultifrontalFactors::fileCells(const SparseRows &matrix)
             }
         }
     };
-    everyCell([this](std::size_t sooner, const Cell &) { ++cellStarts[sooner + 1]; });
-    for (std::size_t position = 0; position < std::size_t(order); ++position)
-        cellStarts[position + 1] += cellStarts[position];
-    std::vector<std::int32_t> next(cellStarts.begin(), cellStarts.end() - 1);
-    everyCell([&](std::size_t sooner, const Cell &cell) { cells[std::size_t(next[sooner]++)] = cell; });
+#pragma omp parallel for schedule(static) num_threads(parts)
+    for (int part = 0; part < parts; ++part) {
+        std::int32_t *const count = places.data() + positions * std::size_t(part);
+        everyCell(part, [count](std::size_t sooner, const Cell &) { ++count[sooner]; });
+    }
+    cellStarts.resize(positions + 1);
+    std::int32_t filed = 0;
+    for (std::size_t position = 0; position < positions; ++position) {
+        cellStarts[position] = filed;
+        for (int part = 0; part < parts; ++part)
+            filed += std::exchange(places[positions * std::size_t(part) + position], filed);
+    }
+    cellStarts[positions] = filed;
+#pragma omp parallel for schedule(static) num_threads(parts)
+    for (int part = 0; part < parts; ++part) {
+        std::int32_t *const next = places.data() + positions * std::size_t(part);
+        everyCell(part, [&](std::size_t sooner, const Cell &cell) { cells[std::size_t(next[sooner]++)] = cell; });
+    }
 }
 
-void MultifrontalFactors::findBorder(std::int32_t number)
+// `rowAt` holds, by position, the row of the front; -1 for positions outside the border, before and after.
+void MultifrontalFactors::findBorder(std::int32_t number, std::int32_t *rowAt)
 {
     Node &node = nodes[std::size_t(number)];
     const std::int32_t end = node.first + node.pivots;
+    Cell *const firstCell = cells + cellStarts[std::size_t(node.first)];
+    Cell *const lastCell = cells + cellStarts[std::size_t(end)];
     std::vector<std::int32_t> border;
-    for (std::int32_t cell = cellStarts[std::size_t(node.first)]; cell < cellStarts[std::size_t(end)]; ++cell)
-        if (cells[std::size_t(cell)].later >= end)
-            border.push_back(cells[std::size_t(cell)].later);
+    for (const Cell *cell = firstCell; cell != lastCell; ++cell) {
+        if (cell->later >= end && rowAt[cell->later] < 0) {
+            rowAt[cell->later] = 0;
+            border.push_back(cell->later);
+        }
+    }
     std::sort(border.begin(), border.end());
-    border.erase(std::unique(border.begin(), border.end()), border.end());
     for (const std::int32_t child : node.children) {
         if (child < 0)
             continue;
@@ -186,15 +219,23 @@ void MultifrontalFactors::findBorder(std::int32_t number)
                        std::back_inserter(both));
         border.swap(both);
     }
-    node.border = std::move(border);
+
+    std::int32_t row = node.pivotStrips() * kStrip;
+    for (const std::int32_t position : border)
+        rowAt[position] = row++;
+    const auto rowOf = [&](std::int32_t position) { return position < end ? position - node.first : rowAt[position]; };
+    for (Cell *cell = firstCell; cell != lastCell; ++cell)
+        cell->later = rowOf(cell->later);
     for (const std::int32_t child : node.children) {
         if (child < 0)
             continue;
         Node &below = nodes[std::size_t(child)];
-        below.parentRows.reserve(below.border.size());
-        for (const std::int32_t position : below.border)
-            below.parentRows.push_back(node.rowOf(position));
+        below.parentRows.resize(below.border.size());
+        std::transform(below.border.begin(), below.border.end(), below.parentRows.begin(), rowOf);
     }
+    for (const std::int32_t position : border)
+        rowAt[position] = -1;
+    node.border = std::move(border);
 }
 
 template<typename Visit>
@@ -222,6 +263,12 @@ void MultifrontalFactors::planWaves(std::int32_t number, std::int32_t parent, st
     waves[depth].push_back({number, parent});
     for (const std::int32_t child : node.children)
         planWaves(child, number, depth + 1);
+}
+
+int MultifrontalFactors::teamForRows() const
+{
+    constexpr std::int32_t kRowsPerThread = 4096; // fewer take less time than waking a thread
+    return std::clamp(order / kRowsPerThread, 1, team);
 }
 
 // A thread that finds no job would be woken for nothing.
@@ -276,29 +323,41 @@ bool MultifrontalFactors::analyse(const SparseRows &matrix)
         positionOf[std::size_t(vertexAt[std::size_t(position)])] = position;
     fileCells(matrix);
     planWaves(std::int32_t(nodes.size()) - 1, -1, 0);
-    childrenFirst([this](std::int32_t number) {
-        findBorder(number);
+    const auto positions = std::size_t(order);
+    std::vector<std::int32_t> rowAt(positions * std::size_t(team), -1);
+    childrenFirst([&](std::int32_t number) {
+        findBorder(number, rowAt.data() + positions * std::size_t(omp_get_thread_num()));
         return true;
     });
 
     std::size_t localFloats = 0;
     for (Node &node : nodes) {
-        const auto rows = std::size_t(node.strips()) * kStrip;
-        node.panelStart = panelFloats;
         node.localStart = localFloats;
-        panelFloats += rows * std::size_t(node.pivotStrips()) * kStrip;
-        localFloats += rows;
+        panelFloats += node.panelFloats();
+        localFloats += std::size_t(node.strips()) * kStrip;
     }
     if (panelFloats > kMostFloatsPerVertex * std::size_t(order))
         return false;
-    locals = allocate(localFloats, kAlignment);
+    locals = allocate<float>(localFloats);
     return true;
 }
 
 bool MultifrontalFactors::factorise(const SparseRows &matrix)
 {
-    panels = allocate(panelFloats, kHugePage);
-    madvise(panels.get(), panelFloats * sizeof(float), MADV_HUGEPAGE); // a hint: without huge pages it is only slower
+    std::size_t left = 0;
+    for (Node &node : nodes) {
+        node.panel = static_cast<float *>(memory.take(node.panelFloats() * sizeof(float)));
+        left += node.panel == nullptr ? node.panelFloats() : 0;
+    }
+    memory.releaseUnused();
+    ownPanels = allocate<float>(left);
+    float *next = ownPanels.get();
+    for (Node &node : nodes) {
+        if (node.panel == nullptr) {
+            node.panel = next;
+            next += node.panelFloats();
+        }
+    }
     const bool done = childrenFirst([&](std::int32_t number) { return eliminate(number, matrix.values); });
     for (Node &node : nodes)
         node.contribution.reset();
@@ -310,18 +369,19 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
     Node &node = nodes[std::size_t(number)];
     const int pivotStrips = node.pivotStrips();
     const int strips = node.strips();
-    const std::size_t stripFloats = std::size_t(pivotStrips) * kStrip * kStrip;
-    float *const panel = panels.get() + node.panelStart;
-    // Start of a row in the panel and in the contribution: column c is 16 c floats further.
-    const auto inPanel = [&](int row) { return std::size_t(row / kStrip) * stripFloats + std::size_t(row % kStrip); };
-    const auto inContribution = [](int row) { return std::size_t(contributionStart(row / kStrip) + row % kStrip); };
+    float *const panel = node.panel;
+    // Start of a row in the panel: column c is 16 c floats further.
+    const auto inPanel = [pivotStrips](int row) { return panelStart(row / kStrip, pivotStrips) + row % kStrip; };
 
+    float *contribution = nullptr;
     if (strips > pivotStrips) {
-        const auto count = std::size_t(contributionStart(strips - pivotStrips));
-        node.contribution = allocate(count, kAlignment);
+        // With a strip's width to spare on both sides, which the kernel that adds it to the parent reads.
+        const auto count = std::size_t(contributionStart(strips - pivotStrips)) + 2 * kStrip;
+        node.contribution = allocate<float>(count);
         std::fill_n(node.contribution.get(), count, 0.0f);
+        contribution = node.contribution.get() + kStrip;
     }
-    std::fill_n(panel, stripFloats * std::size_t(strips), 0.0f);
+    std::fill_n(panel, panelStart(strips, pivotStrips), 0.0f);
     float *const floors = locals.get() + node.localStart;
     std::fill(floors, floors + pivotStrips * kStrip, 0.0f);
     for (int pivot = 0; pivot < node.pivots; ++pivot) {
@@ -330,55 +390,29 @@ bool MultifrontalFactors::eliminate(std::int32_t number, const float *values)
         for (std::int32_t i = cellStarts[position]; i < cellStarts[position + 1]; ++i) {
             const Cell &cell = cells[std::size_t(i)];
             const float value = values[cell.source];
-            column[inPanel(node.rowOf(cell.later))] = value;
-            if (std::size_t(cell.later) == position)
+            column[inPanel(cell.later)] = value;
+            if (cell.later == pivot)
                 floors[pivot] = kPivotFloor * value;
         }
     }
     for (int pad = node.pivots; pad < pivotStrips * kStrip; ++pad)
-        panel[inPanel(pad) + std::size_t(pad) * kStrip] = 1.0f;
+        panel[inPanel(pad) + std::ptrdiff_t(pad) * kStrip] = 1.0f;
 
+    const FrontKernels &kernels = frontKernels();
     for (const std::int32_t child : node.children) {
         if (child < 0)
             continue;
         Node &below = nodes[std::size_t(child)];
-        const auto count = int(below.border.size());
-        const float *source = below.contribution.get();
-        for (int strip = 0; strip * kStrip < count; ++strip) {
-            const int rows = std::min(kStrip, count - strip * kStrip);
-            const std::int32_t *const targetRows = below.parentRows.data() + strip * kStrip;
-            std::size_t panelRow[kStrip];
-            std::size_t contributionRow[kStrip];
-            for (int i = 0; i < rows; ++i) {
-                panelRow[i] = inPanel(targetRows[i]);
-                contributionRow[i] =
-                    targetRows[i] < pivotStrips * kStrip ? 0 : inContribution(targetRows[i] - pivotStrips * kStrip);
-            }
-            const int columns = std::min((strip + 1) * kStrip, count);
-            for (int column = 0; column < columns; ++column) {
-                const int from = std::max(0, column - strip * kStrip); // only the lower triangle
-                const int target = below.parentRows[std::size_t(column)];
-                const float *const sourceColumn = source + column * kStrip;
-                if (target < pivotStrips * kStrip) {
-                    float *const at = panel + std::size_t(target) * kStrip;
-                    for (int i = from; i < rows; ++i)
-                        at[panelRow[i]] += sourceColumn[i];
-                } else {
-                    float *const at = node.contribution.get() + std::size_t(target - pivotStrips * kStrip) * kStrip;
-                    for (int i = from; i < rows; ++i)
-                        at[contributionRow[i]] += sourceColumn[i];
-                }
-            }
-            source += (strip + 1) * kStrip * kStrip;
-        }
+        if (below.border.empty())
+            continue;
+        kernels.add(below.contribution.get() + kStrip, int(below.border.size()), below.parentRows.data(), panel, pivotStrips,
+                    contribution);
         below.contribution.reset();
     }
-
-    const FrontKernels &kernels = frontKernels();
     if (!kernels.factor(panel, pivotStrips, strips, floors))
         return false;
     if (strips > pivotStrips)
-        kernels.update(panel, node.pivots, pivotStrips, strips, node.contribution.get());
+        kernels.update(panel, node.pivots, pivotStrips, strips, contribution);
     return true;
 }
 
@@ -398,7 +432,7 @@ void MultifrontalFactors::solve(float *rightHandSide)
             for (std::size_t i = 0; i < below.parentRows.size(); ++i)
                 local[below.parentRows[i]] += from[i];
         }
-        frontKernels().forward(panels.get() + node.panelStart, node.pivotStrips(), node.strips(), local);
+        frontKernels().forward(node.panel, node.pivotStrips(), node.strips(), local);
         return true;
     });
     for (const std::vector<Job> &jobs : waves) {
@@ -406,9 +440,12 @@ void MultifrontalFactors::solve(float *rightHandSide)
         for (std::size_t i = 0; i < jobs.size(); ++i)
             substitute(jobs[i].node, jobs[i].parent, rightHandSide);
     }
+    // From the last to the first: each pass begins with the panels that the one before has used last, and finds some in the
+    // cache.
+    const std::size_t last = subtrees.size() - 1;
 #pragma omp parallel for schedule(dynamic) num_threads(teamFor(subtrees))
     for (std::size_t i = 0; i < subtrees.size(); ++i)
-        descend(subtrees[i].node, subtrees[i].parent, rightHandSide);
+        descend(subtrees[last - i].node, subtrees[last - i].parent, rightHandSide);
 }
 
 void MultifrontalFactors::substitute(std::int32_t number, std::int32_t parent, float *solution)
@@ -421,7 +458,7 @@ void MultifrontalFactors::substitute(std::int32_t number, std::int32_t parent, f
         for (std::size_t i = 0; i < node.parentRows.size(); ++i)
             border[i] = above[node.parentRows[i]];
     }
-    frontKernels().backward(panels.get() + node.panelStart, node.pivotStrips(), node.strips(), local);
+    frontKernels().backward(node.panel, node.pivotStrips(), node.strips(), local);
     for (int pivot = 0; pivot < node.pivots; ++pivot)
         solution[vertexAt[std::size_t(node.first + pivot)]] = local[pivot];
 }

@@ -3,8 +3,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
+#include "GivenMemory.h"
 #include "SparseRows.h"
 
 /// Cholesky factors LL' of a positive definite matrix that couples neighbours on a grid numbered row by row, as an image does.
@@ -18,8 +20,8 @@
 class MultifrontalFactors
 {
 public:
-    /// `teamSize` is at least 1.
-    explicit MultifrontalFactors(int teamSize) : team(teamSize) {}
+    /// `teamSize` is at least 1. `given` is used before new memory.
+    MultifrontalFactors(int teamSize, GivenMemory given) : team(teamSize), memory(std::move(given)) {}
     /// Ordering and symbolic factorisation. False for any other pattern. Throws std::bad_alloc.
     [[nodiscard]] bool analyse(const SparseRows &matrix);
     /// Numerical factorisation of the analysed matrix. False if a pivot would have to be perturbed. Throws std::bad_alloc.
@@ -32,9 +34,10 @@ public:
 private:
     struct Free
     {
-        void operator()(float *memory) const;
+        void operator()(void *block) const;
     };
-    using Floats = std::unique_ptr<float[], Free>;
+    template<typename T>
+    using Block = std::unique_ptr<T[], Free>;
 
     /// Vertices that are eliminated together, in one dense front: a leaf of the dissection, or a separator with two children.
     struct Node
@@ -45,14 +48,13 @@ private:
         std::int32_t children[2] = {-1, -1};
         std::vector<std::int32_t> border;     ///< Later positions that the node's subtree touches, ascending.
         std::vector<std::int32_t> parentRows; ///< The row of each border position in the parent's front.
-        std::size_t panelStart = 0;
+        float *panel = nullptr;
         std::size_t localStart = 0;
-        Floats contribution; ///< Exists from this node's elimination to its parent's.
+        Block<float> contribution; ///< Exists from this node's elimination to its parent's, with padding before and after it.
 
         int pivotStrips() const;
         int strips() const;
-        /// Row of a position in the front; the front must hold it.
-        int rowOf(std::int32_t position) const;
+        std::size_t panelFloats() const;
     };
     struct Box
     {
@@ -66,21 +68,23 @@ private:
     /// A cell of the matrix, stored with whichever of its two vertices is eliminated first.
     struct Cell
     {
-        std::int32_t later;  ///< The other vertex, as a position.
+        std::int32_t later;  ///< The other vertex: its position; once the borders are known, its row in the front.
         std::int32_t source; ///< Index into the values.
     };
 
     /// Uninitialised memory. Throws std::bad_alloc.
-    static Floats allocate(std::size_t count, std::size_t alignment);
+    template<typename T>
+    static Block<T> allocate(std::size_t count);
     void findGrid(const SparseRows &matrix);
     std::int32_t dissect(const Box &box);
     void fileCells(const SparseRows &matrix);
-    void findBorder(std::int32_t node);
+    void findBorder(std::int32_t node, std::int32_t *rowAt);
     bool eliminate(std::int32_t node, const float *values);
     template<typename Visit>
     bool childrenFirst(const Visit &visit);
     template<typename Visit>
     void climb(std::int32_t node, const Visit &visit);
+    int teamForRows() const;
     int teamFor(const std::vector<Job> &jobs) const;
     void planWaves(std::int32_t node, std::int32_t parent, std::size_t depth);
     void substitute(std::int32_t node, std::int32_t parent, float *solution);
@@ -96,8 +100,10 @@ private:
     std::vector<std::int32_t> positionOf;
     std::vector<std::int32_t> vertexAt;
     std::vector<std::int32_t> cellStarts; ///< By position.
-    std::vector<Cell> cells;
+    GivenMemory memory;
+    Cell *cells = nullptr; ///< Given, or in ownCells.
+    Block<Cell> ownCells;
     std::size_t panelFloats = 0;
-    Floats panels;
-    Floats locals; ///< One float per row of each front, for the solution.
+    Block<float> ownPanels; ///< Those that the given memory has no room for.
+    Block<float> locals;    ///< One float per row of each front, for the solution.
 };

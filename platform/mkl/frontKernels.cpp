@@ -1,9 +1,17 @@
 #include "frontKernels.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 
 #include "InstructionSet.h"
+
+// Before a loop over the columns of a tile: unrolled altogether, so that they stay in registers.
+#ifdef __clang__
+#    define NIMBRA_UNROLL _Pragma("clang loop unroll(full)")
+#else
+#    define NIMBRA_UNROLL _Pragma("GCC unroll 16")
+#endif
 
 namespace {
 
@@ -19,23 +27,29 @@ NIMBRA_INLINE const Lanes &lanes(const float *at)
     return *reinterpret_cast<const Lanes *>(at);
 }
 
-/// target (16 x 16) -= left (16 x depth) * right' (depth x 16), `Width` columns at a time: as many as fit into registers.
-template<int Width>
-NIMBRA_INLINE void subtractProduct(float *target, const float *left, const float *right, int depth)
+/// For each of `Strips` strips of rows, one `leftStep` floats after the other and their targets `targetStep` floats: target (16 x
+/// 16) -= left (16 x depth) * right' (depth x 16), `Width` columns at a time. As many as fit into registers.
+template<int Width, int Strips>
+NIMBRA_INLINE void subtractProducts(float *target, std::ptrdiff_t targetStep, const float *left, std::ptrdiff_t leftStep,
+                                    const float *right, int depth)
 {
     for (int first = 0; first < kStrip; first += Width) {
-        Lanes sum[Width];
-        for (int c = 0; c < Width; ++c)
-            sum[c] = lanes(target + (first + c) * kStrip);
+        Lanes sum[Strips][Width];
+        for (int s = 0; s < Strips; ++s)
+            for (int c = 0; c < Width; ++c)
+                sum[s][c] = lanes(target + s * targetStep + (first + c) * kStrip);
         const float *l = left;
         const float *r = right + first;
         for (int k = 0; k < depth; ++k, l += kStrip, r += kStrip) {
-            const Lanes column = lanes(l);
-            for (int c = 0; c < Width; ++c)
-                sum[c] -= column * r[c];
+            for (int s = 0; s < Strips; ++s) {
+                const Lanes column = lanes(l + s * leftStep);
+                for (int c = 0; c < Width; ++c)
+                    sum[s][c] -= column * r[c];
+            }
         }
-        for (int c = 0; c < Width; ++c)
-            lanes(target + (first + c) * kStrip) = sum[c];
+        for (int s = 0; s < Strips; ++s)
+            for (int c = 0; c < Width; ++c)
+                lanes(target + s * targetStep + (first + c) * kStrip) = sum[s][c];
     }
 }
 
@@ -57,63 +71,161 @@ NIMBRA_INLINE bool factorTile(float *tile, const float *floors)
     return true;
 }
 
-/// target := target * L'^-1, where L is the tile as left by factorTile.
+/// target := target * L'^-1, where L is the tile as left by factorTile, for as many rows at a time as one register holds.
+template<int Rows>
 NIMBRA_INLINE void divideTile(float *target, const float *tile)
 {
-    for (int j = 0; j < kStrip; ++j) {
-        Lanes sum = lanes(target + j * kStrip);
-        for (int i = 0; i < j; ++i)
-            sum -= lanes(target + i * kStrip) * tile[i * kStrip + j];
-        lanes(target + j * kStrip) = sum * tile[j * kStrip + j];
+    typedef float Part __attribute__((vector_size(Rows * sizeof(float))));
+    for (int first = 0; first < kStrip; first += Rows) {
+        Part column[kStrip];
+        for (int j = 0; j < kStrip; ++j)
+            column[j] = *reinterpret_cast<const Part *>(target + j * kStrip + first);
+        NIMBRA_UNROLL
+        for (int j = 0; j < kStrip; ++j) {
+            column[j] *= tile[j * kStrip + j];
+            NIMBRA_UNROLL
+            for (int c = j + 1; c < kStrip; ++c)
+                column[c] -= column[j] * tile[j * kStrip + c];
+        }
+        for (int j = 0; j < kStrip; ++j)
+            *reinterpret_cast<Part *>(target + j * kStrip + first) = column[j];
     }
 }
 
-template<int Width>
+/// A register holds `Rows` floats, and the registers hold products of `Strips` strips, 1 or 2, and `Width` columns.
+template<int RowCount, int StripCount, int ColumnCount>
+struct Registers
+{
+    static_assert(StripCount == 1 || StripCount == 2);
+    static constexpr int Rows = RowCount;
+    static constexpr int Strips = StripCount;
+    static constexpr int Width = ColumnCount;
+};
+
+template<typename Set>
 NIMBRA_INLINE bool factorBody(float *panel, int pivotStrips, int strips, const float *floors)
 {
-    const std::ptrdiff_t stripSize = std::ptrdiff_t(pivotStrips) * kStrip * kStrip;
     for (int block = 0; block < pivotStrips; ++block) {
-        const float *const blockRows = panel + block * stripSize;
-        const float *const tile = blockRows + block * kStrip * kStrip;
-        for (int strip = block; strip < strips; ++strip) {
-            float *const rows = panel + strip * stripSize;
-            float *const target = rows + block * kStrip * kStrip;
-            subtractProduct<Width>(target, rows, blockRows, block * kStrip);
-            if (strip > block)
-                divideTile(target, tile);
-            else if (!factorTile(target, floors + block * kStrip))
-                return false;
+        const int depth = block * kStrip;
+        float *const blockRows = panel + panelStart(block, pivotStrips);
+        float *const tile = blockRows + depth * kStrip;
+        subtractProducts<Set::Width, 1>(tile, 0, blockRows, 0, blockRows, depth);
+        if (!factorTile(tile, floors + depth))
+            return false;
+        for (int strip = block + 1; strip < strips;) {
+            float *const rows = panel + panelStart(strip, pivotStrips);
+            float *const target = rows + depth * kStrip;
+            if (strip + Set::Strips <= strips) {
+                const std::ptrdiff_t step = panelStart(strip + 1, pivotStrips) - panelStart(strip, pivotStrips);
+                subtractProducts<Set::Width, Set::Strips>(target, step, rows, step, blockRows, depth);
+                for (int s = 0; s < Set::Strips; ++s)
+                    divideTile<Set::Rows>(target + s * step, tile);
+                strip += Set::Strips;
+            } else {
+                subtractProducts<Set::Width, 1>(target, 0, rows, 0, blockRows, depth);
+                divideTile<Set::Rows>(target, tile);
+                ++strip;
+            }
         }
     }
     return true;
 }
 
-template<int Width>
+template<typename Set>
 NIMBRA_INLINE void updateBody(const float *panel, int pivots, int pivotStrips, int strips, float *contribution)
 {
     const std::ptrdiff_t stripSize = std::ptrdiff_t(pivotStrips) * kStrip * kStrip;
-    const float *const border = panel + pivotStrips * stripSize;
-    for (int row = 0; row < strips - pivotStrips; ++row) {
+    const float *const border = panel + panelStart(pivotStrips, pivotStrips);
+    const int borderStrips = strips - pivotStrips;
+    for (int row = 0; row < borderStrips;) {
+        const float *const left = border + row * stripSize;
         float *const target = contribution + contributionStart(row);
-        for (int column = 0; column <= row; ++column)
-            subtractProduct<Width>(target + column * kStrip * kStrip, border + row * stripSize, border + column * stripSize,
-                                   pivots);
+        const bool together = row + Set::Strips <= borderStrips;
+        const std::ptrdiff_t step = contributionStart(row + 1) - contributionStart(row);
+        for (int column = 0; column <= row; ++column) {
+            float *const tile = target + column * kStrip * kStrip;
+            if (together)
+                subtractProducts<Set::Width, Set::Strips>(tile, step, left, stripSize, border + column * stripSize, pivots);
+            else
+                subtractProducts<Set::Width, 1>(tile, 0, left, 0, border + column * stripSize, pivots);
+        }
+        if (together && Set::Strips > 1) // the lower strip's own diagonal
+            subtractProducts<Set::Width, 1>(target + step + (row + 1) * kStrip * kStrip, 0, left + stripSize, 0, left + stripSize,
+                                            pivots);
+        row += together ? Set::Strips : 1;
+    }
+}
+
+typedef std::int32_t LaneMask __attribute__((vector_size(kStrip * sizeof(std::int32_t))));
+typedef float UnalignedLanes __attribute__((vector_size(kStrip * sizeof(float)), aligned(sizeof(float))));
+
+/// Sets all bits of lanes first ... last - 1, and clears the others. By reference, as are all vectors here: functions that return
+/// or take them by value differ between instruction sets.
+NIMBRA_INLINE void choose(LaneMask &mask, int first, int last)
+{
+    const LaneMask lane = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15};
+    mask = LaneMask(lane >= first) & LaneMask(lane < last);
+}
+
+NIMBRA_INLINE void addChosen(float *target, const float *source, const LaneMask &mask)
+{
+    lanes(target) += Lanes(LaneMask(*reinterpret_cast<const UnalignedLanes *>(source)) & mask);
+}
+
+NIMBRA_INLINE void addBody(const float *child, int rows, const std::int32_t *targetRows, float *panel, int pivotStrips,
+                           float *contribution)
+{
+    const int pivotRows = pivotStrips * kStrip;
+    const int pivotColumns = int(std::lower_bound(targetRows, targetRows + rows, pivotRows) - targetRows);
+    for (int strip = 0; strip * kStrip < rows; ++strip) {
+        const int firstRow = strip * kStrip;
+        const int count = std::min(kStrip, rows - firstRow);
+        const std::int32_t *const targets = targetRows + firstRow;
+        const float *const source = child + contributionStart(strip);
+        // Lanes from `first` to `last` are neighbours in one strip of the front, too, though not in the same lanes.
+        for (int first = 0, last = 0; first < count; first = last) {
+            for (last = first + 1; last < count && targets[last] == targets[last - 1] + 1 && targets[last] % kStrip != 0;)
+                ++last;
+            const int targetStrip = targets[first] / kStrip;
+            const int shift = targets[first] % kStrip - first;
+            const float *const shifted = source - shift;
+            // The front's columns from pivotRows on are in the contribution.
+            const std::ptrdiff_t inPanel = panelStart(targetStrip, pivotStrips);
+            const std::ptrdiff_t inContribution =
+                targetStrip < pivotStrips ? 0 : contributionStart(targetStrip - pivotStrips) - std::ptrdiff_t(pivotRows) * kStrip;
+            LaneMask mask;
+            choose(mask, first + shift, last + shift);
+            int column = 0;
+            for (; column < std::min(firstRow, pivotColumns); ++column)
+                addChosen(panel + (inPanel + std::ptrdiff_t(targetRows[column]) * kStrip), shifted + column * kStrip, mask);
+            for (; column < firstRow; ++column)
+                addChosen(contribution + (inContribution + std::ptrdiff_t(targetRows[column]) * kStrip),
+                          shifted + column * kStrip, mask);
+            for (; column < firstRow + last; ++column) {
+                choose(mask, std::max(first, column - firstRow) + shift, last + shift); // only the lower triangle
+                const std::ptrdiff_t targetColumn = std::ptrdiff_t(targetRows[column]) * kStrip;
+                float *const target =
+                    column < pivotColumns ? panel + (inPanel + targetColumn) : contribution + (inContribution + targetColumn);
+                addChosen(target, shifted + column * kStrip, mask);
+            }
+        }
     }
 }
 
 NIMBRA_INLINE void forwardBody(const float *panel, int pivotStrips, int strips, float *local)
 {
     const int columns = pivotStrips * kStrip;
-    for (int strip = 0; strip < strips; ++strip, panel += std::ptrdiff_t(columns) * kStrip) {
+    for (int strip = 0; strip < strips; ++strip) {
+        const float *const rows = panel + panelStart(strip, pivotStrips);
         const int known = strip < pivotStrips ? strip * kStrip : columns;
         Lanes sum[4] = {lanes(local + strip * kStrip), {}, {}, {}};
         for (int k = 0; k < known; k += 4)
             for (int i = 0; i < 4; ++i)
-                sum[i] -= lanes(panel + (k + i) * kStrip) * local[k + i];
+                sum[i] -= lanes(rows + (k + i) * kStrip) * local[k + i];
         lanes(local + strip * kStrip) = (sum[0] + sum[1]) + (sum[2] + sum[3]);
         if (strip >= pivotStrips)
             continue;
-        const float *tile = panel + std::ptrdiff_t(known) * kStrip;
+        const float *tile = rows + std::ptrdiff_t(known) * kStrip;
         float *const own = local + known;
         for (int j = 0; j < kStrip; ++j, tile += kStrip) {
             own[j] *= tile[j];
@@ -125,16 +237,16 @@ NIMBRA_INLINE void forwardBody(const float *panel, int pivotStrips, int strips, 
 
 NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips, float *local)
 {
-    const std::ptrdiff_t stripSize = std::ptrdiff_t(pivotStrips) * kStrip * kStrip;
     for (int block = pivotStrips - 1; block >= 0; --block) {
+        const std::ptrdiff_t column = std::ptrdiff_t(block) * kStrip * kStrip;
         Lanes sum[kStrip] = {};
         for (int strip = block + 1; strip < strips; ++strip) {
-            const float *const tile = panel + strip * stripSize + block * kStrip * kStrip;
+            const float *const tile = panel + (panelStart(strip, pivotStrips) + column);
             const Lanes x = lanes(local + strip * kStrip);
             for (int j = 0; j < kStrip; ++j)
                 sum[j] += lanes(tile + j * kStrip) * x;
         }
-        const float *const tile = panel + block * stripSize + block * kStrip * kStrip;
+        const float *const tile = panel + (panelStart(block, pivotStrips) + column);
         float *const own = local + block * kStrip;
         for (int j = kStrip - 1; j >= 0; --j) {
             float rest = own[j];
@@ -148,14 +260,19 @@ NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips,
 }
 
 // One version per register set; the widths leave room for a column and a factor beside the sums.
-#define NIMBRA_VERSION(name, width, ...)                                                                                         \
+#define NIMBRA_VERSION(name, registers, ...)                                                                                     \
     __VA_ARGS__ bool factor##name(float *panel, int pivotStrips, int strips, const float *floors)                                \
     {                                                                                                                            \
-        return factorBody<width>(panel, pivotStrips, strips, floors);                                                            \
+        return factorBody<registers>(panel, pivotStrips, strips, floors);                                                        \
     }                                                                                                                            \
     __VA_ARGS__ void update##name(const float *panel, int pivots, int pivotStrips, int strips, float *contribution)              \
     {                                                                                                                            \
-        updateBody<width>(panel, pivots, pivotStrips, strips, contribution);                                                     \
+        updateBody<registers>(panel, pivots, pivotStrips, strips, contribution);                                                 \
+    }                                                                                                                            \
+    __VA_ARGS__ void add##name(const float *child, int rows, const std::int32_t *targetRows, float *panel, int pivotStrips,      \
+                               float *contribution)                                                                              \
+    {                                                                                                                            \
+        addBody(child, rows, targetRows, panel, pivotStrips, contribution);                                                      \
     }                                                                                                                            \
     __VA_ARGS__ void forward##name(const float *panel, int pivotStrips, int strips, float *local)                                \
     {                                                                                                                            \
@@ -165,12 +282,15 @@ NIMBRA_INLINE void backwardBody(const float *panel, int pivotStrips, int strips,
     {                                                                                                                            \
         backwardBody(panel, pivotStrips, strips, local);                                                                         \
     }                                                                                                                            \
-    constexpr FrontKernels k##name = {factor##name, update##name, forward##name, backward##name};
+    constexpr FrontKernels k##name = {factor##name, update##name, add##name, forward##name, backward##name};
 
-NIMBRA_VERSION(Plain, 2, )
+using PlainRegisters = Registers<4, 1, 2>;
+NIMBRA_VERSION(Plain, PlainRegisters, )
 #ifdef __x86_64__
-NIMBRA_VERSION(Avx2, 4, NIMBRA_AVX2)
-NIMBRA_VERSION(Avx512, 8, NIMBRA_AVX512)
+using Avx2Registers = Registers<8, 1, 4>;
+NIMBRA_VERSION(Avx2, Avx2Registers, NIMBRA_AVX2)
+using Avx512Registers = Registers<16, 2, 8>;
+NIMBRA_VERSION(Avx512, Avx512Registers, NIMBRA_AVX512)
 #endif
 
 } // namespace

@@ -2,15 +2,27 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <limits>
 #include <memory>
 #include <new>
+#include <utility>
 #include <vector>
 
+#include <sys/mman.h>
+
+#include "GivenMemory.h"
 #include "MultifrontalFactors.h"
 #include "MumpsFactors.h"
 #include "SparseRows.h"
+
+namespace {
+
+constexpr std::size_t kHugePage = std::size_t(2) << 20;
+constexpr std::size_t kLargeBlock = 16 * kHugePage;
+
+} // namespace
 
 void *mklMalloc(std::size_t bytes, int alignment)
 {
@@ -18,7 +30,12 @@ void *mklMalloc(std::size_t bytes, int alignment)
         return nullptr;
     void *block = nullptr;
     const std::size_t least = std::max(std::size_t(alignment), sizeof(void *));
-    return posix_memalign(&block, least, bytes) == 0 ? block : nullptr;
+    const bool large = bytes >= kLargeBlock;
+    if (posix_memalign(&block, large ? std::max(least, kHugePage) : least, bytes) != 0)
+        return nullptr;
+    if (large)
+        madvise(block, bytes, MADV_HUGEPAGE); // a hint: without huge pages it is only slower
+    return block;
 }
 
 void mklFree(void *block)
@@ -32,6 +49,9 @@ enum Phase : std::int32_t { Analysis = 11, Factorisation = 22, Solution = 33, Re
 enum MatrixType : std::int32_t { SymmetricIndefinite = -2, Unsymmetric = 11 };
 
 thread_local int teamSize = 1;
+/// For this thread's next analysis. A pointer, since an object with a destructor would keep the plug-in loaded until the thread
+/// ends.
+thread_local GivenMemory *givenMemory = nullptr;
 
 // Each refinement step shrinks the error by about the same factor, which the first correction relative to the solution shows. If
 // that is below 2^-13, the remaining error is at most 2^-26 of the solution, and the next step would be lost in rounding to
@@ -48,10 +68,10 @@ struct Handle
     MumpsFactors library;
     bool factorised = false;
 
-    [[nodiscard]] std::int32_t analyse(const SparseRows &matrix)
+    [[nodiscard]] std::int32_t analyse(const SparseRows &matrix, GivenMemory given)
     {
         if (matrix.symmetric) {
-            quick = std::make_unique<MultifrontalFactors>(teamSize);
+            quick = std::make_unique<MultifrontalFactors>(teamSize, std::move(given));
             if (quick->analyse(matrix))
                 return 0;
             quick.reset();
@@ -185,6 +205,17 @@ void mklSetTeamSize(int threads)
     teamSize = std::max(1, threads);
 }
 
+void mklGiveMemory(void *memory, std::size_t bytes, void (*release)(void *memory, std::size_t bytes))
+{
+    try {
+        if (givenMemory == nullptr)
+            givenMemory = new GivenMemory;
+        givenMemory->add(memory, bytes, release);
+    } catch (const std::bad_alloc &) {
+        release(memory, bytes);
+    }
+}
+
 void pardiso(void *pt, const std::int32_t *, const std::int32_t *, const std::int32_t *mtype, const std::int32_t *phase,
              const std::int32_t *n, const void *a, const std::int32_t *ia, const std::int32_t *ja, std::int32_t *,
              const std::int32_t *nrhs, std::int32_t *iparm, const std::int32_t *, const void *b, void *x, std::int32_t *error)
@@ -197,6 +228,7 @@ void pardiso(void *pt, const std::int32_t *, const std::int32_t *, const std::in
     if (*phase == Release)
         return;
 
+    const std::unique_ptr<GivenMemory> given(*phase == Analysis ? std::exchange(givenMemory, nullptr) : nullptr);
     const SparseRows matrix{*mtype == SymmetricIndefinite, *n, static_cast<const float *>(a), ia, ja};
     const auto run = [&]() -> std::int32_t {
         if ((*mtype != SymmetricIndefinite && *mtype != Unsymmetric) || *n < 1 || *nrhs != 1 ||
@@ -207,7 +239,7 @@ void pardiso(void *pt, const std::int32_t *, const std::int32_t *, const std::in
             if (handle || !validRows(matrix))
                 return PardisoBadInput;
             handle = std::make_unique<Handle>();
-            return handle->analyse(matrix);
+            return handle->analyse(matrix, given ? std::move(*given) : GivenMemory());
         case Factorisation: {
             if (!handle)
                 return PardisoBadInput;

@@ -25,6 +25,11 @@ enum PardisoError : std::int32_t {
 /// on a thread that never called it.
 void mklSetTeamSize(int threads);
 
+/// Gives whole pages to the next analysis that the calling thread starts, which uses them for its factors in place of new ones:
+/// the system need not clear those. Their contents don't matter. The layer calls `release`, on any thread, for each part that it
+/// no longer needs, and for all that is left at the latest when that system is released.
+void mklGiveMemory(void *memory, std::size_t bytes, void (*release)(void *memory, std::size_t bytes));
+
 /// Indices into `iparm`, counted from 0. Those in the second group have no effect here.
 enum PardisoSetting : std::size_t {
     /// Maximum number of iterative refinement steps; residuals are computed in double. Phase 33 stops earlier once the next

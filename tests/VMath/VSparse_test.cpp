@@ -1,5 +1,6 @@
 #include <cstdint>
 #include <limits>
+#include <map>
 #include <thread>
 #include <vector>
 
@@ -124,6 +125,50 @@ TEST(VSparseFactory, HoldsRowsOfAnyLength)
             ASSERT_EQ(matrix.values[start + place], float(i) + 1.0f) << length;
         }
     }
+}
+
+TEST(VSparseFactory, RowsAreSetAsAWhole)
+{
+    constexpr int kThreads = 70; // more than the factory's memory has places for
+    constexpr int kRows = 20 * kThreads;
+    const auto cellsOf = [](int row) {
+        const int lengths[] = {0, 1, 2, 13, 300};
+        std::map<int, float> cells;
+        for (int i = 0; i < lengths[row % 5]; ++i)
+            cells[row + i * (i % 3 + 1)] = float(row);
+        return cells;
+    };
+    VSparseFactory factory(true);
+    for (int row = 0; row < kRows; ++row)
+        setCell(factory, row, row, -1.0f); // replaced
+    std::vector<std::thread> team;
+    for (int thread = 0; thread < kThreads; ++thread) {
+        team.emplace_back([&, thread] {
+            for (int row = thread; row < kRows; row += kThreads) {
+                const auto wanted = cellsOf(row);
+                const std::vector<VSparseFactory::Cell> cells(wanted.begin(), wanted.end());
+                factory.SetRow(row, cells.data(), cells.data() + cells.size());
+            }
+        });
+    }
+    for (std::thread &thread : team)
+        thread.join();
+    for (int row = 0; row < kRows; ++row) // cells are found, and others can follow
+        setCell(factory, row, row + 1, 0.5f);
+
+    VSparseMatrix matrix;
+    factory.ToCsr(matrix);
+    int position = 0;
+    for (int row = 0; row < kRows; ++row) {
+        auto expected = cellsOf(row);
+        expected[row + 1] = 0.5f;
+        ASSERT_EQ(matrix.rowStarts[row], position + 1);
+        for (const auto &[column, value] : expected) {
+            ASSERT_EQ(matrix.columnIndices[position], column + 1) << row;
+            ASSERT_EQ(matrix.values[position++], value) << row;
+        }
+    }
+    EXPECT_EQ(matrix.nonZeroCount, position);
 }
 
 TEST(VSparseFactory, WithoutCellsThereIsNotEnoughMemory)

@@ -135,14 +135,15 @@ std::vector<float> mattingCells(const Picture &picture, int blocks)
         const int end = picture.height * (block + 1) / blocks;
         int y = picture.height * block / blocks;
         for (rows.start(y, 0.001f); y < end; ++y) {
-            const float *cells = rows.next();
+            const float *const cells = rows.next();
             for (int x = 0; x < picture.width; ++x) {
-                for (int i = 0; i < HazeMattingRows::kCells; ++i, ++cells) {
+                for (int i = 0; i < HazeMattingRows::kCells; ++i) {
                     const auto offset = HazeMattingRows::offsetOf(i);
                     const int qx = x + offset.column;
                     const int qy = y + offset.row;
                     if (qx >= 0 && qx < picture.width && qy < picture.height)
-                        matrix[std::size_t(y * picture.width + x) * n + std::size_t(qy * picture.width + qx)] = *cells;
+                        matrix[std::size_t(y * picture.width + x) * n + std::size_t(qy * picture.width + qx)] =
+                            cells[i * picture.width + x];
                 }
             }
         }
@@ -152,7 +153,7 @@ std::vector<float> mattingCells(const Picture &picture, int blocks)
 
 TEST(HazeMatting, CellsAndSolutionAgreeWithThePlainVersion)
 {
-    const std::pair<int, int> sizes[] = {{3, 3}, {4, 3}, {3, 9}, {17, 11}};
+    const std::pair<int, int> sizes[] = {{3, 3}, {4, 3}, {3, 9}, {17, 11}, {150, 3}};
     for (const auto &[width, height] : sizes) {
         for (const Kind kind : {Kind::Smooth, Kind::Noise, Kind::Steps}) {
             SCOPED_TRACE(testing::Message() << width << " x " << height << ", kind " << int(kind));

@@ -2,7 +2,10 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
+#include <cstring>
 #include <limits>
+#include <memory>
 #include <random>
 #include <string>
 #include <thread>
@@ -342,12 +345,49 @@ TEST(Pardiso, OneThreadEqualsSeveral)
     for (const int team : {1, 2, 5}) {
         mklSetTeamSize(team);
         Calls calls(matrix);
+        calls.iparm[PardisoRefinementSteps] = 0; // which would hide a difference between the factors
         ASSERT_EQ(calls.solve(b), 0);
         solutions.push_back(calls.x);
     }
     mklSetTeamSize(1);
     EXPECT_EQ(solutions[0], solutions[1]);
     EXPECT_EQ(solutions[0], solutions[2]);
+}
+
+std::size_t releasedBytes = 0;
+
+TEST(Pardiso, UsesAndReleasesGivenMemory)
+{
+    constexpr std::size_t kPage = 4096, kFirst = 700 * kPage, kSecond = 520 * kPage;
+    const std::unique_ptr<void, decltype(&std::free)> memory(std::aligned_alloc(kPage, kFirst + kSecond), &std::free);
+    const auto give = [&memory] {
+        releasedBytes = 0;
+        const auto release = [](void *part, std::size_t bytes) {
+            std::memset(part, 0xFF, bytes); // not-a-number, should it be used once more
+            releasedBytes += bytes;
+        };
+        mklGiveMemory(memory.get(), kFirst, release);
+        mklGiveMemory(static_cast<char *>(memory.get()) + kFirst, kSecond, release);
+    };
+    for (const int size : {10, 50, 90}) { // less than what is given, somewhat more, much more
+        SCOPED_TRACE(size);
+        const TestRows matrix = mattingSystem(size, size, 9);
+        const std::vector<float> b = waves(std::size_t(matrix.order));
+        Calls expected(matrix);
+        ASSERT_EQ(expected.solve(b), 0);
+        give();
+        Calls calls(matrix);
+        ASSERT_EQ(calls.solve(b), 0);
+        EXPECT_EQ(calls.x, expected.x);
+        EXPECT_LT(releasedBytes, kFirst + kSecond);
+        calls.phase(-1);
+        EXPECT_EQ(releasedBytes, kFirst + kSecond);
+    }
+    // A system that can't use it.
+    give();
+    Calls calls(fromDense(false, {{2.0f, 1.0f}, {0.5f, 3.0f}}));
+    ASSERT_EQ(calls.solve({3.0f, 3.5f}), 0);
+    EXPECT_EQ(releasedBytes, kFirst + kSecond);
 }
 
 TEST(Pardiso, SeveralCallersAtOnce)
