@@ -1,7 +1,9 @@
 // What goes wrong around the program: full and write-protected folders, photographs that disappear, a killed program, two at
 // once, odd names. In each case the sources are untouched, each result is complete or absent, and nothing else is left.
 
+#include <algorithm>
 #include <chrono>
+#include <climits>
 #include <csignal>
 #include <functional>
 #include <memory>
@@ -375,10 +377,13 @@ TEST_F(ProgramFaults, KilledAtAnyMoment)
     photographWithXmp("c.jpg", 400, 300);
     const QStringList run{"--strength", "0", "--overwrite", "--jobs", "2", "--settings", "s.xml", "a.png", "b.tif", "c.jpg"};
     const std::vector<QString> sources{"a.png", "b.tif", "c.jpg"}, results{"a_dehazed.png", "b_dehazed.tif", "c_dehazed.jpg"};
-    QElapsedTimer timer;
-    timer.start();
-    ASSERT_EQ(folder.run(run).code, 0);
-    const qint64 wholeRun = timer.elapsed();
+    qint64 wholeRun = INT_MAX; // milliseconds; the first run also waits for the disk
+    for (int round = 0; round < 2; ++round) {
+        QElapsedTimer timer;
+        timer.start();
+        ASSERT_EQ(folder.run(run).code, 0);
+        wholeRun = std::min(wholeRun, timer.elapsed());
+    }
     std::vector<QByteArray> sourceBytes, resultBytes;
     for (std::size_t i = 0; i < 3; ++i) {
         sourceBytes.push_back(folder.content(sources[i]));
@@ -387,7 +392,7 @@ TEST_F(ProgramFaults, KilledAtAnyMoment)
     const QByteArray settings = folder.content("s.xml");
 
     constexpr int kSteps = 8;
-    int killed = 0, leftBehind = 0;
+    int killed = 0;
     for (int step = 0; step < 2 * kSteps; ++step) {
         SCOPED_TRACE(step);
         const bool older = step % 2 == 1;
@@ -404,10 +409,12 @@ TEST_F(ProgramFaults, KilledAtAnyMoment)
             process->waitForFinished(int(wholeRun * step / kSteps));
         } else {
             inotify_add_watch(watch, QFile::encodeName(folder.path(".")).constData(), IN_CREATE | IN_MOVED_TO | IN_CLOSE_WRITE);
-            char event[4096];
-            for (int left = step - kSteps + 1; left > 0 && !process->waitForFinished(0);)
-                if (read(watch, event, sizeof(inotify_event) + NAME_MAX + 1) > 0)
-                    --left;
+            alignas(inotify_event) char events[4096];
+            for (int left = step - kSteps + 1; left > 0 && !process->waitForFinished(0);) {
+                const ssize_t size = read(watch, events, sizeof events);
+                for (ssize_t at = 0; at < size; --left)
+                    at += ssize_t(sizeof(inotify_event) + reinterpret_cast<const inotify_event *>(events + at)->len);
+            }
         }
         close(watch);
         process->kill();
@@ -422,6 +429,7 @@ TEST_F(ProgramFaults, KilledAtAnyMoment)
                 << results[i] << ' ' << result.size();
         }
         EXPECT_TRUE(folder.content("s.xml").isEmpty() || folder.content("s.xml") == settings);
+        int leftBehind = 0;
         for (const QString &name : folder.files()) {
             // A file that replaces another one has a name of its own for a moment.
             if ((older && name.startsWith(".gfl-")) || name.startsWith(".veilaway-"))
@@ -431,9 +439,9 @@ TEST_F(ProgramFaults, KilledAtAnyMoment)
                             std::count(results.begin(), results.end(), name))
                     << name;
         }
+        EXPECT_LE(leftBehind, 2); // of each photograph at work
     }
-    EXPECT_LE(leftBehind, 2);
-    EXPECT_GE(killed, kSteps) << "the runs ended too soon for the test to tell";
+    EXPECT_GE(killed, kSteps / 2) << "the runs ended too soon for the test to tell";
     EXPECT_EQ(folder.run(run).code, 0);
     for (std::size_t i = 0; i < 3; ++i)
         EXPECT_EQ(folder.content(results[i]), resultBytes[i]);
