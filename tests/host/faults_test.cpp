@@ -25,11 +25,13 @@
 
 #include "BatchPlan.h"
 #include "BatchRunner.h"
+#include "FileThreadLimit.h"
 #include "HostApplication.h"
 #include "PhotoLoader.h"
 #include "PhotoTest.h"
 #include "PluginFile.h"
 #include "PrivateFolder.h"
+#include "threadCount.h"
 
 namespace {
 
@@ -73,11 +75,11 @@ protected:
     }
     /// The outcome of one photograph; `act` happens when it is to be saved.
     BatchOutcome outcomeOf(
-        const std::vector<BatchItem> &items, const std::function<void()> &act = [] {})
+        const std::vector<BatchItem> &items, const std::function<void()> &act = [] {}, int jobs = 1)
     {
         when = Stage::Saving;
         happens = act;
-        BatchRunner(host, plugin.process(), *this).run(items, 1);
+        BatchRunner(host, plugin.process(), *this).run(items, jobs);
         return last;
     }
 
@@ -109,6 +111,24 @@ private:
 };
 
 } // namespace
+
+TEST_F(BatchFaults, PhotographsThatAreInProgressTogetherShareTheThreads)
+{
+    folder.photograph("one.jpg");
+    folder.photograph("two.jpg");
+    const std::int32_t before = threadCount;
+    threadCount = 2;
+    const int alone = fileThreadCount(); // 1 on a machine with a single processor
+    for (const int jobs : {1, 2}) {
+        int threads = 0;
+        outcomeOf(
+            plan({folder.path("one.jpg"), folder.path("two.jpg")}, /*overwrite=*/true),
+            [&] { threads = threads == 0 ? fileThreadCount() : threads; }, jobs);
+        EXPECT_EQ(threads, jobs == 1 ? alone : 1);
+        EXPECT_EQ(fileThreadCount(), alone);
+    }
+    threadCount = before;
+}
 
 TEST_F(BatchFaults, APhotographThatChangesMeanwhile)
 {
