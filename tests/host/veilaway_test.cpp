@@ -796,8 +796,8 @@ TEST_F(Veilaway, ATerminalShowsTheTotalAndWhatIsInWorkWithinItsWidth)
     const Said coloured = folder.shell(run.arg("TERM=xterm")), plain = folder.shell(run.arg("TERM=xterm NO_COLOR=1")),
                dumb = folder.shell(run.arg("TERM=dumb"));
     EXPECT_EQ(plain.code, 1) << plain.out;
-    for (const char *part : {"] 1 of 4", "removing haze: ", "reading a", "ds.png", "a.png -> a_dehazed.png (",
-                             "b?_dehazed.png", "3 photographs done. 1 failed.\r\n", "veilaway: missing.png: "})
+    for (const char *part : {"] 1 of 4", "removing haze: ", "reading a", "ds.png", "a.png -> a_dehazed.png (", "b?_dehazed.png",
+                             "3 photographs done. 1 failed.\r\n", "veilaway: missing.png: "})
         EXPECT_TRUE(contains(plain.out, part));
     EXPECT_TRUE(contains(coloured.out, "\x1b[31mveilaway:\x1b[0m missing.png: "));
     EXPECT_FALSE(dumb.out.contains('\x1b')) << dumb.out;
