@@ -24,7 +24,8 @@ unsigned numberOfThisThread()
     return number;
 }
 
-/// The system clears a page when it is first touched. For a large block that takes longer than filling it, so the team shares it.
+/// The system clears a page when it is first touched, which takes about as long as filling it: in a large block the team shares
+/// this.
 void touchPages(char *block, std::size_t bytes)
 {
     const auto pages = std::ptrdiff_t((bytes + kHugePage - 1) / kHugePage);
@@ -39,7 +40,7 @@ SparseArena::~SparseArena()
 {
     for (const Zone *zone : {&large, &small, &medium}) {
         for (const Region &region : zone->regions) {
-            // Only what has been written is worth giving: of medium blocks, perhaps nothing.
+            // Only pages that have been written save work; those of medium blocks may not have been.
             const std::size_t written = !given || zone == &medium ? 0 : (region.used + kHugePage - 1) / kHugePage * kHugePage;
             if (written > 0)
                 mklGiveMemory(region.memory, written, ReleaseMemory);

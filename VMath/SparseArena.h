@@ -22,7 +22,7 @@ public:
 
     /// `alignment`: a power of 2, at most 4096. Throws std::bad_alloc.
     void *allocate(std::size_t bytes, std::size_t alignment);
-    /// When this object ends, its memory goes to the next system that this thread solves, instead of back to the system.
+    /// From now on, the destructor gives the memory to the next system that its thread solves.
     void giveToSolver() { given = true; }
 
 private:

@@ -68,8 +68,8 @@ void VSparseFactory::OpenCell(int row, int column, CellAccessor &cell)
 
 void VSparseFactory::SetRow(int row, const Cell *first, const Cell *last)
 {
-    // Made in the row's own place, which no destructor has to leave: all that a row owns is in the arena. A bucket's newest cell
-    // is its first, so that from the last cell to the first each bucket ends up in ascending order.
+    // The new row takes the place of the old one, which needs no destructor: all that it owns is in the arena. A bucket's newest
+    // cell comes first, so the cells are added from the last to the first, and each bucket ends up in ascending order.
     Row &place = rows[std::size_t(row)];
     ::new (static_cast<void *>(&place))
         Row(std::make_reverse_iterator(last), std::make_reverse_iterator(first), Row::allocator_type(arena));

@@ -56,7 +56,7 @@ public:
     /// row; other rows may be used. Throws std::bad_alloc; then the factory can only be destroyed.
     void SetRow(int row, const Cell *first, const Cell *last);
 
-    /// When the factory ends, its memory goes to the next system that this thread solves: that one must follow soon.
+    /// From now on, the destructor gives the memory of the factory to the next system that its thread solves, which must follow.
     void GiveMemoryToSolver() { arena.giveToSolver(); }
 
     /// Writes the compressed rows of all cells ever opened, including those of value 0.0, to `target`, after releasing what it

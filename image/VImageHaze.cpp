@@ -265,7 +265,7 @@ bool VImage::HazeMatting(float *darkMap)
     try {
         VSparseMatrix matrix;
         factory->ToCsr(matrix);
-        factory->GiveMemoryToSolver();
+        factory->GiveMemoryToSolver(); // which needs about as much
         factory.reset();
         matrix.Solve(darkMap, x.get());
         std::copy_n(x.get(), unknowns, darkMap);

@@ -297,7 +297,7 @@ qint64 BatchRunner::memoryFor(const PhotoHead &facts, bool untouched)
     // The source and the working image of 16 bytes per pixel exist throughout. Added to them is first the sparse system, whose
     // size is the same for every photograph, and at the end the haze map of 4 bytes per pixel, with the guide and the map of the
     // last level that is held: the copy of 100,000 pixels, doubled as long as it stays narrower than half the photograph.
-    // Measured for a whole process: 158 MB for the system, and 54 to 68 MB beside the map and that level. Transposing a picture
+    // Measured for a whole process: 161 MB for the system, and 48 to 65 MB beside the map and that level. Transposing a picture
     // takes two copies of it, or 12 bytes per pixel of coefficients, which is less than all that.
     constexpr int kWorkingBytes = 16, kMapBytes = 4;
     constexpr qint64 kSystem = qint64(160) << 20, kOther = qint64(64) << 20;

@@ -363,7 +363,7 @@ TEST(Pardiso, UsesAndReleasesGivenMemory)
     const auto give = [&memory] {
         releasedBytes = 0;
         const auto release = [](void *part, std::size_t bytes) {
-            std::memset(part, 0xFF, bytes); // not-a-number, should it be used once more
+            std::memset(part, 0xFF, bytes); // not-a-number, in case it is used again
             releasedBytes += bytes;
         };
         mklGiveMemory(memory.get(), kFirst, release);
