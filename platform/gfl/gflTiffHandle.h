@@ -28,6 +28,14 @@ TiffOptions quietTiffOptions();
 TiffPointer openTiff(const char *mode, thandle_t handle, TIFFReadWriteProc read, TIFFReadWriteProc write, TIFFSeekProc seek,
                      TIFFSizeProc size, const TiffOptions &options);
 
+/// The value of a field that the library has a default for; `fallback` if there is neither.
+template<typename T>
+T tiffField(TIFF *tiff, std::uint32_t tag, T fallback)
+{
+    T value = fallback;
+    return TIFFGetFieldDefaulted(tiff, tag, &value) ? value : fallback;
+}
+
 /// The texts read from and written to the large form, which holds no EXIF block.
 constexpr std::uint16_t kTiffTexts[] = {TIFFTAG_IMAGEDESCRIPTION, TIFFTAG_MAKE,   TIFFTAG_MODEL,    TIFFTAG_SOFTWARE,
                                         TIFFTAG_DATETIME,         TIFFTAG_ARTIST, TIFFTAG_COPYRIGHT};

@@ -5,6 +5,7 @@
 #include <limits>
 #include <mutex>
 
+#include "TiffStripInflater.h"
 #include "gflBands.h"
 #include "gflClaims.h"
 #include "gflCodec.h"
@@ -13,13 +14,6 @@
 
 namespace gfl {
 namespace {
-
-template<typename T>
-T field(TIFF *tiff, std::uint32_t tag, T fallback)
-{
-    T value = fallback;
-    return TIFFGetFieldDefaulted(tiff, tag, &value) ? value : fallback;
-}
 
 struct ReadHandle
 {
@@ -93,17 +87,17 @@ Layout readLayout(TIFF *tiff)
     Layout layout;
     if (!TIFFGetField(tiff, TIFFTAG_IMAGEWIDTH, &layout.width) || !TIFFGetField(tiff, TIFFTAG_IMAGELENGTH, &layout.height))
         throw Failure{GFL_ERROR_FILE_READ};
-    layout.bits = field<std::uint16_t>(tiff, TIFFTAG_BITSPERSAMPLE, 1);
-    layout.samples = field<std::uint16_t>(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
-    layout.sampleFormat = field<std::uint16_t>(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT);
+    layout.bits = tiffField<std::uint16_t>(tiff, TIFFTAG_BITSPERSAMPLE, 1);
+    layout.samples = tiffField<std::uint16_t>(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
+    layout.sampleFormat = tiffField<std::uint16_t>(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT);
     layout.planar =
-        field<std::uint16_t>(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG) == PLANARCONFIG_SEPARATE && layout.samples > 1;
+        tiffField<std::uint16_t>(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG) == PLANARCONFIG_SEPARATE && layout.samples > 1;
     layout.tiled = TIFFIsTiled(tiff) != 0;
     std::uint16_t photometric = 0;
     if (!TIFFGetField(tiff, TIFFTAG_PHOTOMETRIC, &photometric))
         photometric = layout.samples >= 3 ? PHOTOMETRIC_RGB : PHOTOMETRIC_MINISBLACK;
     if (photometric == PHOTOMETRIC_YCBCR &&
-        field<std::uint16_t>(tiff, TIFFTAG_COMPRESSION, COMPRESSION_NONE) == COMPRESSION_JPEG && !layout.planar) {
+        tiffField<std::uint16_t>(tiff, TIFFTAG_COMPRESSION, COMPRESSION_NONE) == COMPRESSION_JPEG && !layout.planar) {
         TIFFSetField(tiff, TIFFTAG_JPEGCOLORMODE, JPEGCOLORMODE_RGB);
         photometric = PHOTOMETRIC_RGB;
     }
@@ -129,7 +123,7 @@ Layout readLayout(TIFF *tiff)
                            ? layout.bits == 16 || layout.bits == 32 || layout.bits == 64
                            : integers && ((layout.bits >= 1 && layout.bits <= 16) || layout.bits == 32);
     const bool inks =
-        photometric != PHOTOMETRIC_SEPARATED || field<std::uint16_t>(tiff, TIFFTAG_INKSET, INKSET_CMYK) == INKSET_CMYK;
+        photometric != PHOTOMETRIC_SEPARATED || tiffField<std::uint16_t>(tiff, TIFFTAG_INKSET, INKSET_CMYK) == INKSET_CMYK;
     const bool palette = photometric != PHOTOMETRIC_PALETTE || (integers && layout.bits <= 16);
     layout.convertedHere = layout.colours > 0 && layout.samples >= layout.colours && depth && inks && palette;
     if (!layout.convertedHere) {
@@ -165,14 +159,16 @@ public:
     PlaneRows(const InputFile &file, const Layout &shape, int plane) : tiff(file), layout(shape), sample(std::uint16_t(plane))
     {
         readLayout(tiff.get()); // for the colour mode that it sets
-        compression = field<std::uint16_t>(tiff.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
+        compression = tiffField<std::uint16_t>(tiff.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
         const std::uint64_t samples = layout.planar ? 1 : unsigned(layout.samples);
         rowBytes = (std::uint64_t(layout.width) * samples * unsigned(layout.bits) + 7) / 8;
         const std::uint64_t limit = largestPiece(file.size());
         if (!layout.tiled) {
             if (TIFFScanlineSize64(tiff.get()) != rowBytes || rowBytes > limit)
                 throw Failure{GFL_ERROR_FILE_READ};
-            stripHeight = std::clamp(field<std::uint32_t>(tiff.get(), TIFFTAG_ROWSPERSTRIP, layout.height), 1u, layout.height);
+            stripHeight =
+                std::clamp(tiffField<std::uint32_t>(tiff.get(), TIFFTAG_ROWSPERSTRIP, layout.height), 1u, layout.height);
+            inflater = TiffStripInflater::make(tiff.get(), file, rowBytes, stripHeight);
             return;
         }
         TIFFGetField(tiff.get(), TIFFTAG_TILEWIDTH, &tileWidth);
@@ -199,6 +195,12 @@ public:
     /// Reads row `y` to `target`. The rows of a strip or of a row of tiles must be read in order, from the first one.
     void read(std::uint32_t y, void *target)
     {
+        if (inflater && y % stripHeight == 0)
+            inflated = inflater->unpack(TIFFComputeStrip(tiff.get(), y, sample), std::min(stripHeight, layout.height - y));
+        if (inflated) {
+            std::memcpy(target, inflater->row(y % stripHeight), std::size_t(rowBytes));
+            return;
+        }
         if (!layout.tiled) {
             // A strip of one row whose deflated data are longer than the row is reported as read, with nothing written.
             if (isDeflated())
@@ -215,7 +217,7 @@ public:
     std::size_t bytes() const { return std::size_t(rowBytes); }
     TIFF *handle() const { return tiff.get(); }
     std::uint32_t rowsPerPiece() const { return layout.tiled ? tileHeight : stripHeight; }
-    std::uint64_t pieceBytes() const { return rowBytes + tile.size() + band.size(); }
+    std::uint64_t pieceBytes() const { return rowBytes + (inflater ? inflater->bytes() : 0) + tile.size() + band.size(); }
     /// Whether several handles that read a strip or tile each give what a single handle gives.
     bool piecesStandAlone() const { return compression == COMPRESSION_NONE || compression == COMPRESSION_LZW || isDeflated(); }
 
@@ -243,6 +245,8 @@ private:
     std::uint16_t compression;
     std::uint64_t rowBytes = 0;
     std::uint32_t stripHeight = 0;
+    std::unique_ptr<TiffStripInflater> inflater; ///< For strips alone.
+    bool inflated = false;                       ///< The present strip.
     std::uint32_t tileWidth = 0;
     std::uint32_t tileHeight = 0;
     std::uint64_t tileRowBytes = 0;
@@ -613,17 +617,18 @@ BitmapPointer readTiff(const ReadRequest &request)
     const OpenTiff open(request.file);
     const Layout layout = readLayout(open.get());
     // A fax has one bit per pixel; the library silently makes missing rows white.
-    const auto compression = field<std::uint16_t>(open.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
+    const auto compression = tiffField<std::uint16_t>(open.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
     const bool fax =
         (compression >= COMPRESSION_CCITTRLE && compression <= COMPRESSION_CCITTFAX4) || compression == COMPRESSION_CCITTRLEW;
     if (fax && (layout.bits != 1 || layout.samples != 1 || layout.height > mostFaxRows(request.file.size())))
         throw Failure{GFL_ERROR_FILE_READ};
     NewBitmap bitmap(request.file, layout.width, layout.height, layout.form);
-    const double perInch = field<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_INCH         ? 1.0
-                           : field<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_CENTIMETER ? 2.54
-                                                                                                                          : 0.0;
-    bitmap.record().xDpi = dpiFrom(double(field<float>(open.get(), TIFFTAG_XRESOLUTION, 0)) * perInch);
-    bitmap.record().yDpi = dpiFrom(double(field<float>(open.get(), TIFFTAG_YRESOLUTION, 0)) * perInch);
+    const double perInch = tiffField<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_INCH ? 1.0
+                           : tiffField<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_CENTIMETER
+                               ? 2.54
+                               : 0.0;
+    bitmap.record().xDpi = dpiFrom(double(tiffField<float>(open.get(), TIFFTAG_XRESOLUTION, 0)) * perInch);
+    bitmap.record().yDpi = dpiFrom(double(tiffField<float>(open.get(), TIFFTAG_YRESOLUTION, 0)) * perInch);
     if (request.metadata) {
         Metadata &metadata = attachMetadata(bitmap.record());
         metadata.packing.tiff = packingOf(compression);
