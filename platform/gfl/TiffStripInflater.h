@@ -11,8 +11,8 @@
 
 namespace gfl {
 
-/// Unpacks whole strips that are packed by deflate. The library can only unpack row by row in a way that bears with damage, and
-/// takes about twice as long.
+/// Unpacks strips that are packed by deflate, each as a whole. The library unpacks them row by row, which takes about twice as
+/// long.
 class TiffStripInflater
 {
 public:

@@ -7,11 +7,11 @@
 #include <png.h>
 #include <zlib.h>
 
+#include "PngRowFilter.h"
 #include "gflBands.h"
 #include "gflClaims.h"
 #include "gflCodec.h"
 #include "gflMetadata.h"
-#include "PngRowFilter.h"
 
 namespace gfl {
 namespace {
@@ -362,7 +362,7 @@ void openEnd(Bytes &stream, Bytes &scratch)
     stream.insert(stream.end(), {0, 0, 0xFF, 0xFF}); // the length, and its complement
 }
 
-/// Packs a band as a part of the deflate stream. `data` is lost.
+/// Packs a band as a part of the deflate stream. Afterwards `data` may hold anything.
 Bytes deflated(Bytes &data, int level, bool last)
 {
     const Deflater deflater(level);
@@ -379,7 +379,7 @@ void writePixels(const WriteRequest &request, Form form, int level)
     constexpr std::size_t kBandBytes = std::size_t(1) << 20;
     const std::size_t rowBytes = std::size_t(bitmap.width) * form.pixelBytes() + 1;
     const int bandRows = int(std::clamp<std::size_t>(kBandBytes / rowBytes, 1, std::size_t(bitmap.height)));
-    const int bands = (bitmap.height + bandRows - 1) / bandRows;
+    const int bands = (bitmap.height - 1) / bandRows + 1;
     const auto rowsOf = [&](int band) { return std::min(bandRows, bitmap.height - band * bandRows); };
 
     std::vector<std::uint32_t> checks(std::size_t(bands), 0); // each of its band

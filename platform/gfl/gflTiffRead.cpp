@@ -444,33 +444,34 @@ private:
     std::vector<std::uint16_t> wide;
 };
 
-/// Strips and rows of tiles are shared among the threads, each of which has a reader of its own.
+/// The threads share the strips or rows of tiles, each with a different reader.
 void readConverting(const InputFile &file, const Layout &layout, NewBitmap &bitmap, int threads)
 {
     std::mutex mutex; // guards `idle`
     std::vector<std::unique_ptr<RowReader>> idle;
     idle.push_back(std::make_unique<RowReader>(file, layout));
-    RowReader &only = *idle[0];
+    RowReader &first = *idle[0];
     if (threads > 1)
-        only.prepare();
+        first.prepare();
 
-    constexpr std::uint64_t kBandBytes = 256 * 1024; // worth a thread's while, and in its cache
+    constexpr std::uint64_t kBandBytes = 256 * 1024; // worth a thread's while, and fits in its cache
     const std::size_t stride = bitmap.record().bytesPerLine;
-    const std::uint64_t pieces = std::max<std::uint64_t>(1, kBandBytes / (std::uint64_t(stride) * only.rowsPerPiece()));
-    const int bandRows = int(std::min<std::uint64_t>(only.rowsPerPiece() * pieces, layout.height));
-    const std::uint64_t readers = (kSmallClaim + kUsualRatio * file.size()) / only.pieceBytes();
-    const int team = !only.piecesStandAlone() ? 1 : int(std::clamp<std::uint64_t>(readers, 1, unsigned(threads)));
+    const std::uint64_t pieces = std::max<std::uint64_t>(1, kBandBytes / (std::uint64_t(stride) * first.rowsPerPiece()));
+    const int bandRows = int(std::min<std::uint64_t>(first.rowsPerPiece() * pieces, layout.height));
+    const std::uint64_t mostReaders = (kSmallClaim + kUsualRatio * file.size()) / first.pieceBytes();
+    const int team = first.piecesStandAlone() ? int(std::clamp<std::uint64_t>(mostReaders, 1, unsigned(threads))) : 1;
 
     for (int y = 0; y < bitmap.height();) {
-        const int ready = std::min(bitmap.rowsFrom(y), bitmap.height() - y);
-        const int rows = ready == bitmap.height() - y ? ready : ready / bandRows * bandRows;
+        const int left = bitmap.height() - y;
+        const int ready = std::min(bitmap.rowsFrom(y), left);
+        const int rows = ready == left ? ready : ready / bandRows * bandRows;
         if (team == 1 || rows <= bandRows) { // the memory grows as the rows arrive
-            for (const int end = std::min(y + bandRows, bitmap.height()); y < end; ++y)
-                only.read(std::uint32_t(y), bitmap.row(y));
+            for (const int end = y + std::min(bandRows, left); y < end; ++y)
+                first.read(std::uint32_t(y), bitmap.row(y));
             continue;
         }
         std::uint8_t *target = bitmap.row(y);
-        shareBands((rows + bandRows - 1) / bandRows, team, [&](int band) {
+        shareBands((rows - 1) / bandRows + 1, team, [&](int band) {
             std::unique_ptr<RowReader> reader;
             {
                 const std::lock_guard lock(mutex);
@@ -483,7 +484,8 @@ void readConverting(const InputFile &file, const Layout &layout, NewBitmap &bitm
                 reader = std::make_unique<RowReader>(file, layout);
                 reader->prepare();
             }
-            for (int row = band * bandRows; row < std::min(rows, (band + 1) * bandRows); ++row)
+            const int start = band * bandRows;
+            for (int row = start, end = start + std::min(bandRows, rows - start); row < end; ++row)
                 reader->read(std::uint32_t(y + row), target + stride * std::size_t(row));
             const std::lock_guard lock(mutex);
             idle.push_back(std::move(reader));

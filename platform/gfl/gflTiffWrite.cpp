@@ -118,7 +118,7 @@ toff_t onAppendSeek(thandle_t handle, toff_t, int)
     return onAppendSize(handle);
 }
 
-/// Packs rows as the library packs a strip, into memory. Files are as if the library had written them.
+/// Packs rows as the library packs a strip, into memory, so that files are as if it had packed them itself.
 Bytes packedStrip(const GflBitmap &bitmap, std::uint16_t compression, bool bigEndian, int firstRow, int rows)
 {
     Bytes packed;
@@ -155,7 +155,7 @@ void writeStrips(TIFF *tiff, const WriteRequest &request, std::uint16_t compress
 
     std::uint32_t index = 0;
     if (compression != COMPRESSION_NONE) {
-        shareBandsInOrder((bitmap.height + rowsPerStrip - 1) / rowsPerStrip, request.threads,
+        shareBandsInOrder((bitmap.height - 1) / rowsPerStrip + 1, request.threads,
                           [&](int strip) {
                               const int y = strip * rowsPerStrip;
                               return packedStrip(bitmap, compression, bigEndian, y, std::min(rowsPerStrip, bitmap.height - y));

@@ -41,7 +41,7 @@ FileBytes pixelStream(const FileBytes &file, int &chunks)
     return stream;
 }
 
-// Bands end in every kind of deflate block: stored (noise, or level 0), with fixed codes (flat) and with codes of its own.
+// Bands end in every kind of deflate block: stored (noise, or level 0), with fixed codes (flat), and with codes in the block.
 TEST_F(GflTest, BandsOfAPngAreOneStreamForEveryTeam)
 {
     const struct
