@@ -71,7 +71,7 @@ Bitmap drawHills(std::int64_t megapixels, int bits)
             state = state * 1664525u + 1013904223u;
             const double hill =
                 60.0 * std::sin(x * 0.011 + 3.0 * std::sin(y * 0.004)) + 20.0 * std::sin(x * 0.2) * std::sin(y * 0.17);
-            const double base = 120.0 + hill + double(state >> 26) / 8.0;
+            const double base = 120.0 + hill + (bits == 8 ? double(state >> 29) : double(state >> 16) / 8192.0);
             for (int c = 0; c < 3; ++c) {
                 const double value = base + 10.0 * c;
                 const auto deep = std::uint16_t(value * 257.0);
