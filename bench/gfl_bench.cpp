@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -48,39 +49,47 @@ private:
     std::string path;
 };
 
-/// Hills in haze with fine grain, RGB with 8 bits, 3:2: as JPEG, about a third of a byte per pixel.
-Bitmap drawHills(std::int64_t megapixels)
+/// Hills in haze with fine grain, RGB with 8 or 16 bits, 3:2: as JPEG, about a third of a byte per pixel.
+Bitmap drawHills(std::int64_t megapixels, int bits)
 {
     Bitmap bitmap(static_cast<GflBitmap *>(std::calloc(1, sizeof(GflBitmap))));
     const int scale = int(std::sqrt(double(megapixels) * 1e6 / 6));
     bitmap->type = 0x0010;
     bitmap->width = 3 * scale;
     bitmap->height = 2 * scale;
-    bitmap->bytesPerLine = (std::uint32_t(bitmap->width) * 3 + 3) / 4 * 4;
+    bitmap->bitsPerComponent = std::uint16_t(bits);
+    bitmap->componentsPerPixel = 3;
+    bitmap->bytesPerPixel = std::uint16_t(3 * bits / 8);
+    bitmap->bytesPerLine = (std::uint32_t(bitmap->width) * bitmap->bytesPerPixel + 3) / 4 * 4;
     bitmap->lineAlignment = 4;
-    bitmap->bitsPerComponent = 8;
-    bitmap->componentsPerPixel = bitmap->bytesPerPixel = 3;
     bitmap->transparentIndex = -1;
     bitmap->data = std::malloc(std::size_t(bitmap->bytesPerLine) * std::size_t(bitmap->height));
     std::uint32_t state = 1;
     for (int y = 0; y < bitmap->height; ++y) {
         auto *pixel = static_cast<std::uint8_t *>(bitmap->data) + std::size_t(bitmap->bytesPerLine) * std::size_t(y);
-        for (int x = 0; x < bitmap->width; ++x, pixel += 3) {
+        for (int x = 0; x < bitmap->width; ++x, pixel += bitmap->bytesPerPixel) {
             state = state * 1664525u + 1013904223u;
             const double hill =
                 60.0 * std::sin(x * 0.011 + 3.0 * std::sin(y * 0.004)) + 20.0 * std::sin(x * 0.2) * std::sin(y * 0.17);
-            const double base = 120.0 + hill + double(state >> 29);
-            for (int c = 0; c < 3; ++c)
-                pixel[c] = std::uint8_t(base + 10.0 * c);
+            const double base = 120.0 + hill + (bits == 8 ? double(state >> 29) : double(state >> 16) / 8192.0);
+            for (int c = 0; c < 3; ++c) {
+                const double value = base + 10.0 * c;
+                const auto deep = std::uint16_t(value * 257.0);
+                if (bits == 8)
+                    pixel[c] = std::uint8_t(value);
+                else
+                    std::memcpy(pixel + 2 * c, &deep, sizeof deep);
+            }
         }
     }
     return bitmap;
 }
 
-/// A format with its compression or, for JPEG, without restart intervals.
+/// A format with its depth and compression or, for JPEG, without restart intervals.
 struct Kind
 {
     const char *format;
+    int bits = 8;
     int compression = -1;
     bool withoutIntervals = false;
 };
@@ -139,7 +148,7 @@ void report(benchmark::State &state, const GflBitmap &bitmap, const BenchFile &f
 
 void writeFile(benchmark::State &state, const Kind &kind)
 {
-    const Bitmap bitmap = drawHills(state.range(0));
+    const Bitmap bitmap = drawHills(state.range(0), kind.bits);
     const BenchFile file(".written");
     measure(state, int(state.range(1)), [&] { return save(*bitmap, kind, file); });
     report(state, *bitmap, file);
@@ -147,7 +156,7 @@ void writeFile(benchmark::State &state, const Kind &kind)
 
 void readFile(benchmark::State &state, const Kind &kind)
 {
-    const Bitmap bitmap = drawHills(state.range(0));
+    const Bitmap bitmap = drawHills(state.range(0), kind.bits);
     const BenchFile file(".read");
     if (!save(*bitmap, kind, file))
         state.SkipWithError("the file was not written");
@@ -171,10 +180,26 @@ void sizes(benchmark::internal::Benchmark *run)
         ->Unit(benchmark::kMillisecond);
 }
 
-constexpr Kind kJpeg{"jpeg"}, kJpegWithoutIntervals{"jpeg", -1, true};
+constexpr Kind kJpeg{"jpeg"}, kJpegWithoutIntervals{"jpeg", 8, -1, true}, kPng8{"png"}, kPng16{"png", 16},
+    kTiffPlain16{"tiff", 16, 0}, kTiffLzw8{"tiff", 8, 2}, kTiffLzw16{"tiff", 16, 2}, kTiffDeflate8{"tiff", 8, 4},
+    kTiffDeflate16{"tiff", 16, 4};
 
 BENCHMARK_CAPTURE(writeFile, jpeg, kJpeg)->Apply(sizes);
 BENCHMARK_CAPTURE(readFile, jpeg, kJpeg)->Apply(sizes);
 BENCHMARK_CAPTURE(readFile, jpeg_without_intervals, kJpegWithoutIntervals)->Apply(sizes);
+BENCHMARK_CAPTURE(writeFile, png_8, kPng8)->Apply(sizes);
+BENCHMARK_CAPTURE(readFile, png_8, kPng8)->Apply(sizes);
+BENCHMARK_CAPTURE(writeFile, png_16, kPng16)->Apply(sizes);
+BENCHMARK_CAPTURE(readFile, png_16, kPng16)->Apply(sizes);
+BENCHMARK_CAPTURE(writeFile, tiff_plain_16, kTiffPlain16)->Apply(sizes);
+BENCHMARK_CAPTURE(readFile, tiff_plain_16, kTiffPlain16)->Apply(sizes);
+BENCHMARK_CAPTURE(writeFile, tiff_lzw_8, kTiffLzw8)->Apply(sizes);
+BENCHMARK_CAPTURE(readFile, tiff_lzw_8, kTiffLzw8)->Apply(sizes);
+BENCHMARK_CAPTURE(writeFile, tiff_lzw_16, kTiffLzw16)->Apply(sizes);
+BENCHMARK_CAPTURE(readFile, tiff_lzw_16, kTiffLzw16)->Apply(sizes);
+BENCHMARK_CAPTURE(writeFile, tiff_deflate_8, kTiffDeflate8)->Apply(sizes);
+BENCHMARK_CAPTURE(readFile, tiff_deflate_8, kTiffDeflate8)->Apply(sizes);
+BENCHMARK_CAPTURE(writeFile, tiff_deflate_16, kTiffDeflate16)->Apply(sizes);
+BENCHMARK_CAPTURE(readFile, tiff_deflate_16, kTiffDeflate16)->Apply(sizes);
 
 } // namespace

@@ -2,12 +2,13 @@
 #include <csetjmp>
 #include <cstdlib>
 #include <cstring>
-#include <limits>
 
 #include <libdeflate.h>
 #include <png.h>
 #include <zlib.h>
 
+#include "PngRowFilter.h"
+#include "gflBands.h"
 #include "gflClaims.h"
 #include "gflCodec.h"
 #include "gflMetadata.h"
@@ -302,133 +303,108 @@ void writeMetadata(const WriteRequest &request)
     }
 }
 
-/// Filters the rows in order; see PNG (ISO/IEC 15948), clause 9.
-class RowFilter
+// The zlib stream of the pixels is made of bands of rows, which several threads pack. How the rows are divided does not depend on
+// the number of threads, and neither do the bytes of the file.
+
+/// The filtered rows of a band; see PNG (ISO/IEC 15948), clause 9.
+Bytes filteredRows(const GflBitmap &bitmap, Form form, int firstRow, int rows)
 {
-public:
-    RowFilter(std::size_t bytes, std::size_t pixel)
-        : rowBytes(bytes), pixelBytes(pixel), current(bytes + pixel), above(bytes + pixel), candidate(bytes + 1)
-    {
+    const std::size_t rowBytes = std::size_t(bitmap.width) * form.pixelBytes();
+    Bytes filtered((rowBytes + 1) * std::size_t(rows));
+    SourceRows source(bitmap, form);
+    PngRowFilter filter(rowBytes, form.pixelBytes());
+    const auto put = [&](int y) {
+        swapSamples(source.row(y), filter.next(), form.bits == 16 ? rowBytes / 2 : rowBytes, form.bits);
+    };
+    if (firstRow > 0) {
+        put(firstRow - 1);
+        filter.skip();
     }
-
-    /// Where to put the next row, in the file's byte order.
-    std::uint8_t *next() { return current.data() + pixelBytes; }
-
-    /// Writes the filter byte and the filtered row, rowBytes + 1 bytes, with the filter that gives the smallest sum of
-    /// magnitudes.
-    void filter(std::uint8_t *target)
-    {
-        unsigned long best = std::numeric_limits<unsigned long>::max();
-        for (const int kind : {kUp, kSub, kPaeth}) {
-            candidate[0] = std::uint8_t(kind);
-            const unsigned long sum = apply(kind, candidate.data() + 1);
-            if (sum < best) {
-                best = sum;
-                std::memcpy(target, candidate.data(), rowBytes + 1);
-            }
-        }
-        current.swap(above);
+    for (int i = 0; i < rows; ++i) {
+        put(firstRow + i);
+        filter.filter(filtered.data() + (rowBytes + 1) * std::size_t(i));
     }
-
-private:
-    static constexpr int kSub = 1;
-    static constexpr int kUp = 2;
-    static constexpr int kPaeth = 4;
-
-    unsigned long apply(int kind, std::uint8_t *out) const
-    {
-        const std::uint8_t *x = current.data() + pixelBytes;
-        const std::uint8_t *a = current.data(); // left of x; each row is preceded by a pixel of zeros
-        const std::uint8_t *b = above.data() + pixelBytes;
-        const std::uint8_t *c = above.data();
-        if (kind == kUp) {
-            for (std::size_t i = 0; i < rowBytes; ++i)
-                out[i] = std::uint8_t(x[i] - b[i]);
-        } else if (kind == kSub) {
-            for (std::size_t i = 0; i < rowBytes; ++i)
-                out[i] = std::uint8_t(x[i] - a[i]);
-        } else {
-            for (std::size_t i = 0; i < rowBytes; ++i) {
-                const short toA = short(b[i] - c[i]); // p - a, where p = a + b - c
-                const short toB = short(a[i] - c[i]);
-                const short toC = short(toA + toB);
-                const short sizeA = short(toA < 0 ? -toA : toA);
-                const short sizeB = short(toB < 0 ? -toB : toB);
-                const short sizeC = short(toC < 0 ? -toC : toC);
-                const std::uint8_t nearestBc = sizeB <= sizeC ? b[i] : c[i];
-                const std::uint8_t nearest = sizeA <= std::min(sizeB, sizeC) ? a[i] : nearestBc;
-                out[i] = std::uint8_t(x[i] - nearest);
-            }
-        }
-        unsigned long sum = 0;
-        for (std::size_t i = 0; i < rowBytes; ++i)
-            sum += std::uint8_t(out[i] < 128 ? out[i] : 256 - out[i]);
-        return sum;
-    }
-
-    std::size_t rowBytes;
-    std::size_t pixelBytes;
-    Bytes current;
-    Bytes above;
-    Bytes candidate;
-};
-
-// Packs the filtered image in one piece: libdeflate can't do otherwise.
-void writeWhole(const WriteRequest &request, Form form, std::size_t rowBytes, int level)
-{
-    const GflBitmap &bitmap = request.bitmap;
-    const std::size_t total = (rowBytes + 1) * std::size_t(bitmap.height);
-    const std::unique_ptr<std::uint8_t[]> filtered(new std::uint8_t[total]);
-    SourceRows rows(bitmap, form);
-    RowFilter filter(rowBytes, form.pixelBytes());
-    for (int y = 0; y < bitmap.height; ++y) {
-        swapSamples(rows.row(y), filter.next(), form.bits == 16 ? rowBytes / 2 : rowBytes, form.bits);
-        filter.filter(filtered.get() + (rowBytes + 1) * std::size_t(y));
-    }
-
-    const Deflater deflater(level);
-    const std::size_t bound = libdeflate_zlib_compress_bound(deflater.handle, total);
-    const std::unique_ptr<std::uint8_t[]> packed(new std::uint8_t[bound]);
-    const std::size_t count = libdeflate_zlib_compress(deflater.handle, filtered.get(), total, packed.get(), bound);
-    writeChunk(request.file, "IDAT", packed.get(), count);
+    return filtered;
 }
 
-// Packs row by row through zlib, if the filtered image would take too much memory.
-void writeStreaming(const WriteRequest &request, Form form, std::size_t rowBytes, int level)
+/// Turns a complete deflate stream into one that another can follow: its last block is no longer marked as the last, and an empty
+/// stored block fills up the last byte. libdeflate can't do this, so zlib finds the block, unpacking into `scratch`, which must
+/// hold the unpacked data.
+void openEnd(Bytes &stream, Bytes &scratch)
+{
+    struct Inflater : z_stream
+    {
+        Inflater() : z_stream{} {}
+        ~Inflater() { inflateEnd(this); }
+    } inflater;
+    constexpr int kRaw = -15; // the largest window, no header
+    if (inflateInit2(&inflater, kRaw) != Z_OK)
+        throw Failure{GFL_ERROR_NO_MEMORY};
+    inflater.next_in = stream.data();
+    inflater.avail_in = unsigned(stream.size());
+    inflater.next_out = scratch.data();
+    inflater.avail_out = unsigned(scratch.size());
+    constexpr int kUnusedBits = 7;
+    constexpr int kInLastBlock = 64;
+    constexpr int kBetweenBlocks = 128;
+    std::size_t lastBlock = 0; // in bits
+    std::size_t position = 0;
+    do {
+        if (inflate(&inflater, Z_BLOCK) != Z_OK || !(inflater.data_type & kBetweenBlocks))
+            throw Failure{GFL_ERROR_NO_MEMORY}; // there is no other reason
+        lastBlock = position;
+        position = inflater.total_in * 8 - unsigned(inflater.data_type & kUnusedBits);
+    } while (!(inflater.data_type & kInLastBlock));
+
+    stream[lastBlock / 8] &= std::uint8_t(~(1u << lastBlock % 8));
+    constexpr std::size_t kStoredHead = 3; // zeros, as are the unused bits of the last byte
+    stream.resize((position + kStoredHead + 7) / 8);
+    stream.insert(stream.end(), {0, 0, 0xFF, 0xFF}); // the length, and its complement
+}
+
+/// Packs a band as a part of the deflate stream. Afterwards `data` may hold anything.
+Bytes deflated(Bytes &data, int level, bool last)
+{
+    const Deflater deflater(level);
+    Bytes packed(libdeflate_deflate_compress_bound(deflater.handle, data.size()));
+    packed.resize(libdeflate_deflate_compress(deflater.handle, data.data(), data.size(), packed.data(), packed.size()));
+    if (!last)
+        openEnd(packed, data);
+    return packed;
+}
+
+void writePixels(const WriteRequest &request, Form form, int level)
 {
     const GflBitmap &bitmap = request.bitmap;
-    struct Stream : z_stream
-    {
-        Stream() : z_stream{} {}
-        ~Stream() { deflateEnd(this); }
-    } stream;
-    if (deflateInit(&stream, level) != Z_OK)
-        throw Failure{GFL_ERROR_NO_MEMORY};
-    Bytes filtered(rowBytes + 1);
-    Bytes packed(std::size_t(1) << 20);
-    SourceRows rows(bitmap, form);
-    RowFilter filter(rowBytes, form.pixelBytes());
-    const auto startChunk = [&] {
-        stream.next_out = packed.data();
-        stream.avail_out = unsigned(packed.size());
-    };
-    startChunk();
-    for (int y = 0; y < bitmap.height; ++y) {
-        swapSamples(rows.row(y), filter.next(), form.bits == 16 ? rowBytes / 2 : rowBytes, form.bits);
-        filter.filter(filtered.data());
-        stream.next_in = filtered.data();
-        stream.avail_in = unsigned(filtered.size());
-        const int flush = y + 1 == bitmap.height ? Z_FINISH : Z_NO_FLUSH;
-        for (bool more = true; more;) {
-            const int state = deflate(&stream, flush);
-            more = flush == Z_FINISH ? state != Z_STREAM_END : stream.avail_in > 0;
-            if (stream.avail_out == 0) {
-                writeChunk(request.file, "IDAT", packed);
-                startChunk();
-            }
-        }
-    }
-    writeChunk(request.file, "IDAT", packed.data(), packed.size() - stream.avail_out);
+    constexpr std::size_t kBandBytes = std::size_t(1) << 20;
+    const std::size_t rowBytes = std::size_t(bitmap.width) * form.pixelBytes() + 1;
+    const int bandRows = int(std::clamp<std::size_t>(kBandBytes / rowBytes, 1, std::size_t(bitmap.height)));
+    const int bands = (bitmap.height - 1) / bandRows + 1;
+    const auto rowsOf = [&](int band) { return std::min(bandRows, bitmap.height - band * bandRows); };
+
+    std::vector<std::uint32_t> checks(std::size_t(bands), 0); // each of its band
+    std::uint32_t check = 1;
+    int written = 0;
+    shareBandsInOrder(
+        bands, request.threads,
+        [&](int band) {
+            Bytes data = filteredRows(bitmap, form, band * bandRows, rowsOf(band));
+            checks[std::size_t(band)] = libdeflate_adler32(1, data.data(), data.size());
+            return deflated(data, level, band + 1 == bands);
+        },
+        [&](const Bytes &packed) {
+            check = std::uint32_t(adler32_combine(check, checks[std::size_t(written)],
+                                                  static_cast<z_off_t>(rowBytes * std::size_t(rowsOf(written)))));
+            Bytes chunk;
+            if (written == 0)
+                chunk = {0x78, 0x5E}; // deflate with the largest window, fast
+            chunk.insert(chunk.end(), packed.begin(), packed.end());
+            if (++written == bands)
+                putBig32(chunk, check);
+            constexpr std::size_t kLargestChunk = std::size_t(1) << 30;
+            for (std::size_t at = 0; at < chunk.size(); at += kLargestChunk)
+                writeChunk(request.file, "IDAT", chunk.data() + at, std::min(kLargestChunk, chunk.size() - at));
+        });
 }
 
 } // namespace
@@ -477,7 +453,6 @@ void writePng(const WriteRequest &request)
 {
     const GflBitmap &bitmap = request.bitmap;
     const Form form{bitmap.componentsPerPixel, bitmap.bitsPerComponent == 8 ? 8 : 16};
-    const std::size_t rowBytes = std::size_t(bitmap.width) * form.pixelBytes();
 
     request.file.write(kSignature, sizeof kSignature);
     Bytes header;
@@ -500,11 +475,7 @@ void writePng(const WriteRequest &request)
 
     constexpr int kDefaultLevel = 3;
     const int level = request.compression < 0 ? kDefaultLevel : std::min(request.compression, 9);
-    constexpr std::size_t kLargestWhole = std::size_t(512) << 20;
-    if ((rowBytes + 1) * std::size_t(bitmap.height) <= kLargestWhole)
-        writeWhole(request, form, rowBytes, level);
-    else
-        writeStreaming(request, form, rowBytes, level);
+    writePixels(request, form, level);
     writeChunk(request.file, "IEND", {});
 }
 

@@ -93,6 +93,17 @@ inline void paint(const GflBitmap &bitmap)
             }
 }
 
+/// The samples of a bitmap without the padding of its rows.
+inline FileBytes samplesOf(const GflBitmap &bitmap)
+{
+    FileBytes samples;
+    for (int y = 0; y < bitmap.height; ++y) {
+        const std::uint8_t *row = sampleAt(bitmap, 0, y, 0);
+        samples.insert(samples.end(), row, row + std::size_t(bitmap.width) * bitmap.bytesPerPixel);
+    }
+    return samples;
+}
+
 inline FileBytes readFile(const std::string &name)
 {
     std::ifstream file(name, std::ios::binary);

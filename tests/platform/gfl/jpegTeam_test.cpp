@@ -113,17 +113,6 @@ Decoded decode(const FileBytes &file)
     return result;
 }
 
-/// The samples of a bitmap without the padding of its rows.
-FileBytes samplesOf(const GflBitmap &bitmap)
-{
-    FileBytes samples;
-    for (int y = 0; y < bitmap.height; ++y) {
-        const std::uint8_t *row = sampleAt(bitmap, 0, y, 0);
-        samples.insert(samples.end(), row, row + std::size_t(bitmap.width) * bitmap.bytesPerPixel);
-    }
-    return samples;
-}
-
 constexpr int kTeams[] = {1, 2, 3, 8};
 
 class JpegTeamTest : public GflTest

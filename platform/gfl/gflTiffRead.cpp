@@ -3,54 +3,17 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <mutex>
 
-#include <tiffio.h>
-
+#include "TiffStripInflater.h"
+#include "gflBands.h"
 #include "gflClaims.h"
 #include "gflCodec.h"
 #include "gflMetadata.h"
+#include "gflTiffHandle.h"
 
 namespace gfl {
 namespace {
-
-int onTiffMessage(TIFF *, void *, const char *, const char *, va_list)
-{
-    return 1; // handled: nothing is printed
-}
-
-struct TiffClose
-{
-    void operator()(TIFF *tiff) const { TIFFClose(tiff); }
-};
-using TiffPointer = std::unique_ptr<TIFF, TiffClose>;
-
-struct OptionsFree
-{
-    void operator()(TIFFOpenOptions *options) const { TIFFOpenOptionsFree(options); }
-};
-
-std::unique_ptr<TIFFOpenOptions, OptionsFree> quietOptions()
-{
-    std::unique_ptr<TIFFOpenOptions, OptionsFree> options(TIFFOpenOptionsAlloc());
-    if (!options)
-        throw Failure{GFL_ERROR_NO_MEMORY};
-    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), onTiffMessage, nullptr);
-    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), onTiffMessage, nullptr);
-    return options;
-}
-
-template<typename T>
-T field(TIFF *tiff, std::uint32_t tag, T fallback)
-{
-    T value = fallback;
-    return TIFFGetFieldDefaulted(tiff, tag, &value) ? value : fallback;
-}
-
-// The texts read from and written to the large form, which holds no EXIF block.
-constexpr std::uint16_t kTexts[] = {TIFFTAG_IMAGEDESCRIPTION, TIFFTAG_MAKE,   TIFFTAG_MODEL,    TIFFTAG_SOFTWARE,
-                                    TIFFTAG_DATETIME,         TIFFTAG_ARTIST, TIFFTAG_COPYRIGHT};
-
-// ---- reading
 
 struct ReadHandle
 {
@@ -77,19 +40,11 @@ toff_t onReadSize(thandle_t handle)
 {
     return static_cast<ReadHandle *>(handle)->file->size();
 }
+
 tmsize_t onNoWrite(thandle_t, void *, tmsize_t)
 {
     return -1;
 }
-int onClose(thandle_t)
-{
-    return 0;
-}
-int onNoMap(thandle_t, void **, toff_t *)
-{
-    return 0;
-}
-void onNoUnmap(thandle_t, void *, toff_t) {}
 
 /// An open file: the library's handle and the position that it reads from.
 struct OpenTiff
@@ -99,11 +54,10 @@ struct OpenTiff
 
     explicit OpenTiff(const InputFile &file) : handle(new ReadHandle{&file, 0})
     {
-        const auto options = quietOptions();
+        const TiffOptions options = quietTiffOptions();
         const std::uint64_t limit = std::min(largestLibraryBlock(file.size()), std::uint64_t(1) << 40);
         TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), static_cast<tmsize_t>(limit));
-        tiff.reset(TIFFClientOpenExt("", "rm", handle.get(), onRead, onNoWrite, onReadSeek, onClose, onReadSize, onNoMap,
-                                     onNoUnmap, options.get()));
+        tiff = openTiff("rm", handle.get(), onRead, onNoWrite, onReadSeek, onReadSize, options);
         if (!tiff)
             throw Failure{GFL_ERROR_FILE_READ};
     }
@@ -133,17 +87,17 @@ Layout readLayout(TIFF *tiff)
     Layout layout;
     if (!TIFFGetField(tiff, TIFFTAG_IMAGEWIDTH, &layout.width) || !TIFFGetField(tiff, TIFFTAG_IMAGELENGTH, &layout.height))
         throw Failure{GFL_ERROR_FILE_READ};
-    layout.bits = field<std::uint16_t>(tiff, TIFFTAG_BITSPERSAMPLE, 1);
-    layout.samples = field<std::uint16_t>(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
-    layout.sampleFormat = field<std::uint16_t>(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT);
+    layout.bits = tiffField<std::uint16_t>(tiff, TIFFTAG_BITSPERSAMPLE, 1);
+    layout.samples = tiffField<std::uint16_t>(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
+    layout.sampleFormat = tiffField<std::uint16_t>(tiff, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT);
     layout.planar =
-        field<std::uint16_t>(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG) == PLANARCONFIG_SEPARATE && layout.samples > 1;
+        tiffField<std::uint16_t>(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG) == PLANARCONFIG_SEPARATE && layout.samples > 1;
     layout.tiled = TIFFIsTiled(tiff) != 0;
     std::uint16_t photometric = 0;
     if (!TIFFGetField(tiff, TIFFTAG_PHOTOMETRIC, &photometric))
         photometric = layout.samples >= 3 ? PHOTOMETRIC_RGB : PHOTOMETRIC_MINISBLACK;
     if (photometric == PHOTOMETRIC_YCBCR &&
-        field<std::uint16_t>(tiff, TIFFTAG_COMPRESSION, COMPRESSION_NONE) == COMPRESSION_JPEG && !layout.planar) {
+        tiffField<std::uint16_t>(tiff, TIFFTAG_COMPRESSION, COMPRESSION_NONE) == COMPRESSION_JPEG && !layout.planar) {
         TIFFSetField(tiff, TIFFTAG_JPEGCOLORMODE, JPEGCOLORMODE_RGB);
         photometric = PHOTOMETRIC_RGB;
     }
@@ -169,7 +123,7 @@ Layout readLayout(TIFF *tiff)
                            ? layout.bits == 16 || layout.bits == 32 || layout.bits == 64
                            : integers && ((layout.bits >= 1 && layout.bits <= 16) || layout.bits == 32);
     const bool inks =
-        photometric != PHOTOMETRIC_SEPARATED || field<std::uint16_t>(tiff, TIFFTAG_INKSET, INKSET_CMYK) == INKSET_CMYK;
+        photometric != PHOTOMETRIC_SEPARATED || tiffField<std::uint16_t>(tiff, TIFFTAG_INKSET, INKSET_CMYK) == INKSET_CMYK;
     const bool palette = photometric != PHOTOMETRIC_PALETTE || (integers && layout.bits <= 16);
     layout.convertedHere = layout.colours > 0 && layout.samples >= layout.colours && depth && inks && palette;
     if (!layout.convertedHere) {
@@ -205,15 +159,16 @@ public:
     PlaneRows(const InputFile &file, const Layout &shape, int plane) : tiff(file), layout(shape), sample(std::uint16_t(plane))
     {
         readLayout(tiff.get()); // for the colour mode that it sets
-        std::uint16_t compression = COMPRESSION_NONE;
-        TIFFGetField(tiff.get(), TIFFTAG_COMPRESSION, &compression);
-        deflated = compression == COMPRESSION_ADOBE_DEFLATE || compression == COMPRESSION_DEFLATE;
+        compression = tiffField<std::uint16_t>(tiff.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
         const std::uint64_t samples = layout.planar ? 1 : unsigned(layout.samples);
         rowBytes = (std::uint64_t(layout.width) * samples * unsigned(layout.bits) + 7) / 8;
         const std::uint64_t limit = largestPiece(file.size());
         if (!layout.tiled) {
             if (TIFFScanlineSize64(tiff.get()) != rowBytes || rowBytes > limit)
                 throw Failure{GFL_ERROR_FILE_READ};
+            stripHeight =
+                std::clamp(tiffField<std::uint32_t>(tiff.get(), TIFFTAG_ROWSPERSTRIP, layout.height), 1u, layout.height);
+            inflater = TiffStripInflater::make(tiff.get(), file, rowBytes, stripHeight);
             return;
         }
         TIFFGetField(tiff.get(), TIFFTAG_TILEWIDTH, &tileWidth);
@@ -229,12 +184,26 @@ public:
         band.resize(std::size_t(rowBytes * tileHeight));
     }
 
-    /// Reads row `y` to `target`. Must be called for each row in order.
+    /// Prepares a handle that does not begin with the first row. The library takes all strips for the old form of LZW if the
+    /// first one that it reads looks like it.
+    void prepare()
+    {
+        if (compression == COMPRESSION_LZW)
+            read(0, Bytes(rowBytes).data());
+    }
+
+    /// Reads row `y` to `target`. The rows of a strip or of a row of tiles must be read in order, from the first one.
     void read(std::uint32_t y, void *target)
     {
+        if (inflater && y % stripHeight == 0)
+            inflated = inflater->unpack(TIFFComputeStrip(tiff.get(), y, sample), std::min(stripHeight, layout.height - y));
+        if (inflated) {
+            std::memcpy(target, inflater->row(y % stripHeight), std::size_t(rowBytes));
+            return;
+        }
         if (!layout.tiled) {
             // A strip of one row whose deflated data are longer than the row is reported as read, with nothing written.
-            if (deflated)
+            if (isDeflated())
                 std::memset(target, 0, std::size_t(rowBytes));
             if (TIFFReadScanline(tiff.get(), target, y, sample) != 1)
                 throw Failure{GFL_ERROR_FILE_READ};
@@ -247,6 +216,10 @@ public:
 
     std::size_t bytes() const { return std::size_t(rowBytes); }
     TIFF *handle() const { return tiff.get(); }
+    std::uint32_t rowsPerPiece() const { return layout.tiled ? tileHeight : stripHeight; }
+    std::uint64_t pieceBytes() const { return rowBytes + (inflater ? inflater->bytes() : 0) + tile.size() + band.size(); }
+    /// Whether several handles that read a strip or tile each give what a single handle gives.
+    bool piecesStandAlone() const { return compression == COMPRESSION_NONE || compression == COMPRESSION_LZW || isDeflated(); }
 
 private:
     void readBand(std::uint32_t y)
@@ -264,11 +237,16 @@ private:
         }
     }
 
+    bool isDeflated() const { return compression == COMPRESSION_ADOBE_DEFLATE || compression == COMPRESSION_DEFLATE; }
+
     OpenTiff tiff;
     const Layout &layout;
     std::uint16_t sample;
-    bool deflated = false;
+    std::uint16_t compression;
     std::uint64_t rowBytes = 0;
+    std::uint32_t stripHeight = 0;
+    std::unique_ptr<TiffStripInflater> inflater; ///< For strips alone.
+    bool inflated = false;                       ///< The present strip.
     std::uint32_t tileWidth = 0;
     std::uint32_t tileHeight = 0;
     std::uint64_t tileRowBytes = 0;
@@ -369,41 +347,61 @@ void applyPalette(const std::uint16_t *indices, const Layout &layout, const Pale
             target[c] = std::uint8_t((palette.channels[c][*indices] + 128u) / 257u);
 }
 
-void readConverting(const InputFile &file, const Layout &layout, NewBitmap &bitmap)
+/// Reads rows in the bitmap's form. The rows of one strip, or one row of tiles, must be read in order, from its first one.
+class RowReader
 {
-    std::vector<std::unique_ptr<PlaneRows>> planes;
-    const int taken = layout.colours + (layout.alpha != Alpha::None ? 1 : 0);
-    for (int i = 0; i < (layout.planar ? taken : 1); ++i)
-        planes.push_back(std::make_unique<PlaneRows>(file, layout, i));
-
-    const bool sameForm = !layout.planar && layout.samples == layout.form.components && layout.bits == layout.form.bits &&
-                          layout.colours < 4 && layout.alpha != Alpha::Associated &&
-                          (layout.bits < 32 || layout.sampleFormat == SAMPLEFORMAT_IEEEFP) &&
-                          layout.photometric != PHOTOMETRIC_MINISWHITE && layout.photometric != PHOTOMETRIC_PALETTE;
-    if (sameForm) {
-        for (std::uint32_t y = 0; y < layout.height; ++y)
-            planes[0]->read(y, bitmap.row(int(y)));
-        return;
+public:
+    RowReader(const InputFile &file, const Layout &shape)
+        : layout(shape), indexed(layout.photometric == PHOTOMETRIC_PALETTE), real(layout.form.bits == 32),
+          sameForm(!layout.planar && layout.samples == layout.form.components && layout.bits == layout.form.bits &&
+                   layout.colours < 4 && layout.alpha != Alpha::Associated &&
+                   (layout.bits < 32 || layout.sampleFormat == SAMPLEFORMAT_IEEEFP) &&
+                   layout.photometric != PHOTOMETRIC_MINISWHITE && !indexed),
+          narrow(rowConverter(16, 8))
+    {
+        const int taken = layout.colours + (layout.alpha != Alpha::None ? 1 : 0);
+        for (int i = 0; i < (layout.planar ? taken : 1); ++i)
+            planes.push_back(std::make_unique<PlaneRows>(file, layout, i));
+        if (sameForm)
+            return;
+        if (indexed && !TIFFGetField(planes[0]->handle(), TIFFTAG_COLORMAP, &palette.channels[0], &palette.channels[1],
+                                     &palette.channels[2]))
+            throw Failure{GFL_ERROR_FILE_READ};
+        // Unused planes leave their places in the unpacked row untouched.
+        const std::size_t samples = std::size_t(layout.width) * unsigned(layout.samples);
+        raw.resize(planes[0]->bytes() + sizeof(double));
+        floats.resize(real ? samples : 0);
+        integers.resize(real ? 0 : samples);
+        floatPlane.resize(layout.planar && real ? layout.width : 0);
+        integerPlane.resize(layout.planar && !real ? layout.width : 0);
+        wide.resize(layout.form.bits == 8 && !indexed ? std::size_t(layout.width) * unsigned(layout.form.components) : 0);
     }
 
-    Palette palette;
-    const bool indexed = layout.photometric == PHOTOMETRIC_PALETTE;
-    if (indexed &&
-        !TIFFGetField(planes[0]->handle(), TIFFTAG_COLORMAP, &palette.channels[0], &palette.channels[1], &palette.channels[2]))
-        throw Failure{GFL_ERROR_FILE_READ};
+    void read(std::uint32_t y, std::uint8_t *target)
+    {
+        if (sameForm)
+            planes[0]->read(y, target);
+        else
+            readConverting(y, target);
+    }
 
-    // Unused planes leave their places in the unpacked row untouched.
-    const std::size_t samples = std::size_t(layout.width) * unsigned(layout.samples);
-    const bool real = layout.form.bits == 32;
-    Bytes raw(planes[0]->bytes() + sizeof(double));
-    std::vector<float> floats(real ? samples : 0);
-    std::vector<std::uint16_t> integers(real ? 0 : samples);
-    std::vector<float> floatPlane(layout.planar && real ? layout.width : 0);
-    std::vector<std::uint16_t> integerPlane(layout.planar && !real ? layout.width : 0);
-    std::vector<std::uint16_t> wide(
-        layout.form.bits == 8 && !indexed ? std::size_t(layout.width) * unsigned(layout.form.components) : 0);
-    const RowConverter narrow = rowConverter(16, 8);
-    for (std::uint32_t y = 0; y < layout.height; ++y) {
+    /// For a reader that does not begin with the first row.
+    void prepare()
+    {
+        for (const auto &plane : planes)
+            plane->prepare();
+    }
+
+    /// Rows of a strip or a tile.
+    std::uint32_t rowsPerPiece() const { return planes[0]->rowsPerPiece(); }
+    /// Bytes of the largest buffers.
+    std::uint64_t pieceBytes() const { return planes[0]->pieceBytes() * planes.size(); }
+    bool piecesStandAlone() const { return planes[0]->piecesStandAlone(); }
+
+private:
+    void readConverting(std::uint32_t y, std::uint8_t *target)
+    {
+        const std::size_t samples = std::size_t(layout.width) * unsigned(layout.samples);
         for (std::size_t plane = 0; plane < planes.size(); ++plane) {
             planes[plane]->read(y, raw.data());
             if (!layout.planar) {
@@ -419,7 +417,6 @@ void readConverting(const InputFile &file, const Layout &layout, NewBitmap &bitm
                     integers[at] = integerPlane[x];
             }
         }
-        std::uint8_t *target = bitmap.row(int(y));
         if (indexed) {
             applyPalette(integers.data(), layout, palette, target);
         } else if (real) {
@@ -428,8 +425,72 @@ void readConverting(const InputFile &file, const Layout &layout, NewBitmap &bitm
             arrange(integers.data(), layout, reinterpret_cast<std::uint16_t *>(target));
         } else {
             arrange(integers.data(), layout, wide.data());
-            narrow(wide.data(), layout.form.components, target, layout.form.components, bitmap.width());
+            narrow(wide.data(), layout.form.components, target, layout.form.components, int(layout.width));
         }
+    }
+
+    const Layout &layout;
+    const bool indexed;
+    const bool real;
+    const bool sameForm;
+    const RowConverter narrow;
+    std::vector<std::unique_ptr<PlaneRows>> planes;
+    Palette palette;
+    Bytes raw;
+    std::vector<float> floats;
+    std::vector<std::uint16_t> integers;
+    std::vector<float> floatPlane;
+    std::vector<std::uint16_t> integerPlane;
+    std::vector<std::uint16_t> wide;
+};
+
+/// The threads share the strips or rows of tiles, each with a different reader.
+void readConverting(const InputFile &file, const Layout &layout, NewBitmap &bitmap, int threads)
+{
+    std::mutex mutex; // guards `idle`
+    std::vector<std::unique_ptr<RowReader>> idle;
+    idle.push_back(std::make_unique<RowReader>(file, layout));
+    RowReader &first = *idle[0];
+    if (threads > 1)
+        first.prepare();
+
+    constexpr std::uint64_t kBandBytes = 256 * 1024; // worth a thread's while, and fits in its cache
+    const std::size_t stride = bitmap.record().bytesPerLine;
+    const std::uint64_t pieces = std::max<std::uint64_t>(1, kBandBytes / (std::uint64_t(stride) * first.rowsPerPiece()));
+    const int bandRows = int(std::min<std::uint64_t>(first.rowsPerPiece() * pieces, layout.height));
+    const std::uint64_t mostReaders = (kSmallClaim + kUsualRatio * file.size()) / first.pieceBytes();
+    const int team = first.piecesStandAlone() ? int(std::clamp<std::uint64_t>(mostReaders, 1, unsigned(threads))) : 1;
+
+    for (int y = 0; y < bitmap.height();) {
+        const int left = bitmap.height() - y;
+        const int ready = std::min(bitmap.rowsFrom(y), left);
+        const int rows = ready == left ? ready : ready / bandRows * bandRows;
+        if (team == 1 || rows <= bandRows) { // the memory grows as the rows arrive
+            for (const int end = y + std::min(bandRows, left); y < end; ++y)
+                first.read(std::uint32_t(y), bitmap.row(y));
+            continue;
+        }
+        std::uint8_t *target = bitmap.row(y);
+        shareBands((rows - 1) / bandRows + 1, team, [&](int band) {
+            std::unique_ptr<RowReader> reader;
+            {
+                const std::lock_guard lock(mutex);
+                if (!idle.empty()) {
+                    reader = std::move(idle.back());
+                    idle.pop_back();
+                }
+            }
+            if (!reader) {
+                reader = std::make_unique<RowReader>(file, layout);
+                reader->prepare();
+            }
+            const int start = band * bandRows;
+            for (int row = start, end = start + std::min(bandRows, rows - start); row < end; ++row)
+                reader->read(std::uint32_t(y + row), target + stride * std::size_t(row));
+            const std::lock_guard lock(mutex);
+            idle.push_back(std::move(reader));
+        });
+        y += rows;
     }
 }
 
@@ -495,7 +556,7 @@ void readMetadata(const InputFile &file, TIFF *tiff, Metadata &metadata)
     if (metadata.exif.block.empty()) {
         std::vector<std::pair<std::uint16_t, std::string>> texts;
         const char *text = nullptr;
-        for (const std::uint16_t tag : kTexts)
+        for (const std::uint16_t tag : kTiffTexts)
             if (TIFFGetField(tiff, tag, &text) && text)
                 texts.emplace_back(tag, text);
         std::uint16_t orientation = 0;
@@ -524,163 +585,6 @@ void readMetadata(const InputFile &file, TIFF *tiff, Metadata &metadata)
     }
     if (metadata.iptc.block.empty())
         metadata.iptc.block = photoshopResource(resources, kResourceIptc);
-}
-
-// ---- writing
-
-tmsize_t onWrite(thandle_t handle, void *source, tmsize_t bytes)
-{
-    return static_cast<OutputFile *>(handle)->tryWrite(source, std::size_t(bytes)) ? bytes : -1;
-}
-
-tmsize_t onReadBack(thandle_t handle, void *target, tmsize_t bytes)
-{
-    return static_cast<tmsize_t>(static_cast<OutputFile *>(handle)->readBack(target, std::size_t(bytes)));
-}
-
-toff_t onWriteSeek(thandle_t handle, toff_t offset, int whence)
-{
-    auto *file = static_cast<OutputFile *>(handle);
-    const std::uint64_t target = offset + (whence == SEEK_CUR ? file->offset() : whence == SEEK_END ? file->size() : 0);
-    return file->trySeek(target) ? target : ~toff_t(0);
-}
-
-toff_t onWriteSize(thandle_t handle)
-{
-    return static_cast<OutputFile *>(handle)->size();
-}
-
-void checked(bool done)
-{
-    if (!done)
-        throw Failure{GFL_ERROR_FILE_WRITE};
-}
-
-void setFields(TIFF *tiff, const WriteRequest &request, std::uint16_t compression)
-{
-    const GflBitmap &bitmap = request.bitmap;
-    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, std::uint32_t(bitmap.width));
-    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, std::uint32_t(bitmap.height));
-    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, bitmap.bitsPerComponent);
-    TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, bitmap.componentsPerPixel);
-    TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, bitmap.componentsPerPixel == 1 ? PHOTOMETRIC_MINISBLACK : PHOTOMETRIC_RGB);
-    TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
-    TIFFSetField(tiff, TIFFTAG_SAMPLEFORMAT, bitmap.bitsPerComponent == 32 ? SAMPLEFORMAT_IEEEFP : SAMPLEFORMAT_UINT);
-    if (bitmap.componentsPerPixel == 4) {
-        const std::uint16_t kind = EXTRASAMPLE_UNASSALPHA;
-        TIFFSetField(tiff, TIFFTAG_EXTRASAMPLES, 1, &kind);
-    }
-    checked(TIFFSetField(tiff, TIFFTAG_COMPRESSION, compression) == 1);
-    if (compression != COMPRESSION_NONE)
-        TIFFSetField(tiff, TIFFTAG_PREDICTOR, bitmap.bitsPerComponent == 32 ? PREDICTOR_FLOATINGPOINT : PREDICTOR_HORIZONTAL);
-    if (bitmap.xDpi && bitmap.yDpi) {
-        TIFFSetField(tiff, TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH);
-        TIFFSetField(tiff, TIFFTAG_XRESOLUTION, double(bitmap.xDpi));
-        TIFFSetField(tiff, TIFFTAG_YRESOLUTION, double(bitmap.yDpi));
-    }
-    if (!request.icc.empty())
-        TIFFSetField(tiff, TIFFTAG_ICCPROFILE, std::uint32_t(request.icc.size()), request.icc.data());
-    if (!request.iptc.empty()) // this library counts it in bytes
-        TIFFSetField(tiff, TIFFTAG_RICHTIFFIPTC, std::uint32_t(request.iptc.size()), request.iptc.data());
-}
-
-void setTexts(TIFF *tiff, const Bytes &exif)
-{
-    ByteReader stream(exif);
-    for (const IfdEntry &entry : firstDirectory(stream)) {
-        stream.seek(entry.valueOffset);
-        if (entry.tag == TIFFTAG_ORIENTATION && entry.type == TIFF_SHORT) {
-            TIFFSetField(tiff, TIFFTAG_ORIENTATION, stream.u16() & 0xFF); // one of 1..8, else refused
-        } else if (entry.type == TIFF_ASCII && std::count(std::begin(kTexts), std::end(kTexts), entry.tag)) {
-            const Bytes value = stream.bytes(entry.valueBytes);
-            TIFFSetField(tiff, entry.tag, std::string(value.begin(), value.end()).c_str());
-        }
-    }
-}
-
-void writeStrips(TIFF *tiff, const GflBitmap &bitmap, bool swap, bool packed)
-{
-    const std::size_t rowBytes = std::size_t(bitmap.width) * bitmap.bytesPerPixel;
-    constexpr std::size_t kStripBytes = 256 * 1024;
-    const int rowsPerStrip = int(std::clamp<std::size_t>(kStripBytes / rowBytes, 1, std::size_t(bitmap.height)));
-    TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, std::uint32_t(rowsPerStrip));
-
-    // The library modifies what it packs, so it gets a copy of the strip.
-    const bool direct = !packed && !swap && bitmap.bytesPerLine == rowBytes;
-    Bytes strip(direct ? 0 : rowBytes * std::size_t(rowsPerStrip));
-    std::uint32_t index = 0;
-    for (int y = 0; y < bitmap.height; y += rowsPerStrip, ++index) {
-        const int rows = std::min(rowsPerStrip, bitmap.height - y);
-        const tmsize_t bytes = static_cast<tmsize_t>(rowBytes * std::size_t(rows));
-        for (int i = 0; i < (direct ? 0 : rows); ++i) {
-            std::uint8_t *target = strip.data() + rowBytes * std::size_t(i);
-            if (swap && !packed) // the library swaps what it packs
-                swapSamples(rowOf(bitmap, y + i), target, rowBytes / (bitmap.bitsPerComponent / 8), bitmap.bitsPerComponent);
-            else
-                std::memcpy(target, rowOf(bitmap, y + i), rowBytes);
-        }
-        void *source = direct ? const_cast<std::uint8_t *>(rowOf(bitmap, y)) : strip.data();
-        checked((packed ? TIFFWriteEncodedStrip(tiff, index, source, bytes) : TIFFWriteRawStrip(tiff, index, source, bytes)) ==
-                bytes);
-    }
-}
-
-/// The bytes written so far.
-class WrittenBytes final : public ByteSource
-{
-public:
-    explicit WrittenBytes(OutputFile &output) : file(output), bytesWritten(output.size()) {}
-    std::uint64_t size() const noexcept override { return bytesWritten; }
-    std::size_t readAt(std::uint64_t offset, void *target, std::size_t bytes) const noexcept override
-    {
-        return file.trySeek(offset) ? file.readBack(target, bytes) : 0;
-    }
-
-private:
-    OutputFile &file;
-    std::uint64_t bytesWritten;
-};
-
-/// Adds the entries of the EXIF block's first directory (camera, author, pointers to its other directories) to the file's
-/// directory. The file begins with the unchanged block, so that every offset in it stays valid, including those in a maker note.
-void mergeDirectories(OutputFile &file, const Bytes &exif)
-{
-    const WrittenBytes written(file);
-    const std::uint64_t fileBytes = written.size();
-    ByteReader own(written), carried(exif);
-    std::vector<IfdEntry> entries = firstDirectory(own);
-    checked(!entries.empty());
-    const auto has = [&](unsigned tag) {
-        return std::any_of(entries.begin(), entries.end(), [&](const IfdEntry &entry) { return entry.tag == tag; });
-    };
-    const bool ownResolution = has(TIFFTAG_XRESOLUTION);
-    for (const IfdEntry &entry : firstDirectory(carried)) {
-        const bool resolution = entry.tag == TIFFTAG_RESOLUTIONUNIT && ownResolution;
-        if (!isStructuralTag(entry.tag) && !resolution && !has(entry.tag))
-            entries.push_back(entry);
-    }
-    std::stable_sort(entries.begin(), entries.end(), [](const IfdEntry &a, const IfdEntry &b) { return a.tag < b.tag; });
-
-    const std::uint64_t start = (fileBytes + 1) / 2 * 2;
-    if (start + 2 + 12 * entries.size() + 4 > std::numeric_limits<std::uint32_t>::max())
-        throw Failure{GFL_ERROR_FILE_WRITE};
-    const bool bigEndian = carried.order() == ByteOrder::Big;
-    const auto put = [&](Bytes &bytes, std::uint32_t value, int count) {
-        for (int i = 0; i < count; ++i)
-            bytes.push_back(std::uint8_t(value >> 8 * (bigEndian ? count - 1 - i : i)));
-    };
-    Bytes directory(std::size_t(start - fileBytes), 0);
-    put(directory, std::uint32_t(entries.size()), 2);
-    for (const IfdEntry &entry : entries)
-        directory.insert(directory.end(), entry.raw, entry.raw + sizeof entry.raw);
-    put(directory, 0, 4); // no further directory
-    Bytes pointer;
-    put(pointer, std::uint32_t(start), 4);
-    checked(file.trySeek(fileBytes));
-    file.write(directory);
-    checked(file.trySeek(4));
-    file.write(pointer);
-    checked(file.trySeek(start + 2));
 }
 
 /// Whether the file is long enough for all its strips or tiles.
@@ -715,17 +619,18 @@ BitmapPointer readTiff(const ReadRequest &request)
     const OpenTiff open(request.file);
     const Layout layout = readLayout(open.get());
     // A fax has one bit per pixel; the library silently makes missing rows white.
-    const auto compression = field<std::uint16_t>(open.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
+    const auto compression = tiffField<std::uint16_t>(open.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
     const bool fax =
         (compression >= COMPRESSION_CCITTRLE && compression <= COMPRESSION_CCITTFAX4) || compression == COMPRESSION_CCITTRLEW;
     if (fax && (layout.bits != 1 || layout.samples != 1 || layout.height > mostFaxRows(request.file.size())))
         throw Failure{GFL_ERROR_FILE_READ};
     NewBitmap bitmap(request.file, layout.width, layout.height, layout.form);
-    const double perInch = field<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_INCH         ? 1.0
-                           : field<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_CENTIMETER ? 2.54
-                                                                                                                          : 0.0;
-    bitmap.record().xDpi = dpiFrom(double(field<float>(open.get(), TIFFTAG_XRESOLUTION, 0)) * perInch);
-    bitmap.record().yDpi = dpiFrom(double(field<float>(open.get(), TIFFTAG_YRESOLUTION, 0)) * perInch);
+    const double perInch = tiffField<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_INCH ? 1.0
+                           : tiffField<std::uint16_t>(open.get(), TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH) == RESUNIT_CENTIMETER
+                               ? 2.54
+                               : 0.0;
+    bitmap.record().xDpi = dpiFrom(double(tiffField<float>(open.get(), TIFFTAG_XRESOLUTION, 0)) * perInch);
+    bitmap.record().yDpi = dpiFrom(double(tiffField<float>(open.get(), TIFFTAG_YRESOLUTION, 0)) * perInch);
     if (request.metadata) {
         Metadata &metadata = attachMetadata(bitmap.record());
         metadata.packing.tiff = packingOf(compression);
@@ -733,64 +638,13 @@ BitmapPointer readTiff(const ReadRequest &request)
     }
     if (request.pixels) {
         if (layout.convertedHere)
-            readConverting(request.file, layout, bitmap);
+            readConverting(request.file, layout, bitmap, request.threads);
         else
             readByLibrary(open, request.file, layout, bitmap);
     } else if (!holdsAllPieces(request.file, open.get())) {
         throw Failure{GFL_ERROR_FILE_READ};
     }
     return bitmap.take();
-}
-
-void writeTiff(const WriteRequest &request)
-{
-    const GflBitmap &bitmap = request.bitmap;
-    std::uint16_t compression = COMPRESSION_NONE;
-    switch (request.compression == GFL_DEFAULT ? request.packing.tiff : request.compression) {
-    case GFL_DEFAULT:
-    case 0:
-        break;
-    case 2:
-        if (request.lzw)
-            compression = COMPRESSION_LZW;
-        break;
-    case 4:
-        compression = COMPRESSION_ADOBE_DEFLATE;
-        break;
-    default:
-        throw Failure{GFL_ERROR_BAD_PARAMETERS};
-    }
-
-    // Below the range of 32-bit offsets, to leave room for directories and metadata. The large form can't hold an EXIF block.
-    constexpr std::uint64_t kLargestClassic = std::uint64_t(4000) << 20;
-    const bool large = std::uint64_t(bitmap.width) * bitmap.bytesPerPixel * unsigned(bitmap.height) > kLargestClassic;
-    const bool exif = !request.exif.empty() && !large && isExifBlock(request.exif.data(), request.exif.size());
-    const bool bigEndian = exif && request.exif[0] == 'M';
-
-    {
-        const auto options = quietOptions();
-        const TiffPointer tiff(TIFFClientOpenExt("",
-                                                 large       ? "wl8m"
-                                                 : bigEndian ? "wbm"
-                                                             : "wlm",
-                                                 &request.file, onReadBack, onWrite, onWriteSeek, onClose, onWriteSize, onNoMap,
-                                                 onNoUnmap, options.get()));
-        checked(tiff != nullptr);
-        if (exif) {
-            constexpr std::size_t kHeader = 8;
-            checked(request.file.trySeek(kHeader));
-            request.file.write(request.exif.data() + kHeader, request.exif.size() - kHeader);
-            if (request.exif.size() % 2)
-                request.file.write("", 1);
-        }
-        setFields(tiff.get(), request, compression);
-        if (large)
-            setTexts(tiff.get(), request.exif);
-        writeStrips(tiff.get(), bitmap, bigEndian && bitmap.bitsPerComponent > 8, compression != COMPRESSION_NONE);
-        checked(TIFFWriteDirectory(tiff.get()) == 1 && TIFFFlush(tiff.get()) == 1);
-    }
-    if (exif)
-        mergeDirectories(request.file, request.exif);
 }
 
 } // namespace gfl
