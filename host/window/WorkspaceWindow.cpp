@@ -124,6 +124,7 @@ void WorkspaceWindow::build()
 
     hint = new QLabel(tr("Drag the line to compare. Hold Space: before. Left, Right: photograph. Up, Down: strength."), this);
     hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    hint->setIndent(hint->fontMetrics().averageCharWidth());
     zoomLabel = new QLabel(this);
     zoomLabel->setObjectName(QStringLiteral("zoom"));
     zoomLabel->setAccessibleName(tr("Zoom"));
@@ -290,8 +291,10 @@ void WorkspaceWindow::connectWork()
     connect(strip->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &now) { showPhotograph(now.row()); });
     connect(strip->selectionModel(), &QItemSelectionModel::selectionChanged, stateTimer, qOverload<>(&QTimer::start));
+    connect(strip, &FilmstripView::rowsShown, &series, &Series::readFirst);
     connect(&series, &Series::rowsInserted, this, [this](const QModelIndex &, int first) {
-        if (currentRow() < 0 || std::exchange(showsNext, false))
+        const bool isFirstBatch = std::exchange(showsNext, false);
+        if (isFirstBatch || currentRow() < 0)
             selectRow(first);
         stateTimer->start();
     });
@@ -309,6 +312,11 @@ void WorkspaceWindow::connectWork()
                 showThumbnail(row);
         }
         stateTimer->start();
+    });
+    // What is undone is seen, wherever it was.
+    connect(&series, &Series::stepped, this, [this](const QList<int> &rows) {
+        if (!rows.isEmpty() && !rows.contains(currentRow()))
+            selectRow(rows.first());
     });
     connect(&series.undoStack(), &QUndoStack::indexChanged, stateTimer, qOverload<>(&QTimer::start));
     connect(stateTimer, &QTimer::timeout, this, &WorkspaceWindow::showState);
@@ -329,6 +337,13 @@ void WorkspaceWindow::connectWork()
             bar->say(MessageBar::Kind::Problem, tr("%1: %2").arg(QFileInfo(path).fileName(), photo->whyUnchanged()));
     });
     connect(picture, &PictureView::pictureFailed, this, &WorkspaceWindow::complain);
+    connect(picture, &PictureView::retryWanted, this, [this] {
+        const int row = currentRow();
+        if (!series.isReadable(row))
+            series.retry(row);
+        picture->showPhoto(nullptr);
+        showPhotograph(row);
+    });
     connect(&store, &PhotoStore::failed, this, [this](const QString &path, const QString &reason) {
         if (path != picture->path())
             return;
@@ -398,6 +413,7 @@ void WorkspaceWindow::showPhotograph(int row)
         if (beside >= 0 && beside < series.rowCount())
             neighbours << series.path(beside);
     store.show(path, neighbours);
+    strip->showWithNeighbours(row);
     stateTimer->start();
 }
 
@@ -441,17 +457,22 @@ void WorkspaceWindow::showFacts()
 {
     const int row = currentRow();
     const Series::Facts facts = series.facts(row);
+    const auto photo = store.photo(series.path(row));
     QStringList lines;
     if (!facts.size.isEmpty()) {
         //: Width and height of a photograph in pixels, and bits per sample.
-        lines << tr("%1 x %2 px, %3 bits").arg(facts.size.width()).arg(facts.size.height()).arg(facts.bits);
+        const int bits = photo ? photo->bitsPerComponent() : facts.bits;
+        if (bits > 0)
+            lines << tr("%1 x %2 px, %3 bits").arg(facts.size.width()).arg(facts.size.height()).arg(bits);
         lines << tr("%1, %2").arg(facts.kind, QLocale().formattedDataSize(facts.bytes));
     }
-    if (const auto photo = store.photo(series.path(row)))
+    if (photo)
         lines << profileName(photo->profile());
-    if (!facts.resultName.isEmpty())
+    if (!facts.resultName.isEmpty() && series.isReadable(row))
         lines << tr("Result: %1").arg(facts.resultName);
-    panel->showFacts(series.data(series.index(row), Series::NameRole).toString(), lines);
+    const QModelIndex index = series.index(row);
+    panel->showFacts(index.data(Series::NameRole).toString(), lines,
+                     series.isReadable(row) ? index.data(Series::ReasonRole).toString() : QString());
 }
 
 void WorkspaceWindow::showHistogram()
@@ -464,24 +485,28 @@ void WorkspaceWindow::showHistogram()
 void WorkspaceWindow::showState()
 {
     const int row = currentRow(), count = series.rowCount(), selected = selectedRows().size();
-    const bool any = row >= 0;
-    for (const Id id :
-         {Id::SaveSession,  Id::SaveSessionAs, Id::NewSession, Id::SelectAll, Id::Remove,       Id::Stronger,   Id::Weaker,
-          Id::MuchStronger, Id::MuchWeaker,    Id::Auto,       Id::Reset,     Id::UseAsDefault, Id::ApplyToAll, Id::Split,
-          Id::SideBySide,   Id::Result,        Id::Before,     Id::HazeMap,   Id::Clipping,     Id::Fit,        Id::Full,
-          Id::Double,       Id::Fourfold,      Id::ZoomIn,     Id::ZoomOut,   Id::SaveThis,     Id::SaveAll,    Id::Options})
+    const QList<int> rows = allRows();
+    const int readable = int(std::count_if(rows.begin(), rows.end(), [this](int each) { return series.isReadable(each); }));
+    const bool any = row >= 0, isReadable = any && series.isReadable(row);
+    for (const Id id : {Id::SaveSession, Id::SaveSessionAs, Id::NewSession, Id::SelectAll, Id::Remove, Id::Auto, Id::Reset,
+                        Id::Split, Id::SideBySide, Id::Result, Id::Options})
         actions[id]->setEnabled(any);
+    for (const Id id : {Id::Stronger, Id::Weaker, Id::MuchStronger, Id::MuchWeaker, Id::UseAsDefault, Id::Before, Id::HazeMap,
+                        Id::Clipping, Id::Fit, Id::Full, Id::Double, Id::Fourfold, Id::ZoomIn, Id::ZoomOut, Id::SaveThis})
+        actions[id]->setEnabled(isReadable);
+    panel->setStrengthEnabled(isReadable);
+    actions[Id::SaveAll]->setEnabled(readable > 0);
     actions[Id::Previous]->setEnabled(row > 0);
     actions[Id::Next]->setEnabled(any && row + 1 < count);
     actions[Id::Undo]->setEnabled(series.undoStack().canUndo());
     actions[Id::Redo]->setEnabled(series.undoStack().canRedo());
-    actions[Id::ApplyToSelected]->setEnabled(selected > 1);
-    actions[Id::ApplyToAll]->setEnabled(count > 1);
+    actions[Id::ApplyToSelected]->setEnabled(isReadable && selected > 1);
+    actions[Id::ApplyToAll]->setEnabled(isReadable && count > 1);
     actions[Id::ApplyToSelected]->setText(tr("Appl&y to selected (%1)").arg(selected));
     actions[Id::ApplyToAll]->setText(tr("App&ly to all (%1)").arg(count));
-    actions[Id::SaveAll]->setText(tr("Save all %1").arg(count));
+    actions[Id::SaveAll]->setText(tr("Save all %1").arg(readable));
     hint->setVisible(any);
-    zoomLabel->setVisible(any);
+    zoomLabel->setVisible(isReadable);
     showSaving();
 }
 
@@ -655,7 +680,7 @@ void WorkspaceWindow::onSaved(const SaveQueue::Summary &summary)
     if (summary.failed > 0) {
         QString reason;
         for (int row = 0; row < series.rowCount() && reason.isEmpty(); ++row)
-            if (series.state(row) == Series::State::Failed)
+            if (series.state(row) == Series::State::Failed && series.isReadable(row))
                 reason = tr("%1: %2").arg(QFileInfo(series.path(row)).fileName(),
                                           series.data(series.index(row), Series::ReasonRole).toString());
         bar->say(MessageBar::Kind::Problem, tr("%n photograph(s) could not be saved.", nullptr, summary.failed) + ' ' + reason,
