@@ -336,6 +336,7 @@ void WorkspaceWindow::connectWork()
         if (path == picture->path() && photo && !photo->whyUnchanged().isEmpty())
             bar->say(MessageBar::Kind::Problem, tr("%1: %2").arg(QFileInfo(path).fileName(), photo->whyUnchanged()));
     });
+    connect(picture, &PictureView::wanted, &queue, &SaveQueue::giveWay);
     connect(picture, &PictureView::pictureFailed, this, &WorkspaceWindow::complain);
     connect(picture, &PictureView::retryWanted, this, [this] {
         const int row = currentRow();
@@ -412,6 +413,7 @@ void WorkspaceWindow::showPhotograph(int row)
     for (const int beside : {row + 1, row - 1})
         if (beside >= 0 && beside < series.rowCount())
             neighbours << series.path(beside);
+    queue.giveWay();
     store.show(path, neighbours);
     strip->showWithNeighbours(row);
     stateTimer->start();

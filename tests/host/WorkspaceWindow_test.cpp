@@ -428,24 +428,52 @@ TEST_F(Workspace, OneDragOfTheSliderIsOneStep)
 
 TEST_F(Workspace, FailuresAreShownWithARemedyAndNoDialog)
 {
+    constexpr int kMissing = 120; // more than are listed at once
     photograph("a.jpg");
     folder.write("broken.jpg", "no photograph");
-    use({folder.path("a.jpg"), folder.path("broken.jpg")}, [&] {
-        ASSERT_TRUE(listed(2));
+    QStringList names{folder.path("broken.jpg"), folder.path("a.jpg")};
+    for (int i = 0; i < kMissing; ++i)
+        names << folder.path(QStringLiteral("missing%1.jpg").arg(i));
+    use(names, [&] {
+        ASSERT_TRUE(listed(names.size()));
+        EXPECT_EQ(picture()->path(), names[0]); // the first of all
+        EXPECT_EQ(series()->state(0), Series::State::Failed);
+        auto *box = find<QSpinBox>("strength");
+        auto *saveAll = find<QAbstractButton>("saveAll"), *saveThis = find<QAbstractButton>("saveThis");
+        ASSERT_TRUE(eventually([&] { return !box->isEnabled(); }));
+        EXPECT_FALSE(saveThis->isEnabled());
+        EXPECT_TRUE(saveAll->text().endsWith(" 1")) << saveAll->text();
+        ASSERT_TRUE(eventually([&] { return find<QAbstractButton>("retryReading")->isVisible(); }));
+        keepPicture("6_unreadable");
+
         press(Qt::Key_Right);
-        EXPECT_EQ(series()->state(1), Series::State::Failed);
-        QFile::remove(folder.path("a.jpg"));
-        press(Qt::Key_Left);
+        QFile::remove(names[1]);
         press(Qt::Key_Return, Qt::ControlModifier);
-        ASSERT_TRUE(eventually([&] { return series()->state(0) == Series::State::Failed; }));
-        auto *message = find<QLabel>("message");
+        ASSERT_TRUE(eventually([&] { return series()->state(1) == Series::State::Failed; }));
+        auto *message = find<QLabel>("message"), *note = find<QLabel>("note");
         ASSERT_TRUE(eventually([&] { return message->isVisible() && message->text().contains("a.jpg"); }));
+        ASSERT_TRUE(eventually([&] { return !note->text().isEmpty(); }));
+        EXPECT_TRUE(message->text().endsWith(note->toolTip())) << "the reason of this photograph";
         keepPicture("6_failed");
         photograph("a.jpg");
         click("remedy");
-        ASSERT_TRUE(eventually([&] { return series()->state(0) == Series::State::Saved; }));
+        ASSERT_TRUE(eventually([&] { return series()->state(1) == Series::State::Saved; }));
         EXPECT_FALSE(message->isVisible());
+
+        press(Qt::Key_Left);
+        ASSERT_TRUE(eventually([&] { return find<QAbstractButton>("retryReading")->isVisible(); }));
+        photograph("broken.jpg");
+        click("retryReading");
+        ASSERT_TRUE(eventually([&] { return box->isEnabled() && saveThis->isEnabled(); }));
+        EXPECT_EQ(series()->state(0), Series::State::Untouched);
+        ASSERT_TRUE(eventually([&] { return saveAll->text().endsWith(" 2"); }));
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+
+        // What is undone is seen.
+        press(Qt::Key_Up);
+        press(Qt::Key_Right);
+        press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(picture()->path(), names[0]);
     });
 }
 

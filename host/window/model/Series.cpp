@@ -533,7 +533,7 @@ void Series::beginAdding()
         inWindow([this, what, before]() mutable {
             what.photographs = rowCount() - before;
             pending.removeFirst();
-            if (before > 0)
+            if (before > 0 || undo.count() > 0)
                 pushAdded();
             Q_EMIT changed();
             Q_EMIT added(what);

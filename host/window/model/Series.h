@@ -95,7 +95,7 @@ public:
     };
     /// Appends photographs, those of a folder by name; each once. Left out are results of photographs that are given or listed,
     /// and listed results of these. They start at the default strength. Returns at once: the photographs follow in batches, and
-    /// then `added`. This is one step to undo, unless the series was empty: its first photographs are its beginning.
+    /// then `added`. This is one step to undo, but for the first photographs of a series, which are its beginning.
     void add(const QStringList &paths);
     bool isAdding() const { return !pending.isEmpty(); }
     /// Appends photographs as a session has kept them. Missing results are forgotten.
