@@ -18,6 +18,8 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPainter>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -54,6 +56,22 @@ constexpr QSize kUsualSize(1280, 700); ///< Fits a screen of 1366 x 768 with a d
 constexpr int kHistogramMs = 80;
 /// Where the window keeps its own settings.
 const QString kGroup = QStringLiteral("window");
+
+/// Underlines the tool buttons that are checked or held, since some themes hardly show it.
+class ToggleStyle : public QProxyStyle
+{
+public:
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override
+    {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control != CC_ToolButton || !(option->state & (State_On | State_Sunken)) || !(option->state & State_Enabled))
+            return;
+        QRect line = subControlRect(control, option, SC_ToolButton, widget).adjusted(3, 0, -3, -1);
+        line.setTop(line.bottom() - 1);
+        painter->fillRect(line, option->palette.color(QPalette::Highlight));
+    }
+};
 
 /// A photograph's name, or what else a user would know a session by.
 QString titleOf(const Session::Recent &recent)
@@ -135,6 +153,12 @@ void WorkspaceWindow::build()
 
     actions.listenOn(picture);
     actions.listenOn(strip);
+    strip->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(strip, &QWidget::customContextMenuRequested, this, [this](const QPoint &position) {
+        QMenu menu(this);
+        menu.addActions({actions[Id::Auto], actions[Id::Reset], actions[Id::SaveThis], actions[Id::Retry], actions[Id::Remove]});
+        menu.exec(strip->viewport()->mapToGlobal(position));
+    });
     histogramTimer->setSingleShot(true);
     histogramTimer->setInterval(kHistogramMs);
     stateTimer->setSingleShot(true);
@@ -147,11 +171,14 @@ QToolBar *WorkspaceWindow::makeToolBar()
     bars->setObjectName(QStringLiteral("tools"));
     bars->setMovable(false);
     bars->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    auto *style = new ToggleStyle;
+    style->setParent(bars);
     bars->setContextMenuPolicy(Qt::PreventContextMenu); // its only entry would hide the bar for good
     const auto button = [&](Id id, const char *name) {
         bars->addAction(actions[id]);
         auto *made = qobject_cast<QToolButton *>(bars->widgetForAction(actions[id]));
         made->setObjectName(QLatin1String(name));
+        made->setStyle(style);
         made->setFocusPolicy(Qt::TabFocus);
         made->setAccessibleName(actions[id]->iconText());
         made->setAccessibleDescription(actions[id]->toolTip());
@@ -222,6 +249,8 @@ void WorkspaceWindow::connectActions()
     on(Id::SaveSessionAs, [this] { saveSession(/*underAnotherName=*/true); });
     on(Id::Previous, [this] { selectRow(currentRow() - 1); });
     on(Id::Next, [this] { selectRow(currentRow() + 1); });
+    on(Id::First, [this] { selectRow(0); });
+    on(Id::Last, [this] { selectRow(series.rowCount() - 1); });
     on(Id::SelectAll, [this] { strip->selectAll(); });
     on(Id::Remove, [this] { series.remove(selectedRows()); });
 
@@ -313,9 +342,9 @@ void WorkspaceWindow::connectWork()
         }
         stateTimer->start();
     });
-    // What is undone is seen, wherever it was.
+    // What is undone for one photograph is seen, wherever that is. With many, the view stays where it is.
     connect(&series, &Series::stepped, this, [this](const QList<int> &rows) {
-        if (!rows.isEmpty() && !rows.contains(currentRow()))
+        if (rows.size() == 1 && rows.first() != currentRow())
             selectRow(rows.first());
     });
     connect(&series.undoStack(), &QUndoStack::indexChanged, stateTimer, qOverload<>(&QTimer::start));
@@ -498,8 +527,10 @@ void WorkspaceWindow::showState()
         actions[id]->setEnabled(isReadable);
     panel->setStrengthEnabled(isReadable);
     actions[Id::SaveAll]->setEnabled(readable > 0);
-    actions[Id::Previous]->setEnabled(row > 0);
-    actions[Id::Next]->setEnabled(any && row + 1 < count);
+    for (const Id id : {Id::Previous, Id::First})
+        actions[id]->setEnabled(row > 0);
+    for (const Id id : {Id::Next, Id::Last})
+        actions[id]->setEnabled(any && row + 1 < count);
     actions[Id::Undo]->setEnabled(series.undoStack().canUndo());
     actions[Id::Redo]->setEnabled(series.undoStack().canRedo());
     actions[Id::ApplyToSelected]->setEnabled(isReadable && selected > 1);

@@ -16,7 +16,7 @@ constexpr double kFixedWeight = 6e6;
 constexpr double kStageStart[] = {0, 0.15, 0.85};
 
 /// How long pictures on the screen come first after the last was asked for, and how long a stage waits for them at most.
-constexpr std::chrono::milliseconds kQuiet(400), kMostPatience(3000);
+constexpr std::chrono::milliseconds kQuiet(400), kMostPatience(8000);
 
 BatchOutcome notBegun()
 {

@@ -88,7 +88,7 @@ public:
     void resume() { setPaused(false); }
     bool isPaused() const;
     /// Someone waits for pictures on the screen: for a moment nothing is begun, neither a photograph nor a stage of one. Whoever
-    /// is given way to all the time delays each stage by a few seconds and no more.
+    /// is given way to all the time delays each stage by several seconds and no more.
     void giveWay();
     /// Drops what is waiting and ends what is in work without a result, except where the result is being written already.
     /// Returns at once; `ended` follows.
