@@ -303,6 +303,7 @@ TEST_F(Workspace, FromADroppedFolderToResults)
             EXPECT_EQ(series()->percent(row), 76) << row;
         press(Qt::Key_Z, Qt::ControlModifier);
         EXPECT_TRUE(series()->strength(1).automatic);
+        EXPECT_TRUE(settled());
         keepPicture("4_edited");
 
         press(Qt::Key_Return, Qt::ControlModifier | Qt::ShiftModifier);
