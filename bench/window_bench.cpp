@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QColorSpace>
+#include <QDir>
 #include <QEventLoop>
 #include <QListView>
 #include <QSpinBox>
@@ -16,6 +17,7 @@
 #include "PhotoStore.h"
 #include "PictureRenderer.h"
 #include "PluginFile.h"
+#include "SaveQueue.h"
 #include "ScreenColours.h"
 #include "WizardWindow.h"
 #include "WorkspaceWindow.h"
@@ -228,6 +230,33 @@ BENCHMARK(workspace_drag)
     ->Unit(benchmark::kMillisecond)
     ->MeasureProcessCPUTime()
     ->UseRealTime();
+
+/// The same while other photographs are saved in the background, at 100 %.
+void workspace_drag_while_saving(benchmark::State &state)
+{
+    constexpr int kSaved = 200; // more than are done in this time
+    const QStringList all = photographs(state.range(0), kSaved);
+    Workspace workspace;
+    workspace.show(all.first());
+    workspace.finish(all.first());
+    SaveQueue queue(*host, plugin->process(), /*jobs=*/0);
+    QVector<SaveQueue::Order> orders;
+    for (const QString &path : all)
+        orders << SaveQueue::Order{path, {70, /*automatic=*/false}, {}};
+    queue.add(orders, {}, all);
+    processEventsUntil([&] { return queue.progress().fraction > 0; });
+    int strength = 0;
+    for (auto _ : state) {
+        strength = strength % 99 + 1;
+        queue.giveWay();
+        workspace.picture(strength, /*fullSize=*/true);
+    }
+    state.counters["pictures"] = benchmark::Counter(double(state.iterations()), benchmark::Counter::kIsRate);
+    queue.quit();
+    for (const QString &result : QDir(folder).entryList({QStringLiteral("same_*_dehazed.jpg")}))
+        QFile::remove(QDir(folder).filePath(result));
+}
+BENCHMARK(workspace_drag_while_saving)->Arg(24)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
 
 /// From the end of a drag to the picture from all pixels, the moment of rest included.
 void workspace_exact_picture(benchmark::State &state)

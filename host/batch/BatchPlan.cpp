@@ -12,6 +12,7 @@
 #include <sys/stat.h>
 
 #include "argumentText.h"
+#include "inWindow.h"
 #include "photoKind.h"
 
 namespace {
@@ -39,6 +40,8 @@ QString pathOf(const QString &given)
 {
     return given.contains("..") ? placeOf(QDir::current().filePath(given)) : QFileInfo(given).absoluteFilePath();
 }
+
+constexpr int kFirstNumber = 2; ///< Of results that get one.
 
 /// The text that the process appends to a photograph's name.
 constexpr char kTagContext[] = "NimbraOne2One", kTag[] = "_dehazed";
@@ -104,6 +107,24 @@ ResultPacking packingFor(const QString &result, const ResultPacking &wanted)
     return packing;
 }
 
+/// The name of a result that got a number because another one existed.
+QString numbered(const QString &result, int number)
+{
+    const QFileInfo info(result);
+    return QStringLiteral("%1/%2-%3.%4").arg(info.absolutePath(), info.completeBaseName()).arg(number).arg(info.suffix());
+}
+
+/// The name that a result would have without its number, or an empty text if it has none.
+QString withoutNumber(const QString &result)
+{
+    const QFileInfo info(result);
+    const QString stem = info.completeBaseName();
+    const int hyphen = stem.lastIndexOf('-');
+    const QString plain = QStringLiteral("%1/%2.%3").arg(info.absolutePath(), stem.left(hyphen), info.suffix());
+    const int number = stem.mid(hyphen + 1).toInt();
+    return hyphen > 0 && number >= kFirstNumber && numbered(plain, number) == result ? plain : QString();
+}
+
 /// The longest name that file systems take, less what the codec layer adds for its temporary file.
 constexpr int kLongestName = 255 - 16;
 
@@ -140,7 +161,8 @@ QSet<QString> BatchPlan::resultsAmong(const QStringList &files, const QStringLis
     }
     QSet<QString> results;
     for (const QString &file : files)
-        if (const QString path = pathOf(file); places.contains(placeOf(path)) && !QFileInfo(path).isDir())
+        if (const QString path = pathOf(file), place = placeOf(path);
+            (places.contains(place) || places.contains(withoutNumber(place))) && !QFileInfo(path).isDir())
             results << file;
     return results;
 }
@@ -229,12 +251,9 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         if (!item.refusal.isEmpty())
             continue;
         if (item.existing == Existing::Number) {
-            const QFileInfo wanted(item.result);
-            for (int number = 2; isThere(item.result) || results.count(placeOf(item.result)); ++number) {
-                item.result = QStringLiteral("%1/%2-%3.%4")
-                                  .arg(wanted.absolutePath(), wanted.completeBaseName())
-                                  .arg(number)
-                                  .arg(wanted.suffix());
+            const QString wanted = item.result;
+            for (int number = kFirstNumber; isThere(item.result) || results.count(placeOf(item.result)); ++number) {
+                item.result = numbered(wanted, number);
                 item.apart = true;
             }
         }
@@ -243,8 +262,10 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         const auto source = id ? sources.find(*id) : sources.end();
         const auto [first, fresh] = results.emplace(place, index);
         if (source != sources.end()) {
-            item.refusal = tr("Its result \"%1\" is the same file as the photograph \"%2\". Move one of the two away, or choose "
-                              "another folder with --output.")
+            item.refusal = (inWindow() ? tr("Its result \"%1\" is the same file as the photograph \"%2\". Move one of the two "
+                                            "away, or choose another folder for the results.")
+                                       : tr("Its result \"%1\" is the same file as the photograph \"%2\". Move one of the two "
+                                            "away, or choose another folder with --output."))
                                .arg(item.result, items[source->second].given);
         } else if (!fresh) {
             item.refusal = tr("Its result \"%1\" would also be the result of \"%2\". Rename one of the two photographs.")
@@ -270,10 +291,15 @@ void BatchPlan::checkResult(BatchItem &item, const Options &options)
     } else if (item.existing == Existing::Update && isCurrent(item, options)) {
         item.skipped = tr("Skipped: its result \"%1\" is newer than the photograph.").arg(item.result);
     } else if (!QFileInfo(folder).isDir()) {
-        item.refusal = tr("Its result can't be written: \"%1\" is not a folder. Choose another one with --output.").arg(folder);
+        item.refusal =
+            (inWindow() ? tr("Its result can't be written: \"%1\" is not a folder. Choose another one for the results.")
+                        : tr("Its result can't be written: \"%1\" is not a folder. Choose another one with --output."))
+                .arg(folder);
     } else if (!QFileInfo(folder).isWritable()) {
         item.refusal =
-            tr("Its result can't be written: the folder \"%1\" is read-only. Choose another one with --output.").arg(folder);
+            (inWindow() ? tr("Its result can't be written: the folder \"%1\" is read-only. Choose another one for the results.")
+                        : tr("Its result can't be written: the folder \"%1\" is read-only. Choose another one with --output."))
+                .arg(folder);
     } else if (QFile::encodeName(result.fileName()).size() > kLongestName) {
         item.refusal = tr("The name of its result would be too long. Give the photograph a shorter name.");
     }

@@ -41,7 +41,8 @@ public:
     static std::vector<BatchItem> make(const QStringList &photographs, HostApplication &host, const Options &options);
 
     /// Those of `files` that are results of one of `photographs`, whether they exist or not: by name and folder, beside the
-    /// photograph in any language or where these options put it, or because the settings say so. Folders are never among them.
+    /// photograph in any language or where these options put it, with or without a number, or because the settings say so.
+    /// Folders are never among them.
     static QSet<QString> resultsAmong(const QStringList &files, const QStringList &photographs, HostApplication &host,
                                       const Options &options);
     static QSet<QString> resultsAmong(const QStringList &files, const QStringList &photographs, HostApplication &host)

@@ -22,6 +22,7 @@
 #include "VException.h"
 #include "WantedStrength.h"
 #include "carryXmp.h"
+#include "inWindow.h"
 #include "kernel32.h"
 #include "threadCount.h"
 #include "whyUnchanged.h"
@@ -203,7 +204,8 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     if (!outcome.message.endsWith('.') && !outcome.message.endsWith(kIdeographicStop))
         outcome.message += '.';
     if (outOfMemory || stage == Stage::Dehazing)
-        outcome.message += ' ' + tr("Close other programs, or work on one photograph at a time (--jobs 1).");
+        outcome.message += ' ' + (inWindow() ? tr("Close other programs and try again.")
+                                             : tr("Close other programs, or work on one photograph at a time (--jobs 1)."));
     else if (stage == Stage::Saving)
         outcome.message +=
             ' ' +

@@ -15,6 +15,7 @@
 #include "encodeResult.h"
 #include "gfl.h"
 #include "giveName.h"
+#include "inWindow.h"
 #include "throwGflError.h"
 
 namespace {
@@ -58,8 +59,10 @@ PrivateRun::PrivateRun(HostApplication &host, const BatchItem &photograph, bool 
     QDir().mkpath(folder);
     home = std::make_unique<PrivateFolder>(folder);
     if (home->path().isEmpty())
-        throw VException(tr("No files can be created in the folder \"%1\": %2. Make room there, or choose another folder with "
-                            "--output.")
+        throw VException((inWindow() ? tr("No files can be created in the folder \"%1\": %2. Make room there, or choose another "
+                                          "folder for the results.")
+                                     : tr("No files can be created in the folder \"%1\": %2. Make room there, or choose another "
+                                          "folder with --output."))
                              .arg(folder, home->error()),
                          V_LOCATION);
     makeLink();

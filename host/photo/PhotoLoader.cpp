@@ -6,6 +6,7 @@
 #include "FileThreadLimit.h"
 #include "VException.h"
 #include "gfl.h"
+#include "inWindow.h"
 #include "kernel32.h"
 #include "photoKind.h"
 
@@ -34,11 +35,14 @@ QString reasonFor(const PhotoProblem &problem)
     case Cause::Damaged:
         return PhotoLoader::tr("The file is cut short or damaged. Copy it again from the camera or a backup.");
     case Cause::NoMemory:
-        return PhotoLoader::tr("There is not enough memory for it. Close other programs, or work on one photograph at a time "
-                               "(--jobs 1).");
+        return inWindow() ? PhotoLoader::tr("There is not enough memory for it. Close other programs and try again.")
+                          : PhotoLoader::tr("There is not enough memory for it. Close other programs, or work on one "
+                                            "photograph at a time (--jobs 1).");
     case Cause::RawNoMemory:
-        return PhotoLoader::tr("There is not enough memory for this camera raw file. Close other programs, or work on one "
-                               "photograph at a time (--jobs 1).");
+        return inWindow()
+                   ? PhotoLoader::tr("There is not enough memory for this camera raw file. Close other programs and try again.")
+                   : PhotoLoader::tr("There is not enough memory for this camera raw file. Close other programs, or work on one "
+                                     "photograph at a time (--jobs 1).");
     case Cause::RawNotRead:
         return PhotoLoader::tr("The camera raw file can't be developed: %1. Copy it again, or convert it to DNG or TIFF.")
             .arg(QString::fromStdString(problem.detail));

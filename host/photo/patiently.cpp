@@ -7,9 +7,11 @@
 #include <QEventLoop>
 #include <QThread>
 
+#include "inWindow.h"
+
 void patiently(const std::function<void()> &work)
 {
-    if (!qobject_cast<QApplication *>(QCoreApplication::instance()) || QThread::currentThread() != qApp->thread()) {
+    if (!inWindow() || QThread::currentThread() != qApp->thread()) {
         work();
         return;
     }

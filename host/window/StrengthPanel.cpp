@@ -17,12 +17,13 @@ namespace {
 using Id = WindowActions::Id;
 
 constexpr int kWidth = 260, kPage = 10;
+constexpr QChar kEllipsis(0x2026);
 
 } // namespace
 
 StrengthPanel::StrengthPanel(QWidget *histogram, const WindowActions &actions, QWidget *parent)
     : QWidget(parent), slider(new QSlider(Qt::Horizontal, this)), box(new QSpinBox(this)), origin(new QLabel(this)),
-      nameLabel(new QLabel(this)), factsLabel(new QLabel(this))
+      nameLabel(new QLabel(this)), factsLabel(new QLabel(this)), noteLabel(new QLabel(this))
 {
     setMinimumWidth(kWidth);
 
@@ -51,6 +52,12 @@ StrengthPanel::StrengthPanel(QWidget *histogram, const WindowActions &actions, Q
     factsLabel->setTextFormat(Qt::PlainText);
     for (QLabel *label : {nameLabel, factsLabel})
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    noteLabel->setObjectName(QStringLiteral("note"));
+    noteLabel->setTextFormat(Qt::PlainText);
+    noteLabel->setWordWrap(true);
+    noteLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    noteLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // the room that is left, however long it is
+    noteLabel->installEventFilter(this);
 
     const auto button = [&](Id id, const char *name) {
         auto *made = new ActionButton(actions[id], this);
@@ -80,7 +87,7 @@ StrengthPanel::StrengthPanel(QWidget *histogram, const WindowActions &actions, Q
     rows->addSpacing(6);
     rows->addWidget(nameLabel);
     rows->addWidget(factsLabel);
-    rows->addStretch(1);
+    rows->addWidget(noteLabel, 1);
     rows->addWidget(button(Id::Options, "options"));
     rows->addWidget(button(Id::SaveThis, "saveThis"));
     ActionButton *const saveAll = button(Id::SaveAll, "saveAll");
@@ -112,10 +119,17 @@ int StrengthPanel::strength() const
     return slider->value();
 }
 
-void StrengthPanel::showFacts(const QString &name, const QStringList &lines)
+void StrengthPanel::setStrengthEnabled(bool enabled)
+{
+    slider->setEnabled(enabled);
+    box->setEnabled(enabled);
+}
+
+void StrengthPanel::showFacts(const QString &name, const QStringList &lines, const QString &note)
 {
     fullName = name;
     fullLines = lines;
+    fullNote = note;
     fitFacts();
 }
 
@@ -133,6 +147,21 @@ void StrengthPanel::fitFacts()
     factsLabel->setToolTip(fullLines.join('\n'));
     nameLabel->setToolTip(fullName);
     factsLabel->setAccessibleName(fullName + '\n' + fullLines.join('\n'));
+    noteLabel->setToolTip(fullNote);
+    noteLabel->setAccessibleName(fullNote);
+    fitNote();
+}
+
+void StrengthPanel::fitNote()
+{
+    const QFontMetrics metrics = noteLabel->fontMetrics();
+    const auto fits = [&](const QString &text) {
+        return metrics.boundingRect(noteLabel->rect(), Qt::TextWordWrap, text).height() <= noteLabel->height();
+    };
+    QString note = fullNote;
+    for (int length = fullNote.size(); length > 0 && !fits(note);)
+        note = fullNote.left(--length) + kEllipsis;
+    noteLabel->setText(note);
 }
 
 void StrengthPanel::resizeEvent(QResizeEvent *event)
@@ -149,6 +178,11 @@ void StrengthPanel::editStrength()
 
 bool StrengthPanel::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == noteLabel) {
+        if (event->type() == QEvent::Resize)
+            fitNote();
+        return false;
+    }
     switch (event->type()) {
     case QEvent::FocusIn:
         Q_EMIT begins();

@@ -22,8 +22,11 @@ public:
     /// The strength of the photograph in view; emits nothing. With `automatic` it is marked as chosen for the photograph.
     void showStrength(int percent, bool automatic);
     int strength() const;
-    /// The name is set off from the other lines. Lines that are too long are shortened in the middle.
-    void showFacts(const QString &name, const QStringList &lines);
+    /// Whether the user can set it.
+    void setStrengthEnabled(bool enabled);
+    /// The name is set off from the other lines. Lines that are too long are shortened in the middle. `note`, which may be empty,
+    /// is wrapped, and cut at the end if it is too long.
+    void showFacts(const QString &name, const QStringList &lines, const QString &note);
     /// Puts the cursor into the box.
     void editStrength();
 
@@ -41,12 +44,15 @@ protected:
 
 private:
     void fitFacts();
+    void fitNote();
 
     QSlider *slider;
     QSpinBox *box;
     QLabel *origin; ///< That the strength is automatic.
     QLabel *nameLabel;
     QLabel *factsLabel;
+    QLabel *noteLabel;
     QString fullName;
     QStringList fullLines;
+    QString fullNote;
 };

@@ -25,6 +25,8 @@ public:
         SaveSessionAs,
         Previous,
         Next,
+        First,
+        Last,
         SelectAll,
         Remove,
         Stronger,

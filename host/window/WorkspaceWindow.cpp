@@ -18,6 +18,8 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPainter>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -54,6 +56,22 @@ constexpr QSize kUsualSize(1280, 700); ///< Fits a screen of 1366 x 768 with a d
 constexpr int kHistogramMs = 80;
 /// Where the window keeps its own settings.
 const QString kGroup = QStringLiteral("window");
+
+/// Underlines the tool buttons that are checked or held, since some themes hardly show it.
+class ToggleStyle : public QProxyStyle
+{
+public:
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override
+    {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control != CC_ToolButton || !(option->state & (State_On | State_Sunken)) || !(option->state & State_Enabled))
+            return;
+        QRect line = subControlRect(control, option, SC_ToolButton, widget).adjusted(3, 0, -3, -1);
+        line.setTop(line.bottom() - 1);
+        painter->fillRect(line, option->palette.color(QPalette::Highlight));
+    }
+};
 
 /// A photograph's name, or what else a user would know a session by.
 QString titleOf(const Session::Recent &recent)
@@ -124,6 +142,7 @@ void WorkspaceWindow::build()
 
     hint = new QLabel(tr("Drag the line to compare. Hold Space: before. Left, Right: photograph. Up, Down: strength."), this);
     hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    hint->setIndent(hint->fontMetrics().averageCharWidth());
     zoomLabel = new QLabel(this);
     zoomLabel->setObjectName(QStringLiteral("zoom"));
     zoomLabel->setAccessibleName(tr("Zoom"));
@@ -134,6 +153,12 @@ void WorkspaceWindow::build()
 
     actions.listenOn(picture);
     actions.listenOn(strip);
+    strip->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(strip, &QWidget::customContextMenuRequested, this, [this](const QPoint &position) {
+        QMenu menu(this);
+        menu.addActions({actions[Id::Auto], actions[Id::Reset], actions[Id::SaveThis], actions[Id::Retry], actions[Id::Remove]});
+        menu.exec(strip->viewport()->mapToGlobal(position));
+    });
     histogramTimer->setSingleShot(true);
     histogramTimer->setInterval(kHistogramMs);
     stateTimer->setSingleShot(true);
@@ -146,11 +171,14 @@ QToolBar *WorkspaceWindow::makeToolBar()
     bars->setObjectName(QStringLiteral("tools"));
     bars->setMovable(false);
     bars->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    auto *style = new ToggleStyle;
+    style->setParent(bars);
     bars->setContextMenuPolicy(Qt::PreventContextMenu); // its only entry would hide the bar for good
     const auto button = [&](Id id, const char *name) {
         bars->addAction(actions[id]);
         auto *made = qobject_cast<QToolButton *>(bars->widgetForAction(actions[id]));
         made->setObjectName(QLatin1String(name));
+        made->setStyle(style);
         made->setFocusPolicy(Qt::TabFocus);
         made->setAccessibleName(actions[id]->iconText());
         made->setAccessibleDescription(actions[id]->toolTip());
@@ -221,6 +249,8 @@ void WorkspaceWindow::connectActions()
     on(Id::SaveSessionAs, [this] { saveSession(/*underAnotherName=*/true); });
     on(Id::Previous, [this] { selectRow(currentRow() - 1); });
     on(Id::Next, [this] { selectRow(currentRow() + 1); });
+    on(Id::First, [this] { selectRow(0); });
+    on(Id::Last, [this] { selectRow(series.rowCount() - 1); });
     on(Id::SelectAll, [this] { strip->selectAll(); });
     on(Id::Remove, [this] { series.remove(selectedRows()); });
 
@@ -290,8 +320,10 @@ void WorkspaceWindow::connectWork()
     connect(strip->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &now) { showPhotograph(now.row()); });
     connect(strip->selectionModel(), &QItemSelectionModel::selectionChanged, stateTimer, qOverload<>(&QTimer::start));
+    connect(strip, &FilmstripView::rowsShown, &series, &Series::readFirst);
     connect(&series, &Series::rowsInserted, this, [this](const QModelIndex &, int first) {
-        if (currentRow() < 0 || std::exchange(showsNext, false))
+        const bool isFirstBatch = std::exchange(showsNext, false);
+        if (isFirstBatch || currentRow() < 0)
             selectRow(first);
         stateTimer->start();
     });
@@ -309,6 +341,11 @@ void WorkspaceWindow::connectWork()
                 showThumbnail(row);
         }
         stateTimer->start();
+    });
+    // What is undone for one photograph is seen, wherever that is. With many, the view stays where it is.
+    connect(&series, &Series::stepped, this, [this](const QList<int> &rows) {
+        if (rows.size() == 1 && rows.first() != currentRow())
+            selectRow(rows.first());
     });
     connect(&series.undoStack(), &QUndoStack::indexChanged, stateTimer, qOverload<>(&QTimer::start));
     connect(stateTimer, &QTimer::timeout, this, &WorkspaceWindow::showState);
@@ -328,7 +365,15 @@ void WorkspaceWindow::connectWork()
         if (path == picture->path() && photo && !photo->whyUnchanged().isEmpty())
             bar->say(MessageBar::Kind::Problem, tr("%1: %2").arg(QFileInfo(path).fileName(), photo->whyUnchanged()));
     });
+    connect(picture, &PictureView::wanted, &queue, &SaveQueue::giveWay);
     connect(picture, &PictureView::pictureFailed, this, &WorkspaceWindow::complain);
+    connect(picture, &PictureView::retryWanted, this, [this] {
+        const int row = currentRow();
+        if (!series.isReadable(row))
+            series.retry(row);
+        picture->showPhoto(nullptr);
+        showPhotograph(row);
+    });
     connect(&store, &PhotoStore::failed, this, [this](const QString &path, const QString &reason) {
         if (path != picture->path())
             return;
@@ -397,7 +442,9 @@ void WorkspaceWindow::showPhotograph(int row)
     for (const int beside : {row + 1, row - 1})
         if (beside >= 0 && beside < series.rowCount())
             neighbours << series.path(beside);
+    queue.giveWay();
     store.show(path, neighbours);
+    strip->showWithNeighbours(row);
     stateTimer->start();
 }
 
@@ -441,17 +488,22 @@ void WorkspaceWindow::showFacts()
 {
     const int row = currentRow();
     const Series::Facts facts = series.facts(row);
+    const auto photo = store.photo(series.path(row));
     QStringList lines;
     if (!facts.size.isEmpty()) {
         //: Width and height of a photograph in pixels, and bits per sample.
-        lines << tr("%1 x %2 px, %3 bits").arg(facts.size.width()).arg(facts.size.height()).arg(facts.bits);
+        const int bits = photo ? photo->bitsPerComponent() : facts.bits;
+        if (bits > 0)
+            lines << tr("%1 x %2 px, %3 bits").arg(facts.size.width()).arg(facts.size.height()).arg(bits);
         lines << tr("%1, %2").arg(facts.kind, QLocale().formattedDataSize(facts.bytes));
     }
-    if (const auto photo = store.photo(series.path(row)))
+    if (photo)
         lines << profileName(photo->profile());
-    if (!facts.resultName.isEmpty())
+    if (!facts.resultName.isEmpty() && series.isReadable(row))
         lines << tr("Result: %1").arg(facts.resultName);
-    panel->showFacts(series.data(series.index(row), Series::NameRole).toString(), lines);
+    const QModelIndex index = series.index(row);
+    panel->showFacts(index.data(Series::NameRole).toString(), lines,
+                     series.isReadable(row) ? index.data(Series::ReasonRole).toString() : QString());
 }
 
 void WorkspaceWindow::showHistogram()
@@ -464,24 +516,30 @@ void WorkspaceWindow::showHistogram()
 void WorkspaceWindow::showState()
 {
     const int row = currentRow(), count = series.rowCount(), selected = selectedRows().size();
-    const bool any = row >= 0;
-    for (const Id id :
-         {Id::SaveSession,  Id::SaveSessionAs, Id::NewSession, Id::SelectAll, Id::Remove,       Id::Stronger,   Id::Weaker,
-          Id::MuchStronger, Id::MuchWeaker,    Id::Auto,       Id::Reset,     Id::UseAsDefault, Id::ApplyToAll, Id::Split,
-          Id::SideBySide,   Id::Result,        Id::Before,     Id::HazeMap,   Id::Clipping,     Id::Fit,        Id::Full,
-          Id::Double,       Id::Fourfold,      Id::ZoomIn,     Id::ZoomOut,   Id::SaveThis,     Id::SaveAll,    Id::Options})
+    const QList<int> rows = allRows();
+    const int readable = int(std::count_if(rows.begin(), rows.end(), [this](int each) { return series.isReadable(each); }));
+    const bool any = row >= 0, isReadable = any && series.isReadable(row);
+    for (const Id id : {Id::SaveSession, Id::SaveSessionAs, Id::NewSession, Id::SelectAll, Id::Remove, Id::Auto, Id::Reset,
+                        Id::Split, Id::SideBySide, Id::Result, Id::Options})
         actions[id]->setEnabled(any);
-    actions[Id::Previous]->setEnabled(row > 0);
-    actions[Id::Next]->setEnabled(any && row + 1 < count);
+    for (const Id id : {Id::Stronger, Id::Weaker, Id::MuchStronger, Id::MuchWeaker, Id::UseAsDefault, Id::Before, Id::HazeMap,
+                        Id::Clipping, Id::Fit, Id::Full, Id::Double, Id::Fourfold, Id::ZoomIn, Id::ZoomOut, Id::SaveThis})
+        actions[id]->setEnabled(isReadable);
+    panel->setStrengthEnabled(isReadable);
+    actions[Id::SaveAll]->setEnabled(readable > 0);
+    for (const Id id : {Id::Previous, Id::First})
+        actions[id]->setEnabled(row > 0);
+    for (const Id id : {Id::Next, Id::Last})
+        actions[id]->setEnabled(any && row + 1 < count);
     actions[Id::Undo]->setEnabled(series.undoStack().canUndo());
     actions[Id::Redo]->setEnabled(series.undoStack().canRedo());
-    actions[Id::ApplyToSelected]->setEnabled(selected > 1);
-    actions[Id::ApplyToAll]->setEnabled(count > 1);
+    actions[Id::ApplyToSelected]->setEnabled(isReadable && selected > 1);
+    actions[Id::ApplyToAll]->setEnabled(isReadable && count > 1);
     actions[Id::ApplyToSelected]->setText(tr("Appl&y to selected (%1)").arg(selected));
     actions[Id::ApplyToAll]->setText(tr("App&ly to all (%1)").arg(count));
-    actions[Id::SaveAll]->setText(tr("Save all %1").arg(count));
+    actions[Id::SaveAll]->setText(tr("Save all %1").arg(readable));
     hint->setVisible(any);
-    zoomLabel->setVisible(any);
+    zoomLabel->setVisible(isReadable);
     showSaving();
 }
 
@@ -655,7 +713,7 @@ void WorkspaceWindow::onSaved(const SaveQueue::Summary &summary)
     if (summary.failed > 0) {
         QString reason;
         for (int row = 0; row < series.rowCount() && reason.isEmpty(); ++row)
-            if (series.state(row) == Series::State::Failed)
+            if (series.state(row) == Series::State::Failed && series.isReadable(row))
                 reason = tr("%1: %2").arg(QFileInfo(series.path(row)).fileName(),
                                           series.data(series.index(row), Series::ReasonRole).toString());
         bar->say(MessageBar::Kind::Problem, tr("%n photograph(s) could not be saved.", nullptr, summary.failed) + ' ' + reason,

@@ -101,6 +101,18 @@ TEST(FilmstripView, OfAThousandOnlyWhatIsVisibleIsDrawn)
     strip.grab();
     EXPECT_GT(series.thumbnails, 5);
     EXPECT_LE(series.thumbnails, 12);
+    const QRect inView = strip.viewport()->rect().adjusted(-1, 0, 1, 0); // the view's own scrolling rounds
+    QList<int> shown;
+    QObject::connect(&strip, &FilmstripView::rowsShown, &strip, [&](const QList<int> &rows) { shown = rows; });
+    for (const int row : {0, 700, 500}) { // what comes next is in view, and is said to be
+        strip.showWithNeighbours(row);
+        strip.grab();
+        for (const int beside : {std::max(0, row - 1), row, row + 1}) {
+            EXPECT_TRUE(inView.contains(strip.visualRect(series.index(beside)))) << beside;
+            EXPECT_TRUE(shown.contains(beside)) << beside;
+        }
+        EXPECT_LE(shown.size(), 12);
+    }
     QTest::keyClick(&strip, Qt::Key_Right);
     EXPECT_EQ(strip.currentIndex().row(), 501);
     EXPECT_TRUE(strip.viewport()->rect().intersects(strip.visualRect(strip.currentIndex())));

@@ -5,7 +5,9 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QGestureEvent>
 #include <QLineEdit>
+#include <QNativeGestureEvent>
 #include <QPushButton>
 #include <QSlider>
 #include <QTest>
@@ -248,6 +250,21 @@ TEST_F(View, ThePointerZoomsWhereItIsAndPansBothSides)
         settle();
         EXPECT_EQ(view.scale(), notch < 3 ? 1 : 2);
     }
+    EXPECT_LE((pixelUnder() - wanted).manhattanLength(), 4);
+
+    // Two fingers on a touchpad, then on the screen.
+    QNativeGestureEvent spread(Qt::ZoomNativeGesture, nullptr, pointer, pointer, view.mapToGlobal(pointer), -0.25, 0, 0);
+    QApplication::sendEvent(&view, &spread);
+    settle();
+    EXPECT_EQ(view.scale(), 1.5);
+    EXPECT_LE((pixelUnder() - wanted).manhattanLength(), 4);
+    QPinchGesture fingers;
+    fingers.setScaleFactor(4 / 3.0);
+    fingers.setCenterPoint(view.mapToGlobal(pointer));
+    QGestureEvent pinch({&fingers});
+    QApplication::sendEvent(&view, &pinch);
+    settle();
+    EXPECT_DOUBLE_EQ(view.scale(), 2);
     EXPECT_LE((pixelUnder() - wanted).manhattanLength(), 4);
 
     requests.clear();

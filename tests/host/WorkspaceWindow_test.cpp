@@ -1,5 +1,4 @@
 #include <functional>
-#include <map>
 #include <set>
 
 #include <QAbstractButton>
@@ -18,6 +17,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QSlider>
 #include <QSpinBox>
 #include <QStandardPaths>
@@ -95,11 +95,11 @@ protected:
     void photograph(const QString &name, int width = 300, int height = 200)
     {
         QDir().mkpath(QFileInfo(folder.path(name)).path());
-        static std::map<std::pair<int, int>, QImage> drawn; // drawing takes seconds
-        QImage &scene = drawn[{width, height}];
-        if (scene.isNull())
-            scene = drawScene(width, height, /*haze=*/true);
-        ASSERT_TRUE(scene.save(folder.path(name), nullptr, 90));
+        // Drawing takes seconds. Only the documents' pictures need the largest size.
+        static const int columns = qEnvironmentVariableIsSet("NIMBRA_FINE_PICTURES") ? 750 : 300;
+        static const QImage scene = drawScene(columns, columns * 2 / 3, /*haze=*/true);
+        const QImage scaled = scene.scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        ASSERT_TRUE(scaled.save(folder.path(name), nullptr, 90));
     }
 
     /// Starts the command, lets the person act, closes the window if it is open, and returns the exit status.
@@ -303,6 +303,7 @@ TEST_F(Workspace, FromADroppedFolderToResults)
             EXPECT_EQ(series()->percent(row), 76) << row;
         press(Qt::Key_Z, Qt::ControlModifier);
         EXPECT_TRUE(series()->strength(1).automatic);
+        EXPECT_TRUE(settled());
         keepPicture("4_edited");
 
         press(Qt::Key_Return, Qt::ControlModifier | Qt::ShiftModifier);
@@ -428,24 +429,53 @@ TEST_F(Workspace, OneDragOfTheSliderIsOneStep)
 
 TEST_F(Workspace, FailuresAreShownWithARemedyAndNoDialog)
 {
+    constexpr int kMissing = 120; // more than are listed at once
     photograph("a.jpg");
     folder.write("broken.jpg", "no photograph");
-    use({folder.path("a.jpg"), folder.path("broken.jpg")}, [&] {
-        ASSERT_TRUE(listed(2));
+    QStringList names{folder.path("broken.jpg"), folder.path("a.jpg")};
+    for (int i = 0; i < kMissing; ++i)
+        names << folder.path(QStringLiteral("missing%1.jpg").arg(i));
+    use(names, [&] {
+        ASSERT_TRUE(listed(names.size()));
+        EXPECT_EQ(picture()->path(), names[0]); // the first of all
+        EXPECT_EQ(series()->state(0), Series::State::Failed);
+        auto *box = find<QSpinBox>("strength");
+        auto *saveAll = find<QAbstractButton>("saveAll"), *saveThis = find<QAbstractButton>("saveThis");
+        ASSERT_TRUE(eventually([&] { return !box->isEnabled(); }));
+        EXPECT_FALSE(saveThis->isEnabled());
+        const auto toSave = [&] { return saveAll->text().remove(QRegularExpression("\\D")).toInt(); };
+        EXPECT_EQ(toSave(), 1);
+        ASSERT_TRUE(eventually([&] { return find<QAbstractButton>("retryReading")->isVisible(); }));
+        keepPicture("6_unreadable");
+
         press(Qt::Key_Right);
-        EXPECT_EQ(series()->state(1), Series::State::Failed);
-        QFile::remove(folder.path("a.jpg"));
-        press(Qt::Key_Left);
+        QFile::remove(names[1]);
         press(Qt::Key_Return, Qt::ControlModifier);
-        ASSERT_TRUE(eventually([&] { return series()->state(0) == Series::State::Failed; }));
-        auto *message = find<QLabel>("message");
+        ASSERT_TRUE(eventually([&] { return series()->state(1) == Series::State::Failed; }));
+        auto *message = find<QLabel>("message"), *note = find<QLabel>("note");
         ASSERT_TRUE(eventually([&] { return message->isVisible() && message->text().contains("a.jpg"); }));
+        ASSERT_TRUE(eventually([&] { return !note->text().isEmpty(); }));
+        EXPECT_TRUE(message->text().endsWith(note->toolTip())) << "the reason of this photograph";
         keepPicture("6_failed");
         photograph("a.jpg");
         click("remedy");
-        ASSERT_TRUE(eventually([&] { return series()->state(0) == Series::State::Saved; }));
+        ASSERT_TRUE(eventually([&] { return series()->state(1) == Series::State::Saved; }));
         EXPECT_FALSE(message->isVisible());
+
+        press(Qt::Key_Left);
+        ASSERT_TRUE(eventually([&] { return find<QAbstractButton>("retryReading")->isVisible(); }));
+        photograph("broken.jpg");
+        click("retryReading");
+        ASSERT_TRUE(eventually([&] { return box->isEnabled() && saveThis->isEnabled(); }));
+        EXPECT_EQ(series()->state(0), Series::State::Untouched);
+        ASSERT_TRUE(eventually([&] { return toSave() == 2; }));
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+
+        // What is undone is seen.
+        press(Qt::Key_Up);
+        press(Qt::Key_Right);
+        press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(picture()->path(), names[0]);
     });
 }
 
@@ -531,7 +561,7 @@ TEST_F(Workspace, ASessionIsSavedOpenedAndRunByTheCommandLine)
 
 TEST_F(Workspace, QuittingInTheMiddleOfSavesLeavesWholeResultsAndASessionThatGoesOn)
 {
-    constexpr int kCount = 60, kSavedFirst = 3;
+    constexpr int kCount = 60, kSavedFirst = 3, kSlow = 12;
     const QString tag = QCoreApplication::translate("NimbraOne2One", "_dehazed");
     photograph("trip/00.jpg", 60, 40);
     for (int i = 1; i < kCount; ++i)
@@ -541,6 +571,10 @@ TEST_F(Workspace, QuittingInTheMiddleOfSavesLeavesWholeResultsAndASessionThatGoe
         ASSERT_TRUE(listed(kCount));
         strip()->setFocus();
         press(Qt::Key_Up);
+        QList<int> quick; // at this strength the engine has nothing to do
+        for (int row = kSlow; row < kCount; ++row)
+            quick << row;
+        series()->setStrength(quick, {0, /*automatic=*/false});
         press(Qt::Key_Return, Qt::ControlModifier | Qt::ShiftModifier);
         ASSERT_TRUE(eventually([&] { return states().count(Series::State::Saved) >= kSavedFirst; }));
         keepPicture("8_saving");

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QColorSpace>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
@@ -123,30 +124,32 @@ TEST_F(Window, ListsPhotographsOnceInTheirOrderWithoutResults)
     const QDir here(folder.path(""));
     here.mkpath("trip");
     here.mkpath("empty");
-    photographs({"z.png", "z_dehazed.png", "trip/b.JPG", "trip/a.png", "trip/a_dehazed.png", "trip/b_brumefrei.jpg"});
+    photographs({"z.png", "z_dehazed.png", "trip/b.JPG", "trip/a.png", "trip/a_dehazed.png", "trip/b_brumefrei.jpg",
+                 "trip/a_dehazed-2.png", "trip/b_dehazed-13.jpg", "trip/a_dehazed-1.png", "trip/a-2.png"});
     folder.write("trip/notes.txt", "no photograph");
     folder.write("broken.png", "\x89PNG\r\n\x1a\n");
 
     int batches = 0;
     QObject::connect(&series, &Series::rowsInserted, [&] { ++batches; });
     const Series::Added first = add(paths({"z.png", "trip", "empty", "z.png", "trip/../z.png", "broken.png"}));
-    EXPECT_EQ(first.photographs, 5);
-    EXPECT_EQ(first.results, 1);
+    EXPECT_EQ(first.photographs, 7);
+    EXPECT_EQ(first.results, 3); // one without and two with a number
     EXPECT_EQ(first.emptyFolders, paths({"empty"}));
 
     readAll();
-    EXPECT_EQ(shown(series), "z.png 70 untouched, a.png 70 untouched, b.JPG 70 untouched, "
-                             "b_brumefrei.jpg 70 untouched, broken.png 70 failed");
-    EXPECT_NE(series.data(series.index(4), Series::ReasonRole).toString(), "");
+    EXPECT_EQ(shown(series), "z.png 70 untouched, a-2.png 70 untouched, a.png 70 untouched, a_dehazed-1.png 70 untouched, "
+                             "b.JPG 70 untouched, b_brumefrei.jpg 70 untouched, broken.png 70 failed");
+    EXPECT_NE(series.data(series.index(6), Series::ReasonRole).toString(), "");
+    EXPECT_FALSE(series.data(series.index(6), Series::StrengthRole).isValid());
     EXPECT_EQ(series.facts(0).size, QSize(48, 32));
-    EXPECT_EQ(series.facts(2).kind, "JPEG");
-    EXPECT_EQ(series.facts(2).resultName, "b_dehazed.jpg");
+    EXPECT_EQ(series.facts(4).kind, "JPEG");
+    EXPECT_EQ(series.facts(4).resultName, "b_dehazed.jpg");
     EXPECT_FALSE(series.data(series.index(0), Series::ThumbnailRole).value<QImage>().isNull());
 
     folder.photograph("broken.png");
-    series.retry(4);
+    series.retry(6);
     readAll();
-    EXPECT_EQ(series.state(4), State::Untouched);
+    EXPECT_EQ(series.state(6), State::Untouched);
 
     // A result that was listed as a photograph leaves when its photograph comes.
     series.clear();
@@ -219,6 +222,7 @@ TEST_F(Window, StartsAtTheStoredDefault)
 TEST_F(Window, UndoesAndRedoes)
 {
     const QStringList three = photographs({"a.png", "b.png", "c.png"});
+    const QString more = photographs({"d.png"}).first();
     struct Case
     {
         const char *name;
@@ -291,6 +295,13 @@ TEST_F(Window, UndoesAndRedoes)
              s.remove({0, 1, 2});
          },
          "", 1},
+        {"remove, add again and add another",
+         [&](Series &s) {
+             s.remove({0});
+             add({three[0], more});
+             s.setStrength({3}, fixed(30));
+         },
+         "b.png 70 untouched, c.png 70 untouched, a.png 70 untouched, d.png 30 edited", 3},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
@@ -309,15 +320,18 @@ TEST_F(Window, UndoesAndRedoes)
         EXPECT_EQ(shown(series), c.after);
     }
 
-    // Removed, added again, and then undone: it is listed once.
+    // A step that is undone says where.
     series.clear();
     add(three);
-    series.remove({0});
-    add({three[0]});
+    QList<int> where;
+    QObject::connect(&series, &Series::stepped, [&](const QList<int> &rows) { where = rows; });
+    series.setStrength({1, 2}, fixed(30));
+    series.remove({2});
+    EXPECT_TRUE(where.isEmpty());
     series.undoStack().undo();
-    EXPECT_EQ(shown(series), "b.png 70 untouched, c.png 70 untouched, a.png 70 untouched");
-    series.undoStack().redo();
-    EXPECT_EQ(series.rowCount(), 3);
+    EXPECT_EQ(where, QList<int>{2});
+    series.undoStack().undo();
+    EXPECT_EQ(where, QList<int>({1, 2}));
 }
 
 TEST_F(Window, ShowsEachPhotographsWayThroughTheQueue)
@@ -350,7 +364,17 @@ TEST_F(Window, ShowsEachPhotographsWayThroughTheQueue)
     EXPECT_EQ(ways["missing.png"], (QStringList{"waiting", "failed"}));
     EXPECT_TRUE(std::is_sorted(fractions.begin(), fractions.end() - 1)); // the last one is that of the empty queue
     EXPECT_TRUE(QFileInfo::exists(folder.path("b_dehazed.jpg")));
-    EXPECT_FALSE(series.data(series.index(3), Series::ReasonRole).toString().contains("--")) << "not a text for the window";
+    // Reasons are for the window: they name no option of the command line.
+    SaveQueue::Options nowhere;
+    nowhere.folder = folder.path("a.png");
+    series.setSaveOptions(nowhere);
+    series.save({1});
+    ASSERT_TRUE(untilEnded(queue));
+    for (const int row : {1, 3}) {
+        EXPECT_EQ(series.state(row), State::Failed);
+        EXPECT_FALSE(series.data(series.index(row), Series::ReasonRole).toString().contains("--"));
+    }
+    series.setSaveOptions({});
 
     series.setStrength({0}, fixed(20));
     EXPECT_EQ(series.state(0), State::ChangedSince);
@@ -484,6 +508,16 @@ TEST_F(Window, PausesDropsAndStopsWithWholeResults)
     EXPECT_EQ(count(State::Saved), 7);
     EXPECT_FALSE(QFileInfo::exists(folder.path("p7_dehazed.png")));
     EXPECT_EQ(series.record(6).resultStrength, 10);
+
+    // Pictures on the screen come first.
+    series.setStrength({0}, fixed(0));
+    QElapsedTimer asked;
+    asked.start();
+    queue.giveWay();
+    series.save({0});
+    ASSERT_TRUE(eventually([&] { return series.state(0) == State::InWork || series.state(0) == State::Saved; }));
+    EXPECT_GE(asked.elapsed(), 300);
+    ASSERT_TRUE(eventually([&] { return series.state(0) == State::Saved; }));
 }
 
 TEST_F(Window, QuitInTheMiddleOfSavesGoesOnNextTime)

@@ -1,6 +1,7 @@
 #include "Series.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QDir>
 #include <QFile>
@@ -97,8 +98,17 @@ public:
             before.push_back(photo->strength);
     }
 
-    void redo() override { give(after); }
-    void undo() override { give(before); }
+    void redo() override
+    {
+        give(after);
+        if (std::exchange(isDone, true))
+            series.tellStep(photos);
+    }
+    void undo() override
+    {
+        give(before);
+        series.tellStep(photos);
+    }
     int id() const override { return merging == Merging::None ? -1 : int(merging); }
 
     bool mergeWith(const QUndoCommand *other) override
@@ -131,28 +141,38 @@ private:
     const Merging merging;
     const int drag;
     qint64 when;
+    bool isDone = false; ///< Once: redo() is the first doing, too.
 };
 
-/// Removes photographs. One that has been added again in the meantime is not listed twice.
-class Series::RemoveCommand : public QUndoCommand
+/// Removes photographs, or says that they have been added. None is ever listed twice.
+class Series::ListCommand : public QUndoCommand
 {
 public:
-    RemoveCommand(Series &owner, QList<int> rows) : series(owner)
+    enum class Kind { Add, Remove };
+    ListCommand(Series &owner, Kind what, QList<int> rows) : series(owner), kind(what)
     {
         std::sort(rows.begin(), rows.end());
         for (const int row : qAsConst(rows))
-            removed.emplace_back(row, owner.photos[std::size_t(row)]);
+            listed.emplace_back(row, owner.photos[std::size_t(row)]);
     }
 
     void redo() override
     {
-        for (std::size_t end = removed.size(); end > 0;) {
+        if (std::exchange(isDone, true) || kind == Kind::Remove)
+            kind == Kind::Add ? list() : unlist();
+    }
+    void undo() override { kind == Kind::Add ? unlist() : list(); }
+
+private:
+    void unlist()
+    {
+        for (std::size_t end = listed.size(); end > 0;) {
             // The longest run of rows that end here and still hold these photographs.
-            const int last = series.rowOf(removed[--end].second->path);
-            if (!holds(last, removed[end].second))
+            const int last = series.rowOf(listed[--end].second->path);
+            if (!holds(last, listed[end].second))
                 continue;
             int first = last;
-            while (end > 0 && holds(first - 1, removed[end - 1].second)) {
+            while (end > 0 && holds(first - 1, listed[end - 1].second)) {
                 --first;
                 --end;
             }
@@ -161,32 +181,36 @@ public:
         Q_EMIT series.changed();
     }
 
-    void undo() override
+    void list()
     {
-        for (std::size_t i = 0; i < removed.size();) {
-            const int first = removed[i].first;
+        Photos back;
+        for (std::size_t i = 0; i < listed.size();) {
+            const int first = listed[i].first;
             Photos run;
-            for (; i < removed.size() && removed[i].first - first == int(run.size()); ++i) {
-                if (series.rowOf(removed[i].second->path) >= 0) {
+            for (; i < listed.size() && listed[i].first - first == int(run.size()); ++i) {
+                if (series.rowOf(listed[i].second->path) >= 0) {
                     ++i;
                     break;
                 }
-                run.push_back(removed[i].second);
+                run.push_back(listed[i].second);
             }
+            back.insert(back.end(), run.begin(), run.end());
             if (!run.empty())
                 series.insert(std::min(first, series.rowCount()), run);
         }
         Q_EMIT series.changed();
+        series.tellStep(back);
     }
 
-private:
     bool holds(int row, const std::shared_ptr<Photo> &photo) const
     {
         return row >= 0 && series.photos[std::size_t(row)] == photo;
     }
 
     Series &series;
-    std::vector<std::pair<int, std::shared_ptr<Photo>>> removed; ///< In the order of their rows.
+    const Kind kind;
+    bool isDone = false;
+    std::vector<std::pair<int, std::shared_ptr<Photo>>> listed; ///< In the order of their rows.
 };
 
 Series::Series(HostApplication &host, const QString &processGroup, int thumbnailSide, QObject *parent)
@@ -254,7 +278,7 @@ QVariant Series::data(const QModelIndex &index, int role) const
     case PathRole:
         return photo.path;
     case StrengthRole: {
-        const auto percent = percentOf(photo);
+        const auto percent = isReadable(index.row()) ? percentOf(photo) : std::nullopt;
         return percent ? QVariant(*percent) : QVariant();
     }
     case AutomaticRole:
@@ -335,6 +359,11 @@ std::optional<int> Series::percent(int row) const
 Series::State Series::state(int row) const
 {
     return stateOf(*photos.at(std::size_t(row)));
+}
+
+bool Series::isReadable(int row) const
+{
+    return photos.at(std::size_t(row))->failure != Photo::Failure::Reading;
 }
 
 Series::Facts Series::facts(int row) const
@@ -446,6 +475,15 @@ void Series::show(const std::shared_ptr<Photo> &photo)
     show(Photos{photo});
 }
 
+void Series::tellStep(const Photos &concerned)
+{
+    QList<int> listed;
+    for (const auto &photo : concerned)
+        if (const int row = rowOf(photo->path); row >= 0)
+            listed << row;
+    Q_EMIT stepped(listed);
+}
+
 void Series::add(const QStringList &given)
 {
     pending << given;
@@ -456,6 +494,7 @@ void Series::add(const QStringList &given)
 void Series::beginAdding()
 {
     const int series = generation;
+    arrived.clear();
     QStringList ours;
     for (const auto &photo : photos)
         if (!photo->result.isEmpty())
@@ -494,12 +533,28 @@ void Series::beginAdding()
         inWindow([this, what, before]() mutable {
             what.photographs = rowCount() - before;
             pending.removeFirst();
+            if (before > 0 || undo.count() > 0)
+                pushAdded();
             Q_EMIT changed();
             Q_EMIT added(what);
             if (!pending.isEmpty())
                 beginAdding();
         });
     });
+}
+
+void Series::pushAdded()
+{
+    QList<int> fresh;
+    for (const auto &photo : qAsConst(arrived))
+        if (const int row = rowOf(photo->path); row >= 0)
+            fresh << row;
+    arrived.clear();
+    if (fresh.isEmpty())
+        return;
+    auto *command = new ListCommand(*this, ListCommand::Kind::Add, fresh);
+    command->setText(tr("Add %n photograph(s)", nullptr, fresh.size()));
+    undo.push(command);
 }
 
 void Series::append(const QStringList &fresh)
@@ -516,6 +571,7 @@ void Series::append(const QStringList &fresh)
     }
     if (!batch.empty())
         insert(rowCount(), batch);
+    arrived.insert(arrived.end(), batch.begin(), batch.end());
 }
 
 void Series::restore(const std::vector<Record> &records)
@@ -551,6 +607,7 @@ void Series::clear()
 {
     ++generation;
     pending.clear();
+    arrived.clear();
     undo.clear();
     if (rowCount() > 0)
         take(0, rowCount());
@@ -687,7 +744,7 @@ void Series::remove(const QList<int> &given)
 {
     if (given.isEmpty())
         return;
-    auto *command = new RemoveCommand(*this, given);
+    auto *command = new ListCommand(*this, ListCommand::Kind::Remove, given);
     command->setText(tr("Remove %n photograph(s)", nullptr, given.size()));
     undo.push(command);
 }
@@ -744,7 +801,7 @@ void Series::saveAll()
 {
     QList<int> all;
     for (int row = 0; row < rowCount(); ++row)
-        if (photos[std::size_t(row)]->failure != Photo::Failure::Reading)
+        if (isReadable(row))
             all << row;
     save(all);
 }

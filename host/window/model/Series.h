@@ -31,7 +31,8 @@ public:
     enum Role {
         PathRole = Qt::UserRole, ///< QString, absolute.
         NameRole,                ///< QString: the file's name, also Qt::DisplayRole.
-        StrengthRole,            ///< int, in per cent; invalid as long as the automatic strength is not known.
+        StrengthRole,            ///< int, in per cent; invalid for a photograph that can't be read, and as long as the automatic
+                                 ///< strength is not known.
         AutomaticRole,           ///< bool
         StateRole,               ///< int, a State.
         ReasonRole,              ///< QString: for Failed why and what helps, for Saved what the result lacks; may be empty.
@@ -94,7 +95,7 @@ public:
     };
     /// Appends photographs, those of a folder by name; each once. Left out are results of photographs that are given or listed,
     /// and listed results of these. They start at the default strength. Returns at once: the photographs follow in batches, and
-    /// then `added`.
+    /// then `added`. This is one step to undo, but for the first photographs of a series, which are its beginning.
     void add(const QStringList &paths);
     bool isAdding() const { return !pending.isEmpty(); }
     /// Appends photographs as a session has kept them. Missing results are forgotten.
@@ -110,6 +111,8 @@ public:
     /// In per cent; nothing as long as the automatic strength is not known.
     std::optional<int> percent(int row) const;
     State state(int row) const;
+    /// False once reading the photograph has failed, until that is tried again.
+    bool isReadable(int row) const;
     Facts facts(int row) const;
     Record record(int row) const;
     std::vector<Record> records() const;
@@ -158,13 +161,15 @@ public:
 Q_SIGNALS:
     /// Something that a session keeps has changed.
     void changed();
+    /// A step that concerns these rows was undone, or done again; none if they are no longer listed.
+    void stepped(const QList<int> &rows);
     void added(const Series::Added &what);
 
 private:
     struct Photo;
     using Photos = std::vector<std::shared_ptr<Photo>>;
     class StrengthCommand;
-    class RemoveCommand;
+    class ListCommand;
     enum class Merging { None, Drag, Nudge };
 
     /// What a background thread has found out about a photograph.
@@ -187,9 +192,11 @@ private:
     void renumber(int from);
     void show(const Photos &photos);
     void show(const std::shared_ptr<Photo> &photo);
+    void tellStep(const Photos &photos);
 
     void beginAdding();
     void append(const QStringList &paths);
+    void pushAdded();
     void post(News news);
     void takeNews();
     void onWaits(const QString &path);
@@ -210,6 +217,7 @@ private:
     QElapsedTimer clock;
 
     QList<QStringList> pending; ///< What add() was given; the first one is in progress.
+    Photos arrived;             ///< Of the one in progress, so far.
     int generation = 0;         ///< Of the series; clear() begins a new one, so that photographs on their way are dropped.
     std::mutex newsMutex;
     std::vector<News> news; ///< Under the mutex.

@@ -12,6 +12,7 @@ constexpr int kThumbWidth = 120, kThumbHeight = 80; ///< Room for a thumbnail.
 constexpr int kPadding = 6;
 constexpr int kChipInset = 4; ///< From the thumbnail's edge.
 
+const QColor kNoPicture(110, 110, 110); ///< Around the room of a thumbnail that is not there.
 const QColor kEdited(120, 180, 255), kSaved(110, 220, 120), kChanged(255, 200, 80), kFailed(255, 120, 110);
 
 /// The thumbnail at the size in which it is shown, kept for the next time.
@@ -60,7 +61,9 @@ void FilmstripDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     QRect place = room;
     const auto thumbnail = index.data(Series::ThumbnailRole).value<QImage>();
     if (thumbnail.isNull()) {
-        painter->fillRect(place, kSurround);
+        painter->setPen(kNoPicture); // to be seen on a dark window
+        painter->setBrush(kSurround);
+        painter->drawRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5));
     } else {
         const QPixmap pixmap = fitted(thumbnail, painter->device()->devicePixelRatioF());
         place.setSize((QSizeF(pixmap.size()) / pixmap.devicePixelRatioF()).toSize());

@@ -1,5 +1,7 @@
 #include "FilmstripView.h"
 
+#include <algorithm>
+
 #include <QPainter>
 #include <QScrollBar>
 #include <QTimerEvent>
@@ -41,22 +43,44 @@ QSize FilmstripView::minimumSizeHint() const
     return {200, sizeHint().height()};
 }
 
-bool FilmstripView::anyInWork() const
+void FilmstripView::showWithNeighbours(int row)
 {
+    for (const int beside : {row - 1, row + 1, row})
+        if (const QModelIndex index = model()->index(beside, 0); index.isValid())
+            scrollTo(index);
+}
+
+QList<int> FilmstripView::rowsInView() const
+{
+    QList<int> rows;
     if (!model())
-        return false;
+        return rows;
     const QModelIndex first = indexAt({0, viewport()->height() / 2}),
                       last = indexAt({viewport()->width() - 1, viewport()->height() / 2});
     const int end = last.isValid() ? last.row() : model()->rowCount() - 1;
     for (int row = std::max(0, first.row()); row <= end; ++row)
-        if (Series::State(model()->index(row, 0).data(Series::StateRole).toInt()) == Series::State::InWork)
-            return true;
-    return false;
+        rows << row;
+    return rows;
+}
+
+bool FilmstripView::anyInWork() const
+{
+    const QList<int> rows = rowsInView();
+    return std::any_of(rows.begin(), rows.end(), [this](int row) {
+        return Series::State(model()->index(row, 0).data(Series::StateRole).toInt()) == Series::State::InWork;
+    });
 }
 
 void FilmstripView::paintEvent(QPaintEvent *event)
 {
     QListView::paintEvent(event);
+    const QList<int> rows = rowsInView();
+    const int count = model() ? model()->rowCount() : 0;
+    if (rows != shownRows || count != shownOf) {
+        shownRows = rows;
+        shownOf = count;
+        Q_EMIT rowsShown(rows);
+    }
     if (keyboardFocus) {
         QPainter painter(viewport());
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));

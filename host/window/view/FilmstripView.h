@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QBasicTimer>
+#include <QList>
 #include <QListView>
 
 class FilmstripDelegate;
@@ -17,6 +18,12 @@ public:
     /// As high as an item and the scroll bar.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    /// Scrolls as little as possible.
+    void showWithNeighbours(int row);
+
+Q_SIGNALS:
+    /// Other rows have come into view.
+    void rowsShown(const QList<int> &rows);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -26,9 +33,12 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    QList<int> rowsInView() const;
     bool anyInWork() const;
 
     FilmstripDelegate *painterOfItems;
+    QList<int> shownRows; ///< What rowsShown() said last,
+    int shownOf = 0;      ///< and how many rows there were.
     QBasicTimer animation;
     int turn = 0; ///< Degrees.
     bool keyboardFocus = false;

@@ -27,6 +27,7 @@ HistogramView::HistogramView(QWidget *parent) : QWidget(parent)
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     setAccessibleName(tr("Histogram"));
+    setToolTip(tr("The result; dashed: the photograph as it was"));
 }
 
 void HistogramView::setHistogram(const Histogram &histogram)

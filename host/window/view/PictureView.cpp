@@ -7,9 +7,12 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QGestureEvent>
 #include <QKeySequence>
 #include <QMouseEvent>
+#include <QNativeGestureEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyle>
 
 #include "OpenPhoto.h"
@@ -21,6 +24,7 @@ namespace {
 constexpr int kGap = 2;            ///< Between the two pictures side by side.
 constexpr int kGrip = 8;           ///< How far from the line it can be grasped.
 constexpr int kHandleRadius = 13;  ///< Of the knob on the line.
+constexpr int kFailureMargin = 40; ///< Around the reason of a failure.
 constexpr int kChipMargin = 10;    ///< From the corner of the picture.
 constexpr int kPatienceMs = 250;   ///< A wait that is shorter has no sign.
 constexpr int kTurnMs = 40;        ///< Between two steps of the turning arc,
@@ -53,8 +57,14 @@ PictureView::PictureView(QWidget *parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    grabGesture(Qt::PinchGesture);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(tr("Photograph"));
+    retry = new QPushButton(tr("Try again"), this);
+    retry->setObjectName(QStringLiteral("retryReading"));
+    retry->setAutoDefault(false);
+    retry->hide();
+    connect(retry, &QPushButton::clicked, this, &PictureView::retryWanted);
     describe();
     // Keys that are held act wherever the focus is in the window.
     qApp->installEventFilter(this);
@@ -79,6 +89,7 @@ void PictureView::clearPictures(const QString &path)
 {
     shownPath = path;
     failure.clear();
+    retry->hide();
     thumb = QImage();
     photo.reset();
     for (Arrived &pictures : arrived)
@@ -109,6 +120,7 @@ void PictureView::showPhoto(std::shared_ptr<const OpenPhoto> shown)
         clearPictures(shown ? shown->path() : QString());
     photo = std::move(shown);
     failure.clear();
+    retry->hide();
     sizeKnown = bool(photo);
     changeZoom([&] { zoom.setPhotograph(photo ? photo->size() : QSize()); });
     updateWaiting();
@@ -120,6 +132,8 @@ void PictureView::showFailure(const QString &path, const QString &reason)
 {
     clearPictures(path);
     failure = reason;
+    retry->setVisible(!failure.isEmpty());
+    layOut();
     updateWaiting();
     describe();
 }
@@ -212,6 +226,15 @@ void PictureView::layOut()
 {
     if (const QSize size = pane(0).size(); size != zoom.viewport())
         changeZoom([&] { zoom.setViewport(size); });
+    retry->resize(retry->sizeHint());
+    retry->move((width() - retry->width()) / 2, failureRoom().bottom() + retry->height() / 2);
+}
+
+/// Where the reason of a failure is, in the middle.
+QRect PictureView::failureRoom() const
+{
+    return fontMetrics().boundingRect(rect().adjusted(kFailureMargin, kFailureMargin, -kFailureMargin, -kFailureMargin),
+                                      Qt::AlignCenter | Qt::TextWordWrap, failure);
 }
 
 void PictureView::zoomToFit()
@@ -419,12 +442,33 @@ void PictureView::keyPressEvent(QKeyEvent *event)
 
 bool PictureView::event(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange) {
+    if (event->type() == QEvent::NativeGesture) { // of a touchpad
+        const auto *gesture = static_cast<QNativeGestureEvent *>(event);
+        if (gesture->gestureType() == Qt::ZoomNativeGesture) {
+            pinch(1 + gesture->value(), gesture->localPos());
+            return true;
+        }
+    } else if (event->type() == QEvent::Gesture) { // of two fingers on the screen
+        if (const QGesture *gesture = static_cast<QGestureEvent *>(event)->gesture(Qt::PinchGesture)) {
+            const auto *fingers = static_cast<const QPinchGesture *>(gesture);
+            drag = NoDrag;
+            pinch(fingers->scaleFactor(), mapFromGlobal(fingers->centerPoint().toPoint()));
+            return true;
+        }
+    } else if (event->type() == QEvent::LanguageChange) {
         setAccessibleName(tr("Photograph"));
+        retry->setText(tr("Try again"));
         describe();
         update();
     }
     return QWidget::event(event);
+}
+
+void PictureView::pinch(double factor, QPointF position)
+{
+    if (factor > 0)
+        changeZoom([&] { zoom.scaleBy(factor, inPane(position)); });
+    updateCursor(position);
 }
 
 void PictureView::hideEvent(QHideEvent *)
@@ -584,7 +628,7 @@ void PictureView::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     if (!failure.isEmpty()) {
         painter.setPen(kOnSurround);
-        painter.drawText(rect().adjusted(40, 40, -40, -40), Qt::AlignCenter | Qt::TextWordWrap, failure);
+        painter.drawText(failureRoom(), Qt::AlignCenter | Qt::TextWordWrap, failure);
     } else if (!shownPath.isEmpty()) {
         const QRect part = sizeKnown ? zoom.visible() : QRect(QPoint(), zoom.viewport());
         const auto within = [&](const QRect &shown) {

@@ -13,6 +13,7 @@
 #include "PictureZoom.h"
 
 class PictureRenderer;
+class QPushButton;
 
 /// The photograph on neutral grey: before and after on both sides of a line that can be dragged, side by side, or after alone.
 ///
@@ -51,7 +52,7 @@ public:
     /// The photograph that is shown, as far as it is there, or another one. Until it is complete, a sign says that its haze is
     /// being estimated. Null empties the view.
     void showPhoto(std::shared_ptr<const OpenPhoto> photo);
-    /// The photograph can't be shown: the reason is shown in its place.
+    /// The photograph can't be shown: the reason is shown in its place, and a button to try again.
     void showFailure(const QString &path, const QString &reason);
     QString path() const { return shownPath; }
 
@@ -95,6 +96,8 @@ Q_SIGNALS:
     void wanted(PictureView::Side side, const PictureRequest &request);
     void zoomChanged(double scale, bool fits);
     void peekChanged(PictureView::Peek peek);
+    /// The user wants a photograph that can't be shown to be tried again.
+    void retryWanted();
     /// One of the renderers could not make a picture; the last one stays.
     void pictureFailed(const QString &reason);
 
@@ -135,6 +138,7 @@ private:
     bool holdsBy(const QKeyEvent &event, const QWidget &receiver) const;
     void describe();
     void updateCursor(QPointF position);
+    void pinch(double factor, QPointF position);
     void updateWaiting();
 
     QRect pane(int index) const;
@@ -150,7 +154,10 @@ private:
     void paintLine(QPainter &painter) const;
     void paintChip(QPainter &painter, const QRect &within, Qt::Alignment corner, const QString &text, bool turning = false) const;
 
+    QRect failureRoom() const;
+
     QString shownPath, failure;
+    QPushButton *retry;
     QImage thumb;
     std::shared_ptr<const OpenPhoto> photo;
     std::shared_ptr<ScreenColours> screenColours;

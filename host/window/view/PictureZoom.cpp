@@ -87,7 +87,17 @@ void PictureZoom::stepScale(int steps, QPointF anchor)
             steps > 0 ? (up > 0 ? std::floor(exponent + 0.01) + 1 : up) : (down > 0 ? std::ceil(exponent - 0.01) - 1 : down);
         wanted = std::exp2(next);
     }
-    if (steps < 0 && wanted <= fitScale())
+    scaleOrFit(wanted, anchor);
+}
+
+void PictureZoom::scaleBy(double multiplier, QPointF anchor)
+{
+    scaleOrFit(factor * multiplier, anchor);
+}
+
+void PictureZoom::scaleOrFit(double wanted, QPointF anchor)
+{
+    if (wanted < factor && wanted <= fitScale())
         fit();
     else
         setScale(wanted, anchor);

@@ -35,6 +35,8 @@ public:
     /// The next larger (steps > 0) or smaller (steps < 0) scale: factors of the square root of 2 below 1, of 2 above, so that
     /// every scale from 1 on is whole. Stepping below fitScale() fits.
     void stepScale(int steps, QPointF anchor);
+    /// As two fingers do; down to fitScale() it fits.
+    void scaleBy(double multiplier, QPointF anchor);
     void moveBy(QPoint devicePixels);
 
     /// The photograph's rectangle in the viewport, which may be larger than the viewport.
@@ -47,6 +49,7 @@ public:
 
 private:
     void showAt(QPointF pixel, QPointF position);
+    void scaleOrFit(double wanted, QPointF anchor);
     void keepInside();
 
     QSize photo, view;

@@ -15,6 +15,9 @@ constexpr double kFixedWeight = 6e6;
 // How much of a photograph's time has passed when a stage begins; the engine takes most of it.
 constexpr double kStageStart[] = {0, 0.15, 0.85};
 
+/// How long pictures on the screen come first after the last was asked for, and how long a stage waits for them at most.
+constexpr std::chrono::milliseconds kQuiet(400), kMostPatience(8000);
+
 BatchOutcome notBegun()
 {
     BatchOutcome outcome;
@@ -203,15 +206,31 @@ std::vector<BatchItem> SaveQueue::plan(const std::vector<Order> &orders, const O
 bool SaveQueue::mayBegin(int item)
 {
     std::unique_lock lock(mutex);
+    waitForQuiet(lock);
     woken.wait(lock, [&] { return !paused || stopping; });
     Job &job = round[std::size_t(item)];
     job.begun = !stopping && !job.withdrawn;
     return job.begun;
 }
 
+void SaveQueue::giveWay()
+{
+    const std::lock_guard lock(mutex);
+    quietUntil = std::chrono::steady_clock::now() + kQuiet;
+}
+
+void SaveQueue::waitForQuiet(std::unique_lock<std::mutex> &lock)
+{
+    const auto end = std::chrono::steady_clock::now() + kMostPatience;
+    while (!stopping && std::chrono::steady_clock::now() < std::min(quietUntil, end))
+        woken.wait_until(lock, std::min(quietUntil, end));
+}
+
 void SaveQueue::stageBegins(int item, BatchRunner::Stage stage)
 {
     post({std::size_t(item), stage, {}});
+    std::unique_lock lock(mutex);
+    waitForQuiet(lock);
 }
 
 void SaveQueue::finished(int item, const BatchOutcome &outcome)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
@@ -86,6 +87,9 @@ public:
     void pause() { setPaused(true); }
     void resume() { setPaused(false); }
     bool isPaused() const;
+    /// Someone waits for pictures on the screen: for a moment nothing is begun, neither a photograph nor a stage of one. Whoever
+    /// is given way to all the time delays each stage by several seconds and no more.
+    void giveWay();
     /// Drops what is waiting and ends what is in work without a result, except where the result is being written already.
     /// Returns at once; `ended` follows.
     void stop();
@@ -137,6 +141,7 @@ private:
     bool mayBegin(int item) override;
 
     void setPaused(bool next);
+    void waitForQuiet(std::unique_lock<std::mutex> &lock);
     void timeWork(); ///< Call it where working begins or ends.
     void beginRound();
     std::vector<BatchItem> plan(const std::vector<Order> &orders, const Options &options, const QStringList &series);
@@ -169,4 +174,5 @@ private:
     std::vector<News> news;
     bool paused = false;
     bool stopping = false;
+    std::chrono::steady_clock::time_point quietUntil;
 };

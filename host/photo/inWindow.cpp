@@ -1,0 +1,8 @@
+#include "inWindow.h"
+
+#include <QApplication>
+
+bool inWindow()
+{
+    return qobject_cast<QApplication *>(QCoreApplication::instance()) != nullptr;
+}
