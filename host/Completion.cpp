@@ -111,6 +111,11 @@ _veilaway()
 {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=run names=0 i options
     COMPREPLY=()
+    if [[ $word == = ]]; then # --option=VALUE is three words
+        word=
+    elif [[ $before == = ]]; then
+        before=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
     for ((i = 1; i < COMP_CWORD; ++i)); do
         [[ ${COMP_WORDS[i]} == -- ]] && names=1
         [[ " %1 " == *" ${COMP_WORDS[i]} "* && $names == 0 ]] && command=${COMP_WORDS[i]} && break
