@@ -107,9 +107,8 @@ PrivateRun::~PrivateRun()
         application.forget(link);
 }
 
-void PrivateRun::checkDepth()
+void PrivateRun::checkDepth(const BatchItem &item, int bits)
 {
-    const int bits = shown->bitsPerChannel();
     const PhotoKind format = formatOf(item.result);
     if (format != formatOf(item.path) && bits > depthOf(format))
         throw VException(tr("Its %1 bits per channel don't fit into a file of this format. Choose a name that ends in .tif, .psd "
@@ -121,10 +120,11 @@ void PrivateRun::checkDepth()
 QString PrivateRun::withKnownPaths(QString message) const
 {
     message.replace(link, item.path);
-    for (const PrivateFolder *folder : {home.get(), elsewhere.get()})
+    for (const auto &[folder, outside] :
+         {std::pair(home.get(), QFileInfo(item.result).absolutePath()), std::pair(elsewhere.get(), QDir::tempPath())})
         if (folder)
             message.replace(QRegularExpression(QRegularExpression::escape(folder->path()) + "/[^\"/]+"), item.result)
-                .replace(folder->path(), QFileInfo(item.result).absolutePath());
+                .replace(folder->path(), outside);
     return message;
 }
 
