@@ -171,7 +171,6 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     try {
         attempt(item, index, stage, outcome);
         outcome.status = outcome.unchanged.isEmpty() ? BatchOutcome::Status::Done : BatchOutcome::Status::Unchanged;
-        complete(item, outcome);
         return outcome;
     } catch (const VException &failure) {
         outcome.message = failure.message.isEmpty() ? tr("The plug-in failed at %1").arg(failure.location) : failure.message;
@@ -208,23 +207,6 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
                       .arg(outcome.message.contains('"' + temporary + '"') ? temporary : QFileInfo(item.result).absolutePath());
     }
     return outcome;
-}
-
-void BatchRunner::complete(const BatchItem &item, BatchOutcome &outcome)
-{
-    QStringList lacks;
-    if (application.photograph(item.path)->facts().furtherPictures)
-        lacks << tr("The file also holds a gain map or further pictures, which don't fit the result and are left out.");
-    if (!outcome.message.isEmpty())
-        lacks << tr("The result was written, but the photograph's XMP could not be copied into it: %1.").arg(outcome.message);
-    if (item.keepTime) {
-        QFile result(item.result);
-        if (!result.open(QIODevice::ReadWrite) ||
-            !result.setFileTime(QFileInfo(item.path).lastModified(), QFileDevice::FileModificationTime))
-            lacks << tr("The result was written, but could not be given the photograph's time of modification: %1.")
-                         .arg(result.errorString());
-    }
-    outcome.message = lacks.join(' ');
 }
 
 void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage> &stage, BatchOutcome &outcome)
@@ -275,7 +257,14 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
     }
     run.run(one2one, settings);
     outcome.unchanged = whyUnchanged(one2one, settings);
-    outcome.message = run.carryXmp();
+    QStringList lacks;
+    if (facts.furtherPictures)
+        lacks << tr("The file also holds a gain map or further pictures, which don't fit the result and are left out.");
+    if (const QString reason = run.carryXmp(); !reason.isEmpty())
+        lacks << tr("The result was written, but the photograph's XMP could not be copied into it: %1.").arg(reason);
+    if (const QString reason = run.bringHome(); !reason.isEmpty())
+        lacks << tr("The result was written, but could not be given the photograph's time of modification: %1.").arg(reason);
+    outcome.message = lacks.join(' ');
     if (!run.publish())
         resultExists();
 }

@@ -173,7 +173,7 @@ QString PrivateRun::carryXmp() const
     return withKnownPaths(::carryXmp(metadataSource(), finished));
 }
 
-bool PrivateRun::publish()
+QString PrivateRun::bringHome()
 {
     if (elsewhere && finished.startsWith(elsewhere->path())) {
         const QString near = home->filePath(QFileInfo(finished).fileName());
@@ -182,6 +182,14 @@ bool PrivateRun::publish()
             throw VException(tr("\"%1\" can't be written: %2.").arg(item.result, source.errorString()), V_LOCATION);
         finished = near;
     }
+    QFile file(finished);
+    const bool timed = !item.keepTime || (file.open(QIODevice::ReadWrite) && file.setFileTime(QFileInfo(item.path).lastModified(),
+                                                                                              QFileDevice::FileModificationTime));
+    return timed ? QString() : file.errorString();
+}
+
+bool PrivateRun::publish()
+{
     struct stat older;
     if (::stat(QFile::encodeName(target).constData(), &older) == 0)
         ::chmod(QFile::encodeName(finished).constData(), older.st_mode & 07777);

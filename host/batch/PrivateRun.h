@@ -40,8 +40,11 @@ public:
     void run(VIPluginOne2One &process, VISettingsHandle settings);
     /// The same for the finished result's XMP; see the function of this name.
     [[nodiscard]] QString carryXmp() const;
-    /// Gives the finished file the result's name. False if a file has that name already and is not to be replaced. Throws
-    /// VException.
+    /// Brings the finished file to the result's file system, where it gets the photograph's time of modification if the item
+    /// wants that. Returns the reason if it can't have it, otherwise an empty string. Throws VException.
+    [[nodiscard]] QString bringHome();
+    /// After bringHome, gives the finished file the result's name. False if a file has that name already and is not to be
+    /// replaced. Throws VException.
     [[nodiscard]] bool publish();
 
     /// Throws VException if the result's format can't hold the photograph's samples of so many bits per channel.

@@ -421,6 +421,25 @@ TEST_F(ProgramFaults, APrivateFolderGoesAfterItsLockIsClosed)
     EXPECT_EQ(folder.files(), QStringList());
 }
 
+TEST_F(ProgramFaults, AResultComesIntoBeingInOneStepAndNothingElseDoes)
+{
+    photographWithXmp("c.jpg", 40, 30);
+    const int watch = inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
+    inotify_add_watch(watch, QFile::encodeName(folder.path(".")).constData(), IN_CREATE | IN_MOVED_TO | IN_MODIFY);
+    EXPECT_EQ(folder.run({"c.jpg", "--strength", "0"}).code, 0);
+    alignas(inotify_event) char events[1 << 16];
+    const ssize_t bytes = read(watch, events, sizeof events);
+    close(watch);
+    QStringList names;
+    for (ssize_t at = 0; at < bytes;) {
+        const auto *event = reinterpret_cast<const inotify_event *>(events + at);
+        if (const QString name = event->name; !name.startsWith(".veilaway-run-"))
+            names << name;
+        at += ssize_t(sizeof *event + event->len);
+    }
+    EXPECT_EQ(names, QStringList("c_dehazed.jpg"));
+}
+
 TEST_F(ProgramFaults, KilledAtAnyMoment)
 {
     folder.photograph("a.png", 600, 400, VImage::Rgb, 16);
