@@ -92,7 +92,7 @@ QString bashScript()
                 .arg(latin(word.name), joined(
                                            " ", [](const CommandOption &option) { return "--" + option.longName(); }, word.bit));
     return QStringLiteral(R"script(# Bash completion for veilaway, as "veilaway completion bash" writes it.
-_veilaway_files() # SUFFIX...: folders, and files with these suffixes in upper or lower case; without a suffix, all files
+_veilaway_files() # SUFFIX...: what $word begins; folders, and files with these suffixes in upper or lower case; without a suffix, all files
 {
     local name suffix
     compopt -o filenames
@@ -104,7 +104,7 @@ _veilaway_files() # SUFFIX...: folders, and files with these suffixes in upper o
         for suffix; do
             [[ ${name,,} == *.$suffix ]] && COMPREPLY+=("$name")
         done
-    done < <(compgen -f -- "${COMP_WORDS[COMP_CWORD]}")
+    done < <(compgen -f -- "$word")
 }
 
 _veilaway()
