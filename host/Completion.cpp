@@ -111,7 +111,7 @@ _veilaway()
 {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=run names=0 i options
     COMPREPLY=()
-    if [[ $word == = ]]; then # --option=VALUE is three words
+    if [[ $word == = ]]; then # an option, this sign and its value are three words
         word=
     elif [[ $before == = ]]; then
         before=${COMP_WORDS[COMP_CWORD - 2]}
