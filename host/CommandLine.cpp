@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 #include "HostApplication.h"
 #include "OptionTable.h"
@@ -65,7 +66,11 @@ CommandLine CommandLine::parse(const QStringList &given)
         const QString unknown = parser.unknownOptionNames().value(0);
         const QString meant =
             unknown.size() > 1 ? OptionTable::nearest(unknown, optionNames(command ? command->bit : BitRun)) : "";
-        return fail(parser.errorText() + (meant.isEmpty() ? QString() : ' ' + tr("Did you mean --%1?").arg(meant)));
+        QString advice = meant.isEmpty() ? QString() : ' ' + tr("Did you mean --%1?").arg(meant);
+        for (const QString &argument : given.mid(1))
+            if (argument.startsWith('-') && QFileInfo::exists(argument))
+                advice = ' ' + tr("Write \"./%1\" for the photograph of this name.").arg(argument);
+        return fail(parser.errorText() + advice);
     }
     line.pluginFile = parser.value("plugin");
     line.language = parser.value("language");

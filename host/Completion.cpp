@@ -92,7 +92,7 @@ QString bashScript()
                 .arg(latin(word.name), joined(
                                            " ", [](const CommandOption &option) { return "--" + option.longName(); }, word.bit));
     return QStringLiteral(R"script(# Bash completion for veilaway, as "veilaway completion bash" writes it.
-_veilaway_files() # SUFFIX...: folders, and files with these suffixes in upper or lower case; without a suffix, all files
+_veilaway_files() # SUFFIX...: what $word begins; folders, and files with these suffixes in upper or lower case; without a suffix, all files
 {
     local name suffix
     compopt -o filenames
@@ -104,13 +104,18 @@ _veilaway_files() # SUFFIX...: folders, and files with these suffixes in upper o
         for suffix; do
             [[ ${name,,} == *.$suffix ]] && COMPREPLY+=("$name")
         done
-    done < <(compgen -f -- "${COMP_WORDS[COMP_CWORD]}")
+    done < <(compgen -f -- "$word")
 }
 
 _veilaway()
 {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=run names=0 i options
     COMPREPLY=()
+    if [[ $word == = ]]; then # an option, this sign and its value are three words
+        word=
+    elif [[ $before == = ]]; then
+        before=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
     for ((i = 1; i < COMP_CWORD; ++i)); do
         [[ ${COMP_WORDS[i]} == -- ]] && names=1
         [[ " %1 " == *" ${COMP_WORDS[i]} "* && $names == 0 ]] && command=${COMP_WORDS[i]} && break

@@ -257,6 +257,12 @@ bool RunCommand::keepSettings(const ProgressView &view)
 {
     if (!settings)
         return true;
+    try { // what the user or another run has written meanwhile is not to be lost
+        settings->load();
+    } catch (const VException &failure) {
+        ProgressView::complain(failure.message);
+        return false;
+    }
     for (const QString &path : qAsConst(recorded))
         if (results.contains(path))
             settings->remove(path);
@@ -264,12 +270,13 @@ bool RunCommand::keepSettings(const ProgressView &view)
     for (std::size_t i = 0; i < items.size(); ++i) {
         const BatchItem &item = items[i];
         const auto strength = view.strength(i);
-        if (item.recordable && !item.automatic)
+        // A strength that comes from the file is not written back: it may have been changed there meanwhile, for the next run.
+        if (item.recordable && !item.automatic && (line.strength || settings->element(item.path).isNull()))
             settings->setElement(item.path, item.settings);
-        else if (item.recordable && strength)
+        if (item.recordable && item.automatic && strength)
             settings->setElement(item.path, SettingsFile::withStrength(name, *strength, /*automatic=*/true));
         if (view.hasResult(i))
-            settings->setResult(item.path, item.result, *strength, SettingsFile::isAutomatic(settings->element(item.path)));
+            settings->setResult(item.path, item.result, *strength, item.automatic || SettingsFile::isAutomatic(item.settings));
     }
     try {
         settings->save();

@@ -60,7 +60,6 @@ struct BatchItem
     QByteArray givenBytes;  ///< The same as the file system has it if that is not UTF-8, otherwise empty.
     QString path;           ///< Absolute.
     QString result;         ///< Absolute; the file that will be written.
-    bool apart = false;     ///< The process would write another file: see PrivateRun.
     ResultPacking packing;  ///< Only what applies to the result's format.
     bool automatic = false; ///< The strength is chosen once the photograph is decoded; `settings` and `strength` are unused.
     QDomElement settings;   ///< Of the process.

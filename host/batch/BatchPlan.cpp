@@ -12,6 +12,7 @@
 #include <sys/stat.h>
 
 #include "argumentText.h"
+#include "ignoresCase.h"
 #include "inWindow.h"
 #include "photoKind.h"
 
@@ -39,6 +40,12 @@ QString placeOf(const QString &path)
 QString pathOf(const QString &given)
 {
     return given.contains("..") ? placeOf(QDir::current().filePath(given)) : QFileInfo(given).absoluteFilePath();
+}
+
+/// The same for all spellings of a place that a file system may take for one.
+QString foldedPlace(const QString &place)
+{
+    return place.normalized(QString::NormalizationForm_C).toCaseFolded();
 }
 
 constexpr int kFirstNumber = 2; ///< Of results that get one.
@@ -81,8 +88,11 @@ QString existingFolder(QString folder)
 /// strength that is wanted now.
 bool isCurrent(const BatchItem &item, const BatchPlan::Options &options)
 {
+    // Memory cards keep times in steps of two seconds, so that a time that was given to a result may come out earlier.
+    constexpr int kStepMs = 2000;
     const QFileInfo result(item.result);
-    if (!result.isFile() || result.lastModified() < QFileInfo(item.path).lastModified())
+    const qint64 olderByMs = result.lastModified().msecsTo(QFileInfo(item.path).lastModified());
+    if (!result.isFile() || olderByMs > (item.keepTime ? kStepMs : 0))
         return false;
     if (!options.settings)
         return true;
@@ -145,14 +155,18 @@ QSet<QString> BatchPlan::resultsAmong(const QStringList &files, const QStringLis
         const QString tag = found ? catalogue.translate(kTagContext, kTag) : QString();
         tags << (tag.isEmpty() ? QString::fromLatin1(kTag) : tag);
     }
-    QSet<QString> places;
+    QSet<QString> places, mayHaveNumber; // see Existing::Number
     for (const QString &photograph : photographs) {
         const QString path = pathOf(photograph);
         const bool tiff = host.imageDef(path)->needsTiffOutput();
         QSet<QString> own;
         for (const QString &tag : qAsConst(tags))
             own << placeOf(nameWith(tag, path, tiff));
-        own << placeOf(resultOf(path, photograph, options, tiff));
+        const QString wanted = placeOf(resultOf(path, photograph, options, tiff));
+        mayHaveNumber += own;
+        if (!options.outputIsFile && options.tag != QString())
+            mayHaveNumber << wanted;
+        own << wanted;
         if (options.settings)
             for (const QString &result : options.settings->results(path))
                 own << placeOf(result);
@@ -160,10 +174,11 @@ QSet<QString> BatchPlan::resultsAmong(const QStringList &files, const QStringLis
         places += own;
     }
     QSet<QString> results;
-    for (const QString &file : files)
-        if (const QString path = pathOf(file), place = placeOf(path);
-            (places.contains(place) || places.contains(withoutNumber(place))) && !QFileInfo(path).isDir())
+    for (const QString &file : files) {
+        const QString path = pathOf(file), place = placeOf(path);
+        if ((places.contains(place) || mayHaveNumber.contains(withoutNumber(place))) && !QFileInfo(path).isDir())
             results << file;
+    }
     return results;
 }
 
@@ -231,7 +246,6 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
         item.result = resultOf(item.path, photograph, options, tiff);
         const QString suffix = QFileInfo(item.path).suffix();
         item.packing = packingFor(item.result, options.packing);
-        item.apart = item.result != resultName(item.path, tiff) || !item.packing.isUsual();
         if (tiff && !options.outputIsFile && !PhotoLoader::rawSuffixes().contains(suffix.toLower()))
             item.note = suffix.isEmpty() ? tr("It has no suffix, so the result is a TIFF.")
                                          : tr("\"%1\" is not a format that can be written, so the result is a TIFF.").arg(suffix);
@@ -242,37 +256,54 @@ std::vector<BatchItem> BatchPlan::make(const QStringList &photographs, HostAppli
     }
 
     std::map<FileId, std::size_t> sources;
-    for (const auto &[place, index] : inputs)
+    std::map<QString, std::size_t> sourceSpellings; // folded place -> item
+    for (const auto &[place, index] : inputs) {
         if (const auto id = idOf(place))
             sources.emplace(*id, index);
-    std::map<QString, std::size_t> results;
+        sourceSpellings.emplace(foldedPlace(place), index);
+    }
+    std::map<QString, std::size_t> results, resultSpellings; // place -> item
+    /// The item with this place, or with one that is the same file although it is spelt differently. The file system's numbers
+    /// don't tell: there may be no file yet, and some count each spelling.
+    const auto itemAt = [&](const QString &place, const std::map<QString, std::size_t> &exact,
+                            const std::map<QString, std::size_t> &folded) -> std::optional<std::size_t> {
+        if (const auto found = exact.find(place); found != exact.end())
+            return found->second;
+        if (const auto found = folded.find(foldedPlace(place));
+            found != folded.end() && ignoresCase(existingFolder(QFileInfo(place).absolutePath())))
+            return found->second;
+        return std::nullopt;
+    };
     for (std::size_t index = 0; index < items.size(); ++index) {
         BatchItem &item = items[index];
         if (!item.refusal.isEmpty())
             continue;
         if (item.existing == Existing::Number) {
             const QString wanted = item.result;
-            for (int number = kFirstNumber; isThere(item.result) || results.count(placeOf(item.result)); ++number) {
+            for (int number = kFirstNumber; isThere(item.result) || itemAt(placeOf(item.result), results, resultSpellings);
+                 ++number)
                 item.result = numbered(wanted, number);
-                item.apart = true;
-            }
         }
         const QString place = placeOf(item.result);
-        const auto id = idOf(item.result);
-        const auto source = id ? sources.find(*id) : sources.end();
-        const auto [first, fresh] = results.emplace(place, index);
-        if (source != sources.end()) {
+        std::optional<std::size_t> source = itemAt(place, inputs, sourceSpellings);
+        if (const auto id = idOf(item.result); id && !source)
+            if (const auto found = sources.find(*id); found != sources.end())
+                source = found->second;
+        if (source) {
             item.refusal = (inWindow() ? tr("Its result \"%1\" is the same file as the photograph \"%2\". Move one of the two "
                                             "away, or choose another folder for the results.")
                                        : tr("Its result \"%1\" is the same file as the photograph \"%2\". Move one of the two "
                                             "away, or choose another folder with --output."))
-                               .arg(item.result, items[source->second].given);
-        } else if (!fresh) {
-            item.refusal = tr("Its result \"%1\" would also be the result of \"%2\". Rename one of the two photographs.")
-                               .arg(item.result, items[first->second].given);
+                               .arg(item.result, items[*source].given);
+        } else if (const auto first = itemAt(place, results, resultSpellings)) {
+            item.refusal = tr("Its result \"%1\" would also be the result of \"%2\". Rename one of the two photographs, or "
+                              "give their results different folders.")
+                               .arg(item.result, items[*first].given);
         } else {
             checkResult(item, options);
         }
+        results.emplace(place, index);
+        resultSpellings.emplace(foldedPlace(place), index);
     }
     return items;
 }
@@ -290,6 +321,14 @@ void BatchPlan::checkResult(BatchItem &item, const Options &options)
         item.skipped = skippedText(item.result);
     } else if (item.existing == Existing::Update && isCurrent(item, options)) {
         item.skipped = tr("Skipped: its result \"%1\" is newer than the photograph.").arg(item.result);
+    } else if (result.exists() && !(result.isFile() && result.isWritable())) {
+        item.refusal =
+            (inWindow()
+                 ? tr("Its result \"%1\" is write-protected or not a regular file. Move it away, or choose another folder for "
+                      "the results.")
+                 : tr("Its result \"%1\" is write-protected or not a regular file. Move it away, or choose another folder with "
+                      "--output."))
+                .arg(item.result);
     } else if (!QFileInfo(folder).isDir()) {
         item.refusal =
             (inWindow() ? tr("Its result can't be written: \"%1\" is not a folder. Choose another one for the results.")

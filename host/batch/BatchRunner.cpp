@@ -21,7 +21,6 @@
 #include "PrivateRun.h"
 #include "VException.h"
 #include "WantedStrength.h"
-#include "carryXmp.h"
 #include "inWindow.h"
 #include "kernel32.h"
 #include "threadCount.h"
@@ -47,7 +46,8 @@ QStringList missingFolders(const std::vector<BatchItem> &items)
     for (const BatchItem &item : items) {
         QStringList chain;
         for (QString folder = QFileInfo(item.result).absolutePath();
-             item.apart && !missing.contains(folder) && !QFileInfo::exists(folder); folder = QFileInfo(folder).absolutePath())
+             !item.result.isEmpty() && !missing.contains(folder) && !QFileInfo::exists(folder);
+             folder = QFileInfo(folder).absolutePath())
             chain.prepend(folder);
         missing += chain;
     }
@@ -145,6 +145,7 @@ std::optional<BatchOutcome> BatchRunner::foresee(const BatchItem &item, Forecast
         forecast.head = application.photograph(item.path)->facts();
         forecast.memoryBytes = memoryFor(forecast.head, isUntouched(item));
         [[maybe_unused]] const bool wide = isWide(forecast.head, isUntouched(item));
+        PrivateRun::checkDepth(item, forecast.head.bits);
         return std::nullopt;
     } catch (const VException &failure) {
         BatchOutcome outcome;
@@ -167,12 +168,10 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
         return stopped();
     if (const auto planned = plannedOutcome(item))
         return *planned;
-    const bool existedBefore = exists(item.result);
     bool outOfMemory = false;
     try {
         attempt(item, index, stage, outcome);
         outcome.status = outcome.unchanged.isEmpty() ? BatchOutcome::Status::Done : BatchOutcome::Status::Unchanged;
-        complete(item, outcome);
         return outcome;
     } catch (const VException &failure) {
         outcome.message = failure.message.isEmpty() ? tr("The plug-in failed at %1").arg(failure.location) : failure.message;
@@ -182,9 +181,6 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     } catch (const std::exception &failure) {
         outcome.message = QString::fromLocal8Bit(failure.what());
     }
-    // The write check of a failed save may have left an empty file. One with content is another program's.
-    if (!existedBefore && QFileInfo(item.result).size() == 0)
-        QFile::remove(item.result);
     if (stopping)
         return stopped();
     if (outcome.reason == BatchOutcome::Reason::ResultExists) {
@@ -206,41 +202,24 @@ BatchOutcome BatchRunner::process(const BatchItem &item, int index)
     if (outOfMemory || stage == Stage::Dehazing)
         outcome.message += ' ' + (inWindow() ? tr("Close other programs and try again.")
                                              : tr("Close other programs, or work on one photograph at a time (--jobs 1)."));
-    else if (stage == Stage::Saving)
+    else if (stage == Stage::Saving) {
+        const QString temporary = QDir::tempPath(); // where the file system of the result has no links
         outcome.message +=
-            ' ' +
-            tr("Make room in the folder \"%1\", and check that you can write to it.").arg(QFileInfo(item.result).absolutePath());
-    return outcome;
-}
-
-void BatchRunner::complete(const BatchItem &item, BatchOutcome &outcome)
-{
-    QStringList lacks;
-    if (application.photograph(item.path)->facts().furtherPictures)
-        lacks << tr("The file also holds a gain map or further pictures, which don't fit the result and are left out.");
-    if (!outcome.message.isEmpty())
-        lacks << tr("The result was written, but the photograph's XMP could not be copied into it: %1.").arg(outcome.message);
-    if (item.keepTime) {
-        QFile result(item.result);
-        if (!result.open(QIODevice::ReadWrite) ||
-            !result.setFileTime(QFileInfo(item.path).lastModified(), QFileDevice::FileModificationTime))
-            lacks << tr("The result was written, but could not be given the photograph's time of modification: %1.")
-                         .arg(result.errorString());
+            ' ' + tr("Make room in the folder \"%1\", and check that you can write to it.")
+                      .arg(outcome.message.contains('"' + temporary + '"') ? temporary : QFileInfo(item.result).absolutePath());
     }
-    outcome.message = lacks.join(' ');
+    return outcome;
 }
 
 void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage> &stage, BatchOutcome &outcome)
 {
-    Photograph &original = *application.photograph(item.path);
-    const PhotoHead facts = original.facts();
+    const PhotoHead facts = application.photograph(item.path)->facts();
     const bool untouched = isUntouched(item), wide = isWide(facts, untouched);
+    PrivateRun::checkDepth(item, facts.bits);
     const int limit = untouched ? 0 : kRefusedWidth;
 
-    std::optional<PrivateRun> apart;
-    if (wide || item.apart || facts.needsStandIn)
-        apart.emplace(application, item, /*rowsForColumns=*/wide);
-    Photograph &photograph = apart ? apart->photograph() : original;
+    PrivateRun run(application, item, /*rowsForColumns=*/wide);
+    Photograph &photograph = run.photograph();
 
     const qint64 bytes = memoryFor(photograph.facts(), untouched);
     reserve(bytes);
@@ -261,8 +240,8 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
     photograph.watch([&](Photograph::Use use) {
         if (stopping)
             endRun();
-        if (use == Photograph::Use::Read && apart)
-            apart->checkDepth();
+        if (use == Photograph::Use::Read)
+            PrivateRun::checkDepth(item, photograph.bitsPerChannel());
         if (use == Photograph::Use::Released && !item.replaces() && exists(item.result))
             resultExists();
         stage = use == Photograph::Use::Reading ? Stage::Reading : use == Photograph::Use::Read ? Stage::Dehazing : Stage::Saving;
@@ -278,20 +257,18 @@ void BatchRunner::attempt(const BatchItem &item, int index, std::optional<Stage>
         settings = one2one.createSettings(item.automatic ? SettingsFile::withStrength(one2one.name(), *outcome.strength)
                                                          : item.settings);
     }
-    if (apart) {
-        apart->run(one2one, settings);
-        outcome.unchanged = whyUnchanged(one2one, settings);
-        outcome.message = apart->carryXmp();
-        if (!apart->publish())
-            resultExists();
-        return;
-    }
-    QString written;
-    one2one.run(item.path, settings, &written);
-    if (written != item.result || QFileInfo(written).size() == 0)
-        throw VException(tr("The plug-in wrote \"%1\" instead of \"%2\"").arg(written, item.result), V_LOCATION);
+    run.run(one2one, settings);
     outcome.unchanged = whyUnchanged(one2one, settings);
-    outcome.message = carryXmp(item.path, item.result);
+    QStringList lacks;
+    if (facts.furtherPictures)
+        lacks << tr("The file also holds a gain map or further pictures, which don't fit the result and are left out.");
+    if (const QString reason = run.carryXmp(); !reason.isEmpty())
+        lacks << tr("The result was written, but the photograph's XMP could not be copied into it: %1.").arg(reason);
+    if (const QString reason = run.bringHome(); !reason.isEmpty())
+        lacks << tr("The result was written, but could not be given the photograph's time of modification: %1.").arg(reason);
+    outcome.message = lacks.join(' ');
+    if (!run.publish())
+        resultExists();
 }
 
 qint64 BatchRunner::memoryFor(const PhotoHead &facts, bool untouched)

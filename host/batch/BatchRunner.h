@@ -69,10 +69,8 @@ private:
     void work(const std::vector<BatchItem> &items);
     BatchOutcome process(const BatchItem &item, int index);
     /// Writes the result or throws. Notes the stage it is in, and in `outcome` the reason of a failure, why a result is
-    /// unchanged, the strength of an automatic item as soon as it is known, and as message why its XMP is missing.
+    /// unchanged, the strength of an automatic item as soon as it is known, and as message what the result lacks.
     void attempt(const BatchItem &item, int index, std::optional<Stage> &stage, BatchOutcome &outcome);
-    /// The last steps for a written result.
-    void complete(const BatchItem &item, BatchOutcome &outcome);
     void reserve(qint64 bytes);
     void giveBack(qint64 bytes);
 

@@ -53,6 +53,16 @@ void PhotographList::addList(const QString &argument)
                          V_LOCATION);
     if (text.startsWith("\xef\xbb\xbf"))
         text.remove(0, 3);
+    // In the other form, the whole list would be one name, of which a message can hardly say what is wrong with it.
+    if (!form.nullSeparated && text.contains('\0'))
+        throw VException(
+            tr("The list \"%1\" holds null bytes. Add --null (-0) if its names end with them, or save it as text in UTF-8.")
+                .arg(standard ? argument : file.fileName()),
+            V_LOCATION);
+    if (form.nullSeparated && text.endsWith('\n') && !text.contains('\0'))
+        throw VException(tr("The list \"%1\" holds no null bytes. Leave out --null (-0) if it has one name per line.")
+                             .arg(standard ? argument : file.fileName()),
+                         V_LOCATION);
     for (QByteArray line : text.split(form.nullSeparated ? '\0' : '\n')) {
         // Other systems end lines with a carriage return as well, which may also be a part of a name.
         if (!form.nullSeparated && line.endsWith('\r') && !QFileInfo::exists(QString::fromUtf8(line)))

@@ -110,9 +110,8 @@ PrivateRun::~PrivateRun()
         application.forget(link);
 }
 
-void PrivateRun::checkDepth()
+void PrivateRun::checkDepth(const BatchItem &item, int bits)
 {
-    const int bits = shown->bitsPerChannel();
     const PhotoKind format = formatOf(item.result);
     if (format != formatOf(item.path) && bits > depthOf(format))
         throw VException(tr("Its %1 bits per channel don't fit into a file of this format. Choose a name that ends in .tif, .psd "
@@ -124,10 +123,11 @@ void PrivateRun::checkDepth()
 QString PrivateRun::withKnownPaths(QString message) const
 {
     message.replace(link, item.path);
-    for (const PrivateFolder *folder : {home.get(), elsewhere.get()})
+    for (const auto &[folder, outside] :
+         {std::pair(home.get(), QFileInfo(item.result).absolutePath()), std::pair(elsewhere.get(), QDir::tempPath())})
         if (folder)
             message.replace(QRegularExpression(QRegularExpression::escape(folder->path()) + "/[^\"/]+"), item.result)
-                .replace(folder->path(), QFileInfo(item.result).absolutePath());
+                .replace(folder->path(), outside);
     return message;
 }
 
@@ -176,7 +176,7 @@ QString PrivateRun::carryXmp() const
     return withKnownPaths(::carryXmp(metadataSource(), finished));
 }
 
-bool PrivateRun::publish()
+QString PrivateRun::bringHome()
 {
     if (elsewhere && finished.startsWith(elsewhere->path())) {
         const QString near = home->filePath(QFileInfo(finished).fileName());
@@ -185,6 +185,14 @@ bool PrivateRun::publish()
             throw VException(tr("\"%1\" can't be written: %2.").arg(item.result, source.errorString()), V_LOCATION);
         finished = near;
     }
+    QFile file(finished);
+    const bool timed = !item.keepTime || (file.open(QIODevice::ReadWrite) && file.setFileTime(QFileInfo(item.path).lastModified(),
+                                                                                              QFileDevice::FileModificationTime));
+    return timed ? QString() : file.errorString();
+}
+
+bool PrivateRun::publish()
+{
     struct stat older;
     if (::stat(QFile::encodeName(target).constData(), &older) == 0)
         ::chmod(QFile::encodeName(finished).constData(), older.st_mode & 07777);

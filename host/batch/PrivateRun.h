@@ -10,10 +10,9 @@
 #include "PrivateFolder.h"
 #include "VIPluginOne2One.h"
 
-/// One run of a process whose result goes elsewhere than the process would write it, or needs a further step before it is
-/// complete. The process sees the photograph through a link in a private folder on the result's file system, and writes there.
-/// The finished file then gets the result's name in one step: under that name there is at any time nothing, an older file, or the
-/// finished result.
+/// One run of a process. The process sees the photograph through a link in a private folder on the result's file system, and
+/// writes there. The finished file, XMP included, then gets the result's name in one step: under that name there is at any time
+/// nothing, an older file, or the finished result.
 ///
 /// A photograph that is too wide for the process is seen with rows for columns. The result of a JPEG is turned back in its
 /// coefficients; all others in their pixels, and written with the photograph's own metadata, as a process writes them. Neither
@@ -36,16 +35,20 @@ public:
 
     /// The photograph as the process sees it.
     Photograph &photograph() { return *shown; }
-    /// Throws VException if the result's format can't hold the samples of the photograph, which must have been decoded.
-    void checkDepth();
     /// Runs the process and finishes its result in the private folder. Throws VException, whose message names the paths that the
     /// user knows.
     void run(VIPluginOne2One &process, VISettingsHandle settings);
     /// The same for the finished result's XMP; see the function of this name.
     [[nodiscard]] QString carryXmp() const;
-    /// Gives the finished file the result's name. False if a file has that name already and is not to be replaced. Throws
-    /// VException.
+    /// Brings the finished file to the result's file system, where it gets the photograph's time of modification if the item
+    /// wants that. Returns the reason if it can't have it, otherwise an empty string. Throws VException.
+    [[nodiscard]] QString bringHome();
+    /// After bringHome, gives the finished file the result's name. False if a file has that name already and is not to be
+    /// replaced. Throws VException.
     [[nodiscard]] bool publish();
+
+    /// Throws VException if the result's format can't hold the photograph's samples of so many bits per channel.
+    static void checkDepth(const BatchItem &item, int bits);
 
     /// Removes what killed runs left behind, wherever runs for these results would work.
     static void removeAbandoned(const std::vector<BatchItem> &items);

@@ -82,6 +82,8 @@ QString PhotoLoader::complaint(const QString &path)
         return tr("An empty name cannot be that of a photograph.");
     if (!info.exists() && path.contains(QChar::ReplacementCharacter))
         return tr("Its name or that of a folder holds letters that are not UTF-8. Rename it.");
+    if (const QFileInfo folder(info.absolutePath()); folder.isDir() && !folder.isExecutable())
+        return tr("Its folder can't be opened. Give yourself the permission to open it.");
     if (!info.exists())
         return info.isSymLink() ? tr("The link leads nowhere. Name the photograph itself.")
                                 : tr("There is no such file. Check its name and folder.");

@@ -6,6 +6,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -29,19 +31,33 @@ bool isLockOf(const QString &folder, int lock)
            opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
-/// The lock goes last, so that a folder that is half removed is still recognised.
-void removeWhole(const QString &folder)
+int openFolder(const QString &path)
 {
-    for (const QString &name : QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
-        if (name != kLockName)
-            QFile::remove(folder + '/' + name);
-    QFile::remove(folder + '/' + kLockName);
-    ::rmdir(QFile::encodeName(folder).constData());
+    return ::open(QFile::encodeName(path).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+}
+
+/// Removes a folder with everything in it from its `parent`, a descriptor. The lock goes last, so that a folder that is half
+/// removed is still recognised. `lock`, if it is open, is closed: on some file systems (NFS, FUSE), the file remains under
+/// another name until then, and keeps the folder.
+void removeWhole(int parent, const QString &folder, int lock)
+{
+    const QByteArray name = QFile::encodeName(QFileInfo(folder).fileName());
+    const int inside = ::openat(parent, name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    if (DIR *const entries = inside < 0 ? nullptr : ::fdopendir(inside)) {
+        while (const dirent *entry = ::readdir(entries))
+            if (kLockName != QLatin1String(entry->d_name))
+                ::unlinkat(inside, entry->d_name, 0); // folders, as . and .., stay
+        ::unlinkat(inside, kLockName.toLatin1().constData(), 0);
+        ::closedir(entries);
+    }
+    if (lock >= 0)
+        ::close(lock);
+    ::unlinkat(parent, name.constData(), AT_REMOVEDIR);
 }
 
 } // namespace
 
-PrivateFolder::PrivateFolder(const QString &parent)
+PrivateFolder::PrivateFolder(const QString &parent) : parentFolder(openFolder(parent))
 {
     // Between its creation and its lock, another process may take the folder for an abandoned one and remove it.
     constexpr int kAttempts = 10;
@@ -55,7 +71,7 @@ PrivateFolder::PrivateFolder(const QString &parent)
         if (takeLock())
             return;
         reason = qt_error_string(errno);
-        removeWhole(std::exchange(folder, QString()));
+        removeWhole(parentFolder, std::exchange(folder, QString()), -1);
     }
 }
 
@@ -74,13 +90,14 @@ bool PrivateFolder::takeLock()
 PrivateFolder::~PrivateFolder()
 {
     if (!folder.isEmpty())
-        removeWhole(folder);
-    if (lock >= 0)
-        ::close(lock);
+        removeWhole(parentFolder, folder, lock);
+    if (parentFolder >= 0)
+        ::close(parentFolder);
 }
 
 void PrivateFolder::removeAbandoned(const QString &parent)
 {
+    const int parentFolder = openFolder(parent);
     const QStringList names = QDir(parent).entryList({kPrefix + '*'}, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
     for (const QString &name : names) {
         const QString abandoned = parent + '/' + name;
@@ -93,7 +110,10 @@ void PrivateFolder::removeAbandoned(const QString &parent)
         if (found < 0)
             continue;
         if (::flock(found, LOCK_EX | LOCK_NB) == 0 && isLockOf(abandoned, found))
-            removeWhole(abandoned);
-        ::close(found);
+            removeWhole(parentFolder, abandoned, found);
+        else
+            ::close(found);
     }
+    if (parentFolder >= 0)
+        ::close(parentFolder);
 }

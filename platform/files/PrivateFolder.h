@@ -28,5 +28,6 @@ private:
 
     QString folder;
     QString reason;
-    int lock = -1; ///< A descriptor.
+    const int parentFolder; ///< A descriptor, so that the folder is found even if one above it is renamed.
+    int lock = -1;          ///< A descriptor.
 };

@@ -32,12 +32,20 @@
         <translation>Das Format „%1“ kann nicht geschrieben werden, daher wird das Ergebnis ein TIFF.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder for the results.</source>
+        <translation>Das Ergebnis „%1“ ist dieselbe Datei wie das Foto „%2“. Verschieben Sie eines der beiden, oder wählen Sie einen anderen Ordner für die Ergebnisse.</translation>
+    </message>
+    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder with --output.</source>
         <translation>Das Ergebnis „%1“ ist dieselbe Datei wie das Foto „%2“. Verschieben Sie eines der beiden, oder wählen Sie mit --output einen anderen Ordner.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Das Ergebnis „%1“ wäre zugleich das von „%2“. Benennen Sie eines der beiden Fotos um.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
+        <translation>Das Ergebnis „%1“ wäre zugleich das von „%2“. Benennen Sie eines der beiden Fotos um, oder geben Sie für die Ergebnisse verschiedene Ordner an.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
@@ -48,8 +56,20 @@
         <translation>Übersprungen: Das Ergebnis „%1“ ist neuer als das Foto.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>
+        <translation>Das Ergebnis „%1“ ist schreibgeschützt oder keine gewöhnliche Datei. Verschieben Sie es, oder wählen Sie mit --output einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one for the results.</source>
+        <translation>Das Ergebnis kann nicht geschrieben werden: „%1“ ist kein Ordner. Wählen Sie einen anderen für die Ergebnisse.</translation>
+    </message>
+    <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one with --output.</source>
         <translation>Das Ergebnis kann nicht geschrieben werden: „%1“ ist kein Ordner. Wählen Sie mit --output einen anderen.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one for the results.</source>
+        <translation>Das Ergebnis kann nicht geschrieben werden: Der Ordner „%1“ ist schreibgeschützt. Wählen Sie einen anderen für die Ergebnisse.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one with --output.</source>
@@ -79,6 +99,10 @@
         <translation>Das Foto wurde geändert, verschoben oder gelöscht, während der Dunst entfernt wurde. Legen Sie es zurück und beginnen Sie von vorn.</translation>
     </message>
     <message>
+        <source>Close other programs and try again.</source>
+        <translation>Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>Schließen Sie andere Programme oder bearbeiten Sie die Fotos einzeln (--jobs 1).</translation>
     </message>
@@ -99,10 +123,6 @@
         <translation>Das Ergebnis liegt vor, aber die Änderungszeit des Fotos konnte nicht übernommen werden: %1.</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>Das Plug-in hat „%1“ statt „%2“ geschrieben</translation>
-    </message>
-    <message>
         <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>Das Foto braucht etwa %1 Arbeitsspeicher, frei sind %2. Schließen Sie andere Programme oder verkleinern Sie das Foto.</translation>
     </message>
@@ -112,6 +132,10 @@
     <message>
         <source>Did you mean --%1?</source>
         <translation>Meinten Sie --%1?</translation>
+    </message>
+    <message>
+        <source>Write &quot;./%1&quot; for the photograph of this name.</source>
+        <translation>Schreiben Sie „./%1“ für das Foto dieses Namens.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be followed by one of %2, not &quot;%3&quot;.</source>
@@ -234,6 +258,10 @@
     <message>
         <source>Histogram</source>
         <translation>Histogramm</translation>
+    </message>
+    <message>
+        <source>The result; dashed: the photograph as it was</source>
+        <translation>Das Ergebnis; gestrichelt: das Foto, wie es war</translation>
     </message>
     <message>
         <source>Black %1 %, white %2 %</source>
@@ -371,8 +399,16 @@
         <translation>Die Datei ist unvollständig oder beschädigt. Kopieren Sie sie erneut von der Kamera oder aus einer Sicherung.</translation>
     </message>
     <message>
+        <source>There is not enough memory for it. Close other programs and try again.</source>
+        <translation>Der Arbeitsspeicher reicht dafür nicht aus. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>Der Arbeitsspeicher reicht dafür nicht aus. Schließen Sie andere Programme oder bearbeiten Sie die Fotos einzeln (--jobs 1).</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this camera raw file. Close other programs and try again.</source>
+        <translation>Der Arbeitsspeicher reicht für diese RAW-Datei nicht aus. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -393,6 +429,10 @@
     <message>
         <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
         <translation>Sein Name oder der eines Ordners enthält Zeichen, die kein UTF-8 sind. Benennen Sie es um.</translation>
+    </message>
+    <message>
+        <source>Its folder can&apos;t be opened. Give yourself the permission to open it.</source>
+        <translation>Sein Ordner kann nicht geöffnet werden. Geben Sie sich das Recht, ihn zu öffnen.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
@@ -526,6 +566,14 @@
         <source>The list &quot;%1&quot; can&apos;t be read: %2. Check its name, or write ./@... for a photograph whose name begins with @.</source>
         <translation>Die Liste „%1“ kann nicht gelesen werden: %2. Prüfen Sie den Namen, oder schreiben Sie ./@..., wenn der Name eines Fotos mit @ beginnt.</translation>
     </message>
+    <message>
+        <source>The list &quot;%1&quot; holds null bytes. Add --null (-0) if its names end with them, or save it as text in UTF-8.</source>
+        <translation>Die Liste „%1“ enthält Nullbytes. Fügen Sie --null (-0) hinzu, wenn die Namen damit enden, oder speichern Sie sie als Text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>The list &quot;%1&quot; holds no null bytes. Leave out --null (-0) if it has one name per line.</source>
+        <translation>Die Liste „%1“ enthält keine Nullbytes. Lassen Sie --null (-0) weg, wenn in jeder Zeile ein Name steht.</translation>
+    </message>
 </context>
 <context>
     <name>PictureRenderer</name>
@@ -539,6 +587,10 @@
     <message>
         <source>Photograph</source>
         <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>Hold: the photograph before</source>
@@ -614,6 +666,10 @@
 </context>
 <context>
     <name>PrivateRun</name>
+    <message>
+        <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder for the results.</source>
+        <translation>Im Ordner „%1“ können keine Dateien angelegt werden: %2. Schaffen Sie dort Platz, oder wählen Sie einen anderen Ordner für die Ergebnisse.</translation>
+    </message>
     <message>
         <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder with --output.</source>
         <translation>Im Ordner „%1“ können keine Dateien angelegt werden: %2. Schaffen Sie dort Platz, oder wählen Sie mit --output einen anderen Ordner.</translation>
@@ -1140,6 +1196,13 @@
         <source>Camera raw</source>
         <translation>Kamera-Rohdaten</translation>
     </message>
+    <message numerus="yes">
+        <source>Add %n photograph(s)</source>
+        <translation>
+            <numerusform>%n Foto hinzufügen</numerusform>
+            <numerusform>%n Fotos hinzufügen</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Change strength</source>
         <translation>Stärke ändern</translation>
@@ -1336,6 +1399,14 @@
     <message>
         <source>Next photograph</source>
         <translation>Nächstes Foto</translation>
+    </message>
+    <message>
+        <source>First photograph</source>
+        <translation>Erstes Foto</translation>
+    </message>
+    <message>
+        <source>Last photograph</source>
+        <translation>Letztes Foto</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -1570,12 +1641,12 @@
         <translation>Nicht weiter speichern; fertige Ergebnisse bleiben</translation>
     </message>
     <message>
-        <source>Try a&amp;gain</source>
-        <translation>&amp;Erneut versuchen</translation>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
-        <source>Save those again that failed</source>
-        <translation>Die fehlgeschlagenen noch einmal speichern</translation>
+        <source>Try again those photographs that failed</source>
+        <translation>Fotos, die fehlgeschlagen sind, erneut versuchen</translation>
     </message>
     <message>
         <source>Full screen</source>

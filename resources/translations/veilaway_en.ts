@@ -145,6 +145,13 @@
 <context>
     <name>Series</name>
     <message numerus="yes">
+        <source>Add %n photograph(s)</source>
+        <translation>
+            <numerusform>Add %n photograph</numerusform>
+            <numerusform>Add %n photographs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>Remove %n photograph(s)</source>
         <translation>
             <numerusform>Remove %n photograph</numerusform>

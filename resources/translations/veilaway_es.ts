@@ -32,12 +32,20 @@
         <translation>El formato «%1» no se puede escribir, así que el resultado será un TIFF.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder for the results.</source>
+        <translation>Su resultado «%1» es el mismo archivo que la foto «%2». Mueva uno de los dos o elija otra carpeta para los resultados.</translation>
+    </message>
+    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder with --output.</source>
         <translation>Su resultado «%1» es el mismo archivo que la foto «%2». Mueva uno de los dos o elija otra carpeta con --output.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Su resultado «%1» sería también el de «%2». Cambie el nombre de una de las dos fotos.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
+        <translation>Su resultado «%1» sería también el de «%2». Cambie el nombre de una de las dos fotos o dé a sus resultados carpetas distintas.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
@@ -48,8 +56,20 @@
         <translation>Omitida: su resultado «%1» es más reciente que la foto.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>
+        <translation>Su resultado «%1» está protegido contra escritura o no es un archivo normal. Muévalo o elija otra carpeta con --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one for the results.</source>
+        <translation>No se puede escribir su resultado: «%1» no es una carpeta. Elija otra para los resultados.</translation>
+    </message>
+    <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one with --output.</source>
         <translation>No se puede escribir su resultado: «%1» no es una carpeta. Elija otra con --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one for the results.</source>
+        <translation>No se puede escribir su resultado: la carpeta «%1» es de solo lectura. Elija otra para los resultados.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one with --output.</source>
@@ -79,6 +99,10 @@
         <translation>La foto se modificó, se movió o se borró mientras se quitaba la bruma. Vuelva a ponerla en su sitio y empiece de nuevo.</translation>
     </message>
     <message>
+        <source>Close other programs and try again.</source>
+        <translation>Cierre otros programas e inténtelo de nuevo.</translation>
+    </message>
+    <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
     </message>
@@ -99,10 +123,6 @@
         <translation>Se ha escrito el resultado, pero no se le pudo dar la fecha de modificación de la foto: %1.</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>El complemento ha escrito «%1» en lugar de «%2»</translation>
-    </message>
-    <message>
         <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>La foto necesita unos %1 de memoria y hay %2 libres. Cierre otros programas o reduzca la foto.</translation>
     </message>
@@ -112,6 +132,10 @@
     <message>
         <source>Did you mean --%1?</source>
         <translation>¿Quiso decir --%1?</translation>
+    </message>
+    <message>
+        <source>Write &quot;./%1&quot; for the photograph of this name.</source>
+        <translation>Escriba «./%1» para la foto de este nombre.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be followed by one of %2, not &quot;%3&quot;.</source>
@@ -234,6 +258,10 @@
     <message>
         <source>Histogram</source>
         <translation>Histograma</translation>
+    </message>
+    <message>
+        <source>The result; dashed: the photograph as it was</source>
+        <translation>El resultado; en trazos: la foto como era</translation>
     </message>
     <message>
         <source>Black %1 %, white %2 %</source>
@@ -371,8 +399,16 @@
         <translation>El archivo está incompleto o dañado. Vuelva a copiarlo desde la cámara o desde una copia de seguridad.</translation>
     </message>
     <message>
+        <source>There is not enough memory for it. Close other programs and try again.</source>
+        <translation>No hay suficiente memoria para esta foto. Cierre otros programas e inténtelo de nuevo.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>No hay suficiente memoria para esta foto. Cierre otros programas o procese las fotos de una en una (--jobs 1).</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this camera raw file. Close other programs and try again.</source>
+        <translation>No hay suficiente memoria para este archivo RAW. Cierre otros programas e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -393,6 +429,10 @@
     <message>
         <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
         <translation>Su nombre o el de una carpeta contiene caracteres que no son UTF-8. Cámbiele el nombre.</translation>
+    </message>
+    <message>
+        <source>Its folder can&apos;t be opened. Give yourself the permission to open it.</source>
+        <translation>No se puede abrir su carpeta. Dese permiso para abrirla.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
@@ -526,6 +566,14 @@
         <source>The list &quot;%1&quot; can&apos;t be read: %2. Check its name, or write ./@... for a photograph whose name begins with @.</source>
         <translation>No se puede leer la lista «%1»: %2. Compruebe su nombre, o escriba ./@... para una foto cuyo nombre empiece por @.</translation>
     </message>
+    <message>
+        <source>The list &quot;%1&quot; holds null bytes. Add --null (-0) if its names end with them, or save it as text in UTF-8.</source>
+        <translation>La lista «%1» contiene bytes nulos. Añada --null (-0) si los nombres terminan con ellos, o guárdela como texto en UTF-8.</translation>
+    </message>
+    <message>
+        <source>The list &quot;%1&quot; holds no null bytes. Leave out --null (-0) if it has one name per line.</source>
+        <translation>La lista «%1» no contiene bytes nulos. Omita --null (-0) si tiene un nombre por línea.</translation>
+    </message>
 </context>
 <context>
     <name>PictureRenderer</name>
@@ -539,6 +587,10 @@
     <message>
         <source>Photograph</source>
         <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Intentar de nuevo</translation>
     </message>
     <message>
         <source>Hold: the photograph before</source>
@@ -614,6 +666,10 @@
 </context>
 <context>
     <name>PrivateRun</name>
+    <message>
+        <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder for the results.</source>
+        <translation>No se pueden crear archivos en la carpeta «%1»: %2. Libere espacio en ella o elija otra carpeta para los resultados.</translation>
+    </message>
     <message>
         <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder with --output.</source>
         <translation>No se pueden crear archivos en la carpeta «%1»: %2. Libere espacio en ella o elija otra carpeta con --output.</translation>
@@ -1140,6 +1196,13 @@
         <source>Camera raw</source>
         <translation>Archivo RAW</translation>
     </message>
+    <message numerus="yes">
+        <source>Add %n photograph(s)</source>
+        <translation>
+            <numerusform>Añadir %n foto</numerusform>
+            <numerusform>Añadir %n fotos</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Change strength</source>
         <translation>Cambiar la potencia</translation>
@@ -1336,6 +1399,14 @@
     <message>
         <source>Next photograph</source>
         <translation>Foto siguiente</translation>
+    </message>
+    <message>
+        <source>First photograph</source>
+        <translation>Primera foto</translation>
+    </message>
+    <message>
+        <source>Last photograph</source>
+        <translation>Última foto</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -1570,12 +1641,12 @@
         <translation>Dejar de guardar; los resultados completos se quedan</translation>
     </message>
     <message>
-        <source>Try a&amp;gain</source>
-        <translation>&amp;Intentar de nuevo</translation>
+        <source>Try again</source>
+        <translation>Intentar de nuevo</translation>
     </message>
     <message>
-        <source>Save those again that failed</source>
-        <translation>Guardar otra vez las que fallaron</translation>
+        <source>Try again those photographs that failed</source>
+        <translation>Intentar de nuevo con las fotos que fallaron</translation>
     </message>
     <message>
         <source>Full screen</source>

@@ -32,12 +32,20 @@
         <translation>Le format « %1 » ne peut pas être écrit : le résultat sera un TIFF.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder for the results.</source>
+        <translation>Son résultat « %1 » est le même fichier que la photo « %2 ». Déplacez l&apos;un des deux, ou choisissez un autre dossier pour les résultats.</translation>
+    </message>
+    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder with --output.</source>
         <translation>Son résultat « %1 » est le même fichier que la photo « %2 ». Déplacez l&apos;un des deux, ou choisissez un autre dossier avec --output.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Son résultat « %1 » serait aussi celui de « %2 ». Renommez l&apos;une des deux photos.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
+        <translation>Son résultat « %1 » serait aussi celui de « %2 ». Renommez l&apos;une des deux photos, ou donnez à leurs résultats des dossiers différents.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
@@ -48,8 +56,20 @@
         <translation>Ignorée : son résultat « %1 » est plus récent que la photo.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>
+        <translation>Son résultat « %1 » est protégé en écriture ou n&apos;est pas un fichier ordinaire. Déplacez-le, ou choisissez un autre dossier avec --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one for the results.</source>
+        <translation>Son résultat ne peut pas être écrit : « %1 » n&apos;est pas un dossier. Choisissez-en un autre pour les résultats.</translation>
+    </message>
+    <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one with --output.</source>
         <translation>Son résultat ne peut pas être écrit : « %1 » n&apos;est pas un dossier. Choisissez-en un autre avec --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one for the results.</source>
+        <translation>Son résultat ne peut pas être écrit : le dossier « %1 » est en lecture seule. Choisissez-en un autre pour les résultats.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one with --output.</source>
@@ -79,6 +99,10 @@
         <translation>La photo a été modifiée, déplacée ou supprimée pendant que le voile était retiré. Remettez-la en place et recommencez.</translation>
     </message>
     <message>
+        <source>Close other programs and try again.</source>
+        <translation>Fermez d&apos;autres programmes et réessayez.</translation>
+    </message>
+    <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>Fermez d&apos;autres programmes ou traitez les photos une par une (--jobs 1).</translation>
     </message>
@@ -99,10 +123,6 @@
         <translation>Le résultat a été écrit, mais la date de modification de la photo n&apos;a pas pu lui être donnée : %1.</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>Le module a écrit « %1 » au lieu de « %2 »</translation>
-    </message>
-    <message>
         <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>La photo demande environ %1 de mémoire, et %2 sont libres. Fermez d&apos;autres programmes ou réduisez la photo.</translation>
     </message>
@@ -112,6 +132,10 @@
     <message>
         <source>Did you mean --%1?</source>
         <translation>Vouliez-vous dire --%1 ?</translation>
+    </message>
+    <message>
+        <source>Write &quot;./%1&quot; for the photograph of this name.</source>
+        <translation>Écrivez « ./%1 » pour la photo de ce nom.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be followed by one of %2, not &quot;%3&quot;.</source>
@@ -234,6 +258,10 @@
     <message>
         <source>Histogram</source>
         <translation>Histogramme</translation>
+    </message>
+    <message>
+        <source>The result; dashed: the photograph as it was</source>
+        <translation>Le résultat ; en tirets : la photo d&apos;origine</translation>
     </message>
     <message>
         <source>Black %1 %, white %2 %</source>
@@ -371,8 +399,16 @@
         <translation>Le fichier est tronqué ou endommagé. Copiez-le de nouveau depuis l&apos;appareil photo ou une sauvegarde.</translation>
     </message>
     <message>
+        <source>There is not enough memory for it. Close other programs and try again.</source>
+        <translation>La mémoire est insuffisante pour cette photo. Fermez d&apos;autres programmes et réessayez.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>La mémoire est insuffisante pour cette photo. Fermez d&apos;autres programmes ou traitez les photos une par une (--jobs 1).</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this camera raw file. Close other programs and try again.</source>
+        <translation>La mémoire est insuffisante pour ce fichier RAW. Fermez d&apos;autres programmes et réessayez.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -393,6 +429,10 @@
     <message>
         <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
         <translation>Son nom ou celui d&apos;un dossier contient des caractères qui ne sont pas de l&apos;UTF-8. Renommez-la.</translation>
+    </message>
+    <message>
+        <source>Its folder can&apos;t be opened. Give yourself the permission to open it.</source>
+        <translation>Son dossier ne peut pas être ouvert. Donnez-vous le droit de l&apos;ouvrir.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
@@ -526,6 +566,14 @@
         <source>The list &quot;%1&quot; can&apos;t be read: %2. Check its name, or write ./@... for a photograph whose name begins with @.</source>
         <translation>La liste « %1 » ne peut pas être lue : %2. Vérifiez son nom, ou écrivez ./@... pour une photo dont le nom commence par @.</translation>
     </message>
+    <message>
+        <source>The list &quot;%1&quot; holds null bytes. Add --null (-0) if its names end with them, or save it as text in UTF-8.</source>
+        <translation>La liste « %1 » contient des octets nuls. Ajoutez --null (-0) si les noms se terminent ainsi, ou enregistrez-la comme texte en UTF-8.</translation>
+    </message>
+    <message>
+        <source>The list &quot;%1&quot; holds no null bytes. Leave out --null (-0) if it has one name per line.</source>
+        <translation>La liste « %1 » ne contient pas d&apos;octets nuls. Omettez --null (-0) si elle a un nom par ligne.</translation>
+    </message>
 </context>
 <context>
     <name>PictureRenderer</name>
@@ -539,6 +587,10 @@
     <message>
         <source>Photograph</source>
         <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
     </message>
     <message>
         <source>Hold: the photograph before</source>
@@ -614,6 +666,10 @@
 </context>
 <context>
     <name>PrivateRun</name>
+    <message>
+        <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder for the results.</source>
+        <translation>Aucun fichier ne peut être créé dans le dossier « %1 » : %2. Libérez-y de la place, ou choisissez un autre dossier pour les résultats.</translation>
+    </message>
     <message>
         <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder with --output.</source>
         <translation>Aucun fichier ne peut être créé dans le dossier « %1 » : %2. Libérez-y de la place, ou choisissez un autre dossier avec --output.</translation>
@@ -1140,6 +1196,13 @@
         <source>Camera raw</source>
         <translation>Fichier brut</translation>
     </message>
+    <message numerus="yes">
+        <source>Add %n photograph(s)</source>
+        <translation>
+            <numerusform>Ajouter %n photo</numerusform>
+            <numerusform>Ajouter %n photos</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Change strength</source>
         <translation>Changer la puissance</translation>
@@ -1336,6 +1399,14 @@
     <message>
         <source>Next photograph</source>
         <translation>Photo suivante</translation>
+    </message>
+    <message>
+        <source>First photograph</source>
+        <translation>Première photo</translation>
+    </message>
+    <message>
+        <source>Last photograph</source>
+        <translation>Dernière photo</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -1570,12 +1641,12 @@
         <translation>Arrêter l&apos;enregistrement ; les résultats complets restent</translation>
     </message>
     <message>
-        <source>Try a&amp;gain</source>
-        <translation>Réessa&amp;yer</translation>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
     </message>
     <message>
-        <source>Save those again that failed</source>
-        <translation>Enregistrer à nouveau celles qui ont échoué</translation>
+        <source>Try again those photographs that failed</source>
+        <translation>Réessayer les photos qui ont échoué</translation>
     </message>
     <message>
         <source>Full screen</source>

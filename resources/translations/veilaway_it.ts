@@ -32,12 +32,20 @@
         <translation>Il formato &quot;%1&quot; non può essere scritto, quindi il risultato sarà un TIFF.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder for the results.</source>
+        <translation>Il suo risultato &quot;%1&quot; è lo stesso file della foto &quot;%2&quot;. Spostare uno dei due o scegliere un&apos;altra cartella per i risultati.</translation>
+    </message>
+    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder with --output.</source>
         <translation>Il suo risultato &quot;%1&quot; è lo stesso file della foto &quot;%2&quot;. Spostare uno dei due o scegliere un&apos;altra cartella con --output.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Il suo risultato &quot;%1&quot; sarebbe anche quello di &quot;%2&quot;. Rinominare una delle due foto.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
+        <translation>Il suo risultato &quot;%1&quot; sarebbe anche quello di &quot;%2&quot;. Rinominare una delle due foto o indicare cartelle diverse per i risultati.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
@@ -48,8 +56,20 @@
         <translation>Saltata: il suo risultato &quot;%1&quot; è più recente della foto.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>
+        <translation>Il suo risultato &quot;%1&quot; è protetto da scrittura o non è un file normale. Spostarlo o scegliere un&apos;altra cartella con --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one for the results.</source>
+        <translation>Il suo risultato non può essere scritto: &quot;%1&quot; non è una cartella. Sceglierne un&apos;altra per i risultati.</translation>
+    </message>
+    <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one with --output.</source>
         <translation>Il suo risultato non può essere scritto: &quot;%1&quot; non è una cartella. Sceglierne un&apos;altra con --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one for the results.</source>
+        <translation>Il suo risultato non può essere scritto: la cartella &quot;%1&quot; è di sola lettura. Sceglierne un&apos;altra per i risultati.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one with --output.</source>
@@ -79,6 +99,10 @@
         <translation>La foto è stata modificata, spostata o cancellata mentre si toglieva la foschia. Rimettetela al suo posto e ricominciate.</translation>
     </message>
     <message>
+        <source>Close other programs and try again.</source>
+        <translation>Chiudere altri programmi e riprovare.</translation>
+    </message>
+    <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>Chiudere altri programmi o elaborare una foto alla volta (--jobs 1).</translation>
     </message>
@@ -99,10 +123,6 @@
         <translation>Il risultato è stato scritto, ma non ha potuto ricevere la data di modifica della foto: %1.</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>Il plugin ha scritto &quot;%1&quot; invece di &quot;%2&quot;</translation>
-    </message>
-    <message>
         <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>La foto richiede circa %1 di memoria e ne sono liberi %2. Chiudere altri programmi o ridurre la foto.</translation>
     </message>
@@ -112,6 +132,10 @@
     <message>
         <source>Did you mean --%1?</source>
         <translation>Si intendeva --%1?</translation>
+    </message>
+    <message>
+        <source>Write &quot;./%1&quot; for the photograph of this name.</source>
+        <translation>Scrivere &quot;./%1&quot; per la foto con questo nome.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be followed by one of %2, not &quot;%3&quot;.</source>
@@ -234,6 +258,10 @@
     <message>
         <source>Histogram</source>
         <translation>Istogramma</translation>
+    </message>
+    <message>
+        <source>The result; dashed: the photograph as it was</source>
+        <translation>Il risultato; tratteggiata: la foto com&apos;era</translation>
     </message>
     <message>
         <source>Black %1 %, white %2 %</source>
@@ -371,8 +399,16 @@
         <translation>Il file è incompleto o danneggiato. Copiarlo di nuovo dalla fotocamera o da un backup.</translation>
     </message>
     <message>
+        <source>There is not enough memory for it. Close other programs and try again.</source>
+        <translation>Memoria insufficiente per questa foto. Chiudere altri programmi e riprovare.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>Memoria insufficiente per questa foto. Chiudere altri programmi o elaborare una foto alla volta (--jobs 1).</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this camera raw file. Close other programs and try again.</source>
+        <translation>Memoria insufficiente per questo file RAW. Chiudere altri programmi e riprovare.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -393,6 +429,10 @@
     <message>
         <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
         <translation>Il suo nome o quello di una cartella contiene caratteri che non sono UTF-8. Rinominatela.</translation>
+    </message>
+    <message>
+        <source>Its folder can&apos;t be opened. Give yourself the permission to open it.</source>
+        <translation>La sua cartella non può essere aperta. Concedersi il permesso di aprirla.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
@@ -526,6 +566,14 @@
         <source>The list &quot;%1&quot; can&apos;t be read: %2. Check its name, or write ./@... for a photograph whose name begins with @.</source>
         <translation>L&apos;elenco &quot;%1&quot; non può essere letto: %2. Verificarne il nome, o scrivere ./@... per una foto il cui nome comincia con @.</translation>
     </message>
+    <message>
+        <source>The list &quot;%1&quot; holds null bytes. Add --null (-0) if its names end with them, or save it as text in UTF-8.</source>
+        <translation>L&apos;elenco &quot;%1&quot; contiene byte nulli. Aggiungere --null (-0) se i nomi terminano con essi, o salvarlo come testo in UTF-8.</translation>
+    </message>
+    <message>
+        <source>The list &quot;%1&quot; holds no null bytes. Leave out --null (-0) if it has one name per line.</source>
+        <translation>L&apos;elenco &quot;%1&quot; non contiene byte nulli. Omettere --null (-0) se ha un nome per riga.</translation>
+    </message>
 </context>
 <context>
     <name>PictureRenderer</name>
@@ -539,6 +587,10 @@
     <message>
         <source>Photograph</source>
         <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Nuovo tentativo</translation>
     </message>
     <message>
         <source>Hold: the photograph before</source>
@@ -614,6 +666,10 @@
 </context>
 <context>
     <name>PrivateRun</name>
+    <message>
+        <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder for the results.</source>
+        <translation>Nella cartella &quot;%1&quot; non si possono creare file: %2. Liberare spazio o scegliere un&apos;altra cartella per i risultati.</translation>
+    </message>
     <message>
         <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder with --output.</source>
         <translation>Nella cartella &quot;%1&quot; non si possono creare file: %2. Liberare spazio o scegliere un&apos;altra cartella con --output.</translation>
@@ -1140,6 +1196,13 @@
         <source>Camera raw</source>
         <translation>File raw</translation>
     </message>
+    <message numerus="yes">
+        <source>Add %n photograph(s)</source>
+        <translation>
+            <numerusform>Aggiungi %n foto</numerusform>
+            <numerusform>Aggiungi %n foto</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Change strength</source>
         <translation>Cambia la potenza</translation>
@@ -1336,6 +1399,14 @@
     <message>
         <source>Next photograph</source>
         <translation>Foto successiva</translation>
+    </message>
+    <message>
+        <source>First photograph</source>
+        <translation>Prima foto</translation>
+    </message>
+    <message>
+        <source>Last photograph</source>
+        <translation>Ultima foto</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -1570,12 +1641,12 @@
         <translation>Smetti di salvare; i risultati completi restano</translation>
     </message>
     <message>
-        <source>Try a&amp;gain</source>
-        <translation>&amp;Nuovo tentativo</translation>
+        <source>Try again</source>
+        <translation>Nuovo tentativo</translation>
     </message>
     <message>
-        <source>Save those again that failed</source>
-        <translation>Salva di nuovo quelle non riuscite</translation>
+        <source>Try again those photographs that failed</source>
+        <translation>Riprova con le foto non riuscite</translation>
     </message>
     <message>
         <source>Full screen</source>

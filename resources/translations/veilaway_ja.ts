@@ -32,12 +32,20 @@
         <translation>「%1」形式では書き込めないため、結果は TIFF になります。</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder for the results.</source>
+        <translation>結果のファイル「%1」は写真「%2」と同一のファイルです。どちらか一方を別の場所に移すか、結果の保存先として別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder with --output.</source>
         <translation>結果のファイル「%1」は写真「%2」と同一のファイルです。どちらか一方を別の場所に移すか、--output で別のフォルダーを指定してください。</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>結果のファイル「%1」は「%2」の結果と同じになります。どちらか一方の写真の名前を変えてください。</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
+        <translation>結果のファイル「%1」は「%2」の結果と同じになります。どちらか一方の写真の名前を変えるか、結果の保存先を別々のフォルダーにしてください。</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
@@ -48,8 +56,20 @@
         <translation>スキップしました: 結果のファイル「%1」は写真より新しいものです。</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>
+        <translation>結果のファイル「%1」は書き込みが禁止されているか、通常のファイルではありません。別の場所に移すか、--output で別のフォルダーを指定してください。</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one for the results.</source>
+        <translation>結果を書き込めません。「%1」はフォルダーではありません。結果の保存先として別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one with --output.</source>
         <translation>結果を書き込めません。「%1」はフォルダーではありません。--output で別のフォルダーを指定してください。</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one for the results.</source>
+        <translation>結果を書き込めません。フォルダー「%1」は読み取り専用です。結果の保存先として別のフォルダーを選んでください。</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one with --output.</source>
@@ -79,6 +99,10 @@
         <translation>かすみを取り除いている間に写真が変更、移動、または削除されました。元に戻してからやり直してください。</translation>
     </message>
     <message>
+        <source>Close other programs and try again.</source>
+        <translation>ほかのプログラムを終了してから、もう一度お試しください。</translation>
+    </message>
+    <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>ほかのプログラムを終了するか、写真を 1 枚ずつ処理してください (--jobs 1)。</translation>
     </message>
@@ -99,10 +123,6 @@
         <translation>結果は書き込まれましたが、写真の更新日時を結果に設定できませんでした: %1。</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>プラグインは「%2」ではなく「%1」に書き込みました。</translation>
-    </message>
-    <message>
         <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>この写真には約 %1 のメモリが必要ですが、空きは %2 です。ほかのプログラムを終了するか、写真を縮小してください。</translation>
     </message>
@@ -112,6 +132,10 @@
     <message>
         <source>Did you mean --%1?</source>
         <translation>--%1 のことですか?</translation>
+    </message>
+    <message>
+        <source>Write &quot;./%1&quot; for the photograph of this name.</source>
+        <translation>この名前の写真を指定するには「./%1」と入力してください。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be followed by one of %2, not &quot;%3&quot;.</source>
@@ -234,6 +258,10 @@
     <message>
         <source>Histogram</source>
         <translation>ヒストグラム</translation>
+    </message>
+    <message>
+        <source>The result; dashed: the photograph as it was</source>
+        <translation>結果（破線は元の写真）</translation>
     </message>
     <message>
         <source>Black %1 %, white %2 %</source>
@@ -371,8 +399,16 @@
         <translation>ファイルが途中で切れているか、壊れています。カメラまたはバックアップからコピーし直してください。</translation>
     </message>
     <message>
+        <source>There is not enough memory for it. Close other programs and try again.</source>
+        <translation>この写真を処理するにはメモリが足りません。ほかのプログラムを終了してから、もう一度お試しください。</translation>
+    </message>
+    <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>この写真を処理するにはメモリが足りません。ほかのプログラムを終了するか、写真を 1 枚ずつ処理してください (--jobs 1)。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this camera raw file. Close other programs and try again.</source>
+        <translation>このカメラ RAW ファイルを処理するにはメモリが足りません。ほかのプログラムを終了してから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -393,6 +429,10 @@
     <message>
         <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
         <translation>名前またはフォルダの名前に UTF-8 ではない文字が含まれています。名前を変更してください。</translation>
+    </message>
+    <message>
+        <source>Its folder can&apos;t be opened. Give yourself the permission to open it.</source>
+        <translation>この写真のフォルダーを開けません。開く許可を設定してください。</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
@@ -522,6 +562,14 @@
         <source>The list &quot;%1&quot; can&apos;t be read: %2. Check its name, or write ./@... for a photograph whose name begins with @.</source>
         <translation>一覧「%1」を読み込めません: %2。名前を確認してください。名前が @ で始まる写真は ./@... のように指定します。</translation>
     </message>
+    <message>
+        <source>The list &quot;%1&quot; holds null bytes. Add --null (-0) if its names end with them, or save it as text in UTF-8.</source>
+        <translation>一覧「%1」にはヌルバイトが含まれています。名前がヌルバイトで区切られている場合は --null (-0) を付け、そうでなければ UTF-8 のテキストとして保存してください。</translation>
+    </message>
+    <message>
+        <source>The list &quot;%1&quot; holds no null bytes. Leave out --null (-0) if it has one name per line.</source>
+        <translation>一覧「%1」にヌルバイトはありません。1 行に 1 つずつ名前が書かれている場合は --null (-0) を外してください。</translation>
+    </message>
 </context>
 <context>
     <name>PictureRenderer</name>
@@ -535,6 +583,10 @@
     <message>
         <source>Photograph</source>
         <translation>写真</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
     </message>
     <message>
         <source>Hold: the photograph before</source>
@@ -610,6 +662,10 @@
 </context>
 <context>
     <name>PrivateRun</name>
+    <message>
+        <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder for the results.</source>
+        <translation>フォルダー「%1」にファイルを作成できません: %2。空き容量を増やすか、結果の保存先として別のフォルダーを選んでください。</translation>
+    </message>
     <message>
         <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder with --output.</source>
         <translation>フォルダー「%1」にファイルを作成できません: %2。空き容量を増やすか、--output で別のフォルダーを指定してください。</translation>
@@ -1122,6 +1178,12 @@
         <source>Camera raw</source>
         <translation>カメラ RAW</translation>
     </message>
+    <message numerus="yes">
+        <source>Add %n photograph(s)</source>
+        <translation>
+            <numerusform>%n 枚の写真を追加</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Change strength</source>
         <translation>強さの変更</translation>
@@ -1316,6 +1378,14 @@
     <message>
         <source>Next photograph</source>
         <translation>次の写真</translation>
+    </message>
+    <message>
+        <source>First photograph</source>
+        <translation>最初の写真</translation>
+    </message>
+    <message>
+        <source>Last photograph</source>
+        <translation>最後の写真</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -1550,12 +1620,12 @@
         <translation>保存を中止します。保存の終わった結果は残ります</translation>
     </message>
     <message>
-        <source>Try a&amp;gain</source>
-        <translation>再試行(&amp;G)</translation>
+        <source>Try again</source>
+        <translation>再試行</translation>
     </message>
     <message>
-        <source>Save those again that failed</source>
-        <translation>失敗したものをもう一度保存します</translation>
+        <source>Try again those photographs that failed</source>
+        <translation>失敗した写真をもう一度処理します</translation>
     </message>
     <message>
         <source>Full screen</source>

@@ -32,12 +32,20 @@
         <translation>Formatu „%1” nie można zapisać, więc wynik będzie plikiem TIFF.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder for the results.</source>
+        <translation>Wynik „%1” jest tym samym plikiem co zdjęcie „%2”. Należy przenieść jeden z nich lub wybrać inny folder na wyniki.</translation>
+    </message>
+    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder with --output.</source>
         <translation>Wynik „%1” jest tym samym plikiem co zdjęcie „%2”. Należy przenieść jeden z nich lub wybrać inny folder za pomocą --output.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Wynik „%1” byłby zarazem wynikiem dla „%2”. Należy zmienić nazwę jednego z tych zdjęć.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
+        <translation>Wynik „%1” byłby zarazem wynikiem dla „%2”. Należy zmienić nazwę jednego z tych zdjęć lub wskazać dla ich wyników różne foldery.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
@@ -48,8 +56,20 @@
         <translation>Pominięto: wynik „%1” jest nowszy niż zdjęcie.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>
+        <translation>Wynik „%1” jest chroniony przed zapisem lub nie jest zwykłym plikiem. Należy go przenieść lub wybrać inny folder za pomocą --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one for the results.</source>
+        <translation>Wyniku nie można zapisać: „%1” nie jest folderem. Należy wybrać inny folder na wyniki.</translation>
+    </message>
+    <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one with --output.</source>
         <translation>Wyniku nie można zapisać: „%1” nie jest folderem. Należy wybrać inny za pomocą --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one for the results.</source>
+        <translation>Wyniku nie można zapisać: folder „%1” jest tylko do odczytu. Należy wybrać inny folder na wyniki.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one with --output.</source>
@@ -79,6 +99,10 @@
         <translation>Zdjęcie zostało zmienione, przeniesione lub usunięte podczas usuwania mgły. Przywróć je i zacznij od nowa.</translation>
     </message>
     <message>
+        <source>Close other programs and try again.</source>
+        <translation>Należy zamknąć inne programy i spróbować ponownie.</translation>
+    </message>
+    <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>Należy zamknąć inne programy lub przetwarzać zdjęcia pojedynczo (--jobs 1).</translation>
     </message>
@@ -99,10 +123,6 @@
         <translation>Wynik został zapisany, ale nie udało się nadać mu czasu modyfikacji zdjęcia: %1.</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>Wtyczka zapisała „%1” zamiast „%2”</translation>
-    </message>
-    <message>
         <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>Zdjęcie wymaga około %1 pamięci, a wolne jest %2. Należy zamknąć inne programy lub zmniejszyć zdjęcie.</translation>
     </message>
@@ -112,6 +132,10 @@
     <message>
         <source>Did you mean --%1?</source>
         <translation>Czy chodziło o --%1?</translation>
+    </message>
+    <message>
+        <source>Write &quot;./%1&quot; for the photograph of this name.</source>
+        <translation>Aby wskazać zdjęcie o tej nazwie, należy napisać „./%1”.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be followed by one of %2, not &quot;%3&quot;.</source>
@@ -234,6 +258,10 @@
     <message>
         <source>Histogram</source>
         <translation>Histogram</translation>
+    </message>
+    <message>
+        <source>The result; dashed: the photograph as it was</source>
+        <translation>Wynik; linią przerywaną: zdjęcie, jakie było</translation>
     </message>
     <message>
         <source>Black %1 %, white %2 %</source>
@@ -371,8 +399,16 @@
         <translation>Plik jest niepełny lub uszkodzony. Należy skopiować go ponownie z aparatu lub z kopii zapasowej.</translation>
     </message>
     <message>
+        <source>There is not enough memory for it. Close other programs and try again.</source>
+        <translation>Za mało pamięci na to zdjęcie. Należy zamknąć inne programy i spróbować ponownie.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>Za mało pamięci na to zdjęcie. Należy zamknąć inne programy lub przetwarzać zdjęcia pojedynczo (--jobs 1).</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this camera raw file. Close other programs and try again.</source>
+        <translation>Za mało pamięci na ten plik RAW. Należy zamknąć inne programy i spróbować ponownie.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -393,6 +429,10 @@
     <message>
         <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
         <translation>Jego nazwa lub nazwa folderu zawiera znaki, które nie są UTF-8. Zmień nazwę.</translation>
+    </message>
+    <message>
+        <source>Its folder can&apos;t be opened. Give yourself the permission to open it.</source>
+        <translation>Nie można otworzyć jego folderu. Należy nadać sobie prawo do jego otwierania.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
@@ -530,6 +570,14 @@
         <source>The list &quot;%1&quot; can&apos;t be read: %2. Check its name, or write ./@... for a photograph whose name begins with @.</source>
         <translation>Nie można odczytać listy „%1”: %2. Należy sprawdzić nazwę lub napisać ./@..., jeśli nazwa zdjęcia zaczyna się od @.</translation>
     </message>
+    <message>
+        <source>The list &quot;%1&quot; holds null bytes. Add --null (-0) if its names end with them, or save it as text in UTF-8.</source>
+        <translation>Lista „%1” zawiera bajty zerowe. Należy dodać --null (-0), jeśli kończą one nazwy, lub zapisać listę jako tekst w UTF-8.</translation>
+    </message>
+    <message>
+        <source>The list &quot;%1&quot; holds no null bytes. Leave out --null (-0) if it has one name per line.</source>
+        <translation>Lista „%1” nie zawiera bajtów zerowych. Należy pominąć --null (-0), jeśli w każdym wierszu jest jedna nazwa.</translation>
+    </message>
 </context>
 <context>
     <name>PictureRenderer</name>
@@ -543,6 +591,10 @@
     <message>
         <source>Photograph</source>
         <translation>Zdjęcie</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Spróbuj ponownie</translation>
     </message>
     <message>
         <source>Hold: the photograph before</source>
@@ -618,6 +670,10 @@
 </context>
 <context>
     <name>PrivateRun</name>
+    <message>
+        <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder for the results.</source>
+        <translation>W folderze „%1” nie można tworzyć plików: %2. Należy zwolnić miejsce lub wybrać inny folder na wyniki.</translation>
+    </message>
     <message>
         <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder with --output.</source>
         <translation>W folderze „%1” nie można tworzyć plików: %2. Należy zwolnić miejsce lub wybrać inny folder za pomocą --output.</translation>
@@ -1158,6 +1214,14 @@
         <source>Camera raw</source>
         <translation>Plik RAW</translation>
     </message>
+    <message numerus="yes">
+        <source>Add %n photograph(s)</source>
+        <translation>
+            <numerusform>Dodaj %n zdjęcie</numerusform>
+            <numerusform>Dodaj %n zdjęcia</numerusform>
+            <numerusform>Dodaj %n zdjęć</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Change strength</source>
         <translation>Zmień poziom</translation>
@@ -1356,6 +1420,14 @@
     <message>
         <source>Next photograph</source>
         <translation>Następne zdjęcie</translation>
+    </message>
+    <message>
+        <source>First photograph</source>
+        <translation>Pierwsze zdjęcie</translation>
+    </message>
+    <message>
+        <source>Last photograph</source>
+        <translation>Ostatnie zdjęcie</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -1590,12 +1662,12 @@
         <translation>Przerwij zapis; gotowe wyniki zostaną</translation>
     </message>
     <message>
-        <source>Try a&amp;gain</source>
-        <translation>Spró&amp;buj ponownie</translation>
+        <source>Try again</source>
+        <translation>Spróbuj ponownie</translation>
     </message>
     <message>
-        <source>Save those again that failed</source>
-        <translation>Zapisz ponownie te, których się nie udało zapisać</translation>
+        <source>Try again those photographs that failed</source>
+        <translation>Spróbuj ponownie ze zdjęciami, które się nie powiodły</translation>
     </message>
     <message>
         <source>Full screen</source>

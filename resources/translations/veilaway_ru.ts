@@ -32,12 +32,20 @@
         <translation>Запись в формат «%1» не поддерживается, поэтому результат сохраняется в TIFF.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder for the results.</source>
+        <translation>Результат «%1» — тот же файл, что и фотография «%2». Переместите один из них или выберите другую папку для результатов.</translation>
+    </message>
+    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder with --output.</source>
         <translation>Результат «%1» — тот же файл, что и фотография «%2». Переместите один из них или выберите другую папку с помощью --output.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>Результат «%1» совпал бы с результатом для «%2». Переименуйте одну из двух фотографий.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
+        <translation>Результат «%1» совпал бы с результатом для «%2». Переименуйте одну из двух фотографий или укажите для результатов разные папки.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
@@ -48,8 +56,20 @@
         <translation>Пропущено: результат «%1» новее фотографии.</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>
+        <translation>Результат «%1» защищён от записи или не является обычным файлом. Переместите его или выберите другую папку с помощью --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one for the results.</source>
+        <translation>Результат нельзя записать: «%1» не папка. Выберите другую папку для результатов.</translation>
+    </message>
+    <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one with --output.</source>
         <translation>Результат нельзя записать: «%1» не папка. Выберите другую с помощью --output.</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one for the results.</source>
+        <translation>Результат нельзя записать: папка «%1» доступна только для чтения. Выберите другую папку для результатов.</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one with --output.</source>
@@ -79,6 +99,10 @@
         <translation>Снимок был изменён, перемещён или удалён, пока убиралась дымка. Верните его на место и начните заново.</translation>
     </message>
     <message>
+        <source>Close other programs and try again.</source>
+        <translation>Закройте другие программы и повторите попытку.</translation>
+    </message>
+    <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>Закройте другие программы или обрабатывайте фотографии по одной (--jobs 1).</translation>
     </message>
@@ -99,10 +123,6 @@
         <translation>Результат записан, но передать ему время изменения фотографии не удалось: %1.</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>Модуль записал «%1» вместо «%2»</translation>
-    </message>
-    <message>
         <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>Для фотографии нужно около %1 памяти, а свободно %2. Закройте другие программы или уменьшите фотографию.</translation>
     </message>
@@ -112,6 +132,10 @@
     <message>
         <source>Did you mean --%1?</source>
         <translation>Возможно, имелось в виду --%1?</translation>
+    </message>
+    <message>
+        <source>Write &quot;./%1&quot; for the photograph of this name.</source>
+        <translation>Чтобы указать фотографию с этим именем, напишите «./%1».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be followed by one of %2, not &quot;%3&quot;.</source>
@@ -234,6 +258,10 @@
     <message>
         <source>Histogram</source>
         <translation>Гистограмма</translation>
+    </message>
+    <message>
+        <source>The result; dashed: the photograph as it was</source>
+        <translation>Результат; пунктиром: фотография, какой была</translation>
     </message>
     <message>
         <source>Black %1 %, white %2 %</source>
@@ -371,8 +399,16 @@
         <translation>Файл обрывается или повреждён. Скопируйте его заново с камеры или из резервной копии.</translation>
     </message>
     <message>
+        <source>There is not enough memory for it. Close other programs and try again.</source>
+        <translation>Для этой фотографии недостаточно памяти. Закройте другие программы и повторите попытку.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>Для этой фотографии недостаточно памяти. Закройте другие программы или обрабатывайте фотографии по одной (--jobs 1).</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this camera raw file. Close other programs and try again.</source>
+        <translation>Для этого RAW-файла недостаточно памяти. Закройте другие программы и повторите попытку.</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -393,6 +429,10 @@
     <message>
         <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
         <translation>В его имени или в имени папки есть знаки не в кодировке UTF-8. Переименуйте его.</translation>
+    </message>
+    <message>
+        <source>Its folder can&apos;t be opened. Give yourself the permission to open it.</source>
+        <translation>Не удаётся открыть её папку. Дайте себе право открывать её.</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
@@ -530,6 +570,14 @@
         <source>The list &quot;%1&quot; can&apos;t be read: %2. Check its name, or write ./@... for a photograph whose name begins with @.</source>
         <translation>Не удаётся прочитать список «%1»: %2. Проверьте имя или напишите ./@..., если имя фотографии начинается с @.</translation>
     </message>
+    <message>
+        <source>The list &quot;%1&quot; holds null bytes. Add --null (-0) if its names end with them, or save it as text in UTF-8.</source>
+        <translation>Список «%1» содержит нулевые байты. Добавьте --null (-0), если ими кончаются имена, или сохраните его как текст в UTF-8.</translation>
+    </message>
+    <message>
+        <source>The list &quot;%1&quot; holds no null bytes. Leave out --null (-0) if it has one name per line.</source>
+        <translation>В списке «%1» нет нулевых байтов. Уберите --null (-0), если в каждой строке одно имя.</translation>
+    </message>
 </context>
 <context>
     <name>PictureRenderer</name>
@@ -543,6 +591,10 @@
     <message>
         <source>Photograph</source>
         <translation>Фотография</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Повторить ещё раз</translation>
     </message>
     <message>
         <source>Hold: the photograph before</source>
@@ -618,6 +670,10 @@
 </context>
 <context>
     <name>PrivateRun</name>
+    <message>
+        <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder for the results.</source>
+        <translation>В папке «%1» нельзя создать файлы: %2. Освободите место или выберите другую папку для результатов.</translation>
+    </message>
     <message>
         <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder with --output.</source>
         <translation>В папке «%1» нельзя создать файлы: %2. Освободите место или выберите другую папку с помощью --output.</translation>
@@ -1158,6 +1214,14 @@
         <source>Camera raw</source>
         <translation>Файл RAW</translation>
     </message>
+    <message numerus="yes">
+        <source>Add %n photograph(s)</source>
+        <translation>
+            <numerusform>Добавить %n фотографию</numerusform>
+            <numerusform>Добавить %n фотографии</numerusform>
+            <numerusform>Добавить %n фотографий</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Change strength</source>
         <translation>Изменить интенсивность</translation>
@@ -1356,6 +1420,14 @@
     <message>
         <source>Next photograph</source>
         <translation>Следующая фотография</translation>
+    </message>
+    <message>
+        <source>First photograph</source>
+        <translation>Первая фотография</translation>
+    </message>
+    <message>
+        <source>Last photograph</source>
+        <translation>Последняя фотография</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -1590,12 +1662,12 @@
         <translation>Прекратить сохранение; готовые результаты останутся</translation>
     </message>
     <message>
-        <source>Try a&amp;gain</source>
-        <translation>Повторить &amp;ещё раз</translation>
+        <source>Try again</source>
+        <translation>Повторить ещё раз</translation>
     </message>
     <message>
-        <source>Save those again that failed</source>
-        <translation>Ещё раз сохранить те, что не удалось</translation>
+        <source>Try again those photographs that failed</source>
+        <translation>Повторить для фотографий, с которыми не получилось</translation>
     </message>
     <message>
         <source>Full screen</source>

@@ -32,12 +32,20 @@
         <translation>无法写入“%1”格式，因此结果保存为 TIFF。</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder for the results.</source>
+        <translation>其结果文件“%1”与照片“%2”是同一个文件。请将两者之一移到别处，或为结果选择其他文件夹。</translation>
+    </message>
+    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder with --output.</source>
         <translation>其结果文件“%1”与照片“%2”是同一个文件。请将两者之一移到别处，或用 --output 指定其他文件夹。</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>其结果文件“%1”会与“%2”的结果同名。请重命名其中一张照片。</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
+        <translation>其结果文件“%1”会与“%2”的结果同名。请重命名其中一张照片，或为两者的结果指定不同的文件夹。</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
@@ -48,8 +56,20 @@
         <translation>已跳过：其结果文件“%1”比照片更新。</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>
+        <translation>其结果文件“%1”受写保护，或不是普通文件。请将它移到别处，或用 --output 指定其他文件夹。</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one for the results.</source>
+        <translation>无法写入结果：“%1”不是文件夹。请为结果选择其他文件夹。</translation>
+    </message>
+    <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one with --output.</source>
         <translation>无法写入结果：“%1”不是文件夹。请用 --output 指定其他文件夹。</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one for the results.</source>
+        <translation>无法写入结果：文件夹“%1”是只读的。请为结果选择其他文件夹。</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one with --output.</source>
@@ -79,6 +99,10 @@
         <translation>去除雾霾期间，照片被更改、移动或删除。请将其放回原处，然后重新开始。</translation>
     </message>
     <message>
+        <source>Close other programs and try again.</source>
+        <translation>请关闭其他程序，然后重试。</translation>
+    </message>
+    <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>请关闭其他程序，或一次只处理一张照片（--jobs 1）。</translation>
     </message>
@@ -99,10 +123,6 @@
         <translation>结果已写入，但无法为其设置照片的修改时间：%1。</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>插件写入的是“%1”，而不是“%2”。</translation>
-    </message>
-    <message>
         <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>此照片约需 %1 内存，而可用内存为 %2。请关闭其他程序，或缩小照片。</translation>
     </message>
@@ -112,6 +132,10 @@
     <message>
         <source>Did you mean --%1?</source>
         <translation>您是否想输入 --%1？</translation>
+    </message>
+    <message>
+        <source>Write &quot;./%1&quot; for the photograph of this name.</source>
+        <translation>如要指定这个名称的照片，请写“./%1”。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be followed by one of %2, not &quot;%3&quot;.</source>
@@ -234,6 +258,10 @@
     <message>
         <source>Histogram</source>
         <translation>直方图</translation>
+    </message>
+    <message>
+        <source>The result; dashed: the photograph as it was</source>
+        <translation>结果；虚线为原来的照片</translation>
     </message>
     <message>
         <source>Black %1 %, white %2 %</source>
@@ -371,8 +399,16 @@
         <translation>文件不完整或已损坏。请从相机或备份中重新复制。</translation>
     </message>
     <message>
+        <source>There is not enough memory for it. Close other programs and try again.</source>
+        <translation>内存不足，无法处理此照片。请关闭其他程序，然后重试。</translation>
+    </message>
+    <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>内存不足，无法处理此照片。请关闭其他程序，或一次只处理一张照片（--jobs 1）。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this camera raw file. Close other programs and try again.</source>
+        <translation>内存不足，无法处理此相机 RAW 文件。请关闭其他程序，然后重试。</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -393,6 +429,10 @@
     <message>
         <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
         <translation>其名称或文件夹名称含有非 UTF-8 字符。请重命名。</translation>
+    </message>
+    <message>
+        <source>Its folder can&apos;t be opened. Give yourself the permission to open it.</source>
+        <translation>无法打开其所在文件夹。请为自己授予打开权限。</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
@@ -522,6 +562,14 @@
         <source>The list &quot;%1&quot; can&apos;t be read: %2. Check its name, or write ./@... for a photograph whose name begins with @.</source>
         <translation>无法读取列表“%1”：%2。请检查名称；如果照片名以 @ 开头，请写成 ./@...。</translation>
     </message>
+    <message>
+        <source>The list &quot;%1&quot; holds null bytes. Add --null (-0) if its names end with them, or save it as text in UTF-8.</source>
+        <translation>列表“%1”含有空字节。如果名称以空字节结尾，请加上 --null (-0)；否则请将它另存为 UTF-8 文本。</translation>
+    </message>
+    <message>
+        <source>The list &quot;%1&quot; holds no null bytes. Leave out --null (-0) if it has one name per line.</source>
+        <translation>列表“%1”不含空字节。如果每行一个名称，请去掉 --null (-0)。</translation>
+    </message>
 </context>
 <context>
     <name>PictureRenderer</name>
@@ -535,6 +583,10 @@
     <message>
         <source>Photograph</source>
         <translation>照片</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
     </message>
     <message>
         <source>Hold: the photograph before</source>
@@ -610,6 +662,10 @@
 </context>
 <context>
     <name>PrivateRun</name>
+    <message>
+        <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder for the results.</source>
+        <translation>无法在文件夹“%1”中创建文件：%2。请腾出空间，或为结果选择其他文件夹。</translation>
+    </message>
     <message>
         <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder with --output.</source>
         <translation>无法在文件夹“%1”中创建文件：%2。请腾出空间，或用 --output 指定其他文件夹。</translation>
@@ -1122,6 +1178,12 @@
         <source>Camera raw</source>
         <translation>相机 RAW</translation>
     </message>
+    <message numerus="yes">
+        <source>Add %n photograph(s)</source>
+        <translation>
+            <numerusform>添加 %n 张照片</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Change strength</source>
         <translation>更改强度</translation>
@@ -1316,6 +1378,14 @@
     <message>
         <source>Next photograph</source>
         <translation>下一张照片</translation>
+    </message>
+    <message>
+        <source>First photograph</source>
+        <translation>第一张照片</translation>
+    </message>
+    <message>
+        <source>Last photograph</source>
+        <translation>最后一张照片</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -1550,12 +1620,12 @@
         <translation>停止保存；已完成的结果会保留</translation>
     </message>
     <message>
-        <source>Try a&amp;gain</source>
-        <translation>重试(&amp;G)</translation>
+        <source>Try again</source>
+        <translation>重试</translation>
     </message>
     <message>
-        <source>Save those again that failed</source>
-        <translation>重新保存失败的照片</translation>
+        <source>Try again those photographs that failed</source>
+        <translation>重试失败的照片</translation>
     </message>
     <message>
         <source>Full screen</source>

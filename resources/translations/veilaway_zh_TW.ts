@@ -32,12 +32,20 @@
         <translation>無法寫入「%1」格式，因此結果儲存為 TIFF。</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder for the results.</source>
+        <translation>其結果檔案「%1」與照片「%2」是同一個檔案。請將其中一個移到別處，或為結果選擇其他資料夾。</translation>
+    </message>
+    <message>
         <source>Its result &quot;%1&quot; is the same file as the photograph &quot;%2&quot;. Move one of the two away, or choose another folder with --output.</source>
         <translation>其結果檔案「%1」與照片「%2」是同一個檔案。請將其中一個移到別處，或用 --output 指定其他資料夾。</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
         <translation>其結果檔案「%1」會與「%2」的結果同名。請重新命名其中一張照片。</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
+        <translation>其結果檔案「%1」會與「%2」的結果同名。請重新命名其中一張照片，或為兩者的結果指定不同的資料夾。</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is a folder. Move the folder away.</source>
@@ -48,8 +56,20 @@
         <translation>已略過：其結果檔案「%1」比照片更新。</translation>
     </message>
     <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>
+        <translation>其結果檔案「%1」受寫入保護，或不是一般檔案。請將它移到別處，或用 --output 指定其他資料夾。</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one for the results.</source>
+        <translation>無法寫入結果：「%1」不是資料夾。請為結果選擇其他資料夾。</translation>
+    </message>
+    <message>
         <source>Its result can&apos;t be written: &quot;%1&quot; is not a folder. Choose another one with --output.</source>
         <translation>無法寫入結果：「%1」不是資料夾。請用 --output 指定其他資料夾。</translation>
+    </message>
+    <message>
+        <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one for the results.</source>
+        <translation>無法寫入結果：資料夾「%1」是唯讀的。請為結果選擇其他資料夾。</translation>
     </message>
     <message>
         <source>Its result can&apos;t be written: the folder &quot;%1&quot; is read-only. Choose another one with --output.</source>
@@ -79,6 +99,10 @@
         <translation>去除霧霾期間，照片被更改、移動或刪除。請將其放回原處，然後重新開始。</translation>
     </message>
     <message>
+        <source>Close other programs and try again.</source>
+        <translation>請關閉其他程式，然後重試。</translation>
+    </message>
+    <message>
         <source>Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>請關閉其他程式，或一次只處理一張照片（--jobs 1）。</translation>
     </message>
@@ -99,10 +123,6 @@
         <translation>結果已寫入，但無法為其設定照片的修改時間：%1。</translation>
     </message>
     <message>
-        <source>The plug-in wrote &quot;%1&quot; instead of &quot;%2&quot;</source>
-        <translation>外掛程式寫入的是「%1」，而不是「%2」。</translation>
-    </message>
-    <message>
         <source>It needs about %1 of memory, but only %2 is free. Close other programs, or scale the photograph down.</source>
         <translation>此照片約需 %1 記憶體，而可用記憶體為 %2。請關閉其他程式，或縮小照片。</translation>
     </message>
@@ -112,6 +132,10 @@
     <message>
         <source>Did you mean --%1?</source>
         <translation>您是否想輸入 --%1？</translation>
+    </message>
+    <message>
+        <source>Write &quot;./%1&quot; for the photograph of this name.</source>
+        <translation>如要指定這個名稱的照片，請寫「./%1」。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be followed by one of %2, not &quot;%3&quot;.</source>
@@ -234,6 +258,10 @@
     <message>
         <source>Histogram</source>
         <translation>色階分佈圖</translation>
+    </message>
+    <message>
+        <source>The result; dashed: the photograph as it was</source>
+        <translation>結果；虛線為原來的照片</translation>
     </message>
     <message>
         <source>Black %1 %, white %2 %</source>
@@ -371,8 +399,16 @@
         <translation>檔案不完整或已損毀。請從相機或備份重新複製。</translation>
     </message>
     <message>
+        <source>There is not enough memory for it. Close other programs and try again.</source>
+        <translation>記憶體不足，無法處理此照片。請關閉其他程式，然後重試。</translation>
+    </message>
+    <message>
         <source>There is not enough memory for it. Close other programs, or work on one photograph at a time (--jobs 1).</source>
         <translation>記憶體不足，無法處理此照片。請關閉其他程式，或一次只處理一張照片（--jobs 1）。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this camera raw file. Close other programs and try again.</source>
+        <translation>記憶體不足，無法處理此相機 RAW 檔案。請關閉其他程式，然後重試。</translation>
     </message>
     <message>
         <source>There is not enough memory for this camera raw file. Close other programs, or work on one photograph at a time (--jobs 1).</source>
@@ -393,6 +429,10 @@
     <message>
         <source>Its name or that of a folder holds letters that are not UTF-8. Rename it.</source>
         <translation>其名稱或資料夾名稱含有非 UTF-8 字元。請重新命名。</translation>
+    </message>
+    <message>
+        <source>Its folder can&apos;t be opened. Give yourself the permission to open it.</source>
+        <translation>無法開啟其所在資料夾。請為自己授予開啟權限。</translation>
     </message>
     <message>
         <source>The link leads nowhere. Name the photograph itself.</source>
@@ -522,6 +562,14 @@
         <source>The list &quot;%1&quot; can&apos;t be read: %2. Check its name, or write ./@... for a photograph whose name begins with @.</source>
         <translation>無法讀取清單「%1」：%2。請檢查名稱；如果照片名稱以 @ 開頭，請寫成 ./@...。</translation>
     </message>
+    <message>
+        <source>The list &quot;%1&quot; holds null bytes. Add --null (-0) if its names end with them, or save it as text in UTF-8.</source>
+        <translation>清單「%1」含有空位元組。如果名稱以空位元組結尾，請加上 --null (-0)；否則請將它另存為 UTF-8 文字。</translation>
+    </message>
+    <message>
+        <source>The list &quot;%1&quot; holds no null bytes. Leave out --null (-0) if it has one name per line.</source>
+        <translation>清單「%1」不含空位元組。如果每行一個名稱，請去掉 --null (-0)。</translation>
+    </message>
 </context>
 <context>
     <name>PictureRenderer</name>
@@ -535,6 +583,10 @@
     <message>
         <source>Photograph</source>
         <translation>照片</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重試</translation>
     </message>
     <message>
         <source>Hold: the photograph before</source>
@@ -610,6 +662,10 @@
 </context>
 <context>
     <name>PrivateRun</name>
+    <message>
+        <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder for the results.</source>
+        <translation>無法在資料夾「%1」中建立檔案：%2。請騰出空間，或為結果選擇其他資料夾。</translation>
+    </message>
     <message>
         <source>No files can be created in the folder &quot;%1&quot;: %2. Make room there, or choose another folder with --output.</source>
         <translation>無法在資料夾「%1」中建立檔案：%2。請騰出空間，或用 --output 指定其他資料夾。</translation>
@@ -1122,6 +1178,12 @@
         <source>Camera raw</source>
         <translation>相機 RAW</translation>
     </message>
+    <message numerus="yes">
+        <source>Add %n photograph(s)</source>
+        <translation>
+            <numerusform>新增 %n 張照片</numerusform>
+        </translation>
+    </message>
     <message>
         <source>Change strength</source>
         <translation>變更強度</translation>
@@ -1316,6 +1378,14 @@
     <message>
         <source>Next photograph</source>
         <translation>下一張照片</translation>
+    </message>
+    <message>
+        <source>First photograph</source>
+        <translation>第一張照片</translation>
+    </message>
+    <message>
+        <source>Last photograph</source>
+        <translation>最後一張照片</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -1550,12 +1620,12 @@
         <translation>停止儲存；已完成的結果會保留</translation>
     </message>
     <message>
-        <source>Try a&amp;gain</source>
-        <translation>重試(&amp;G)</translation>
+        <source>Try again</source>
+        <translation>重試</translation>
     </message>
     <message>
-        <source>Save those again that failed</source>
-        <translation>重新儲存失敗的照片</translation>
+        <source>Try again those photographs that failed</source>
+        <translation>重試失敗的照片</translation>
     </message>
     <message>
         <source>Full screen</source>

@@ -383,11 +383,61 @@ TEST_F(ProgramFaults, WriteProtection)
     EXPECT_TRUE(isWhole("new/a_dehazed.png"));
     EXPECT_TRUE(said.err.contains(QRegularExpression("ro/a.png: [^\n]*ro\" is read-only. Choose another one with --output.\n")))
         << said.err;
-    EXPECT_TRUE(said.err.contains(QRegularExpression("b.jpg: [^\n]*b_dehazed.jpg\"\\. Make room[^\n]*can write to it.\n")))
+    EXPECT_TRUE(said.err.contains(QRegularExpression("b.jpg: [^\n]*b_dehazed.jpg\" is write-protected [^\n]*--output.\n")))
         << said.err;
     EXPECT_TRUE(said.err.contains("ro/s.xml\" can't be written: its folder")) << said.err;
     EXPECT_EQ(folder.content("b_dehazed.jpg"), "older");
     EXPECT_THAT(folder.files(), testing::ElementsAre("a.png", "b.jpg", "b_dehazed.jpg"));
+}
+
+TEST_F(ProgramFaults, NamesThatAFileSystemMayTakeForOne)
+{
+    folder.photograph("a.png");
+    folder.photograph("A.PNG");
+    // Whether an empty file system ignores case cannot be seen; this one does not, as its first file shows.
+    const Said said =
+        inPrivateMounts("mkdir box; mount -t tmpfs none box; "
+                        "\"$V\" A.PNG a.png -s 0 -o box --overwrite; echo =$?; ls -A box; "
+                        "\"$V\" A.PNG a.png -q -s 0 -o box --overwrite; echo =$?; ls -A box; umount box; rmdir box");
+    SKIP_WITHOUT_MOUNTS(said);
+    EXPECT_TRUE(said.out.endsWith("=1\nA_dehazed.png\n=0\nA_dehazed.png\na_dehazed.png\n")) << said.out;
+    EXPECT_TRUE(said.err.contains("a.png: Its result") && said.err.contains("would also be the result of \"A.PNG\"")) << said.err;
+}
+
+TEST_F(ProgramFaults, APrivateFolderGoesAfterItsLockIsClosed)
+{
+    // Elsewhere the open file would remain under another name, and keep the folder.
+    const int watch = inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
+    int lock = 0;
+    {
+        const PrivateFolder home(folder.path("."));
+        lock = inotify_add_watch(watch, QFile::encodeName(home.filePath("lock")).constData(), IN_CLOSE_WRITE);
+        inotify_add_watch(watch, QFile::encodeName(folder.path(".")).constData(), IN_DELETE);
+    }
+    alignas(inotify_event) char events[4096];
+    ASSERT_GT(read(watch, events, sizeof events), 0);
+    close(watch);
+    EXPECT_EQ(reinterpret_cast<const inotify_event *>(events)->wd, lock);
+    EXPECT_EQ(folder.files(), QStringList());
+}
+
+TEST_F(ProgramFaults, AResultComesIntoBeingInOneStepAndNothingElseDoes)
+{
+    photographWithXmp("c.jpg", 40, 30);
+    const int watch = inotify_init1(IN_CLOEXEC | IN_NONBLOCK);
+    inotify_add_watch(watch, QFile::encodeName(folder.path(".")).constData(), IN_CREATE | IN_MOVED_TO | IN_MODIFY);
+    EXPECT_EQ(folder.run({"c.jpg", "--strength", "0"}).code, 0);
+    alignas(inotify_event) char events[1 << 16];
+    const ssize_t bytes = read(watch, events, sizeof events);
+    close(watch);
+    QStringList names;
+    for (ssize_t at = 0; at < bytes;) {
+        const auto *event = reinterpret_cast<const inotify_event *>(events + at);
+        if (const QString name = event->name; !name.startsWith(".veilaway-run-"))
+            names << name;
+        at += ssize_t(sizeof *event + event->len);
+    }
+    EXPECT_EQ(names, QStringList("c_dehazed.jpg"));
 }
 
 TEST_F(ProgramFaults, KilledAtAnyMoment)
@@ -444,27 +494,44 @@ TEST_F(ProgramFaults, KilledAtAnyMoment)
         for (std::size_t i = 0; i < 3; ++i) {
             EXPECT_EQ(folder.content(sources[i]), sourceBytes[i]);
             const QByteArray result = folder.content(results[i]);
-            EXPECT_TRUE(result == resultBytes[i] || result == (older ? "older" : "") ||
-                        (results[i] == "c_dehazed.jpg" && isWhole(results[i]))) // its XMP comes last
-                << results[i] << ' ' << result.size();
+            EXPECT_TRUE(result == resultBytes[i] || result == (older ? "older" : "")) << results[i] << ' ' << result.size();
         }
         EXPECT_TRUE(folder.content("s.xml").isEmpty() || folder.content("s.xml") == settings);
-        int leftBehind = 0;
-        for (const QString &name : folder.files()) {
-            // A file that replaces another one has a name of its own for a moment.
-            if ((older && name.startsWith(".gfl-")) || name.startsWith(".veilaway-"))
-                leftBehind += QFile::remove(folder.path(name));
-            else
-                EXPECT_TRUE(name.startsWith("s.xml") || std::count(sources.begin(), sources.end(), name) ||
-                            std::count(results.begin(), results.end(), name))
-                    << name;
-        }
-        EXPECT_LE(leftBehind, 2); // of each photograph at work
+        for (const QString &name : folder.files())
+            EXPECT_TRUE(name.startsWith("s.xml") || std::count(sources.begin(), sources.end(), name) ||
+                        std::count(results.begin(), results.end(), name))
+                << name;
     }
     EXPECT_GE(killed, kSteps / 2) << "the runs ended too soon for the test to tell";
     EXPECT_EQ(folder.run(run).code, 0);
     for (std::size_t i = 0; i < 3; ++i)
         EXPECT_EQ(folder.content(results[i]), resultBytes[i]);
+    EXPECT_EQ(QDir(folder.path("")).entryList({".veilaway*", ".gfl*"}, QDir::AllEntries | QDir::Hidden), QStringList());
+}
+
+TEST_F(ProgramFaults, SettingsThatChangeMeanwhile)
+{
+    folder.photograph("a.png");
+    folder.photograph("b.png");
+    const QByteArray entry = "<photo path='%1'><Veilaway hazeRemove='%2'/></photo>";
+    const auto settings = [&entry](std::initializer_list<std::pair<const char *, const char *>> photographs) {
+        QByteArray text;
+        for (const auto &[path, strength] : photographs)
+            text += QByteArray(entry).replace("%1", path).replace("%2", strength);
+        return "<veilaway>" + text + "</veilaway>";
+    };
+    folder.write("s.xml", settings({{"a.png", "30"}}));
+    const auto process = folder.launch({"--settings", "s.xml", "--jobs", "1", "a.png", "b.png", "--json"});
+    ASSERT_TRUE(process->waitForReadyRead(60000)); // one result is there
+    folder.write("s.xml", settings({{"a.png", "40"}, {"other.png", "50"}}));
+    ASSERT_TRUE(process->waitForFinished(60000));
+    EXPECT_EQ(process->exitCode(), 0) << process->readAllStandardError().toStdString();
+    const QByteArray kept = folder.content("s.xml");
+    for (const char *part :
+         {"<photo path=\"a.png\">\n        <Veilaway hazeRemove=\"40\"/>\n        <result",
+          "<photo path=\"b.png\">\n        <Veilaway hazeRemove=\"70\"/>", "\"other.png\"", "path=\"a_dehazed.png\""})
+        EXPECT_TRUE(kept.contains(part)) << part << '\n' << kept.toStdString();
+    EXPECT_TRUE(QRegularExpression("<result[^>]*hazeRemove=\"30\"").match(kept).hasMatch()) << kept.toStdString();
 }
 
 #if !defined(__has_feature)

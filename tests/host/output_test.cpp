@@ -97,6 +97,7 @@ TEST_F(Outputs, EveryWayOverAFolderTree)
           "out/sub/deep/c_dehazed.tif"},
          "4 photographs done"},
         {"$V -r . -o out -q", "$V -r . -o out --overwrite", 0, {}, "Left out 4 files"},
+        {"cp a.png a_entnebelt-2.png", "$V .", 0, {"a_dehazed.png"}, "Left out \"./a_entnebelt-2.png\""},
         {"$V -r . -o out -q --tag ''", "$V -r . -o out --tag '' --skip-existing", 0, {}, "0 photographs done. 4 skipped."},
         {"",
          "$V -r sub a.png -o out --tag '' --language de",
@@ -111,6 +112,7 @@ TEST_F(Outputs, EveryWayOverAFolderTree)
         {"", "$V sub/B.JPG -o x.png", 0, {"x.png"}, ""},
         {"", "$V sub/deep/c.tif -o new/x.jpg", 1, {}, "16 bits per channel don't fit"},
         {"", "$V '" + QString(fog).remove("_dehazed") + "' -o x.exr", 0, {"x.exr"}, ""},
+        {"", "$V sub/deep/c.tif -o new/x.jpg -n", 1, {}, "16 bits per channel don't fit"},
         {"", "$V a.png sub -o x.png", 2, {}, "there are 2 photographs"},
         {"", "$V a.png -o sub/notes.txt", 2, {}, "is not a folder"},
         {"", "$V a.png -o sub/notes.txt/x", 1, {}, "notes.txt\" is not a folder"},
@@ -136,6 +138,13 @@ TEST_F(Outputs, EveryWayOverAFolderTree)
          0,
          {"*kept/file", "*out/a_dehazed.png"},
          ""},
+        {"mkdir out; ln -s /dev/null out/a_dehazed.png", "$V a.png -o out --overwrite -n", 1, {}, "not a regular file"},
+        {"touch -d '2001-01-01 0:00:01.5' a.png; $V a.png -q --keep-time; touch -d 2001-01-01 a_dehazed.png", // as on a memory
+                                                                                                              // card
+         "$V a.png --keep-time --newer",
+         0,
+         {},
+         "1 skipped"},
         {"mkdir -p out/a_dehazed.png", "$V a.png -o out --overwrite", 1, {}, "is a folder"},
         // Nothing but words
         {"", "$V -r . -o out -n", 0, {}, "would be done"},
@@ -143,7 +152,10 @@ TEST_F(Outputs, EveryWayOverAFolderTree)
         // Lists, and photographs named twice
         {"printf 'a.png\\r\\nsub\\n\\n./a.png\\n' >list", "$V @list -q", 0, {"a_dehazed.png", "sub/B_dehazed.jpg"}, ""},
         {"", "find . -name '*.hdr' -print0 | $V a.png -0 - a.png", 0, {"a_dehazed.png", fog}, "2 photographs done"},
+        {"", "printf 'a.png\\0' | $V -", 2, {}, "Add --null (-0)"},
+        {"", "echo a.png | $V -0 -", 2, {}, "Leave out --null (-0)"},
         {"", "$V - -q </dev/null && $V - </dev/null", 0, {}, "names no photographs"},
+        {"cp a.png ./-a.png", "$V -a.png", 2, {}, "Write \"./-a.png\""},
         {"cp a.png @a.png; cp a.png ./-", "$V -q ./@a.png -- -", 0, {"-_dehazed.tiff", "@a_dehazed.png"}, ""},
         // What killed runs left
         {"mkdir -p out/.veilaway-run-1/ .veilaway-run-2; echo >out/.veilaway-run-1/lock; echo >out/.veilaway-run-1/photo.png",

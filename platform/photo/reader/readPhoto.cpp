@@ -104,6 +104,8 @@ std::pair<int, Picture> load(const RegularFile &file, std::uint32_t flags)
     return {code, Picture(bitmap)};
 }
 
+constexpr int kRawBits = 16; ///< Per channel, of developed camera raw.
+
 PhotoProblem readRawHead(const Opened &opened, PhotoHead &head)
 {
     const int code = load(opened.file, GFL_LOAD_METADATA_ONLY).first;
@@ -115,6 +117,7 @@ PhotoProblem readRawHead(const Opened &opened, PhotoHead &head)
     head.width = opened.raw->width();
     head.height = opened.raw->height();
     head.orientation = opened.raw->orientation();
+    head.bits = kRawBits;
     head.metadata = true;
     return {};
 }
@@ -140,6 +143,7 @@ void readPictureHead(const Opened &opened, PhotoHead &head)
         return;
     head.metadata = true;
     head.bytesPerPixel = picture->bytesPerPixel;
+    head.bits = picture->bitsPerComponent;
     if (head.width == 0 || head.height == 0) { // the metadata library doesn't know Radiance, OpenEXR and BigTIFF
         head.width = picture->width;
         head.height = picture->height;
@@ -155,6 +159,7 @@ PhotoProblem readDecodedHead(const Opened &opened, PhotoHead &head)
     head.height = picture.height;
     head.orientation = picture.upright ? 1 : orientationOf(picture.exif);
     head.bytesPerPixel = picture.components * picture.bits / 8;
+    head.bits = picture.bits;
     head.metadata = head.needsStandIn = true;
     head.furtherPictures = picture.furtherPictures;
     return {};
@@ -205,7 +210,7 @@ PhotoProblem readPixels(const std::string &path, PhotoPixels &pixels, std::uint6
         pixels = {picture.width,
                   picture.height,
                   picture.components,
-                  /*bits=*/16,
+                  kRawBits,
                   int(picture.strideBytes),
                   data,
                   std::shared_ptr<std::uint8_t[]>(std::move(picture.samples))};

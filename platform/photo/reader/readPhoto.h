@@ -44,6 +44,7 @@ struct PhotoHead
     int height = 0;
     int orientation = 1;   ///< EXIF's 1 to 8.
     int bytesPerPixel = 6; ///< Of what readPixels returns: 6, as for 16-bit RGB, where the head doesn't say.
+    int bits = 0;          ///< Per channel, of what readPixels returns.
     bool pixels = false;   ///< There is a size, so that pixels may be had; whether they are whole, readPixels finds out.
     bool metadata = false; ///< The codec layer can read what a result takes over. Always true for camera raw.
     /// The codec layer does not read the file: a process takes the metadata from makeStandIn's file.
