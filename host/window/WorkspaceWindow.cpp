@@ -491,9 +491,9 @@ void WorkspaceWindow::showFacts()
     const auto photo = store.photo(series.path(row));
     QStringList lines;
     if (!facts.size.isEmpty()) {
-        //: Width and height of a photograph in pixels, and bits per sample.
         const int bits = photo ? photo->bitsPerComponent() : facts.bits;
         if (bits > 0)
+            //: Width and height of a photograph in pixels, and bits per sample.
             lines << tr("%1 x %2 px, %3 bits").arg(facts.size.width()).arg(facts.size.height()).arg(bits);
         lines << tr("%1, %2").arg(facts.kind, QLocale().formattedDataSize(facts.bytes));
     }

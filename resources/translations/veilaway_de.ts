@@ -40,10 +40,6 @@
         <translation>Das Ergebnis „%1“ ist dieselbe Datei wie das Foto „%2“. Verschieben Sie eines der beiden, oder wählen Sie mit --output einen anderen Ordner.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
-        <translation>Das Ergebnis „%1“ wäre zugleich das von „%2“. Benennen Sie eines der beiden Fotos um.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
         <translation>Das Ergebnis „%1“ wäre zugleich das von „%2“. Benennen Sie eines der beiden Fotos um, oder geben Sie für die Ergebnisse verschiedene Ordner an.</translation>
     </message>
@@ -54,6 +50,10 @@
     <message>
         <source>Skipped: its result &quot;%1&quot; is newer than the photograph.</source>
         <translation>Übersprungen: Das Ergebnis „%1“ ist neuer als das Foto.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder for the results.</source>
+        <translation>Das Ergebnis „%1“ ist schreibgeschützt oder keine gewöhnliche Datei. Verschieben Sie es, oder wählen Sie einen anderen Ordner für die Ergebnisse.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>

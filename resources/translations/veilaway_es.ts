@@ -40,10 +40,6 @@
         <translation>Su resultado «%1» es el mismo archivo que la foto «%2». Mueva uno de los dos o elija otra carpeta con --output.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
-        <translation>Su resultado «%1» sería también el de «%2». Cambie el nombre de una de las dos fotos.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
         <translation>Su resultado «%1» sería también el de «%2». Cambie el nombre de una de las dos fotos o dé a sus resultados carpetas distintas.</translation>
     </message>
@@ -54,6 +50,10 @@
     <message>
         <source>Skipped: its result &quot;%1&quot; is newer than the photograph.</source>
         <translation>Omitida: su resultado «%1» es más reciente que la foto.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder for the results.</source>
+        <translation>Su resultado «%1» está protegido contra escritura o no es un archivo normal. Muévalo o elija otra carpeta para los resultados.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>

@@ -40,10 +40,6 @@
         <translation>Son résultat « %1 » est le même fichier que la photo « %2 ». Déplacez l&apos;un des deux, ou choisissez un autre dossier avec --output.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
-        <translation>Son résultat « %1 » serait aussi celui de « %2 ». Renommez l&apos;une des deux photos.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
         <translation>Son résultat « %1 » serait aussi celui de « %2 ». Renommez l&apos;une des deux photos, ou donnez à leurs résultats des dossiers différents.</translation>
     </message>
@@ -54,6 +50,10 @@
     <message>
         <source>Skipped: its result &quot;%1&quot; is newer than the photograph.</source>
         <translation>Ignorée : son résultat « %1 » est plus récent que la photo.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder for the results.</source>
+        <translation>Son résultat « %1 » est protégé en écriture ou n&apos;est pas un fichier ordinaire. Déplacez-le, ou choisissez un autre dossier pour les résultats.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>

@@ -40,10 +40,6 @@
         <translation>Il suo risultato &quot;%1&quot; è lo stesso file della foto &quot;%2&quot;. Spostare uno dei due o scegliere un&apos;altra cartella con --output.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
-        <translation>Il suo risultato &quot;%1&quot; sarebbe anche quello di &quot;%2&quot;. Rinominare una delle due foto.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
         <translation>Il suo risultato &quot;%1&quot; sarebbe anche quello di &quot;%2&quot;. Rinominare una delle due foto o indicare cartelle diverse per i risultati.</translation>
     </message>
@@ -54,6 +50,10 @@
     <message>
         <source>Skipped: its result &quot;%1&quot; is newer than the photograph.</source>
         <translation>Saltata: il suo risultato &quot;%1&quot; è più recente della foto.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder for the results.</source>
+        <translation>Il suo risultato &quot;%1&quot; è protetto da scrittura o non è un file normale. Spostarlo o scegliere un&apos;altra cartella per i risultati.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>

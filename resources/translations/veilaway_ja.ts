@@ -40,10 +40,6 @@
         <translation>結果のファイル「%1」は写真「%2」と同一のファイルです。どちらか一方を別の場所に移すか、--output で別のフォルダーを指定してください。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
-        <translation>結果のファイル「%1」は「%2」の結果と同じになります。どちらか一方の写真の名前を変えてください。</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
         <translation>結果のファイル「%1」は「%2」の結果と同じになります。どちらか一方の写真の名前を変えるか、結果の保存先を別々のフォルダーにしてください。</translation>
     </message>
@@ -54,6 +50,10 @@
     <message>
         <source>Skipped: its result &quot;%1&quot; is newer than the photograph.</source>
         <translation>スキップしました: 結果のファイル「%1」は写真より新しいものです。</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder for the results.</source>
+        <translation>結果のファイル「%1」は書き込みが禁止されているか、通常のファイルではありません。別の場所に移すか、結果の保存先として別のフォルダーを選んでください。</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>

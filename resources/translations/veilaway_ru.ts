@@ -40,10 +40,6 @@
         <translation>Результат «%1» — тот же файл, что и фотография «%2». Переместите один из них или выберите другую папку с помощью --output.</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
-        <translation>Результат «%1» совпал бы с результатом для «%2». Переименуйте одну из двух фотографий.</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
         <translation>Результат «%1» совпал бы с результатом для «%2». Переименуйте одну из двух фотографий или укажите для результатов разные папки.</translation>
     </message>
@@ -54,6 +50,10 @@
     <message>
         <source>Skipped: its result &quot;%1&quot; is newer than the photograph.</source>
         <translation>Пропущено: результат «%1» новее фотографии.</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder for the results.</source>
+        <translation>Результат «%1» защищён от записи или не является обычным файлом. Переместите его или выберите другую папку для результатов.</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>

@@ -40,10 +40,6 @@
         <translation>其结果文件“%1”与照片“%2”是同一个文件。请将两者之一移到别处，或用 --output 指定其他文件夹。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
-        <translation>其结果文件“%1”会与“%2”的结果同名。请重命名其中一张照片。</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
         <translation>其结果文件“%1”会与“%2”的结果同名。请重命名其中一张照片，或为两者的结果指定不同的文件夹。</translation>
     </message>
@@ -54,6 +50,10 @@
     <message>
         <source>Skipped: its result &quot;%1&quot; is newer than the photograph.</source>
         <translation>已跳过：其结果文件“%1”比照片更新。</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder for the results.</source>
+        <translation>其结果文件“%1”受写保护，或不是普通文件。请将它移到别处，或为结果选择其他文件夹。</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>

@@ -40,10 +40,6 @@
         <translation>其結果檔案「%1」與照片「%2」是同一個檔案。請將其中一個移到別處，或用 --output 指定其他資料夾。</translation>
     </message>
     <message>
-        <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs.</source>
-        <translation>其結果檔案「%1」會與「%2」的結果同名。請重新命名其中一張照片。</translation>
-    </message>
-    <message>
         <source>Its result &quot;%1&quot; would also be the result of &quot;%2&quot;. Rename one of the two photographs, or give their results different folders.</source>
         <translation>其結果檔案「%1」會與「%2」的結果同名。請重新命名其中一張照片，或為兩者的結果指定不同的資料夾。</translation>
     </message>
@@ -54,6 +50,10 @@
     <message>
         <source>Skipped: its result &quot;%1&quot; is newer than the photograph.</source>
         <translation>已略過：其結果檔案「%1」比照片更新。</translation>
+    </message>
+    <message>
+        <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder for the results.</source>
+        <translation>其結果檔案「%1」受寫入保護，或不是一般檔案。請將它移到別處，或為結果選擇其他資料夾。</translation>
     </message>
     <message>
         <source>Its result &quot;%1&quot; is write-protected or not a regular file. Move it away, or choose another folder with --output.</source>
