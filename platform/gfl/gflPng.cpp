@@ -395,10 +395,11 @@ void writePixels(const WriteRequest &request, Form form, int level)
         [&](const Bytes &packed) {
             check = std::uint32_t(adler32_combine(check, checks[std::size_t(written)],
                                                   static_cast<z_off_t>(rowBytes * std::size_t(rowsOf(written)))));
-            Bytes chunk;
-            if (written == 0)
-                chunk = {0x78, 0x5E}; // deflate with the largest window, fast
-            chunk.insert(chunk.end(), packed.begin(), packed.end());
+            constexpr unsigned char kHead[] = {0x78, 0x5E}; // deflate with the largest window, fast
+            const std::size_t head = written == 0 ? sizeof kHead : 0;
+            Bytes chunk(head + packed.size());
+            std::copy_n(kHead, head, chunk.begin());
+            std::copy(packed.begin(), packed.end(), chunk.begin() + std::ptrdiff_t(head));
             if (++written == bands)
                 putBig32(chunk, check);
             constexpr std::size_t kLargestChunk = std::size_t(1) << 30;
