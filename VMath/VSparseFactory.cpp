@@ -34,7 +34,7 @@ VSparseFactory::VSparseFactory(bool symmetricMatrix) : symmetric(symmetricMatrix
 
 VSparseFactory::~VSparseFactory()
 {
-    rows.clear();
+    // The rows are released by their own destructor: unlike clear(), it expects that memory may have run out while they grew.
     symmetric = false;
     rowCount = 0;
     columnCount = 0;
